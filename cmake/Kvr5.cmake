@@ -1,0 +1,60 @@
+# What every target of the project shares: the language, the warnings, the sanitizers, and the
+# functions that turn a folder into a library, a test program or a benchmark.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+option(KVR5_WERROR "Treat warnings as errors" ON)
+option(KVR5_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+
+find_program(KVR5_CCACHE ccache)
+if(KVR5_CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${KVR5_CCACHE}")
+endif()
+
+add_library(kvr5_options INTERFACE)
+target_compile_options(kvr5_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
+  -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference -Wdouble-promotion
+  -Wimplicit-fallthrough -Wextra-semi)
+if(KVR5_WERROR)
+  target_compile_options(kvr5_options INTERFACE -Werror)
+endif()
+if(KVR5_SANITIZE)
+  target_compile_options(kvr5_options INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(kvr5_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# kvr5_add_library(<name> [DEPENDS <subsystem>...] [LINK <target>...])
+# The library kvr5_<name> of all sources of the current folder; headers are included as
+# "<name>/Header.h". Only the subsystems named under DEPENDS may be included.
+function(kvr5_add_library name)
+  cmake_parse_arguments(ARG "" "" "DEPENDS;LINK" ${ARGN})
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS
+    "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp" "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
+  list(FILTER sources EXCLUDE REGEX "/(screens|qt)/")
+  add_library(kvr5_${name} STATIC ${sources})
+  target_include_directories(kvr5_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
+  list(TRANSFORM ARG_DEPENDS PREPEND kvr5_)
+  target_link_libraries(kvr5_${name} PUBLIC ${ARG_DEPENDS} ${ARG_LINK} PRIVATE kvr5_options)
+endfunction()
+
+# kvr5_add_test(<name> LINK <target>...)
+# The GoogleTest program test_<name> of all sources of the current folder.
+function(kvr5_add_test name)
+  cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS
+    "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp" "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
+  add_executable(test_${name} ${sources})
+  target_include_directories(test_${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+  target_link_libraries(test_${name} PRIVATE
+    ${ARG_LINK} kvr5_test_support GTest::gtest GTest::gmock kvr5_options)
+  target_compile_definitions(test_${name} PRIVATE
+    KVR5_TEST_DATA="${CMAKE_CURRENT_SOURCE_DIR}/data")
+  include(GoogleTest)
+  gtest_discover_tests(test_${name} TEST_PREFIX "${name}/" DISCOVERY_MODE PRE_TEST
+    PROPERTIES TIMEOUT 300)
+endfunction()

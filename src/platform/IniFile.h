@@ -1,0 +1,49 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/CodePage.h"
+#include "platform/FileSystem.h"
+
+namespace kvr5 {
+
+/// The rules of the host's private profile calls on the bytes of a file.
+namespace ini {
+
+/// Looks a value up; all arguments and the result are bytes of `page`.
+///
+/// `content` empty optional: the file is missing. `section` or `key` empty optional: the list of
+/// section or key names, each closed by a NUL. Returns at most `size` - 1 characters.
+std::string Read(std::optional<std::string_view> content, std::optional<std::string_view> section,
+                 std::optional<std::string_view> key, std::string_view fallback, std::size_t size,
+                 const CodePage& page);
+
+/// The file's bytes after a write, or nothing when they stay as they are. `value` empty optional
+/// drops the key, `key` empty optional drops the section's keys and header.
+std::optional<std::string> Changed(std::string_view content, std::string_view section,
+                                   std::optional<std::string_view> key,
+                                   std::optional<std::string_view> value, const CodePage& page);
+
+}  // namespace ini
+
+/// An INI file on the disk, read afresh at each call; nothing is held open or cached.
+class IniFile {
+ public:
+  IniFile(FileSystem& files, std::string path, CodePage page);
+
+  /// The value as UTF-8, at most `size` - 1 characters of the page; arguments are UTF-8.
+  std::string Read(std::string_view section, std::string_view key, std::string_view fallback,
+                   std::size_t size) const;
+  /// Writes one value (UTF-8), making the file if it isn't there. A crash in the middle leaves
+  /// the old file or the new one; every unrelated byte stays.
+  Error Write(std::string_view section, std::string_view key, std::string_view value);
+
+ private:
+  FileSystem& files_;
+  std::string path_;
+  CodePage page_;
+};
+
+}  // namespace kvr5
