@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,14 +16,18 @@ namespace ini {
 /// Looks a value up; all arguments and the result are bytes of `page`.
 ///
 /// `content` empty optional: the file is missing. `section` or `key` empty optional: the list of
-/// section or key names, each closed by a NUL. Returns at most `size` - 1 characters.
+/// section or key names, each closed by a NUL; empty names are left out. Returns at most `size` - 1
+/// characters, of a list `size` - 2. A file with the mark of UTF-16 LE is understood; characters
+/// that the page lacks come back as "?".
 std::string Read(std::optional<std::string_view> content, std::optional<std::string_view> section,
                  std::optional<std::string_view> key, std::string_view fallback, std::size_t size,
                  const CodePage& page);
 
 /// The file's bytes after a write, or nothing when they stay as they are. `value` empty optional
-/// drops the key, `key` empty optional drops the section's keys and header.
-std::optional<std::string> Changed(std::string_view content, std::string_view section,
+/// drops the key, `key` empty optional drops the section's keys and header; without a `section`
+/// nothing changes.
+std::optional<std::string> Changed(std::string_view content,
+                                   std::optional<std::string_view> section,
                                    std::optional<std::string_view> key,
                                    std::optional<std::string_view> value, const CodePage& page);
 
@@ -33,11 +38,13 @@ class IniFile {
  public:
   IniFile(FileSystem& files, std::string path, CodePage page);
 
-  /// The value as UTF-8, at most `size` - 1 characters of the page; arguments are UTF-8.
+  /// The value as UTF-8, at most `size` - 1 characters of the page; arguments are UTF-8. A file
+  /// that can't be read counts as missing.
   std::string Read(std::string_view section, std::string_view key, std::string_view fallback,
                    std::size_t size) const;
   /// Writes one value (UTF-8), making the file if it isn't there. A crash in the middle leaves
-  /// the old file or the new one; every unrelated byte stays.
+  /// the old file or the new one; every unrelated byte stays. A file that is there but can't be
+  /// read is left alone, and that error returned.
   Error Write(std::string_view section, std::string_view key, std::string_view value);
 
  private:

@@ -1,0 +1,121 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "platform/IniFile.h"
+#include "support/MemoryFileSystem.h"
+
+namespace kvr5 {
+namespace {
+
+using test::MemoryFileSystem;
+using test::Operation;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr const char* kPath = "C:\\Card\\Config.cfg";
+constexpr const char* kBefore = "[Main]\r\nKey=old\r\n";
+
+class IniFileTest : public testing::Test {
+ protected:
+  IniFileTest() { files_.AddFile(kPath, kBefore); }
+
+  void ExpectUntouched() {
+    EXPECT_EQ(files_.Content(kPath), kBefore);
+    EXPECT_EQ(files_.List("C:\\Card").Value().size(), 1U) << "a temporary file was left";
+  }
+
+  MemoryFileSystem files_;
+  IniFile file_{files_, kPath, CodePage(1252)};
+};
+
+TEST_F(IniFileTest, ReadsAndWritesTextInThePageOfTheFile) {
+  EXPECT_FALSE(file_.Write("Caffè", "Città", "€ è ж"));
+  EXPECT_EQ(files_.Content(kPath), std::string(kBefore) + "[Caff\xE8]\r\nCitt\xE0=\x80 \xE8 ?\r\n");
+  EXPECT_EQ(file_.Read("CAFFÈ", "CITTÀ", "", 100), "€ è ?");
+}
+
+TEST_F(IniFileTest, CountsCharactersAndNotBytes) {
+  IniFile utf8(files_, "C:\\Card\\Settings.ini", CodePage(65001));
+  EXPECT_FALSE(utf8.Write("Path", "Dir", "C:\\Ж日è"));
+  EXPECT_EQ(files_.Content("C:\\Card\\Settings.ini"), "[Path]\r\nDir=C:\\Ж日è\r\n");
+  EXPECT_EQ(utf8.Read("PATH", "dir", "", 6), "C:\\Ж日");
+  EXPECT_EQ(utf8.Read("Path", "None", "日日日", 3), "日日");
+}
+
+TEST_F(IniFileTest, MakesTheFileThatIsMissing) {
+  IniFile fresh(files_, "C:\\Card\\New.ini", CodePage(1252));
+  EXPECT_EQ(fresh.Read("A", "B", "default", 100), "default");
+  EXPECT_FALSE(files_.Exists("C:\\Card\\New.ini"));
+  EXPECT_FALSE(fresh.Write("A", "B", "1"));
+  EXPECT_EQ(files_.Content("C:\\Card\\New.ini"), "[A]\r\nB=1\r\n");
+}
+
+TEST_F(IniFileTest, SeesTheChangesOfOthers) {
+  EXPECT_EQ(file_.Read("Main", "Key", "", 100), "old");
+  files_.AddFile(kPath, "[Main]\nKey=theirs\nOther=1\n");
+  EXPECT_EQ(file_.Read("Main", "Key", "", 100), "theirs");
+  EXPECT_FALSE(file_.Write("Main", "Key", "ours"));
+  EXPECT_EQ(files_.Content(kPath), "[Main]\nKey=ours\r\nOther=1\n");
+}
+
+TEST_F(IniFileTest, PutsTheNewFileOnTheDiskBeforeItTakesThePlaceOfTheOld) {
+  EXPECT_FALSE(file_.Write("Main", "Key", "new"));
+  EXPECT_THAT(files_.Calls(),
+              ElementsAre("write C:\\Card\\Config.cfg.new", "flush C:\\Card\\Config.cfg.new",
+                          "close C:\\Card\\Config.cfg.new",
+                          "replace C:\\Card\\Config.cfg.new C:\\Card\\Config.cfg"));
+}
+
+TEST_F(IniFileTest, WritesNothingWhereNothingChanges) {
+  EXPECT_FALSE(file_.Write("Main", "Key", "old"));
+  EXPECT_THAT(files_.Calls(), IsEmpty());
+}
+
+TEST_F(IniFileTest, KeepsTheOldFileWhateverStepFails) {
+  const std::string beside = std::string(kPath) + ".new";
+  for (const auto& [operation, number] : {std::pair{Operation::Open, errors::PermissionDenied},
+                                          {Operation::Write, errors::DeviceIo},
+                                          {Operation::Flush, errors::DiskFull},
+                                          {Operation::Close, errors::DeviceIo},
+                                          {Operation::Replace, errors::PathFileAccess}}) {
+    files_.Fail(beside, number, operation);
+    EXPECT_EQ(file_.Write("Main", "Key", "new").Number(), number);
+    ExpectUntouched();
+    files_.Fail(beside, 0, operation);
+  }
+  EXPECT_FALSE(file_.Write("Main", "Key", "new"));
+}
+
+TEST_F(IniFileTest, KeepsTheOldFileOnAFullDisk) {
+  files_.SetFreeSpace(10);
+  EXPECT_EQ(file_.Write("Main", "Key", "new").Number(), errors::DiskFull);
+  ExpectUntouched();
+}
+
+TEST_F(IniFileTest, NeverWritesOverAFileThatItCannotRead) {
+  files_.Fail(kPath, errors::DiskNotReady, Operation::Read);
+  EXPECT_EQ(file_.Read("Main", "Key", "default", 100), "default");
+  EXPECT_EQ(file_.Write("Main", "Key", "new").Number(), errors::DiskNotReady);
+  ExpectUntouched();
+  files_.Fail(kPath, errors::PermissionDenied, Operation::Open);
+  EXPECT_EQ(file_.Write("Main", "Key", "new").Number(), errors::PermissionDenied);
+  ExpectUntouched();
+}
+
+TEST_F(IniFileTest, ReportsAMissingFolder) {
+  IniFile lost(files_, "C:\\No\\a.ini", CodePage(1252));
+  EXPECT_EQ(lost.Read("A", "B", "default", 100), "default");
+  EXPECT_EQ(lost.Write("A", "B", "1").Number(), errors::PathNotFound);
+}
+
+TEST_F(IniFileTest, ReadsFilesLongerThanItsBuffer) {
+  std::string lines = "[M]\n";
+  for (int i = 0; i < 40000; ++i) lines += "k" + std::to_string(i) + "=" + std::to_string(i) + "\n";
+  files_.AddFile(kPath, lines);
+  EXPECT_EQ(file_.Read("M", "k39999", "", 100), "39999");
+  files_.AddFile(kPath, "[M]\nA=" + std::string(65536 - 6, 'x'));
+  EXPECT_EQ(file_.Read("M", "A", "", 100000).size(), 65530U);
+}
+
+}  // namespace
+}  // namespace kvr5
