@@ -28,8 +28,9 @@ struct Locale {
 /// Rounds to the nearest integer, halves to the even neighbour.
 double ArrotondaPari(double value);
 
-/// The number that a text stands for where `IsNumeric` takes it: blanks around, a sign, digits
-/// with the locale's marks, an exponent, "&H" and "&O". Nothing when it isn't numeric.
+/// The number that a text stands for where `IsNumeric` takes it: blanks around, a sign in front or
+/// behind (or parentheses for a negative one), digits with the locale's marks, an exponent, "&H"
+/// and "&O". Nothing when it isn't numeric or too large.
 std::optional<double> TextToNumber(std::string_view text, const Locale& locale);
 
 /// A text converted to a 16-bit integer: 13 when it isn't numeric, 6 when it doesn't fit; halves
