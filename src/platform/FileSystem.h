@@ -9,18 +9,22 @@
 #include <vector>
 
 #include "platform/Error.h"
+#include "platform/Path.h"
 
 namespace kvr5 {
 
 /// What a directory look-up tells of one file or folder.
 struct FileInfo {
-  std::string Name;  ///< the spelling of the disk, UTF-8, without a folder
+  /// The spelling of the disk, UTF-8, without a folder; U+FFFD in place of what isn't UTF-8.
+  std::string Name;
   bool IsFolder = false;
   bool Hidden = false;        ///< FAT: the attribute; elsewhere: a name with a leading dot
-  bool System = false;        ///< FAT only
+  bool System = false;        ///< FAT: the attribute; elsewhere: a pipe, device or socket
   bool ReadOnly = false;      ///< FAT: the attribute; elsewhere: its owner can't write it
   std::uint64_t Size = 0;     ///< bytes; 0 for a folder
   std::int64_t Modified = 0;  ///< seconds since 1970-01-01 UTC
+  /// Why no path can name it: shown, but never opened. Only List tells of such names.
+  NameFault Unusable = NameFault::None;
 };
 
 /// How a file is opened.
@@ -28,6 +32,7 @@ enum class OpenMode {
   Read,    ///< must exist
   Write,   ///< made, or emptied if it is there
   Append,  ///< made, or added to at its end
+  New,     ///< made; 58 when something of this very name is there
 };
 
 /// An open file. Closing is the destructor's work where nobody asks for the outcome.
@@ -40,8 +45,13 @@ class File {
   virtual Result<std::size_t> ReadAt(std::uint64_t offset, std::span<char> buffer) = 0;
   /// Writes all bytes or fails (61 on a full disk, 70 on a protected one).
   virtual Error Write(std::string_view bytes) = 0;
-  /// Puts what was written onto the device.
+  /// Has the bytes before `end` written and waits for them, so that little is left for Flush. A
+  /// hint that makes nothing sure; a failure is kept for Flush.
+  virtual void Settle(std::uint64_t /*end*/) {}
+  /// Puts what was written onto the device. A failure of an earlier write-back is told again.
   virtual Error Flush() = 0;
+  /// Sets the time of the last change, in seconds since 1970-01-01 UTC.
+  virtual Error SetModified(std::int64_t /*seconds*/) { return {}; }
   /// Closes; the outcome counts after writing. A second call does nothing.
   virtual Error Close() = 0;
   /// Length in bytes.
@@ -73,22 +83,29 @@ class FileSystem {
   virtual Error CreateFolder(std::string_view path) = 0;
   /// Renames; 58 when `to` exists, 53 when `from` doesn't.
   virtual Error Rename(std::string_view from, std::string_view to) = 0;
-  /// Puts `from` in the place of `to` in one step; `to` keeps its spelling if it is there.
+  /// Puts `from` in the place of `to` in one step, also where `to` is read-only; `to` keeps its
+  /// spelling if it is there. 75 where `to` is a folder.
   virtual Error Replace(std::string_view from, std::string_view to) = 0;
   /// Copies up to `size` bytes from the current place of one file to that of another in the
-  /// host's quickest way; 0 means the end of the source.
+  /// host's quickest way; 0 means the end of the source. A failure leaves both places where the
+  /// bytes that were copied end, so that the copy can go on from there.
   virtual Result<std::size_t> CopyRange(File& from, File& to, std::size_t size) = 0;
+  /// Puts what was written to all these files onto the device, where the host can at the cost of
+  /// one. After a failure each file's own Flush tells whether it got there.
+  virtual Error FlushAll(std::span<File* const> files);
   /// Puts everything written to the volume of `path` onto the device.
   virtual Error SyncVolume(std::string_view path) = 0;
   /// Bytes free for this user on the volume of `path`.
   virtual Result<std::uint64_t> FreeSpace(std::string_view path) const = 0;
   /// True when both exist and are the same file on the disk.
   virtual bool SameFile(std::string_view a, std::string_view b) const = 0;
-  /// The path in the host's own form, with the spelling of the disk as far as it exists.
+  /// The path in the host's own form, with the spelling of the disk as far as it exists; a path of
+  /// a drive that isn't known comes back as it is.
   virtual std::string HostPath(std::string_view path) const = 0;
   /// A path that a person or another program gave, in either form, in the system's form and with
-  /// the spelling of the disk as far as it exists; a relative one starts at the working folder.
-  /// Fails with 52 on a name that holds `| : \ * ?` or isn't UTF-8.
+  /// the spelling of the disk as far as it exists; a relative one starts at the working folder. A
+  /// path on a drive that the host mounts comes back from "C:\", so that it can be kept; one on an
+  /// unknown drive stays as it is. Fails with 52 on a name that holds `| : \ * ?` or isn't UTF-8.
   virtual Result<std::string> SystemPath(std::string_view given) const = 0;
 };
 

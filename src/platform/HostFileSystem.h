@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <optional>
 #include <string>
 
 #include "platform/FileSystem.h"
@@ -7,10 +9,28 @@
 
 namespace kvr5 {
 
+/// The attributes that a FAT volume keeps with a file or folder.
+struct FatAttributes {
+  bool Hidden = false;
+  bool System = false;
+  bool ReadOnly = false;
+};
+
+/// Asks the disk for the attributes of a file or folder, named by its path in the host's form;
+/// nothing where the volume keeps none.
+using AttributeReader = std::function<std::optional<FatAttributes>(const std::string& hostPath)>;
+
+/// Asks the volume itself.
+std::optional<FatAttributes> ReadFatAttributes(const std::string& hostPath);
+
 /// The real disk. Letters of removable volumes come from `paths`, which must outlive it.
+///
+/// A path that isn't absolute or that holds a name no path can hold is error 52; one on an unknown
+/// drive 76; one on a removable drive whose folder is gone 71.
 class HostFileSystem : public FileSystem {
  public:
-  explicit HostFileSystem(const PathMap& paths) : paths_(paths) {}
+  explicit HostFileSystem(const PathMap& paths, AttributeReader attributes = ReadFatAttributes)
+      : paths_(paths), attributes_(std::move(attributes)) {}
 
   Result<FileInfo> Info(std::string_view path) const override;
   Result<std::vector<FileInfo>> List(std::string_view folder) const override;
@@ -20,6 +40,7 @@ class HostFileSystem : public FileSystem {
   Error Rename(std::string_view from, std::string_view to) override;
   Error Replace(std::string_view from, std::string_view to) override;
   Result<std::size_t> CopyRange(File& from, File& to, std::size_t size) override;
+  Error FlushAll(std::span<File* const> files) override;
   Error SyncVolume(std::string_view path) override;
   Result<std::uint64_t> FreeSpace(std::string_view path) const override;
   bool SameFile(std::string_view a, std::string_view b) const override;
@@ -27,7 +48,15 @@ class HostFileSystem : public FileSystem {
   Result<std::string> SystemPath(std::string_view given) const override;
 
  private:
+  /// The path in the host's form as it is given, without a look at the disk.
+  Result<std::string> Map(std::string_view path) const;
+  /// The error for what the host answered about `path`; a missing one is 53, 76 or 71.
+  Error Failure(std::string_view path, int code) const;
+  Result<std::unique_ptr<File>> OpenToRead(std::string_view path) const;
+  Result<std::unique_ptr<File>> OpenToWrite(std::string_view path, OpenMode mode) const;
+
   const PathMap& paths_;
+  AttributeReader attributes_;
 };
 
 }  // namespace kvr5

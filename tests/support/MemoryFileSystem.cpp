@@ -180,6 +180,7 @@ Result<std::unique_ptr<File>> MemoryFileSystem::Open(std::string_view path, Open
   if (auto error = Failure(path, Operation::Open)) return error;
   auto node = Find(path);
   if (!node && mode == OpenMode::Read) return Missing(path);
+  if (node && mode == OpenMode::New) return Error(errors::FileExists);
   if (!node) {
     if (auto error = CannotCreate(path)) return error;
     node = Create(Plain(path), false);
@@ -285,9 +286,11 @@ Result<std::string> MemoryFileSystem::SystemPath(std::string_view given) const {
 }
 
 Error MemoryFileSystem::Failure(std::string_view path, Operation operation) const {
-  for (const Operation asked : {operation, Operation::Any}) {
-    const auto found = failures_.find({Key(path), asked});
-    if (found != failures_.end() && found->second != 0) return Error(found->second);
+  for (const auto& where : {Key(path), Key("")}) {
+    for (const Operation asked : {operation, Operation::Any}) {
+      const auto found = failures_.find({where, asked});
+      if (found != failures_.end() && found->second != 0) return Error(found->second);
+    }
   }
   return {};
 }

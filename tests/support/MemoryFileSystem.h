@@ -47,7 +47,7 @@ class MemoryFileSystem : public FileSystem {
   std::string Content(std::string_view path) const;
   bool Exists(std::string_view path) const;
 
-  /// From now on the operation fails on this path with this number; 0 lifts it.
+  /// From now on the operation fails on this path ("" is every path) with this number; 0 lifts it.
   void Fail(std::string_view path, int number, Operation operation = Operation::Any);
   /// Bytes that can still be written; deleting and replacing give theirs back.
   void SetFreeSpace(std::uint64_t bytes) { free_ = bytes; }

@@ -24,6 +24,8 @@ class TempFolder {
   /// All bytes of a file of the folder; a missing one fails the test.
   std::string Read(const std::string& name) const;
   bool Exists(const std::string& name) const;
+  /// True when both files hold the same bytes; for files too large or too binary to print.
+  bool Same(const std::string& a, const std::string& b) const { return Read(a) == Read(b); }
 
  private:
   std::filesystem::path folder_;

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/Path.h"
+
+namespace kvr5 {
+
+/// A removable drive, offered as a card.
+struct Drive {
+  char Letter = '\0';      ///< 'D' to 'Z', the same for the life of the process
+  std::string Label;       ///< UTF-8; "" when the volume has none
+  std::string FileSystem;  ///< as the host calls it ("vfat", "exfat"); "" for a plain folder
+  std::string Mount;       ///< the folder in the host's form
+  std::uint64_t Size = 0;  ///< bytes
+  std::uint64_t Free = 0;  ///< bytes free for this user
+  bool ReadOnly = false;
+  bool HasMedium = true;  ///< false for an entry of Drives.ini whose folder isn't there
+
+  /// The drive's root in the system's form, such as "D:\".
+  std::string Root() const { return std::string(1, Letter) + ":\\"; }
+};
+
+/// A removable volume that the host has mounted.
+struct Volume {
+  std::string Mount;
+  std::string Label;
+  std::string FileSystem;
+};
+
+/// Room on a volume.
+struct VolumeRoom {
+  std::uint64_t Size = 0;  ///< bytes
+  std::uint64_t Free = 0;  ///< bytes free for this user
+  bool ReadOnly = false;
+};
+
+/// What the host tells of its volumes.
+class VolumeSource {
+ public:
+  virtual ~VolumeSource() = default;
+  /// The mounted volumes that may be taken for a card; in doubt a volume is none of them.
+  virtual std::vector<Volume> Removable() const = 0;
+  /// The room under a folder of the host; nothing when it isn't there.
+  virtual std::optional<VolumeRoom> Room(const std::string& folder) const = 0;
+};
+
+/// The volumes of this computer.
+std::unique_ptr<VolumeSource> HostVolumes();
+
+/// The entries of section [Removable] of a Drives.ini: folders of the host by their letter, 'D' to
+/// 'Z'. Entries that name no letter or no absolute folder, in either form, are passed over.
+std::map<char, std::string> RemovableFolders(std::string_view iniText);
+
+/// The removable drives, looked up afresh at each call.
+class Drives {
+ public:
+  /// `iniText` gives the content of Drives.ini (UTF-8), or "" when there is none. All must outlive
+  /// the object.
+  Drives(PathMap& paths, const VolumeSource& volumes, std::function<std::string()> iniText)
+      : paths_(paths), volumes_(volumes), iniText_(std::move(iniText)) {}
+
+  /// All drives by letter. An entry of Drives.ini wins over a volume mounted at the same folder;
+  /// one whose letter already stands for another folder is left out.
+  std::vector<Drive> List();
+
+ private:
+  void Add(std::map<char, Drive>& drives, char letter, const Volume& volume) const;
+
+  PathMap& paths_;
+  const VolumeSource& volumes_;
+  std::function<std::string()> iniText_;
+};
+
+}  // namespace kvr5

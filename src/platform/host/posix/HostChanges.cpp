@@ -1,0 +1,155 @@
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "platform/Fold.h"
+#include "platform/HostFileSystem.h"
+#include "platform/host/posix/Errno.h"
+#include "platform/host/posix/Lookup.h"
+#include "platform/host/posix/PosixFile.h"
+
+namespace kvr5 {
+namespace {
+
+using host::FromErrno;
+using host::Place;
+using host::PosixFile;
+
+constexpr mode_t kNewFile = 0666;  // less what the user's mask takes away
+constexpr mode_t kNewFolder = 0777;
+constexpr mode_t kPermissions = 07777;
+
+bool OwnerCanWrite(const struct stat& status) {
+  return (status.st_mode & S_IWUSR) != 0;
+}
+
+/// Opens without waiting for the other end of a pipe, and hands out plain files only.
+Result<std::unique_ptr<File>> OpenPlain(const std::string& hostPath, int flags, int& code) {
+  constexpr int kAlways = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+  const int descriptor =
+      host::Retry([&] { return ::open(hostPath.c_str(), flags | kAlways, kNewFile); });
+  code = descriptor < 0 ? errno : 0;
+  if (code != 0) return FromErrno(code);
+  std::unique_ptr<File> file = std::make_unique<PosixFile>(descriptor);
+  struct stat status {};
+  if (::fstat(descriptor, &status) != 0) return FromErrno(errno);
+  if (!S_ISREG(status.st_mode)) return Error(errors::PathFileAccess);
+  return file;
+}
+
+/// Renames where nothing is in the way; EEXIST otherwise.
+int RenameOntoNothing(const std::string& from, const std::string& to) {
+  if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return 0;
+  if (errno != EINVAL && errno != ENOSYS) return errno;  // volumes that can't do it in one step
+  struct stat status {};
+  if (::lstat(to.c_str(), &status) == 0) return EEXIST;
+  return ::rename(from.c_str(), to.c_str()) == 0 ? 0 : errno;
+}
+
+/// True when two places are one entry of one folder, be it in another case.
+bool SameEntry(const Place& a, const Place& b) {
+  return EqualFold(a.Path, b.Path) && host::Respelled(a.Path) == host::Respelled(b.Path);
+}
+
+}  // namespace
+
+Result<std::unique_ptr<File>> HostFileSystem::Open(std::string_view path, OpenMode mode) {
+  return mode == OpenMode::Read ? OpenToRead(path) : OpenToWrite(path, mode);
+}
+
+Result<std::unique_ptr<File>> HostFileSystem::OpenToRead(std::string_view path) const {
+  auto mapped = Map(path);
+  if (!mapped) return mapped.Err();
+  int code = 0;
+  auto file = OpenPlain(mapped.Value(), O_RDONLY, code);
+  if (code != ENOENT && code != ENOTDIR) return file;
+  const Place place = host::Locate(std::move(mapped.Value()));
+  if (!place.Found()) return Failure(path, place.Code);
+  return OpenPlain(place.Path, O_RDONLY, code);
+}
+
+Result<std::unique_ptr<File>> HostFileSystem::OpenToWrite(std::string_view path,
+                                                          OpenMode mode) const {
+  auto mapped = Map(path);
+  if (!mapped) return mapped.Err();
+  int code = 0;
+  if (mode == OpenMode::New) {  // the caller made the name up: no need to look for another case
+    if (!CardCanHold(host::NameOf(mapped.Value()))) return Error(errors::BadFileName);
+    auto file = OpenPlain(mapped.Value(), O_WRONLY | O_CREAT | O_EXCL, code);
+    if (code != ENOENT && code != ENOTDIR) return file;
+  }
+  const Place place = host::Locate(std::move(mapped.Value()));
+  if (place.Found()) {
+    if (mode == OpenMode::New) return Error(errors::FileExists);
+    if (!S_ISREG(place.Stat.st_mode) || !OwnerCanWrite(place.Stat)) {
+      return Error(errors::PathFileAccess);
+    }
+  } else if (!CardCanHold(host::NameOf(place.Path))) {
+    return Error(errors::BadFileName);
+  }
+  const int extra = mode == OpenMode::New ? O_EXCL : mode == OpenMode::Write ? O_TRUNC : O_APPEND;
+  auto file = OpenPlain(place.Path, O_WRONLY | O_CREAT | extra, code);
+  if (code == ENOENT || code == ENOTDIR) return Failure(path, code);
+  return file;
+}
+
+Error HostFileSystem::Delete(std::string_view path) {
+  auto mapped = Map(path);
+  if (!mapped) return mapped.Err();
+  const Place place = host::Locate(std::move(mapped.Value()));
+  if (!place.Found()) return Failure(path, place.Code);
+  if (place.IsFolder() || !OwnerCanWrite(place.Stat)) return Error(errors::PathFileAccess);
+  return ::unlink(place.Path.c_str()) == 0 ? Error() : Failure(path, errno);
+}
+
+Error HostFileSystem::CreateFolder(std::string_view path) {
+  auto mapped = Map(path);
+  if (!mapped) return mapped.Err();
+  const Place place = host::Locate(std::move(mapped.Value()));
+  if (place.Found()) return Error(errors::PathFileAccess);
+  if (!CardCanHold(host::NameOf(place.Path))) return Error(errors::BadFileName);
+  // A drive's own folder is the host's to make: without it there is no medium.
+  if (place.Path == paths_.Root(path[0])) return Error(errors::DiskNotReady);
+  if (::mkdir(place.Path.c_str(), kNewFolder) == 0) return {};
+  return errno == EEXIST ? Error(errors::PathFileAccess) : Failure(path, errno);
+}
+
+Error HostFileSystem::Rename(std::string_view from, std::string_view to) {
+  auto source = Map(from);
+  if (!source) return source.Err();
+  auto target = Map(to);
+  if (!target) return target.Err();
+  const std::string given(host::NameOf(target.Value()));
+  const Place old = host::Locate(std::move(source.Value()));
+  if (!old.Found()) return Failure(from, old.Code);
+  const Place place = host::Locate(std::move(target.Value()));
+  if (!CardCanHold(given)) return Error(errors::BadFileName);
+  if (place.Found()) {
+    if (!SameEntry(old, place)) return Error(errors::FileExists);
+    const std::string respelled = host::ParentOf(place.Path) + '/' + given;
+    return ::rename(host::Respelled(old.Path).c_str(), respelled.c_str()) == 0 ? Error()
+                                                                               : Failure(to, errno);
+  }
+  const int code = RenameOntoNothing(old.Path, place.Path);
+  return code == 0 ? Error() : Failure(to, code);
+}
+
+Error HostFileSystem::Replace(std::string_view from, std::string_view to) {
+  auto source = Map(from);
+  if (!source) return source.Err();
+  auto target = Map(to);
+  if (!target) return target.Err();
+  const Place file = host::Locate(std::move(source.Value()));
+  if (!file.Found()) return Failure(from, file.Code);
+  const Place place = host::Locate(std::move(target.Value()));
+  if (!place.Found() && !CardCanHold(host::NameOf(place.Path))) return Error(errors::BadFileName);
+  if (place.IsFolder() || file.IsFolder()) return Error(errors::PathFileAccess);
+  const std::string spelled = place.Found() ? host::Respelled(place.Path) : place.Path;
+  if (place.Found() && OwnerCanWrite(place.Stat) && place.Stat.st_mode != file.Stat.st_mode) {
+    // Who may read and write the file stays; a volume without owners has nothing to keep.
+    static_cast<void>(::chmod(file.Path.c_str(), place.Stat.st_mode & kPermissions));
+  }
+  return ::rename(file.Path.c_str(), spelled.c_str()) == 0 ? Error() : Failure(to, errno);
+}
+
+}  // namespace kvr5

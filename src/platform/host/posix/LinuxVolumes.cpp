@@ -1,0 +1,114 @@
+#include "platform/host/posix/LinuxVolumes.h"
+
+#include <sys/statvfs.h>
+
+#include <algorithm>
+#include <charconv>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <set>
+
+#include "platform/host/posix/BlockDevices.h"
+#include "platform/host/posix/MountTable.h"
+
+namespace kvr5 {
+
+namespace fs = std::filesystem;
+
+namespace host {
+namespace {
+
+std::string ContentOf(const fs::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+/// Labels stand as names of links, where "\x20" is a blank.
+std::string Unescaped(std::string_view name) {
+  std::string label;
+  while (!name.empty()) {
+    unsigned value = 0;
+    const char* digits = name.data() + 2;
+    if (name.starts_with("\\x") && name.size() >= 4 &&
+        std::from_chars(digits, digits + 2, value, 16).ptr == digits + 2) {
+      label += static_cast<char>(value);
+      name.remove_prefix(4);
+    } else {
+      label += name[0];
+      name.remove_prefix(1);
+    }
+  }
+  return label;
+}
+
+/// The labels by the name of the device ("sdb1").
+std::map<std::string, std::string> LabelsIn(const fs::path& folder) {
+  std::map<std::string, std::string> labels;
+  std::error_code failed;
+  for (fs::directory_iterator it(folder, failed), end; !failed && it != end; it.increment(failed)) {
+    std::error_code unreadable;
+    const fs::path device = fs::read_symlink(it->path(), unreadable);
+    if (!unreadable) {
+      labels[device.filename().string()] = Unescaped(it->path().filename().string());
+    }
+  }
+  return labels;
+}
+
+bool IsPicture(const std::string& type) {
+  return type == "iso9660" || type == "udf";
+}
+
+/// The disks that the running system stands on.
+std::set<fs::path> SystemDisks(const std::vector<MountEntry>& mounts, const BlockDevices& devices) {
+  std::set<fs::path> disks;
+  for (const MountEntry& entry : mounts) {
+    if (!IsSystemFolder(entry.Folder)) continue;
+    if (const auto device = devices.DeviceOf(entry)) disks.merge(devices.DisksOf(*device));
+  }
+  return disks;
+}
+
+}  // namespace
+
+std::vector<Volume> LinuxVolumes::Removable() const {
+  const std::vector<MountEntry> mounts = ParseMountTable(ContentOf(places_.MountTable));
+  const BlockDevices devices(places_.Sys);
+  const std::set<fs::path> ofSystem = SystemDisks(mounts, devices);
+  std::map<std::string, std::string> labels = LabelsIn(places_.Labels);
+  std::vector<Volume> volumes;
+  std::set<fs::path> offered;
+  for (const MountEntry& entry : mounts) {
+    if (entry.Root != "/" || IsPicture(entry.Type)) continue;
+    const std::optional<fs::path> device = devices.DeviceOf(entry);
+    if (!device || offered.contains(*device)) continue;
+    // One that is mapped onto others (encrypted, a part of a larger volume) is none a player reads.
+    const std::set<fs::path> disks = devices.DisksOf(*device);
+    const bool isPlain = disks.contains(*device) || disks.contains(device->parent_path());
+    const bool isCard = isPlain && std::ranges::all_of(disks, [&](const fs::path& disk) {
+                          return devices.IsRemovable(disk) && !ofSystem.contains(disk);
+                        });
+    if (!isCard) continue;
+    offered.insert(*device);
+    volumes.push_back(
+        {.Mount = entry.Folder, .Label = labels[device->filename()], .FileSystem = entry.Type});
+  }
+  return volumes;
+}
+
+std::optional<VolumeRoom> LinuxVolumes::Room(const std::string& folder) const {
+  struct statvfs volume {};
+  if (::statvfs(folder.c_str(), &volume) != 0) return std::nullopt;
+  return VolumeRoom{.Size = static_cast<std::uint64_t>(volume.f_blocks) * volume.f_frsize,
+                    .Free = static_cast<std::uint64_t>(volume.f_bavail) * volume.f_frsize,
+                    .ReadOnly = (volume.f_flag & ST_RDONLY) != 0};
+}
+
+}  // namespace host
+
+std::unique_ptr<VolumeSource> HostVolumes() {
+  return std::make_unique<host::LinuxVolumes>();
+}
+
+}  // namespace kvr5
