@@ -1,0 +1,43 @@
+#include "core/CopiaFileShell.h"
+
+#include <string>
+
+namespace kvr5 {
+namespace {
+
+std::vector<std::string> Split(std::string_view list) {
+  if (list.starts_with('|')) list.remove_prefix(1);
+  std::vector<std::string> parts;
+  while (!list.empty()) {
+    const auto bar = list.find('|');
+    if (bar != 0) parts.emplace_back(list.substr(0, bar));
+    if (bar == std::string_view::npos) break;
+    list.remove_prefix(bar + 1);
+  }
+  return parts;
+}
+
+}  // namespace
+
+std::vector<CopyPair> CoppieDaListe(std::string_view sorgente, std::string_view destinazione) {
+  const auto sources = Split(sorgente);
+  const auto destinations = Split(destinazione);
+  std::vector<CopyPair> pairs;
+  if (destinations.size() != sources.size() && destinations.size() != 1) return pairs;
+  pairs.reserve(sources.size());
+  for (std::size_t i = 0; i < sources.size(); ++i) {
+    pairs.push_back({sources[i], destinations.size() == 1 ? destinations[0] : destinations[i]});
+  }
+  return pairs;
+}
+
+CopyOutcome CopiaFileShell(Contesto& contesto, std::string_view sorgente,
+                           std::string_view destinazione) {
+  const CopyOutcome outcome =
+      ShellCopy(contesto.Files, CoppieDaListe(sorgente, destinazione), contesto.FinestraCopia);
+  contesto.Messaggi.LasciaCorrere();
+  if (outcome.Result == errors::Cancelled) contesto.Stato.AnnullatoDaUtente = true;
+  return outcome;
+}
+
+}  // namespace kvr5

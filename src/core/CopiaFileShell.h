@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "core/Contesto.h"
+#include "platform/ShellCopy.h"
+
+namespace kvr5 {
+
+/// The pairs of two lists of paths with "|" between (and, if they like, before) them. Lists of
+/// different length give nothing, unless there is one destination for all.
+std::vector<CopyPair> CoppieDaListe(std::string_view sorgente, std::string_view destinazione);
+
+/// Copies one file, a wildcard or many pairs in one operation with the copy window, overwriting
+/// without a question, and lets events run. A cancel sets AnnullatoDaUtente, which callers clear
+/// before; any other failure was told by the copy window and is not reported here.
+/// The outcome is for counting only.
+CopyOutcome CopiaFileShell(Contesto& contesto, std::string_view sorgente,
+                           std::string_view destinazione);
+
+}  // namespace kvr5

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/Contesto.h"
+#include "platform/CodePage.h"
+
+namespace kvr5 {
+
+/// Reads a value of an INI file: the settings, the descriptor, the device file, the help section
+/// of a language file. At most 99 characters come back, the rest is lost without a word.
+///
+/// A file that isn't there is made with the one line "[Config]", after a warning in fixed English
+/// words (no language is known yet at the first read); where that fails the program ends. An
+/// empty or missing value gives `predefinito`.
+std::string LeggiParametroIni(Contesto& contesto, std::string_view file, std::string_view sezione,
+                              std::string_view chiave, std::string_view predefinito = {});
+
+/// Reads a text of a language file: at most 253 characters, and nothing is made where the file is
+/// missing.
+std::string LeggiIniSemplice(Contesto& contesto, std::string_view file, std::string_view sezione,
+                             std::string_view chiave, std::string_view predefinito = {});
+
+/// Writes a value into an INI file that exists; a missing file stays missing and nothing is said.
+/// A write that fails is the pending error.
+void ScriviParametroIni(Contesto& contesto, std::string_view file, std::string_view sezione,
+                        std::string_view chiave, std::string_view valore);
+
+/// Full path of KVR5Software.ini, beside the program.
+std::string FileImpostazioni(const Contesto& contesto);
+
+/// The code page of an INI file: UTF-8 for the settings outside Windows (they hold paths of that
+/// host), Windows-1252 for language files, the host's ANSI page for all others.
+CodePage PaginaDelFile(const Contesto& contesto, std::string_view file);
+
+/// ProjectsDir and UseExternalPlayer into the state, with their defaults written where missing.
+void LeggiOpzioniApplicazione(Contesto& contesto);
+
+}  // namespace kvr5

@@ -1,0 +1,111 @@
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "core/FinestraProgresso.h"
+#include "support/Banco.h"
+
+namespace kvr5 {
+namespace {
+
+using test::Banco;
+
+class Progress : public testing::Test {
+ protected:
+  Banco b;
+  FinestraProgresso p{b.C};
+};
+
+TEST_F(Progress, SevenStagesEndAtTheFullBarAndOneHundredPercent) {
+  p.Operazione("work");
+  p.ValoreMassimo = 7;
+  p.Progresso(1);
+  EXPECT_EQ(p.TestoPercento(), "") << "the labels are left alone";
+  for (int i = 0; i < 6; ++i) p.Step(0, false);
+  EXPECT_EQ(p.LarghezzaBarra(), 5880);
+  EXPECT_EQ(p.TestoPercento(), "100%");
+}
+
+TEST_F(Progress, ThePercentageDropsItsFraction) {
+  p.ValoreMassimo = 7;
+  p.Progresso(1);
+  p.Step(0, false);
+  EXPECT_EQ(p.TestoPercento(), "28%");
+  EXPECT_EQ(p.LarghezzaBarra(), 1680);
+}
+
+TEST_F(Progress, AStepWithoutANumberHidesTheCounterAndStillMoves) {
+  p.ValoreMassimo = 4;
+  EXPECT_TRUE(p.NumFileVisibile());
+  p.Step(0, false);
+  EXPECT_FALSE(p.NumFileVisibile());
+  EXPECT_EQ(p.TestoPercento(), "25%");
+}
+
+TEST_F(Progress, AStepShowsItsNumberOrTheNextOne) {
+  p.ValoreMassimo = 10;
+  p.FileTotali = 9;
+  p.Step(5, false);
+  EXPECT_EQ(p.TestoNumFile(), "5/9");
+  p.Step(1, true);
+  EXPECT_EQ(p.TestoNumFile(), "6/9");
+  p.IncrementaContatoreFile();
+  EXPECT_EQ(p.TestoNumFile(), "7/9");
+}
+
+TEST_F(Progress, BeyondTheBoundsTheDisplayStaysAndTheValueCounts) {
+  p.ValoreMassimo = 2;
+  p.Progresso(2);
+  p.Step(3, false);
+  EXPECT_EQ(p.ValoreCorrente, 3);
+  EXPECT_EQ(p.LarghezzaBarra(), 5880);
+  EXPECT_EQ(p.TestoPercento(), "");
+  EXPECT_EQ(p.TestoNumFile(), "1/1");
+}
+
+TEST_F(Progress, AMaximumOfZeroStopsThePainting) {
+  p.Progresso(0);
+  EXPECT_EQ(p.LarghezzaBarra(), 0);
+  p.ValoreCorrente = std::numeric_limits<std::int32_t>::max();
+  p.Step(0, false);
+  EXPECT_EQ(p.ValoreCorrente, std::numeric_limits<std::int32_t>::max());
+}
+
+TEST_F(Progress, LoadingClearsACancelAndAPlainMemberDoesNotLoad) {
+  b.C.Stato.AnnullatoDaUtente = true;
+  p.ValoreMassimo = 7;
+  EXPECT_TRUE(b.C.Stato.AnnullatoDaUtente);
+  p.Operazione("first use of a control");
+  EXPECT_FALSE(b.C.Stato.AnnullatoDaUtente);
+  b.C.Stato.AnnullatoDaUtente = true;
+  p.Operazione("already loaded");
+  EXPECT_TRUE(b.C.Stato.AnnullatoDaUtente);
+}
+
+TEST_F(Progress, CancelRaisesTheFlagAndSaysTheSameTwice) {
+  p.Operazione("work");
+  for (int i = 0; i < 2; ++i) {
+    p.Annulla();
+    EXPECT_TRUE(b.C.Stato.AnnullatoDaUtente);
+    EXPECT_EQ(p.TestoOperazione(), "Noted; please wait until the work ends");
+  }
+}
+
+TEST_F(Progress, UnloadingGivesEverythingItsInitialValue) {
+  p.Operazione("work");
+  p.ValoreMassimo = 7;
+  p.FileTotali = 3;
+  p.Progresso(5);
+  p.Mostra();
+  p.Scarica();
+  EXPECT_FALSE(p.Caricata());
+  EXPECT_FALSE(p.Visibile());
+  EXPECT_EQ(p.ValoreMassimo, 0);
+  EXPECT_EQ(p.FileTotali, 0);
+  EXPECT_EQ(p.LarghezzaBarra(), 0);
+  EXPECT_EQ(p.TestoNumFile(), "1/1");
+  p.Scarica();  // an unload of what isn't loaded does nothing
+}
+
+}  // namespace
+}  // namespace kvr5

@@ -1,0 +1,47 @@
+#include "support/DialoghiFinti.h"
+
+#include <gtest/gtest.h>
+
+namespace kvr5::test {
+
+DialoghiFinti::~DialoghiFinti() {
+  for (const auto& box : visti_) ADD_FAILURE() << "nobody looked at the box: " << box.Testo;
+  EXPECT_TRUE(risposte_.empty()) << "answers were left over";
+}
+
+Risposta DialoghiFinti::Risposta_(const std::string& titolo) {
+  if (risposte_.empty()) {
+    ADD_FAILURE() << "nobody expected the question: " << titolo;
+    return Risposta::No;
+  }
+  const Risposta answer = risposte_.front();
+  risposte_.pop_front();
+  return answer;
+}
+
+Risposta DialoghiFinti::MostraMessaggio(const Messaggio& messaggio) {
+  const bool onlyOk = messaggio.Scelte == Pulsanti::Ok;
+  visti_.push_back({messaggio.Titolo, messaggio.Testo, false, onlyOk, {}, messaggio.Segno, 0});
+  return onlyOk ? Risposta::Ok : Risposta_(messaggio.Titolo);
+}
+
+std::uint8_t DialoghiFinti::MostraSiNo(const BoxSiNo& box) {
+  visti_.push_back({box.Titolo, box.Nota, true, box.SoloOk.has_value(), box.SoloOk.value_or(""),
+                    Icona::Nessuna, box.ColoreNota.value_or(0)});
+  if (box.SoloOk) return 1;
+  const Risposta answer = Risposta_(box.Titolo);
+  if (answer == Risposta::Annulla) return 0;
+  return answer == Risposta::Si ? 1 : 2;
+}
+
+BoxVisto DialoghiFinti::Prossimo() {
+  if (visti_.empty()) {
+    ADD_FAILURE() << "no box was shown";
+    return {};
+  }
+  BoxVisto box = visti_.front();
+  visti_.pop_front();
+  return box;
+}
+
+}  // namespace kvr5::test
