@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "core/Contesto.h"
+
+namespace kvr5 {
+
+/// One file of a project's lists.
+struct RigaProgetto {
+  std::string Lista;  ///< "inputcfg.mdb", "playlist.mdb" or "scheduler.mdb"
+  std::int64_t NPlaylist = 0;
+  std::int64_t Pos = 0;
+  std::string Alias;  ///< "" until assigned
+  std::string FilePath;
+  std::string FileName;
+  bool Mancante = false;  ///< neither the source nor the alias copy in the project exists
+};
+
+/// A project's lists in figures. A database that is missing or can't be read counts as empty.
+struct SommarioProgetto {
+  std::vector<RigaProgetto> Ingressi;
+  std::vector<RigaProgetto> Brani;
+  std::vector<RigaProgetto> Spot;
+  std::size_t Segmenti = 0;
+
+  /// The paths of the missing files, each once, in the order of the lists.
+  std::vector<std::string> FileMancanti() const;
+};
+
+/// Reads the databases of the open project.
+SommarioProgetto LeggiSommario(Contesto& contesto);
+
+}  // namespace kvr5
