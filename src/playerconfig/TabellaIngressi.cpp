@@ -1,0 +1,94 @@
+#include "playerconfig/TabellaIngressi.h"
+
+#include "core/Aiuti.h"
+#include "core/Registro.h"
+#include "playerconfig/CodiceIngressi.h"
+#include "projects/CartellaProgetto.h"
+
+namespace kvr5 {
+namespace {
+
+constexpr std::string_view kAllRows = "SELECT * FROM [List] ORDER BY [Pos] ASC";
+
+}  // namespace
+
+TabellaIngressi::TabellaIngressi(Contesto& contesto)
+    : contesto_(contesto), connessione_(contesto.Files) {}
+
+bool TabellaIngressi::SenzaIngressi(std::int16_t playerType, std::int16_t playerMode) {
+  return playerType == 4 && playerMode != 1;
+}
+
+void TabellaIngressi::Apri() {
+  Chiudi();
+  Ignora(connessione_.Open(FileDelProgetto(contesto_, "inputcfg.mdb")));
+  Ignora(righe_.Open(connessione_, kAllRows));
+}
+
+void TabellaIngressi::Chiudi() {
+  righe_.Close();
+  connessione_.Close();
+}
+
+void TabellaIngressi::Riapri() {
+  Chiudi();
+  Ignora(connessione_.Open(connessione_.Path()));
+  Ignora(righe_.Open(connessione_, kAllRows));
+}
+
+bool TabellaIngressi::Cerca(std::int16_t codice) {
+  if (righe_.RecordCount() < 1) return false;
+  Ignora(righe_.MoveFirst());
+  Ignora(righe_.Find("Pos=" + std::to_string(codice)));
+  return !righe_.Eof();
+}
+
+void TabellaIngressi::Scrivi(std::int16_t codice, const std::string& fileName,
+                             const std::string& cartella) {
+  auto& error = contesto_.Errore;
+  if (!Cerca(codice) && !error.Record(righe_.AddNew())) return;
+  error.Record(righe_.Set("FileName", fileName));
+  error.Record(righe_.Set("FilePath", AggiungiBarra(cartella)));
+  error.Record(righe_.Set("Pos", std::int64_t{codice}));
+  error.Record(righe_.Set("Alias", AliasIngresso(codice)));
+  error.Record(righe_.Set("NPlaylist", std::int64_t{1}));
+  error.Record(righe_.Update());
+  contesto_.Messaggi.LasciaCorrere();
+  error.Record(righe_.Requery());
+  error.Record(righe_.MoveLast());
+  Cerca(codice);
+}
+
+void TabellaIngressi::Assegna(std::int16_t codice, const std::string& fileName,
+                              const std::string& cartella) {
+  contesto_.Errore.Clear();
+  Scrivi(codice, fileName, cartella);
+  AnnotaErrore(fileName);
+}
+
+void TabellaIngressi::Libera(std::int16_t codice) {
+  contesto_.Errore.Clear();
+  if (Cerca(codice)) contesto_.Errore.Record(righe_.Delete());
+  AnnotaErrore(" ");  // what the list of files shows for no file
+}
+
+void TabellaIngressi::AnnotaErrore(const std::string& fileName) {
+  if (!contesto_.Errore) return;
+  const Error& error = contesto_.Errore.Last();
+  ScriviLog(contesto_, "frmPlayerConfig/Routine cmdOKFileMp3: err n°" +
+                           std::to_string(error.Number()) + ":" + error.Description());
+  ScriviLog(contesto_, "File: " + fileName);
+}
+
+std::vector<RigaIngresso> TabellaIngressi::Righe() {
+  std::vector<RigaIngresso> rows;
+  if (righe_.RecordCount() < 1) return rows;
+  Ignora(righe_.Requery());
+  for (; !righe_.Eof(); Ignora(righe_.MoveNext())) {
+    rows.push_back({righe_.Number("Pos"), righe_.Text("Alias"), righe_.Text("FileName"),
+                    righe_.Text("FilePath")});
+  }
+  return rows;
+}
+
+}  // namespace kvr5

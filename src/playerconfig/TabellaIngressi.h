@@ -1,0 +1,62 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "core/Contesto.h"
+#include "platform/db/Connection.h"
+#include "platform/db/Recordset.h"
+
+namespace kvr5 {
+
+/// One assigned combination of inputs.
+struct RigaIngresso {
+  std::int64_t Pos = 0;  ///< the code, 1 to 255
+  std::string Alias;     ///< name on the card
+  std::string FileName;
+  std::string FilePath;  ///< folder with a closing backslash
+};
+
+/// The hub's connection to inputcfg.mdb and the recordset over its table `List`. Each change is
+/// stored at once. A missing database leaves the recordset closed, and nothing then does anything.
+class TabellaIngressi {
+ public:
+  explicit TabellaIngressi(Contesto& contesto);
+
+  /// Whether a project of this model and mode has no logic-input block on the hub: model 4 in any
+  /// mode but 1.
+  static bool SenzaIngressi(std::int16_t playerType, std::int16_t playerMode);
+
+  /// Opens the open project's inputcfg.mdb with all rows by Pos.
+  void Apri();
+  /// Closes the recordset and then the connection.
+  void Chiudi();
+  /// Opens the connection of before again, and the recordset on all rows.
+  void Riapri();
+  bool Aperta() const { return righe_.IsOpen(); }
+
+  /// Goes to the row of a code; false (and at the end of the table) when it has none.
+  bool Cerca(std::int16_t codice);
+  /// Assigns a file to a code: its row is overwritten, or a new one made. The row is searched
+  /// first, since a save or a recording may have moved the cursor. A failure is the pending error
+  /// and two lines in the log; nothing is shown.
+  void Assegna(std::int16_t codice, const std::string& fileName, const std::string& cartella);
+  /// Frees a code; a free one stays as it is.
+  void Libera(std::int16_t codice);
+  /// All rows by Pos.
+  std::vector<RigaIngresso> Righe();
+
+  /// The recordset itself, for the pass of a recording over it.
+  Recordset& Cursore() { return righe_; }
+
+ private:
+  void Scrivi(std::int16_t codice, const std::string& fileName, const std::string& cartella);
+  void AnnotaErrore(const std::string& fileName);
+
+  Contesto& contesto_;
+  Connection connessione_;
+  Recordset righe_;
+};
+
+}  // namespace kvr5

@@ -1,0 +1,109 @@
+#include <algorithm>
+#include <charconv>
+
+#include "playerconfig/Parametri.h"
+
+namespace kvr5 {
+namespace {
+
+using Kind = TipoParametro;
+
+bool Holds(const Parametro& parameter, int value) {
+  if (parameter.Tipo == Kind::ListaDati) {
+    return std::find(parameter.Dati.begin(), parameter.Dati.end(), value) != parameter.Dati.end();
+  }
+  return value >= parameter.Minimo && value <= parameter.Massimo;
+}
+
+/// A list or slider takes a value that it can hold and keeps its state otherwise.
+StatoParametro TakeNumber(const Parametro& parameter, std::string_view text,
+                          const StatoParametro& before, const Locale& locale) {
+  const auto number = TextToInt16(text, locale);
+  if (!number || !Holds(parameter, number.Value())) return before;
+  return {number.Value(), {}};
+}
+
+/// The check of a box for seconds: no number and less than 1 become 1, 31 and more become 30; a
+/// number inside stays as it is written.
+StatoParametro TakeSeconds(std::string_view text, const Locale& locale) {
+  const auto number = TextToNumber(text, locale);
+  if (!number || *number < 1) return {0, "1"};
+  if (*number >= 31) return {0, "30"};
+  return {0, std::string(text)};
+}
+
+/// TPCM: anything but "0" is put into the box as a number; what is no number leaves the box.
+StatoParametro TakePersistence(std::string_view text, const StatoParametro& before,
+                               const Locale& locale) {
+  if (text == "0") return {0, "0"};
+  const auto number = TextToInt16(text, locale);
+  if (!number) return {1, before.Testo};
+  return {1, std::to_string(number.Value())};
+}
+
+std::optional<int> PlainNumber(std::string_view text) {
+  int value = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  const bool digits =
+      std::all_of(text.begin(), text.end(), [](char each) { return each >= '0' && each <= '9'; });
+  if (text.empty() || !digits || error != std::errc() || end != text.data() + text.size()) {
+    return {};
+  }
+  return value;
+}
+
+}  // namespace
+
+StatoParametro StatoIniziale(const Parametro& parametro) {
+  switch (parametro.Tipo) {
+    case Kind::Persistenza:
+      return {0, "0"};
+    case Kind::Secondi:
+      return {0, ""};
+    default:
+      return {parametro.Iniziale, {}};
+  }
+}
+
+StatoParametro DalFile(const Parametro& parametro, std::string_view testo,
+                       const StatoParametro& prima, const Locale& luogo) {
+  switch (parametro.Tipo) {
+    case Kind::Riavvio:
+      return {1, {}};  // restart in both outcomes of the comparison, on purpose
+    case Kind::MaiLetto:
+      return prima;
+    case Kind::Secondi:
+      return TakeSeconds(testo, luogo);
+    default:
+      break;
+  }
+  if (testo.empty()) return prima;
+  switch (parametro.Tipo) {
+    case Kind::Acceso:
+      return {testo == "1" ? 1 : 0, {}};
+    case Kind::Polarita:
+      return {testo == "0" ? 0 : 1, {}};
+    case Kind::Persistenza:
+      return TakePersistence(testo, prima, luogo);
+    case Kind::Ponte: {
+      const auto number = TextToNumber(testo, luogo);
+      return number ? StatoParametro{*number > 0 ? 1 : 0, {}} : prima;
+    }
+    default:
+      return TakeNumber(parametro, testo, prima, luogo);
+  }
+}
+
+std::string PerIlFile(const Parametro& parametro, const StatoParametro& stato) {
+  const bool text = parametro.Tipo == Kind::Persistenza || parametro.Tipo == Kind::Secondi;
+  return text ? stato.Testo : std::to_string(stato.Numero);
+}
+
+std::optional<std::string> ValoreAccettato(const Parametro& parametro, std::string_view valore) {
+  const auto number = PlainNumber(valore);
+  if (!number || !Holds(parametro, *number)) return {};
+  const bool text = parametro.Tipo == Kind::Persistenza || parametro.Tipo == Kind::Secondi;
+  return text ? std::string(valore) : std::to_string(*number);
+}
+
+}  // namespace kvr5

@@ -1,0 +1,220 @@
+#include <gtest/gtest.h>
+
+#include "playerconfig/Parametri.h"
+#include "support/Banco.h"
+
+namespace kvr5 {
+namespace {
+
+using test::Banco;
+
+const Parametro& Find(const char* key) {
+  const auto* parameter = TrovaParametro(key);
+  EXPECT_NE(parameter, nullptr) << key;
+  return *parameter;
+}
+
+StatoParametro FromFile(const char* key, const char* text) {
+  const auto& parameter = Find(key);
+  return DalFile(parameter, text, StatoIniziale(parameter), Locale());
+}
+
+/// What the next save writes for a file's value.
+std::string Saved(const char* key, const char* text) {
+  return PerIlFile(Find(key), FromFile(key, text));
+}
+
+TEST(Parameters, AreFoundWithoutRegardToCase) {
+  EXPECT_EQ(TrovaParametro("Momd"), TrovaParametro("MOMD"));
+  EXPECT_EQ(TrovaParametro("XXXX"), nullptr);
+  EXPECT_EQ(TrovaParametro(""), nullptr);
+}
+
+TEST(Parameters, AnAbsentKeyLeavesTheStateOfTheForm) {
+  const std::pair<const char*, const char*> rows[] = {
+      {"LOUT", "14"}, {"LLOU", "0"}, {"LTRE", "10"}, {"LBAS", "10"}, {"MOMN", "0"},  {"IMOD", "0"},
+      {"TPCM", "0"},  {"MICP", "0"}, {"LMP3", "14"}, {"LLIN", "14"}, {"LLI2", "14"}, {"TAVC", "0"},
+      {"CMAD", "31"}, {"CMCK", "0"}, {"CMCL", "0"},  {"CMBR", "0"},  {"CMPR", "0"},  {"CMSB", "1"},
+      {"CMDB", "7"},  {"CMDR", "0"}, {"CMI3", "0"},  {"ORI3", "0"},  {"OMON", "0"},  {"INVR", "0"},
+      {"PYDT", "0"},  {"PYDL", "0"}, {"TAPL", "0"},  {"RSPL", "1"},  {"MOMD", "0"}};
+  for (const auto& [key, value] : rows) EXPECT_EQ(Saved(key, ""), value) << key;
+  for (const auto* key : {"TFOU", "TFIN", "TADU"}) {
+    EXPECT_EQ(StatoIniziale(Find(key)).Testo, "") << key;
+  }
+}
+
+TEST(Parameters, SlidersTakeTheirPositionsAndKeepTheirStateOtherwise) {
+  EXPECT_EQ(Saved("LOUT", "0"), "0");
+  EXPECT_EQ(Saved("LOUT", "20"), "20");
+  EXPECT_EQ(Saved("LOUT", "21"), "14");
+  EXPECT_EQ(Saved("LOUT", "-1"), "14");
+  EXPECT_EQ(Saved("LOUT", "abc"), "14");
+  EXPECT_EQ(Saved("LOUT", "99999"), "14");
+  EXPECT_EQ(Saved("LTRE", "3"), "3");
+}
+
+TEST(Parameters, MirsReadsAsRestartWhateverTheFileSays) {
+  for (const auto* text : {"", "0", "1", "x"}) EXPECT_EQ(Saved("MIRS", text), "1") << text;
+}
+
+TEST(Parameters, MomnAndMicpAreOnForOneOnly) {
+  for (const auto* key : {"MOMN", "MICP"}) {
+    EXPECT_EQ(Saved(key, "1"), "1");
+    for (const auto* text : {"", "0", "2", "on"}) EXPECT_EQ(Saved(key, text), "0") << text;
+  }
+}
+
+TEST(Parameters, ImodIsActiveHighForZeroAndActiveLowForAnyOtherText) {
+  EXPECT_EQ(Saved("IMOD", "0"), "0");
+  for (const auto* text : {"1", "2", "00", "x"}) EXPECT_EQ(Saved("IMOD", text), "1") << text;
+}
+
+TEST(Parameters, TpcmIsOffForZeroAndANumberOtherwise) {
+  EXPECT_EQ(FromFile("TPCM", "0"), (StatoParametro{0, "0"}));
+  EXPECT_EQ(FromFile("TPCM", "50"), (StatoParametro{1, "50"}));
+  EXPECT_EQ(FromFile("TPCM", "007"), (StatoParametro{1, "7"}));
+  EXPECT_EQ(FromFile("TPCM", "300"), (StatoParametro{1, "300"})) << "no range on reading";
+  EXPECT_EQ(FromFile("TPCM", "abc"), (StatoParametro{1, "0"})) << "the box stays";
+}
+
+TEST(Parameters, SecondsAreCheckedOnReading) {
+  for (const auto* key : {"TFOU", "TFIN", "TADU"}) {
+    EXPECT_EQ(Saved(key, ""), "1");
+    EXPECT_EQ(Saved(key, "0"), "1");
+    EXPECT_EQ(Saved(key, "1"), "1");
+    EXPECT_EQ(Saved(key, "30"), "30");
+    EXPECT_EQ(Saved(key, "31"), "30");
+    EXPECT_EQ(Saved(key, "99"), "30");
+    EXPECT_EQ(Saved(key, "abc"), "1");
+  }
+}
+
+TEST(Parameters, ListsWithAnOffsetKeepTheirNumbers) {
+  EXPECT_EQ(Saved("CMDB", "8"), "8");
+  EXPECT_EQ(Saved("CMDB", "7"), "7");
+  EXPECT_EQ(Saved("CMDB", "9"), "7");
+  EXPECT_EQ(Saved("CMSB", "2"), "2");
+  EXPECT_EQ(Saved("CMSB", "3"), "1");
+  EXPECT_EQ(Saved("RSPL", "50"), "50");
+  EXPECT_EQ(Saved("RSPL", "51"), "1");
+}
+
+TEST(Parameters, ListsOfOwnValuesTakeTheirItemsOnly) {
+  EXPECT_EQ(Saved("PYDL", "240"), "240");
+  EXPECT_EQ(Saved("PYDL", "15"), "0");
+  EXPECT_EQ(Saved("TAPL", "18"), "18");
+  EXPECT_EQ(Saved("TAPL", "20"), "0");
+}
+
+TEST(Parameters, InvrIsOnAboveZeroAndWrittenAsOne) {
+  EXPECT_EQ(Saved("INVR", "2"), "1");
+  EXPECT_EQ(Saved("INVR", "1"), "1");
+  EXPECT_EQ(Saved("INVR", "0"), "0");
+  EXPECT_EQ(Saved("INVR", "-1"), "0");
+}
+
+TEST(Parameters, EachModelReachesItsOwn) {
+  const auto reach = [](const char* key, std::int16_t type, std::int16_t mode) {
+    return Raggiungibile(Find(key), type, mode);
+  };
+  for (const std::int16_t type : std::initializer_list<std::int16_t>{1, 2, 3, 4}) {
+    for (const std::int16_t mode : std::initializer_list<std::int16_t>{1, 2, 5}) {
+      for (const auto* key : {"LOUT", "LLOU", "LTRE", "LBAS", "LMP3", "LLIN", "LLI2", "TFOU",
+                              "TFIN", "TADU", "TAVC"}) {
+        EXPECT_TRUE(reach(key, type, mode)) << key;
+      }
+      EXPECT_EQ(reach("MOMN", type, mode), type == 1);
+      for (const auto* key : {"IMOD", "MICP", "MIRS"}) {
+        EXPECT_EQ(reach(key, type, mode), type != 4 || mode == 1) << key;
+      }
+      EXPECT_EQ(reach("TPCM", type, mode), type != 4 || mode != 2);
+      for (const auto* key : {"OMON", "INVR", "MOMD"}) EXPECT_EQ(reach(key, type, mode), type == 4);
+      for (const auto* key : {"PYDT", "PYDL", "TAPL", "RSPL"}) {
+        EXPECT_EQ(reach(key, type, mode), type == 4 && mode == 1) << key;
+      }
+      for (const auto* key : {"MPLL", "CMAD", "CMCK", "CMCL", "CMBR", "CMPR", "CMSB", "CMDB",
+                              "CMDR", "CMI3", "ORI3"}) {
+        EXPECT_FALSE(reach(key, type, mode)) << key;
+      }
+    }
+  }
+  EXPECT_FALSE(reach("LOUT", 0, 1));
+}
+
+TEST(Parameters, AGivenValueMustFitItsControl) {
+  const auto accepted = [](const char* key, const char* value) {
+    return ValoreAccettato(Find(key), value).value_or("refused");
+  };
+  EXPECT_EQ(accepted("LOUT", "0"), "0");
+  EXPECT_EQ(accepted("LOUT", "20"), "20");
+  EXPECT_EQ(accepted("LOUT", "05"), "5");
+  for (const auto* bad : {"21", "-1", "", "x", "1.5", " 1", "+1", "99999999999999999999"}) {
+    EXPECT_EQ(accepted("LOUT", bad), "refused") << bad;
+  }
+  EXPECT_EQ(accepted("TPCM", "007"), "007") << "the box holds its text as it stands";
+  EXPECT_EQ(accepted("TPCM", "255"), "255");
+  EXPECT_EQ(accepted("TPCM", "256"), "refused");
+  EXPECT_EQ(accepted("TFIN", "30"), "30");
+  EXPECT_EQ(accepted("TFIN", "0"), "refused");
+  EXPECT_EQ(accepted("TFIN", "31"), "refused");
+  EXPECT_EQ(accepted("PYDL", "240"), "240");
+  EXPECT_EQ(accepted("PYDL", "15"), "refused");
+  EXPECT_EQ(accepted("RSPL", "0"), "refused");
+  EXPECT_EQ(accepted("IMOD", "1"), "1");
+  EXPECT_EQ(accepted("IMOD", "2"), "refused");
+}
+
+TEST(Parameters, EveryStateHasItsWords) {
+  Banco b;
+  const auto words = [&](const char* key, const char* text) {
+    return ParoleDelValore(b.C, Find(key), FromFile(key, text));
+  };
+  EXPECT_EQ(words("LOUT", "14"), "0 dB");
+  EXPECT_EQ(words("LOUT", "0"), "OFF");
+  EXPECT_EQ(words("LTRE", "0"), "-12");
+  EXPECT_EQ(words("LMP3", "20"), "200%");
+  EXPECT_EQ(words("LLOU", "1"), "+0.5 dB");
+  EXPECT_EQ(words("MOMN", "1"), "ON");
+  EXPECT_EQ(words("IMOD", "1"), "1 - active low");
+  EXPECT_EQ(words("TPCM", "0"), "OFF");
+  EXPECT_EQ(words("TPCM", "50"), "50 Millisecond");
+  EXPECT_EQ(words("MICP", "1"), "1 - Continuos play / loop");
+  EXPECT_EQ(words("MIRS", "0"), "1 - Restart") << "what the screen shows";
+  EXPECT_EQ(words("TFOU", "5"), "5 Sec");
+  EXPECT_EQ(words("TAVC", "0"), "0 - off");
+  EXPECT_EQ(words("TAVC", "1"), "2/10 of a second");
+  EXPECT_EQ(words("TAVC", "2"), "2 seconds");
+  EXPECT_EQ(words("TAVC", "3"), "4 seconds");
+  EXPECT_EQ(words("TAVC", "4"), "8 seconds");
+  EXPECT_EQ(words("CMAD", "7"), "7");
+  EXPECT_EQ(words("CMCK", "1"), "1 - Checksum on");
+  EXPECT_EQ(words("CMCL", "0"), "0 - CR LF off");
+  EXPECT_EQ(words("CMBR", "3"), "3 - 9600 bps");
+  EXPECT_EQ(words("CMSB", "2"), "2 - 2 StopBits");
+  EXPECT_EQ(words("CMDB", "8"), "8 - 8 Bits");
+  EXPECT_EQ(words("CMDR", "0"), "0 - shortest delay, 4 ms");
+  EXPECT_EQ(words("CMDR", "15"), "15 - delay 150 ms");
+  EXPECT_EQ(words("PYDL", "240"), "240 seconds");
+  EXPECT_EQ(words("RSPL", "50"), "50 detections");
+  EXPECT_EQ(words("INVR", "1"), "ON");
+}
+
+TEST(Parameters, EveryItemOfEveryListHasItsTextInBothLanguages) {
+  Banco b;
+  for (const auto* language : {"English.lan", "Italiano.lan"}) {
+    b.C.Stato.FileLingua = b.Percorso(std::string("program/Language/") + language);
+    for (const auto& parameter : Parametri()) {
+      for (int value = parameter.Minimo; value <= parameter.Massimo; ++value) {
+        const auto text = std::to_string(value);
+        if (!ValoreAccettato(parameter, text)) continue;
+        const auto state = DalFile(parameter, text, StatoIniziale(parameter), Locale());
+        const auto words = ParoleDelValore(b.C, parameter, state);
+        EXPECT_FALSE(words.empty() || words.ends_with("- ") || words.ends_with(" "))
+            << language << " " << parameter.Chiave << "=" << value << ": " << words;
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace kvr5
