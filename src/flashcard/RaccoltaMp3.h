@@ -1,0 +1,32 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "core/Contesto.h"
+#include "flashcard/ListaCopia.h"
+#include "platform/db/Recordset.h"
+
+namespace kvr5 {
+
+/// Which database a pass goes over; the input pass alone doesn't test that a source exists.
+enum class Passata { Ingressi, Playlist, Palinsesto };
+
+/// How a pass ended.
+struct EsitoPassata {
+  bool Riuscita = true;
+  /// The file that can't be had, as the message names it: its name alone in the input pass, its
+  /// full path in the others.
+  std::string FileMancante;
+};
+
+/// Adds a source file for each row of `righe` to the lists, under the row's alias in the card's
+/// root: the copy of the project's folder that bears the alias, else the file where it was chosen.
+///
+/// A closed or empty recordset is passed over. A row without an alias is passed over. A source
+/// that is listed already is dropped with its destination, so that a file in two rows reaches the
+/// card under the alias of the first; in the input pass that is a failure. The pass stops at the
+/// first file that can't be had.
+EsitoPassata RaccogliMp3(Contesto& contesto, Passata passata, Recordset& righe, ListaCopia& lista);
+
+}  // namespace kvr5

@@ -1,0 +1,247 @@
+#include "flashcard/Registrazione.h"
+
+#include <initializer_list>
+#include <string>
+
+#include "core/Aiuti.h"
+#include "core/CopiaFileShell.h"
+#include "core/Lingua.h"
+#include "core/ParoleCopia.h"
+#include "flashcard/ListaCopia.h"
+#include "flashcard/RaccoltaMp3.h"
+#include "platform/FileOps.h"
+#include "projects/CartellaProgetto.h"
+
+namespace kvr5 {
+namespace {
+
+constexpr std::uint32_t kOrange = 33023;  // red 255, green 128, blue 0
+
+/// One run of the recording; each method is one of its steps.
+class Recording {
+ public:
+  Recording(Contesto& context, TabellaIngressi& inputs, FinestraProgresso& progress,
+            SelezioneFlash& choice)
+      : context_(context),
+        inputs_(inputs),
+        progress_(progress),
+        choice_(choice),
+        connection_(context.Files) {}
+
+  EsitoRegistrazione Run();
+
+ private:
+  bool HasCard();
+  bool CardIsWritable();
+  void Begin();
+  void Stage(const char* textKey);
+  void CopyDatabases();
+  void CopyConfiguration();
+  void CopyLists();
+  void CopyReports();
+  bool CollectInputs();
+  bool CollectFrom(Passata pass, const char* database);
+  bool CollectMp3();
+  void CopyMp3();
+  void TellUnwritable();
+  void TellMissing(const std::string& file);
+  void TellCancelled();
+  void Notice(const char* titleKey, const std::string& text, bool orange);
+
+  std::string Source(std::string_view name) const { return FileDelProgetto(context_, name); }
+  std::string Card(std::string_view name = {}) const {
+    return AggiungiBarra(context_.Stato.PercorsoMemoryCard).append(name);
+  }
+  void Copy(const std::string& from, const std::string& to);
+  void CopyIfThere(std::string_view name);
+  void CopyMatching(std::string_view wildcard);
+
+  Contesto& context_;
+  TabellaIngressi& inputs_;
+  FinestraProgresso& progress_;
+  SelezioneFlash& choice_;
+  Connection connection_;
+  Recordset rows_;
+  ListaCopia list_;
+  EsitoRegistrazione outcome_;
+};
+
+EsitoRegistrazione Recording::Run() {
+  context_.Stato.AnnullatoDaUtente = false;
+  if (!HasCard()) return {FineRegistrazione::SenzaScheda};
+  if (!CardIsWritable()) {
+    TellUnwritable();
+    return {FineRegistrazione::NonScrivibile};
+  }
+  Begin();
+  CopyDatabases();
+  CopyConfiguration();
+  CopyLists();
+  CopyReports();
+  if (!CollectMp3()) {
+    outcome_.Fine = FineRegistrazione::FileMancante;
+    return outcome_;
+  }
+  CopyMp3();
+  // The only look at the cancel flag. An error left over from a copy is no failure.
+  if (context_.Stato.AnnullatoDaUtente) {
+    TellCancelled();
+    outcome_.Fine = FineRegistrazione::Annullata;
+  }
+  return outcome_;
+}
+
+bool Recording::HasCard() {
+  const auto& state = context_.Stato;
+  if (!state.PercorsoMemoryCard.empty()) return true;
+  choice_.Scegli();
+  context_.Messaggi.LasciaCorrere();
+  return !state.SelezioneFlashAnnullata && !state.PercorsoMemoryCard.empty();
+}
+
+bool Recording::CardIsWritable() {
+  auto& error = context_.Errore;
+  error.Clear();
+  const std::string path = Card("\\test.txt");  // the doubled backslash counts as one
+  auto file = context_.Files.Open(path, OpenMode::Write);
+  if (error.Record(file.Err())) {
+    error.Record(file.Value()->Write("test\r\n"));
+    error.Record(file.Value()->Close());
+    context_.Messaggi.LasciaCorrere();
+    Ignora(context_.Files.Delete(path));  // also where writing failed: no stray is left
+    context_.Messaggi.LasciaCorrere();
+  }
+  return !error;
+}
+
+void Recording::Begin() {
+  context_.Messaggi.ImpostaPuntatore(Puntatore::Attesa);
+  progress_.Operazione(TestoLingua(context_, "0070002"));
+  progress_.ValoreMassimo = 7;
+  progress_.Progresso(1);
+  progress_.Mostra();
+  context_.Messaggi.LasciaCorrere();
+}
+
+void Recording::Stage(const char* textKey) {
+  if (textKey != nullptr) progress_.Operazione(TestoLingua(context_, textKey));
+  progress_.Step(0, false);
+}
+
+void Recording::CopyDatabases() {  // stage 1
+  progress_.Operazione(TestoLingua(context_, "0070014"));
+  inputs_.Chiudi();  // a copy of a closed file
+  for (const char* name : {"inputcfg.mdb", "playlist.mdb", "scheduler.mdb"}) CopyIfThere(name);
+  inputs_.Riapri();
+}
+
+void Recording::CopyConfiguration() {  // stage 2
+  Stage("0070015");
+  for (const char* name : {"Config.txt", "Config.cfg"}) Copy(Source(name), Card(name));
+}
+
+void Recording::CopyLists() {  // stage 3
+  Stage("0070016");
+  constexpr std::int16_t kNamedPlaylists = 9;
+  Copy(Source("*.m3u"), Card());
+  // The lists for use on the computer stay in the project where playlists have names.
+  const std::string local = Card("*_LOCAL_.m3u");
+  if (context_.Stato.PlayerMode == kNamedPlaylists && FileExists(context_.Files, local)) {
+    context_.Errore.Record(DeleteMatching(context_.Files, local));
+  }
+  CopyIfThere("PALIN.TXT");
+  CopyMatching("*.pal");
+}
+
+void Recording::CopyReports() {  // stage 4
+  Stage("0070017");
+  CopyMatching("*.htm");
+  CopyMatching("*.jpg");
+}
+
+bool Recording::CollectMp3() {  // stages 5 to 7
+  Stage("0070013");
+  if (!CollectInputs()) return false;
+  Stage(nullptr);
+  if (!CollectFrom(Passata::Playlist, "playlist.mdb")) return false;
+  Stage(nullptr);
+  return CollectFrom(Passata::Palinsesto, "Scheduler.mdb");
+}
+
+bool Recording::CollectInputs() {
+  if (context_.Stato.Analyzer == 1) {
+    list_.Aggiungi(AggiungiBarra(context_.CartellaProgramma) + "Analyzer.mp3",
+                   Card("Analyzer.mp3"));
+  }
+  const auto pass = RaccogliMp3(context_, Passata::Ingressi, inputs_.Cursore(), list_);
+  if (!pass.Riuscita) TellMissing(pass.FileMancante);
+  return pass.Riuscita;
+}
+
+bool Recording::CollectFrom(Passata pass, const char* database) {
+  constexpr const char* kQuery = "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC";
+  rows_.Close();
+  connection_.Close();
+  Ignora(connection_.Open(Source(database)));  // a missing database skips its pass
+  Ignora(rows_.Open(connection_, kQuery));
+  const auto result = RaccogliMp3(context_, pass, rows_, list_);
+  if (!result.Riuscita) TellMissing(PercorsoPerPersone(context_, result.FileMancante));
+  return result.Riuscita;
+}
+
+void Recording::CopyMp3() {
+  rows_.Close();
+  connection_.Close();
+  progress_.Scarica();
+  context_.Messaggi.LasciaCorrere();
+  if (!Rifila(list_.ListaSorgenti()).empty()) {
+    Copy(list_.ListaSorgenti(), list_.ListaDestinazioni());
+  }
+  context_.Messaggi.ImpostaPuntatore(Puntatore::Normale);
+  context_.Messaggi.LasciaCorrere();
+}
+
+void Recording::Copy(const std::string& from, const std::string& to) {
+  const CopyOutcome copied = CopiaFileShell(context_, from, to);
+  outcome_.File += copied.FilesCopied;
+  outcome_.Byte += copied.BytesCopied;
+}
+
+void Recording::CopyIfThere(std::string_view name) {
+  if (FileExists(context_.Files, Source(name))) Copy(Source(name), Card(name));
+}
+
+void Recording::CopyMatching(std::string_view wildcard) {
+  if (FileExists(context_.Files, Source(wildcard))) Copy(Source(wildcard), Card());
+}
+
+void Recording::TellUnwritable() {
+  Notice("0040037", TestoLingua(context_, "0040048") + "." + TestoLingua(context_, "0040049"),
+         false);
+}
+
+void Recording::TellMissing(const std::string& file) {
+  progress_.Scarica();
+  // The wait pointer stays on: the run ends here and nothing sets it back.
+  Notice("0070009", TestoLingua(context_, "0070019") + ":\r\n" + file, true);
+}
+
+void Recording::TellCancelled() {
+  Notice("0070005", TestoLingua(context_, "0070007"), true);
+  context_.Messaggi.LasciaCorrere();
+}
+
+void Recording::Notice(const char* titleKey, const std::string& text, bool orange) {
+  BoxSiNo box{TestoLingua(context_, titleKey), text, TestoLingua(context_, "0140022"), {}};
+  if (orange) box.ColoreNota = kOrange;
+  context_.Finestre.MostraSiNo(box);
+}
+
+}  // namespace
+
+EsitoRegistrazione RegistraProgettoSuFlash(Contesto& contesto, TabellaIngressi& ingressi,
+                                           FinestraProgresso& progresso, SelezioneFlash& scelta) {
+  return Recording(contesto, ingressi, progresso, scelta).Run();
+}
+
+}  // namespace kvr5

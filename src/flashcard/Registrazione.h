@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "core/Contesto.h"
+#include "core/FinestraProgresso.h"
+#include "flashcard/SelezioneFlash.h"
+#include "playerconfig/TabellaIngressi.h"
+
+namespace kvr5 {
+
+/// How a recording ended.
+enum class FineRegistrazione {
+  Compiuta,       ///< to its end, in silence
+  SenzaScheda,    ///< no card was chosen; nothing was said or touched
+  NonScrivibile,  ///< told by a box; nothing was copied
+  FileMancante,   ///< told by a box; the project's own files are on the card, no MP3
+  Annullata,      ///< told by a box at the end; everything that was copied stays
+};
+
+/// A recording in figures.
+struct EsitoRegistrazione {
+  FineRegistrazione Fine = FineRegistrazione::Compiuta;
+  std::size_t File = 0;    ///< files copied onto the card
+  std::uint64_t Byte = 0;  ///< their bytes
+};
+
+/// Turns the project's folder, as it stands on the disk, into the card's contents: a write test,
+/// seven stages that copy the project's own files and gather the MP3 files, and one copy of all
+/// MP3 files.
+///
+/// Free space is never measured; the card is not cleared. A copy that fails is told by the copy
+/// window alone, and the run goes on. A cancel is looked at once, at the end. `ingressi` is the
+/// hub's table: it is closed while the databases are copied, and reopened.
+EsitoRegistrazione RegistraProgettoSuFlash(Contesto& contesto, TabellaIngressi& ingressi,
+                                           FinestraProgresso& progresso, SelezioneFlash& scelta);
+
+}  // namespace kvr5
