@@ -1,0 +1,89 @@
+#include "cli/Session.h"
+
+#include <filesystem>
+
+#include "cli/Status.h"
+#include "core/Aiuti.h"
+#include "core/Avvio.h"
+#include "core/Lingua.h"
+#include "platform/FileOps.h"
+#include "projects/ApriProgetto.h"
+
+namespace kvr5::cli {
+namespace {
+
+std::string ExecutableFolder() {
+  std::error_code error;
+  const auto path = std::filesystem::read_symlink("/proc/self/exe", error);
+  return error ? std::string(".") : path.parent_path().string();
+}
+
+std::string WithoutBar(std::string path) {
+  constexpr std::size_t kRoot = 3;  // "C:\"
+  while (path.size() > kRoot && path.ends_with('\\')) path.pop_back();
+  return path;
+}
+
+}  // namespace
+
+Session::Session(const Options& options)
+    : options_(options),
+      output_(options.Json),
+      line_(options.Json),
+      files_(paths_),
+      dialogs_(output_, line_, options.Answer),
+      copy_(output_, line_) {
+  const std::string given = options.Program.empty() ? ExecutableFolder() : options.Program;
+  const auto folder = files_.SystemPath(given);
+  context_.emplace(Contesto{files_,
+                            dialogs_,
+                            events_,
+                            copy_,
+                            clock_,
+                            process_,
+                            folder ? WithoutBar(folder.Value()) : std::string(),
+                            Locale::Host(),
+                            {},
+                            {}});
+  copy_.Speak(*context_);
+  drives_.emplace(paths_, *volumes_, [this] {
+    const auto text = ReadWhole(files_, AggiungiBarra(context_->CartellaProgramma) + "Drives.ini");
+    return text ? text.Value() : std::string();
+  });
+}
+
+std::vector<Drive> Session::ListDrives() {
+  return drives_->List();
+}
+
+bool Session::Start() {
+  auto& context = *context_;
+  if (options_.Language.empty()) {
+    AvviaSenzaSchermate(context);
+  } else {
+    std::string name = options_.Language;
+    if (!name.ends_with(".lan")) name += ".lan";
+    context.Stato.FileLingua = AggiungiBarra(context.CartellaProgramma) + "Language\\" + name;
+    if (!FileExists(files_, context.Stato.FileLingua)) {
+      output_.Say("there is no language " + options_.Language);
+      return false;
+    }
+    AvviaConLingua(context);
+  }
+  return true;
+}
+
+int Session::OpenProject(const std::string& project) {
+  auto& context = *context_;
+  const bool isFolder = project.find_first_of("/\\:") != std::string::npos;
+  const auto folder = files_.SystemPath(
+      isFolder ? project : AggiungiBarra(context.Stato.CartellaProgetti) + project);
+  const auto outcome = folder && !project.empty()
+                           ? ApriProgetto(context, WithoutBar(folder.Value()))
+                           : EsitoApertura::NessunaCartella;
+  if (outcome == EsitoApertura::Aperto) return kDone;
+  if (outcome == EsitoApertura::NessunaCartella) output_.Say("there is no project " + project);
+  return kMissing;
+}
+
+}  // namespace kvr5::cli

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/Options.h"
+#include "cli/Output.h"
+#include "cli/Terminal.h"
+#include "core/Contesto.h"
+#include "platform/Drives.h"
+#include "platform/HostFileSystem.h"
+#include "platform/Path.h"
+
+namespace kvr5::cli {
+
+/// The companion's counterpart of the program's composition root: the real disk, the terminal as
+/// the user, and the state.
+class Session {
+ public:
+  explicit Session(const Options& options);
+
+  Output& Out() { return output_; }
+  Contesto& Context() { return *context_; }
+  TerminalCopy& Copy() { return copy_; }
+  TerminalEvents& Events() { return events_; }
+  ProgressLine& Line() { return line_; }
+
+  /// The removable drives; a look binds their letters.
+  std::vector<Drive> ListDrives();
+  /// Reads language, options and projects folder, as every start of the program does. False when
+  /// the language that was asked for isn't there (told).
+  bool Start();
+  /// Opens a project by name or folder. 0, or the status to end with (told).
+  int OpenProject(const std::string& project);
+
+ private:
+  Options options_;
+  Output output_;
+  ProgressLine line_;
+  PathMap paths_;
+  HostFileSystem files_;
+  TerminalDialogs dialogs_;
+  TerminalEvents events_;
+  TerminalCopy copy_;
+  TerminalProcess process_;
+  OrologioDiSistema clock_;
+  std::unique_ptr<VolumeSource> volumes_ = HostVolumes();
+  std::optional<kvr5::Drives> drives_;
+  std::optional<Contesto> context_;
+};
+
+}  // namespace kvr5::cli

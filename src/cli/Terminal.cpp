@@ -1,0 +1,151 @@
+#include "cli/Terminal.h"
+
+#include <unistd.h>
+
+#include <cstdlib>
+#include <iostream>
+
+#include "cli/Interrupt.h"
+#include "cli/Status.h"
+#include "core/Aiuti.h"
+#include "core/ParoleCopia.h"
+
+namespace kvr5::cli {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+constexpr auto kRefresh = std::chrono::milliseconds(100);
+
+std::string_view Kind(Icona icon) {
+  switch (icon) {
+    case Icona::Avviso:
+      return "warning";
+    case Icona::Domanda:
+      return "question";
+    default:
+      return "info";
+  }
+}
+
+std::string_view Word(Risposta answer) {
+  switch (answer) {
+    case Risposta::Si:
+      return "yes";
+    case Risposta::No:
+      return "no";
+    case Risposta::Annulla:
+      return "cancel";
+    default:
+      return "ok";
+  }
+}
+
+std::string CopyLine(const CopyState& state, double seconds) {
+  constexpr double kMegabyte = 1e6;
+  const auto done = static_cast<double>(state.BytesDone);
+  const auto total = static_cast<double>(state.BytesTotal);
+  std::string text = EstraiNomeFile(state.File) + "  ";
+  if (total > 0) text += std::to_string(static_cast<int>(done / total * 100)) + "%  ";
+  text += std::to_string(state.FileNumber) + "/" + std::to_string(state.FileCount);
+  if (seconds > 0.5 && done > 0) {
+    const double speed = done / seconds;
+    text += "  " + std::to_string(static_cast<int>(speed / kMegabyte)) + " MB/s  " +
+            std::to_string(static_cast<int>((total - done) / speed)) + " s";
+  }
+  return text;
+}
+
+}  // namespace
+
+ProgressLine::ProgressLine(bool json) : active_(!json && isatty(STDERR_FILENO) == 1) {}
+
+void ProgressLine::Show(const std::string& text) {
+  const auto now = Clock::now();
+  if (!active_ || (shown_ && now - last_ < kRefresh)) return;
+  last_ = now;
+  shown_ = true;
+  std::cerr << "\r\033[K" << text << std::flush;
+}
+
+void ProgressLine::Clear() {
+  if (shown_) std::cerr << "\r\033[K" << std::flush;
+  shown_ = false;
+}
+
+Risposta TerminalDialogs::MostraMessaggio(const Messaggio& messaggio) {
+  line_.Clear();
+  if (messaggio.Scelte != Pulsanti::Ok) {
+    return Ask(messaggio.Titolo, messaggio.Testo, messaggio.Scelte == Pulsanti::SiNoAnnulla);
+  }
+  output_.Box(Kind(messaggio.Segno), messaggio.Titolo, messaggio.Testo, "ok");
+  return Risposta::Ok;
+}
+
+std::uint8_t TerminalDialogs::MostraSiNo(const BoxSiNo& box) {
+  line_.Clear();
+  if (box.SoloOk) {
+    output_.Box(box.ColoreNota ? "warning" : "info", box.Titolo, box.Nota, "ok");
+    return 1;
+  }
+  return Ask(box.Titolo, box.Nota, false) == Risposta::Si ? 1 : 2;
+}
+
+Risposta TerminalDialogs::Ask(std::string_view title, std::string_view text, bool withCancel) {
+  Risposta answer = withCancel ? Risposta::Annulla : Risposta::No;
+  if (answer_ != FixedAnswer::None) {
+    answer = answer_ == FixedAnswer::Yes ? Risposta::Si : Risposta::No;
+    output_.Box("question", title, text, Word(answer));
+  } else if (isatty(STDIN_FILENO) == 1 && isatty(STDERR_FILENO) == 1 && !output_.IsJson()) {
+    output_.Box("question", title, text, "");
+    std::cerr << (withCancel ? "[y/n/c] " : "[y/n] ") << std::flush;
+    std::string typed;
+    std::getline(std::cin, typed);
+    if (typed == "y" || typed == "Y") answer = Risposta::Si;
+    if (typed == "n" || typed == "N") answer = Risposta::No;
+  } else {
+    output_.Box("question", title, text, Word(answer));
+  }
+  return answer;
+}
+
+void TerminalEvents::LasciaCorrere() {
+  if (window_ != nullptr && window_->Caricata() && Interrupt::Pressed()) window_->Annulla();
+}
+
+bool TerminalCopy::Progress(const CopyState& state) {
+  if (state.BytesDone == 0 && state.FileNumber <= 1) start_ = Clock::now();
+  const std::chrono::duration<double> elapsed = Clock::now() - start_;
+  line_.Show(CopyLine(state, elapsed.count()));
+  if (state.BytesTotal > 0 && state.BytesDone == state.BytesTotal) line_.Clear();
+  return !Interrupt::Pressed();
+}
+
+void TerminalCopy::Failed(const CopyFailure& failure) {
+  line_.Clear();
+  failed_ = true;
+  if (context_ == nullptr) return;
+  const Messaggio words = BoxGuastoCopia(*context_, failure);
+  output_.Box("warning", words.Titolo, words.Testo, "ok");
+}
+
+bool TerminalCopy::TakeFailure() {
+  const bool failed = failed_;
+  failed_ = false;
+  return failed;
+}
+
+void TerminalProgress::Ridisegna() {
+  if (!Visibile()) {
+    line_.Clear();
+    return;
+  }
+  std::string text = TestoOperazione() + "  " + TestoPercento();
+  if (NumFileVisibile() && FileTotali > 0) text += "  " + TestoNumFile();
+  line_.Show(text);
+}
+
+void TerminalProcess::Termina(MotivoFine motivo) {
+  std::exit(motivo == MotivoFine::ImpostazioniNonCreabili ? kRefused : kMissing);
+}
+
+}  // namespace kvr5::cli

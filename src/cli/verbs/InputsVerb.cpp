@@ -1,0 +1,100 @@
+#include "cli/verbs/Verb.h"
+#include "core/Aiuti.h"
+#include "core/Lingua.h"
+#include "mp3/Accettazione.h"
+#include "mp3/modMp3Infos.h"
+#include "platform/FileOps.h"
+#include "playerconfig/CodiceIngressi.h"
+#include "playerconfig/TabellaIngressi.h"
+#include "projects/CartellaProgetto.h"
+#include "projects/Descrittore.h"
+
+namespace kvr5::cli {
+namespace {
+
+int List(Session& session, TabellaIngressi& inputs) {
+  for (const auto& row : inputs.Righe()) {
+    if (session.Out().IsJson()) {
+      session.Out().Object({{"Pos", row.Pos},
+                            {"Alias", row.Alias},
+                            {"FileName", row.FileName},
+                            {"FilePath", row.FilePath}});
+    } else {
+      session.Out().Line(row.Alias + "  " + NomeIngressi(static_cast<std::int16_t>(row.Pos)) +
+                         "  " + row.FilePath + row.FileName);
+    }
+  }
+  return kDone;
+}
+
+/// Why the hub would refuse this file; "" when it takes it.
+std::string WhyRefused(Session& session, const std::string& path) {
+  auto& context = session.Context();
+  if (!FileExists(context.Files, path)) return "there is no such file";
+  if (!MatchesWildcard(EstraiNomeFile(path), "*.mp3")) return "its name doesn't end in .mp3";
+  modMp3Infos reader(context.Files);
+  if (!BuonoPerIngressi(reader.LeggiInfoMp3(path))) {
+    return TestoLinguaO(context, "0040005", "the player can't play this file");
+  }
+  return {};
+}
+
+int Finish(Session& session) {
+  const auto& error = session.Context().Errore;
+  if (!error) return kDone;
+  session.Out().Say("inputcfg.mdb: " + error.Last().Description());
+  return kRefused;
+}
+
+int Assign(Session& session, TabellaIngressi& inputs, std::int16_t code, const std::string& file) {
+  auto& context = session.Context();
+  if (context.Stato.Usa485 && UsaIngressiRs485(code)) {
+    session.Out().Say("the RS-485 link of this project uses IN5 and IN6");
+    return kRefused;
+  }
+  const auto path = context.Files.SystemPath(file);
+  const std::string why =
+      path ? WhyRefused(session, path.Value()) : "a file of this name can't be taken";
+  if (!why.empty()) {
+    session.Out().Say(file + ": " + why);
+    return kRefused;
+  }
+  inputs.Assegna(code, EstraiNomeFile(path.Value()), EstraiCartella(path.Value()));
+  return Finish(session);
+}
+
+}  // namespace
+
+int RunInputs(Session& session, const std::vector<std::string>& arguments) {
+  if (arguments.size() < 2) return kUsage;
+  const std::string& action = arguments[1];
+  const bool list = action == "list" && arguments.size() == 2;
+  const bool set = action == "set" && arguments.size() == 4;
+  const bool clear = action == "clear" && arguments.size() == 3;
+  if (!list && !set && !clear) return kUsage;
+  std::int16_t code = 0;
+  if (!list) {
+    const auto given = CodiceDaTesto(arguments[2]);
+    if (!given) return kUsage;
+    code = *given;
+  }
+  if (const int status = session.OpenProject(arguments[0]); status != kDone) return status;
+  auto& context = session.Context();
+  if (!FileExists(context.Files, FileDelProgetto(context, "inputcfg.mdb"))) {
+    session.Out().Say("this project has no inputcfg.mdb");
+    return kMissing;
+  }
+  context.Stato.Usa485 = context.Stato.PlayerType == 4 && LeggiUse485(context);
+  TabellaIngressi inputs(context);
+  inputs.Apri();
+  if (!inputs.Aperta()) {
+    session.Out().Say("inputcfg.mdb can't be read");
+    return kRefused;
+  }
+  if (list) return List(session, inputs);
+  if (set) return Assign(session, inputs, code, arguments[3]);
+  inputs.Libera(code);
+  return Finish(session);
+}
+
+}  // namespace kvr5::cli

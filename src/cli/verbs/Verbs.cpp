@@ -1,0 +1,40 @@
+#include <array>
+
+#include "cli/verbs/Verb.h"
+
+namespace kvr5::cli {
+namespace {
+
+constexpr std::array kVerbs{
+    Verb{"mp3", "FILE... | -",
+         "Analyses MP3 files in the given order, in one process; \"-\" reads a path a line from\n"
+         "standard input. Tells the figures and whether the player takes the file.",
+         false, RunMp3},
+    Verb{"new", "NAME --mode 1|2|5|6|7",
+         "Makes a project of model KVR5: mode 1 inputs, 2 scheduled, 5 to 7 playlists.", true,
+         RunNew},
+    Verb{"projects", "", "Lists the projects in the projects folder.", true, RunProjects},
+    Verb{"show", "PROJECT",
+         "Shows the descriptor, the parameters with their words, the lists, and what is missing.",
+         true, RunShow},
+    Verb{
+        "config", "PROJECT get [KEY...] | PROJECT set KEY=VALUE...",
+        "Reads or changes parameters of Config.txt within the limits of the screens. If one value\n"
+        "is refused nothing is written.",
+        true, RunConfig},
+    Verb{"inputs", "PROJECT list | PROJECT set CODE FILE | PROJECT clear CODE",
+         "Lists, assigns and frees combinations of logic inputs. CODE is 1 to 255 or such as "
+         "IN1+IN3.",
+         true, RunInputs},
+    Verb{"record", "PROJECT CARD...",
+         "Records a project onto one card after another. CARD is a drive letter or a folder.", true,
+         RunRecord},
+};
+
+}  // namespace
+
+std::span<const Verb> Verbs() {
+  return kVerbs;
+}
+
+}  // namespace kvr5::cli

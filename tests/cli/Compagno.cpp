@@ -1,0 +1,82 @@
+#include "cli/Compagno.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <sstream>
+
+namespace kvr5::test {
+namespace {
+
+std::vector<std::string> Lines(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);) lines.push_back(line);
+  return lines;
+}
+
+std::vector<nlohmann::json> Parse(const std::string& text) {
+  std::vector<nlohmann::json> objects;
+  for (const auto& line : Lines(text)) {
+    auto object = nlohmann::json::parse(line, nullptr, false);
+    EXPECT_TRUE(object.is_object()) << line;
+    objects.push_back(std::move(object));
+  }
+  return objects;
+}
+
+[[noreturn]] void Become(const std::vector<std::string>& words, const std::string& folder) {
+  const auto connect = [&](const char* name, int flags, int target) {
+    const int fd = open((folder + name).c_str(), flags, 0600);
+    if (fd < 0 || dup2(fd, target) < 0) _exit(126);
+  };
+  connect("/stdin", O_RDONLY, STDIN_FILENO);
+  connect("/stdout", O_WRONLY | O_CREAT | O_TRUNC, STDOUT_FILENO);
+  connect("/stderr", O_WRONLY | O_CREAT | O_TRUNC, STDERR_FILENO);
+  setenv("LC_ALL", "C", 1);
+  std::vector<char*> arguments;
+  for (const auto& word : words) arguments.push_back(const_cast<char*>(word.c_str()));
+  arguments.push_back(nullptr);
+  execv(arguments[0], arguments.data());
+  _exit(127);
+}
+
+}  // namespace
+
+std::vector<std::string> Corsa::Righe() const {
+  return Lines(Uscita);
+}
+std::vector<nlohmann::json> Corsa::Oggetti() const {
+  return Parse(Uscita);
+}
+std::vector<nlohmann::json> Corsa::Box() const {
+  return Parse(Errori);
+}
+
+Compagno::Compagno() {
+  Cartella.Write("program/KVR5Software.ini",
+                 "[Config]\r\nUseExternalPlayer=0\r\n[Path]\r\nProjectsDir=" +
+                     Percorso("program/Projects") + "\r\n");
+}
+
+Corsa Compagno::Esegui(std::vector<std::string> arguments, const std::string& input) const {
+  const TempFolder streams;
+  streams.Write("stdin", input);
+  std::vector<std::string> words = {KVR5_CARD, "--program", Host("program")};
+  words.insert(words.end(), arguments.begin(), arguments.end());
+  const pid_t child = fork();
+  if (child == 0) Become(words, streams.Host().string());
+  int status = 0;
+  EXPECT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_TRUE(WIFEXITED(status)) << "kvr5card was ended by a signal";
+  return {WEXITSTATUS(status), streams.Read("stdout"), streams.Read("stderr")};
+}
+
+Corsa Compagno::EseguiJson(std::vector<std::string> arguments, const std::string& input) const {
+  arguments.insert(arguments.begin(), "--json");
+  return Esegui(std::move(arguments), input);
+}
+
+}  // namespace kvr5::test

@@ -1,0 +1,142 @@
+#include <gtest/gtest.h>
+
+#include "cli/Compagno.h"
+
+namespace kvr5 {
+namespace {
+
+using nlohmann::json;
+using test::Compagno;
+
+class RecordVerb : public testing::Test {
+ protected:
+  void SetUp() override {
+    k.ScriviMp3("music/a.mp3", 1);
+    k.ScriviMp3("music/b.mp3", 2);
+    ASSERT_EQ(k.Esegui({"new", "Hall", "--mode", "1"}).Stato, 0);
+    ASSERT_EQ(k.Esegui({"inputs", "Hall", "set", "IN1+IN3", k.Host("music/a.mp3")}).Stato, 0);
+  }
+
+  Compagno k;
+};
+
+TEST_F(RecordVerb, ReportsEachCardInALine) {
+  std::filesystem::create_directories(k.Host("card2"));
+  const auto run = k.EseguiJson({"record", "Hall", k.Host("card"), k.Percorso("card2")});
+  EXPECT_EQ(run.Stato, 0);
+  EXPECT_EQ(run.Errori, "");
+  std::size_t bytes = 0;
+  for (const auto& name : k.Nomi("card")) bytes += k.Cartella.Read("card/" + name).size();
+  EXPECT_EQ(run.Oggetti(),
+            (std::vector<json>{
+                {{"card", k.Host("card")}, {"files", 4}, {"bytes", bytes}, {"status", 0}},
+                {{"card", k.Percorso("card2")}, {"files", 4}, {"bytes", bytes}, {"status", 0}}}));
+  EXPECT_EQ(k.Nomi("card"), k.Nomi("card2"));
+  EXPECT_TRUE(k.Cartella.Same("card/5.mp3", "music/a.mp3"));
+}
+
+TEST_F(RecordVerb, ACardThatIsNotThereIsStatus1AndTheOthersAreDone) {
+  const auto run = k.EseguiJson({"record", "Hall", k.Host("gone"), "X:", k.Host("card")});
+  EXPECT_EQ(run.Stato, 1);
+  ASSERT_EQ(run.Oggetti().size(), 3U);
+  EXPECT_EQ(run.Oggetti()[0]["status"], 1);
+  EXPECT_EQ(run.Oggetti()[1]["status"], 1);
+  EXPECT_EQ(run.Oggetti()[2]["status"], 0);
+  EXPECT_EQ(run.Box().at(0)["title"], "Recording not started");
+  EXPECT_FALSE(k.Cartella.Exists("gone"));
+}
+
+TEST_F(RecordVerb, TheSameMp3OnTwoInputsIsStatus1AndNamed) {
+  k.Esegui({"inputs", "Hall", "set", "7", k.Host("music/a.mp3")});
+  const auto run = k.EseguiJson({"record", "Hall", k.Host("card")});
+  EXPECT_EQ(run.Stato, 1);
+  EXPECT_EQ(run.Box().at(0)["title"], "MP3 files not copied");
+  EXPECT_TRUE(run.Box().at(0)["text"].get<std::string>().ends_with("\na.mp3"));
+  EXPECT_FALSE(k.Cartella.Exists("card/5.mp3"));
+}
+
+TEST_F(RecordVerb, AFailedCopyIsToldAndIsStatus1) {
+  std::filesystem::remove(k.Host("music/a.mp3"));
+  const auto run = k.EseguiJson({"record", "Hall", k.Host("card")});
+  EXPECT_EQ(run.Stato, 1);
+  EXPECT_EQ(run.Oggetti().at(0)["status"], 1);
+  EXPECT_EQ(run.Box().at(0)["title"], "Copy stopped");
+  EXPECT_TRUE(run.Box().at(0)["text"].get<std::string>().ends_with(k.Host("music/a.mp3")));
+  EXPECT_TRUE(k.Cartella.Exists("card/Config.txt")) << "the routine itself went on";
+}
+
+TEST_F(RecordVerb, ADriveOfDrivesIniIsACard) {
+  k.Cartella.Write("program/Drives.ini", "[Removable]\r\nE=" + k.Host("card") + "\r\n");
+  for (const char* card : {"E:", "e:\\"}) {
+    const auto run = k.EseguiJson({"record", "Hall", card});
+    EXPECT_EQ(run.Stato, 0) << card << run.Errori;
+    EXPECT_TRUE(k.Cartella.Exists("card/5.mp3"));
+  }
+}
+
+TEST_F(RecordVerb, ForPeopleItSaysWhatItDid) {
+  const auto run = k.Esegui({"record", "Hall", k.Host("card")});
+  EXPECT_EQ(run.Stato, 0);
+  EXPECT_TRUE(run.Uscita.starts_with(k.Host("card") + ": 4 files, ")) << run.Uscita;
+}
+
+TEST(Mp3Verb, AnalysesFilesInOrderFromWordsOrStandardInput) {
+  const Compagno k;
+  k.ScriviMp3("music/a.mp3", 1, 100);
+  k.Cartella.Write("music/junk.mp3", "junk");
+  const auto run = k.EseguiJson(
+      {"mp3", k.Host("music/a.mp3"), k.Host("music/junk.mp3"), k.Host("music/gone.mp3")});
+  EXPECT_EQ(run.Stato, 0);
+  const auto objects = run.Oggetti();
+  ASSERT_EQ(objects.size(), 3U);
+  EXPECT_EQ(objects[0], (json{{"File", k.Host("music/a.mp3")},
+                              {"Valid", true},
+                              {"Version", 3},
+                              {"Layer", 3},
+                              {"Bitrate", 128000},
+                              {"SampleRate", 44100},
+                              {"Channels", 2},
+                              {"ChannelMode", 1},
+                              {"Emphasis", 0},
+                              {"IsVbr", false},
+                              {"HasId3v1", false},
+                              {"HasId3v2", false},
+                              {"Private", false},
+                              {"Original", true},
+                              {"Frames", 100},
+                              {"FileBytes", 41699},
+                              {"Duration", 3},
+                              {"HeaderOffset", 0},
+                              {"GoodPlaylist", true},
+                              {"GoodInput", true},
+                              {"Labels",
+                               {"MPEG 1 Layer 3", "Bitrate: 128kbit (CBR)",
+                                "44100 - 2 Ch (Joint Stereo)", "00.00.03  41 Kb"}}}));
+  EXPECT_EQ(objects[1]["Valid"], false);
+  EXPECT_EQ(objects[1]["Labels"], (json{"", "", "", ""}));
+  EXPECT_EQ(objects[2]["Valid"], false);
+  EXPECT_FALSE(k.Cartella.Exists("music/gone.mp3")) << "a missing file isn't made";
+
+  const auto piped =
+      k.EseguiJson({"mp3", "-"}, k.Host("music/a.mp3") + "\r\n\n" + k.Host("music/junk.mp3"));
+  ASSERT_EQ(piped.Oggetti().size(), 2U);
+  EXPECT_EQ(piped.Oggetti()[0], objects[0]);
+}
+
+TEST(Mp3Verb, ANameThatCannotBeTakenIsToldAndIsStatus1) {
+  const Compagno k;
+  const auto run = k.EseguiJson({"mp3", k.Host("a|b.mp3"), "\xFF.mp3"});
+  EXPECT_EQ(run.Stato, 1);
+  EXPECT_EQ(run.Oggetti().size(), 2U);
+  EXPECT_EQ(run.Box().size(), 2U);
+}
+
+TEST(Mp3Verb, NeedsNoProgramFolder) {
+  const Compagno k;
+  std::filesystem::remove_all(k.Host("program"));
+  EXPECT_EQ(k.EseguiJson({"mp3", "x.mp3"}).Stato, 0);
+  EXPECT_FALSE(k.Cartella.Exists("program"));
+}
+
+}  // namespace
+}  // namespace kvr5

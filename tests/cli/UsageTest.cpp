@@ -1,0 +1,96 @@
+#include <gtest/gtest.h>
+
+#include "cli/Compagno.h"
+
+namespace kvr5 {
+namespace {
+
+using test::Compagno;
+
+TEST(Usage, HelpGoesToStandardOutputWithStatus0) {
+  const Compagno k;
+  const auto run = k.Esegui({"--help"});
+  EXPECT_EQ(run.Stato, 0);
+  for (const char* verb : {"mp3", "new", "projects", "show", "config", "inputs", "record"}) {
+    EXPECT_NE(run.Uscita.find(verb), std::string::npos) << verb;
+    const auto help = k.Esegui({verb, "--help"});
+    EXPECT_EQ(help.Stato, 0) << verb;
+    EXPECT_EQ(help.Errori, "") << verb;
+    EXPECT_NE(help.Uscita.find(std::string("usage: kvr5card [OPTION...] ") + verb),
+              std::string::npos);
+  }
+}
+
+TEST(Usage, TheVersionIsTheProjects) {
+  const auto run = Compagno().Esegui({"--version"});
+  EXPECT_EQ(run.Stato, 0);
+  EXPECT_EQ(run.Uscita, "kvr5card " KVR5_VERSION "\n");
+}
+
+TEST(Usage, WrongWordsAreStatus2WithHelpOnStandardError) {
+  const Compagno k;
+  const std::vector<std::vector<std::string>> wrong = {
+      {},
+      {"dance"},
+      {"--sing", "projects"},
+      {"--yes", "--no", "projects"},
+      {"--lang"},
+      {"mp3"},
+      {"new", "Hall"},
+      {"new", "Hall", "--mode", "3"},
+      {"new", "Hall", "--mode"},
+      {"new", "--mode", "1"},
+      {"new", "a", "b", "--mode", "1"},
+      {"projects", "x"},
+      {"show"},
+      {"config", "Hall"},
+      {"config", "Hall", "put"},
+      {"config", "Hall", "set"},
+      {"config", "Hall", "set", "LOUT"},
+      {"inputs", "Hall"},
+      {"inputs", "Hall", "set", "1"},
+      {"inputs", "Hall", "set", "256", "a.mp3"},
+      {"inputs", "Hall", "clear", "IN9"},
+      {"record", "Hall"},
+  };
+  k.Esegui({"new", "Hall", "--mode", "1"});
+  for (const auto& words : wrong) {
+    const auto run = k.Esegui(words);
+    EXPECT_EQ(run.Stato, 2) << testing::PrintToString(words);
+    EXPECT_EQ(run.Uscita, "");
+    EXPECT_NE(run.Errori.find("usage:"), std::string::npos) << run.Errori;
+  }
+}
+
+TEST(Usage, ALanguageThatIsNotThereIsStatus3) {
+  EXPECT_EQ(Compagno().Esegui({"--lang", "Klingon", "projects"}).Stato, 3);
+}
+
+TEST(Usage, TheLanguageOfTheWordsCanBeChosen) {
+  const Compagno k;
+  k.Esegui({"new", "Hall", "--mode", "1"});
+  const auto run = k.EseguiJson({"--lang", "Italiano", "new", "Hall", "--mode", "1"});
+  EXPECT_EQ(run.Stato, 1);
+  EXPECT_EQ(run.Box().at(0)["title"], "Nome già in uso");
+}
+
+TEST(Usage, AProgramFolderWithoutSettingsGetsThemWithItsWarning) {
+  const Compagno k;
+  std::filesystem::remove(k.Cartella.Host() / "program/KVR5Software.ini");
+  const auto run = k.EseguiJson({"projects"});
+  EXPECT_EQ(run.Stato, 0);
+  EXPECT_EQ(run.Box().at(0)["box"], "warning");
+  EXPECT_EQ(run.Box().at(0)["text"], "Unable to find configuration file.File will be created");
+  EXPECT_TRUE(k.Cartella.Exists("program/KVR5Software.ini"));
+}
+
+TEST(Usage, WithoutAnyLanguageFileTheFatalBoxIsStatus3) {
+  const Compagno k;
+  std::filesystem::remove_all(k.Cartella.Host() / "program/Language");
+  const auto run = k.EseguiJson({"projects"});
+  EXPECT_EQ(run.Stato, 3);
+  EXPECT_EQ(run.Box().at(0)["title"], "Language file not found");
+}
+
+}  // namespace
+}  // namespace kvr5
