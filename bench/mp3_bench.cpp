@@ -25,12 +25,7 @@
 #include <vector>
 
 #include "mp3/modMp3Infos.h"
-
-#ifdef KVR5_BENCH_STANDIN
-#include "mp3/PosixFiles.h"
-#else
 #include "platform/HostFileSystem.h"
-#endif
 #ifdef KVR5_BENCH_TAGLIB
 #include <fileref.h>
 #include <mpegfile.h>
@@ -198,17 +193,12 @@ void Run(const fs::path& folder) {
   const std::vector<std::string> paths = FilesOf(folder);
   std::vector<std::string> systemPaths;
   systemPaths.reserve(paths.size());
-#ifdef KVR5_BENCH_STANDIN
-  test::PosixFiles files;
-  for (const auto& path : paths) systemPaths.push_back(test::PosixFiles::FromHost(path));
-#else
   PathMap map;
   HostFileSystem files(map);
   for (const auto& path : paths) {
     const auto mapped = PathMap::FromHost(path);
     systemPaths.push_back(mapped ? mapped.Value() : std::string());
   }
-#endif
   modMp3Infos reader(files);
   std::vector<Contender> contenders;
   contenders.push_back(
