@@ -46,6 +46,13 @@ void Print(std::FILE* stream, const std::string& text) {
   std::fputs(text.c_str(), stream);
 }
 
+/// Wrong usage: what is wrong, and the help page, which for programs is part of the message.
+int Complain(bool json, const std::string& complaint) {
+  Output output(json);
+  output.Say(complaint + (json ? "\n" : "\n\n") + HelpPage());
+  return kUsage;
+}
+
 int RunVerb(const Verb& verb, const Options& options) {
   if (!options.Arguments.empty() && options.Arguments.front() == "--help") {
     Print(stdout, UsageOf(verb) + "\n" + std::string(verb.Help) + "\n");
@@ -54,7 +61,7 @@ int RunVerb(const Verb& verb, const Options& options) {
   Session session(options);
   if (verb.NeedsProgram && !session.Start()) return kMissing;
   const int status = verb.Run(session, options.Arguments);
-  if (status == kUsage) Print(stderr, UsageOf(verb) + "\n" + std::string(verb.Help) + "\n");
+  if (status == kUsage) session.Out().Say(UsageOf(verb) + "\n" + std::string(verb.Help));
   return status;
 }
 
@@ -64,8 +71,8 @@ int Run(const std::vector<std::string>& arguments) {
   std::string complaint;
   const auto options = ParseOptions(arguments, complaint);
   if (!options) {
-    Print(stderr, "kvr5card: " + complaint + "\n" + HelpPage());
-    return kUsage;
+    const bool json = std::find(arguments.begin(), arguments.end(), "--json") != arguments.end();
+    return Complain(json, complaint);
   }
   if (options->Version) {
     Print(stdout, "kvr5card " KVR5_VERSION "\n");
@@ -79,8 +86,7 @@ int Run(const std::vector<std::string>& arguments) {
   const auto verb = std::find_if(verbs.begin(), verbs.end(),
                                  [&](const Verb& each) { return each.Name == options->Verb; });
   if (verb == verbs.end()) {
-    Print(stderr, "kvr5card: unknown verb " + options->Verb + "\n" + HelpPage());
-    return kUsage;
+    return Complain(options->Json, "unknown verb " + options->Verb);
   }
   return RunVerb(*verb, *options);
 }

@@ -1,5 +1,8 @@
 #include "cli/Interrupt.h"
 
+#include <signal.h>
+
+#include <array>
 #include <csignal>
 
 namespace kvr5::cli {
@@ -11,21 +14,33 @@ void OnSignal(int /*signal*/) {
   g_pressed = 1;
 }
 
+/// What asks a program to stop: Ctrl-C, the end of the terminal, a shutdown.
+constexpr std::array kSignals{SIGINT, SIGTERM, SIGHUP};
+std::array<struct sigaction, kSignals.size()> g_before{};
+
 }  // namespace
 
 Interrupt::Interrupt() {
   g_pressed = 0;
-  std::signal(SIGINT, OnSignal);
+  struct sigaction cancel {};
+  cancel.sa_handler = OnSignal;
+  cancel.sa_flags = SA_RESTART;
+  for (std::size_t i = 0; i < kSignals.size(); ++i) {
+    sigaction(kSignals[i], nullptr, &g_before[i]);
+    if (g_before[i].sa_handler != SIG_IGN) sigaction(kSignals[i], &cancel, nullptr);
+  }
 }
 
 Interrupt::~Interrupt() {
-  std::signal(SIGINT, SIG_DFL);
+  for (std::size_t i = 0; i < kSignals.size(); ++i) {
+    sigaction(kSignals[i], &g_before[i], nullptr);
+  }
 }
 
 bool Interrupt::Pressed() {
-  const bool pressed = g_pressed != 0;
+  if (g_pressed == 0) return false;  // a press from now on is for the next call
   g_pressed = 0;
-  return pressed;
+  return true;
 }
 
 }  // namespace kvr5::cli

@@ -2,8 +2,8 @@
 
 namespace kvr5::cli {
 
-/// Ctrl-C as a cancel button, for as long as one stands; before and after it ends the process as
-/// usual.
+/// Ctrl-C (and a request to end) as a cancel button, for as long as one stands; before and after it
+/// does what it did. One at a time. A signal that was ignored stays ignored.
 class Interrupt {
  public:
   Interrupt();

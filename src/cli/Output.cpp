@@ -15,6 +15,7 @@ std::string ForTerminal(std::string_view text) {
 void Put(std::FILE* stream, std::string line) {
   line += '\n';
   std::fwrite(line.data(), 1, line.size(), stream);
+  std::fflush(stream);  // a line is told when it is true, also into a pipe
 }
 
 std::string Dump(const Json& object) {

@@ -50,6 +50,7 @@ Session::Session(const Options& options)
     const auto text = ReadWhole(files_, AggiungiBarra(context_->CartellaProgramma) + "Drives.ini");
     return text ? text.Value() : std::string();
   });
+  drives_->List();  // binds the letters, so that every path may begin with one
 }
 
 std::vector<Drive> Session::ListDrives() {
@@ -58,11 +59,15 @@ std::vector<Drive> Session::ListDrives() {
 
 bool Session::Start() {
   auto& context = *context_;
+  if (!FolderExists(files_, context.CartellaProgramma)) {
+    output_.Say(options_.Program + ": there is no such folder");
+    return false;
+  }
   if (options_.Language.empty()) {
     AvviaSenzaSchermate(context);
   } else {
     std::string name = options_.Language;
-    if (!name.ends_with(".lan")) name += ".lan";
+    if (TogliEstensione(name).empty()) name += ".lan";
     context.Stato.FileLingua = AggiungiBarra(context.CartellaProgramma) + "Language\\" + name;
     if (!FileExists(files_, context.Stato.FileLingua)) {
       output_.Say("there is no language " + options_.Language);

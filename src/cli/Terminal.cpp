@@ -7,8 +7,9 @@
 
 #include "cli/Interrupt.h"
 #include "cli/Status.h"
-#include "core/Aiuti.h"
+#include "core/Lingua.h"
 #include "core/ParoleCopia.h"
+#include "platform/Fold.h"
 
 namespace kvr5::cli {
 namespace {
@@ -40,11 +41,11 @@ std::string_view Word(Risposta answer) {
   }
 }
 
-std::string CopyLine(const CopyState& state, double seconds) {
+std::string CopyLine(const std::string& operation, const CopyState& state, double seconds) {
   constexpr double kMegabyte = 1e6;
   const auto done = static_cast<double>(state.BytesDone);
   const auto total = static_cast<double>(state.BytesTotal);
-  std::string text = EstraiNomeFile(state.File) + "  ";
+  std::string text = operation + "  ";
   if (total > 0) text += std::to_string(static_cast<int>(done / total * 100)) + "%  ";
   text += std::to_string(state.FileNumber) + "/" + std::to_string(state.FileCount);
   if (seconds > 0.5 && done > 0) {
@@ -95,13 +96,13 @@ Risposta TerminalDialogs::Ask(std::string_view title, std::string_view text, boo
   if (answer_ != FixedAnswer::None) {
     answer = answer_ == FixedAnswer::Yes ? Risposta::Si : Risposta::No;
     output_.Box("question", title, text, Word(answer));
-  } else if (isatty(STDIN_FILENO) == 1 && isatty(STDERR_FILENO) == 1 && !output_.IsJson()) {
+  } else if (isatty(STDIN_FILENO) == 1 && isatty(STDERR_FILENO) == 1) {
     output_.Box("question", title, text, "");
     std::cerr << (withCancel ? "[y/n/c] " : "[y/n] ") << std::flush;
     std::string typed;
     std::getline(std::cin, typed);
-    if (typed == "y" || typed == "Y") answer = Risposta::Si;
-    if (typed == "n" || typed == "N") answer = Risposta::No;
+    if (EqualFold(typed, "y") || EqualFold(typed, "yes")) answer = Risposta::Si;
+    if (EqualFold(typed, "n") || EqualFold(typed, "no")) answer = Risposta::No;
   } else {
     output_.Box("question", title, text, Word(answer));
   }
@@ -115,7 +116,9 @@ void TerminalEvents::LasciaCorrere() {
 bool TerminalCopy::Progress(const CopyState& state) {
   if (state.BytesDone == 0 && state.FileNumber <= 1) start_ = Clock::now();
   const std::chrono::duration<double> elapsed = Clock::now() - start_;
-  line_.Show(CopyLine(state, elapsed.count()));
+  const std::string operation =
+      context_ == nullptr ? "" : TestoLinguaO(*context_, "0130001", "Copying files");
+  line_.Show(CopyLine(operation, state, elapsed.count()));
   if (state.BytesTotal > 0 && state.BytesDone == state.BytesTotal) line_.Clear();
   return !Interrupt::Pressed();
 }

@@ -7,8 +7,8 @@
 
 namespace kvr5 {
 
-/// The text with as many "0" in front as it is short of `lunghezza` characters; a longer one as
-/// it is.
+/// The text with as many "0" in front as it is short of `lunghezza`; a longer one as it is. For
+/// digits and keys: a character is a byte here.
 std::string RiempiZeri(std::string_view testo, std::size_t lunghezza);
 
 /// The path ending in a backslash; "" gives "\".

@@ -17,6 +17,15 @@ std::vector<std::string> Split(std::string_view list) {
   return parts;
 }
 
+/// Lists that don't belong together, as a "|" inside a path makes them, are a failed copy: it is
+/// told, since nothing at all is copied.
+CopyOutcome RefuseLists(Contesto& contesto, std::string_view sources) {
+  const auto parts = Split(sources);
+  contesto.FinestraCopia.Failed(
+      {parts.empty() ? std::string() : parts.front(), true, Error(errors::BadFileName)});
+  return {errors::BadFileName, 0, 0};
+}
+
 }  // namespace
 
 std::vector<CopyPair> CoppieDaListe(std::string_view sorgente, std::string_view destinazione) {
@@ -33,8 +42,10 @@ std::vector<CopyPair> CoppieDaListe(std::string_view sorgente, std::string_view 
 
 CopyOutcome CopiaFileShell(Contesto& contesto, std::string_view sorgente,
                            std::string_view destinazione) {
-  const CopyOutcome outcome =
-      ShellCopy(contesto.Files, CoppieDaListe(sorgente, destinazione), contesto.FinestraCopia);
+  const auto pairs = CoppieDaListe(sorgente, destinazione);
+  const CopyOutcome outcome = pairs.empty()
+                                  ? RefuseLists(contesto, sorgente)
+                                  : ShellCopy(contesto.Files, pairs, contesto.FinestraCopia);
   contesto.Messaggi.LasciaCorrere();
   if (outcome.Result == errors::Cancelled) contesto.Stato.AnnullatoDaUtente = true;
   return outcome;

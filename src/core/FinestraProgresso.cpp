@@ -46,7 +46,7 @@ void FinestraProgresso::Step(std::int32_t numeroFile, bool incrementa) {
   contesto_.Messaggi.LasciaCorrere();
   if (ValoreMassimo != 0) {
     const auto percent =
-        static_cast<int>(static_cast<double>(ValoreCorrente) / ValoreMassimo * 100);
+        static_cast<std::int64_t>(static_cast<double>(ValoreCorrente) / ValoreMassimo * 100);
     percento_ = std::to_string(percent) + "%";
   }
   if (numeroFile < 1) {
@@ -101,6 +101,7 @@ void FinestraProgresso::Scarica() {
 }
 
 void FinestraProgresso::Annulla() {
+  Carica();  // a load clears the flag, so it comes first
   contesto_.Stato.AnnullatoDaUtente = true;
   Operazione(TestoLingua(contesto_, "70008"));  // this key alone has no leading zeros
   contesto_.Messaggi.LasciaCorrere();

@@ -2,7 +2,6 @@
 
 #include "core/Aiuti.h"
 #include "core/Registro.h"
-#include "platform/FileOps.h"
 #include "platform/Fold.h"
 #include "platform/IniFile.h"
 #include "platform/Path.h"
@@ -25,15 +24,21 @@ void Warn(Contesto& contesto, const std::string& text) {
       {"Configuration file not found", text, Icona::Avviso, Pulsanti::Ok, Risposta::Ok});
 }
 
+/// A hidden file is one too: nothing is made or added to in its place.
+bool IsThere(const Contesto& contesto, std::string_view file) {
+  const auto info = contesto.Files.Info(file);
+  return info && !info.Value().IsFolder;
+}
+
 /// Makes the file where it is missing; where that can't be done the program ends.
 void EnsureFile(Contesto& contesto, std::string_view file) {
-  if (FileExists(contesto.Files, file)) return;
+  if (IsThere(contesto, file)) return;
   Warn(contesto, "Unable to find configuration file.File will be created");
   if (contesto.Stato.DebugAbilitato) {
     ScriviLog(contesto, "Read file " + std::string(file) + ": File non found.File will be crated");
   }
   Ignora(MakeEmptySettings(contesto, file));  // what counts is whether the file is there now
-  if (FileExists(contesto.Files, file)) return;
+  if (IsThere(contesto, file)) return;
   Warn(contesto, "Unable to read configuration file.Program will be ended");
   contesto.Programma.Termina(MotivoFine::ImpostazioniNonCreabili);
 }
@@ -76,7 +81,7 @@ std::string LeggiIniSemplice(Contesto& contesto, std::string_view file, std::str
 
 void ScriviParametroIni(Contesto& contesto, std::string_view file, std::string_view sezione,
                         std::string_view chiave, std::string_view valore) {
-  if (FileExists(contesto.Files, file)) {
+  if (IsThere(contesto, file)) {
     IniFile ini(contesto.Files, std::string(file), PaginaDelFile(contesto, file));
     contesto.Errore.Record(ini.Write(sezione, chiave, valore));
   } else if (contesto.Stato.DebugAbilitato) {

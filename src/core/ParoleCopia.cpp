@@ -32,6 +32,8 @@ Words WordsFor(const CopyFailure& failure) {
       }
       break;
     case errors::BadFileName:
+      if (failure.Source)
+        return {"0130006", "This file isn't where it was. Look for it, then repeat."};
       return {"0130008", "A card can't hold a file of this name. Rename it, then repeat."};
     default:
       break;

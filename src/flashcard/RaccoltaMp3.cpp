@@ -2,6 +2,7 @@
 
 #include "core/Aiuti.h"
 #include "platform/FileOps.h"
+#include "platform/db/Walk.h"
 #include "projects/CartellaProgetto.h"
 
 namespace kvr5 {
@@ -10,6 +11,8 @@ namespace {
 EsitoPassata CollectRow(Contesto& context, Passata pass, const Recordset& rows, ListaCopia& list) {
   const std::string alias = rows.Text("Alias");
   if (alias.empty()) return {};
+  // Every file sits in the card's root; a name that leads elsewhere is no alias.
+  if (alias.find('\\') != std::string::npos) return {false, alias};
   const std::string target = AggiungiBarra(context.Stato.PercorsoMemoryCard) + alias;
   const std::string copy = FileDelProgetto(context, alias);
   if (FileExists(context.Files, copy)) {
@@ -32,14 +35,17 @@ EsitoPassata CollectRow(Contesto& context, Passata pass, const Recordset& rows, 
 
 }  // namespace
 
-EsitoPassata RaccogliMp3(Contesto& contesto, Passata passata, Recordset& righe, ListaCopia& lista) {
-  if (!righe.IsOpen() || righe.RecordCount() < 1) return {};
-  for (Ignora(righe.MoveFirst()); !righe.Eof(); Ignora(righe.MoveNext())) {
-    if (auto outcome = CollectRow(contesto, passata, righe, lista); !outcome.Riuscita) {
-      return outcome;
-    }
-  }
-  return {};
+EsitoPassata RaccogliMp3(Contesto& contesto, Passata passata, Recordset& righe, ListaCopia& lista,
+                         std::string_view database) {
+  if (!righe.IsOpen()) return {};
+  EsitoPassata outcome;
+  const Error error = WalkRows(righe, [&] {
+    outcome = CollectRow(contesto, passata, righe, lista);
+    return outcome.Riuscita;
+  });
+  // A database that can't be read to its end would leave files off the card in silence.
+  if (error && outcome.Riuscita) outcome = {false, std::string(database)};
+  return outcome;
 }
 
 }  // namespace kvr5

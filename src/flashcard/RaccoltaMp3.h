@@ -1,7 +1,7 @@
 #pragma once
 
-#include <functional>
 #include <string>
+#include <string_view>
 
 #include "core/Contesto.h"
 #include "flashcard/ListaCopia.h"
@@ -26,7 +26,9 @@ struct EsitoPassata {
 /// A closed or empty recordset is passed over. A row without an alias is passed over. A source
 /// that is listed already is dropped with its destination, so that a file in two rows reaches the
 /// card under the alias of the first; in the input pass that is a failure. The pass stops at the
-/// first file that can't be had.
-EsitoPassata RaccogliMp3(Contesto& contesto, Passata passata, Recordset& righe, ListaCopia& lista);
+/// first file that can't be had, at an alias that isn't a plain name, and where the database, whose
+/// name is `database`, can't be read on.
+EsitoPassata RaccogliMp3(Contesto& contesto, Passata passata, Recordset& righe, ListaCopia& lista,
+                         std::string_view database);
 
 }  // namespace kvr5

@@ -36,6 +36,7 @@ class Recording {
   void Begin();
   void Stage(const char* textKey);
   void CopyDatabases();
+  void RollBack(const std::string& name);
   void CopyConfiguration();
   void CopyLists();
   void CopyReports();
@@ -107,7 +108,9 @@ bool Recording::CardIsWritable() {
   if (error.Record(file.Err())) {
     error.Record(file.Value()->Write("test\r\n"));
     error.Record(file.Value()->Close());
-    context_.Messaggi.LasciaCorrere();
+  }
+  context_.Messaggi.LasciaCorrere();
+  if (file) {
     Ignora(context_.Files.Delete(path));  // also where writing failed: no stray is left
     context_.Messaggi.LasciaCorrere();
   }
@@ -131,8 +134,19 @@ void Recording::Stage(const char* textKey) {
 void Recording::CopyDatabases() {  // stage 1
   progress_.Operazione(TestoLingua(context_, "0070014"));
   inputs_.Chiudi();  // a copy of a closed file
-  for (const char* name : {"inputcfg.mdb", "playlist.mdb", "scheduler.mdb"}) CopyIfThere(name);
+  for (const char* name : {"inputcfg.mdb", "playlist.mdb", "scheduler.mdb"}) {
+    RollBack(name);
+    CopyIfThere(name);
+  }
   inputs_.Riapri();
+}
+
+/// A crash may have left a database half changed with its journal beside it; opening puts it back,
+/// so that the card doesn't get the half.
+void Recording::RollBack(const std::string& name) {
+  if (!FileExists(context_.Files, Source(name + "-journal"))) return;
+  Connection connection(context_.Files);
+  Ignora(connection.Open(Source(name)));
 }
 
 void Recording::CopyConfiguration() {  // stage 2
@@ -173,7 +187,8 @@ bool Recording::CollectInputs() {
     list_.Aggiungi(AggiungiBarra(context_.CartellaProgramma) + "Analyzer.mp3",
                    Card("Analyzer.mp3"));
   }
-  const auto pass = RaccogliMp3(context_, Passata::Ingressi, inputs_.Cursore(), list_);
+  const auto pass =
+      RaccogliMp3(context_, Passata::Ingressi, inputs_.Cursore(), list_, "inputcfg.mdb");
   if (!pass.Riuscita) TellMissing(pass.FileMancante);
   return pass.Riuscita;
 }
@@ -184,7 +199,7 @@ bool Recording::CollectFrom(Passata pass, const char* database) {
   connection_.Close();
   Ignora(connection_.Open(Source(database)));  // a missing database skips its pass
   Ignora(rows_.Open(connection_, kQuery));
-  const auto result = RaccogliMp3(context_, pass, rows_, list_);
+  const auto result = RaccogliMp3(context_, pass, rows_, list_, database);
   if (!result.Riuscita) TellMissing(PercorsoPerPersone(context_, result.FileMancante));
   return result.Riuscita;
 }

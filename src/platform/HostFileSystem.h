@@ -9,6 +9,10 @@
 
 namespace kvr5 {
 
+namespace host {
+struct Place;
+}
+
 /// The attributes that a FAT volume keeps with a file or folder.
 struct FatAttributes {
   bool Hidden = false;
@@ -50,10 +54,14 @@ class HostFileSystem : public FileSystem {
  private:
   /// The path in the host's form as it is given, without a look at the disk.
   Result<std::string> Map(std::string_view path) const;
+  /// Where the path leads on the disk, be it to nothing.
+  Result<host::Place> Find(std::string_view path) const;
   /// The error for what the host answered about `path`; a missing one is 53, 76 or 71.
   Error Failure(std::string_view path, int code) const;
   Result<std::unique_ptr<File>> OpenToRead(std::string_view path) const;
-  Result<std::unique_ptr<File>> OpenToWrite(std::string_view path, OpenMode mode) const;
+  Result<std::unique_ptr<File>> OpenToMake(std::string_view path) const;
+  /// `how` is what open(2) is told besides: to empty the file or to append to it.
+  Result<std::unique_ptr<File>> OpenToWrite(std::string_view path, int how) const;
 
   const PathMap& paths_;
   AttributeReader attributes_;

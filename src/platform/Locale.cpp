@@ -16,7 +16,7 @@ Locale Locale::FromEnvironment(const std::function<std::string(const std::string
   };
   const LocaleRow& numbers = FindLocale(chosen("LC_NUMERIC"));
   Locale locale;
-  locale.Lcid = FindLocale(chosen("LC_MESSAGES")).Lcid;
+  locale.Lcid = LcidOf(chosen("LC_MESSAGES"));
   locale.AnsiCodePage = AnsiCodePageOf(chosen("LC_CTYPE"));
   locale.DecimalMark = numbers.DecimalMark;
   locale.GroupMark = numbers.GroupMark;

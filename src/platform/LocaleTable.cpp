@@ -145,6 +145,15 @@ const LocaleRow& FindLocale(std::string_view name) {
   return kRows.front();
 }
 
+std::uint32_t LcidOf(std::string_view name) {
+  constexpr std::uint32_t kUnspecified = 0x1000;
+  const LocaleRow& row = FindLocale(name);
+  const Name parts = Split(name);
+  const bool known = row.Language == parts.Language || row.Language == parts.Modified;
+  const bool elsewhere = known && !parts.Country.empty() && parts.Country != row.Country;
+  return elsewhere ? kUnspecified : row.Lcid;
+}
+
 int AnsiCodePageOf(std::string_view name) {
   const Name parts = Split(name);
   for (const std::string& language : {parts.Modified, parts.Language}) {

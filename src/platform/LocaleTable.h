@@ -19,6 +19,10 @@ struct LocaleRow {
 /// English (US).
 const LocaleRow& FindLocale(std::string_view name);
 
+/// The locale identifier of a locale's name. A known language in an unknown country has the number
+/// that stands for no country of its own: it must not pass for the language's home.
+std::uint32_t LcidOf(std::string_view name);
+
 /// The single-byte code page in which texts of a locale's language are written.
 int AnsiCodePageOf(std::string_view name);
 

@@ -11,7 +11,8 @@ namespace kvr5 {
 
 /// One source and where it goes. A source whose last component holds `*` or `?` takes every file
 /// that matches (with `*.*` also the subfolders), and the destination is a folder; so is a
-/// destination that ends in a backslash or names an existing folder.
+/// destination that ends in a backslash; any other is the file's new name. A source that names a
+/// folder takes it with all that is in it. Folders that the destination lacks are made.
 struct CopyPair {
   std::string Source;
   std::string Destination;
@@ -19,8 +20,8 @@ struct CopyPair {
 
 /// How far a copy has come.
 struct CopyState {
-  std::string File;            ///< system path of the source at work
-  std::size_t FileNumber = 0;  ///< from 1
+  std::string File;            ///< system path of the source at work; while counting, a folder
+  std::size_t FileNumber = 0;  ///< from 1; 0 while the files of folders are counted
   std::size_t FileCount = 0;
   std::uint64_t BytesDone = 0;
   std::uint64_t BytesTotal = 0;
@@ -29,8 +30,8 @@ struct CopyState {
 /// A failure that ended a copy.
 struct CopyFailure {
   std::string File;  ///< system path of the file at fault
-  bool Source =
-      false;  ///< the fault is at the source (missing, unreadable), not at the destination
+  /// The fault is at the source (missing, unreadable), not at the destination.
+  bool Source = false;
   Error Cause;
 };
 
@@ -38,8 +39,8 @@ struct CopyFailure {
 class CopyObserver {
  public:
   virtual ~CopyObserver() = default;
-  /// Called before the first piece and after each piece of 1 MiB or so; lets events run. False
-  /// cancels.
+  /// Called for each folder that is counted, before each file and after each piece of at most
+  /// 1 MiB; lets events run. False cancels.
   virtual bool Progress(const CopyState& state) = 0;
   /// Called once for the failure that ends the operation; returns when it was acknowledged.
   virtual void Failed(const CopyFailure& failure) = 0;
@@ -52,7 +53,8 @@ struct CopyOutcome {
   std::uint64_t BytesCopied = 0;
 };
 
-/// Copies pairs one after another, overwriting without a question.
+/// Copies pairs one after another, overwriting without a question, read-only files too. A copy has
+/// its source's time of change.
 ///
 /// A file is written under a temporary name beside its place, flushed, then renamed, in batches;
 /// so a cancel, a full card or one pulled out leaves no half file under a good name. Where the

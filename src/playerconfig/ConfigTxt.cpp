@@ -15,8 +15,10 @@ constexpr std::string_view kLoopKey = "MPLL";
 }  // namespace
 
 std::string LeggiChiaveConfig(Contesto& contesto, std::string_view chiave) {
-  return LeggiParametroIni(contesto, FileDelProgetto(contesto, "Config.txt"), "Config", chiave,
-                           chiave == "INVR" ? "0" : "");
+  const auto* parameter = TrovaParametro(chiave);
+  return LeggiParametroIni(
+      contesto, FileDelProgetto(contesto, "Config.txt"), "Config", chiave,
+      parameter != nullptr && parameter->Tipo == TipoParametro::Ponte ? "0" : "");
 }
 
 void ScriviChiaveConfig(Contesto& contesto, std::string_view chiave, std::string_view valore) {
@@ -32,8 +34,9 @@ ControlliHub::ControlliHub() {
 
 void ControlliHub::Leggi(Contesto& contesto) {
   for (const auto key : kHubKeys) {
-    auto& state = (*this)[key];
-    state = DalFile(*TrovaParametro(key), LeggiChiaveConfig(contesto, key), state, contesto.Luogo);
+    const auto& parameter = *TrovaParametro(key);
+    (*this)[key] = DalFile(parameter, LeggiChiaveConfig(contesto, key), StatoIniziale(parameter),
+                           contesto.Luogo);
   }
 }
 

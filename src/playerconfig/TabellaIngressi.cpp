@@ -2,6 +2,7 @@
 
 #include "core/Aiuti.h"
 #include "core/Registro.h"
+#include "platform/db/Walk.h"
 #include "playerconfig/CodiceIngressi.h"
 #include "projects/CartellaProgetto.h"
 
@@ -21,8 +22,8 @@ bool TabellaIngressi::SenzaIngressi(std::int16_t playerType, std::int16_t player
 
 void TabellaIngressi::Apri() {
   Chiudi();
-  Ignora(connessione_.Open(FileDelProgetto(contesto_, "inputcfg.mdb")));
-  Ignora(righe_.Open(connessione_, kAllRows));
+  percorso_ = FileDelProgetto(contesto_, "inputcfg.mdb");
+  Riapri();
 }
 
 void TabellaIngressi::Chiudi() {
@@ -32,27 +33,32 @@ void TabellaIngressi::Chiudi() {
 
 void TabellaIngressi::Riapri() {
   Chiudi();
-  Ignora(connessione_.Open(connessione_.Path()));
+  Ignora(connessione_.Open(percorso_));
   Ignora(righe_.Open(connessione_, kAllRows));
 }
 
 bool TabellaIngressi::Cerca(std::int16_t codice) {
   if (righe_.RecordCount() < 1) return false;
-  Ignora(righe_.MoveFirst());
-  Ignora(righe_.Find("Pos=" + std::to_string(codice)));
-  return !righe_.Eof();
+  // A search that fails leaves the cursor on some other row, which must not pass for the one
+  // that was asked for.
+  auto& error = contesto_.Errore;
+  return error.Record(righe_.MoveFirst()) &&
+         error.Record(righe_.Find("Pos=" + std::to_string(codice))) && !righe_.Eof();
 }
 
 void TabellaIngressi::Scrivi(std::int16_t codice, const std::string& fileName,
                              const std::string& cartella) {
   auto& error = contesto_.Errore;
-  if (!Cerca(codice) && !error.Record(righe_.AddNew())) return;
+  if (!Cerca(codice) && (error || !error.Record(righe_.AddNew()))) return;
   error.Record(righe_.Set("FileName", fileName));
   error.Record(righe_.Set("FilePath", AggiungiBarra(cartella)));
   error.Record(righe_.Set("Pos", std::int64_t{codice}));
   error.Record(righe_.Set("Alias", AliasIngresso(codice)));
   error.Record(righe_.Set("NPlaylist", std::int64_t{1}));
-  error.Record(righe_.Update());
+  if (error || !error.Record(righe_.Update())) {
+    righe_.CancelUpdate();
+    return;
+  }
   contesto_.Messaggi.LasciaCorrere();
   error.Record(righe_.Requery());
   error.Record(righe_.MoveLast());
@@ -82,12 +88,12 @@ void TabellaIngressi::AnnotaErrore(const std::string& fileName) {
 
 std::vector<RigaIngresso> TabellaIngressi::Righe() {
   std::vector<RigaIngresso> rows;
-  if (righe_.RecordCount() < 1) return rows;
   Ignora(righe_.Requery());
-  for (; !righe_.Eof(); Ignora(righe_.MoveNext())) {
+  Ignora(WalkRows(righe_, [&] {
     rows.push_back({righe_.Number("Pos"), righe_.Text("Alias"), righe_.Text("FileName"),
                     righe_.Text("FilePath")});
-  }
+    return true;
+  }));
   return rows;
 }
 

@@ -32,11 +32,12 @@ class TabellaIngressi {
   void Apri();
   /// Closes the recordset and then the connection.
   void Chiudi();
-  /// Opens the connection of before again, and the recordset on all rows.
+  /// Opens what Apri opened once more, and the recordset on all rows.
   void Riapri();
   bool Aperta() const { return righe_.IsOpen(); }
 
-  /// Goes to the row of a code; false (and at the end of the table) when it has none.
+  /// Goes to the row of a code; false when it has none or the search
+  /// failed, which is then the pending error.
   bool Cerca(std::int16_t codice);
   /// Assigns a file to a code: its row is overwritten, or a new one made. The row is searched
   /// first, since a save or a recording may have moved the cursor. A failure is the pending error
@@ -55,6 +56,7 @@ class TabellaIngressi {
   void AnnotaErrore(const std::string& fileName);
 
   Contesto& contesto_;
+  std::string percorso_;  // what the last Apri asked for
   Connection connessione_;
   Recordset righe_;
 };

@@ -77,10 +77,9 @@ StatoParametro DalFile(const Parametro& parametro, std::string_view testo,
     default:
       break;
   }
+  if (parametro.Tipo == Kind::Acceso) return {testo == "1" ? 1 : 0, {}};
   if (testo.empty()) return prima;
   switch (parametro.Tipo) {
-    case Kind::Acceso:
-      return {testo == "1" ? 1 : 0, {}};
     case Kind::Polarita:
       return {testo == "0" ? 0 : 1, {}};
     case Kind::Persistenza:

@@ -57,10 +57,11 @@ std::vector<std::string> ElencoProgetti(Contesto& contesto) {
   if (!entries) return names;
   for (const auto& entry : entries.Value()) {
     if (!entry.IsFolder) continue;
-    const std::string folder = AggiungiBarra(root + entry.Name);
+    const std::string path(Rifila(root + entry.Name));
+    const std::string folder = AggiungiBarra(path);
     if (FileExists(contesto.Files, folder + "config.txt") &&
         FileExists(contesto.Files, folder + "config.cfg")) {
-      names.push_back(entry.Name);
+      names.push_back(EstraiNomeFile(path));
     }
   }
   return names;

@@ -118,7 +118,7 @@ EsitoNuovo PreparaCartella(Contesto& contesto, const std::string& nome, bool sol
     return EsitoNuovo::CarattereVietato;
   }
   if (nome.empty()) {
-    contesto.Messaggi.ImpostaPuntatore(Puntatore::Normale);
+    if (!soloNome) contesto.Messaggi.ImpostaPuntatore(Puntatore::Normale);
     ShowInformation(contesto, "0030001", "9011010");
     return EsitoNuovo::NomeVuoto;
   }
@@ -127,7 +127,7 @@ EsitoNuovo PreparaCartella(Contesto& contesto, const std::string& nome, bool sol
   state.CartellaProgetto = AggiungiBarra(state.CartellaProgetti) + nome;
   if (FolderExists(contesto.Files, state.CartellaProgetto)) {
     ShowInformation(contesto, "0030010", "0030007");
-    contesto.Messaggi.ImpostaPuntatore(Puntatore::Normale);
+    if (!soloNome) contesto.Messaggi.ImpostaPuntatore(Puntatore::Normale);
     return EsitoNuovo::CartellaEsistente;
   }
   contesto.Errore.Clear();

@@ -40,7 +40,8 @@ ScritteWizard ScritteDelWizard(Contesto& contesto, std::int16_t playerMode);
 std::string DescrizioneKvr5(std::int16_t playerMode, const ScritteWizard& scritte);
 
 /// The checks of a name and the making of the folder, the same for the wizard and for the name
-/// dialog; with `soloNome` it ends before the folder is made.
+/// dialog; with `soloNome` it ends before the folder is made and
+/// leaves the pointer alone.
 EsitoNuovo PreparaCartella(Contesto& contesto, const std::string& nome, bool soloNome);
 
 /// Fills the folder of a new project of the model in PlayerType: the descriptor, the picture,

@@ -7,6 +7,7 @@
 #include "platform/Fold.h"
 #include "platform/db/Connection.h"
 #include "platform/db/Recordset.h"
+#include "platform/db/Walk.h"
 #include "projects/CartellaProgetto.h"
 
 namespace kvr5 {
@@ -37,9 +38,10 @@ std::vector<RigaProgetto> ReadList(Contesto& context, const std::string& databas
   Recordset rows;
   if (connection.Open(FileDelProgetto(context, database))) return result;
   Ignora(rows.Open(connection, query));
-  for (; rows.IsOpen() && !rows.Eof(); Ignora(rows.MoveNext())) {
+  Ignora(WalkRows(rows, [&] {
     result.push_back(ReadRow(context, database, rows));
-  }
+    return true;
+  }));
   rows.Close();
   if (head != nullptr) {
     Ignora(rows.Open(connection, "SELECT COUNT([ID]) AS Brani FROM [HEAD]"));

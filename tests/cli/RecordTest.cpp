@@ -74,6 +74,27 @@ TEST_F(RecordVerb, ADriveOfDrivesIniIsACard) {
   }
 }
 
+TEST_F(RecordVerb, ALetterThatIsNoRemovableDriveIsNoCard) {
+  for (const char* card : {"C:", "c:\\", "Z:", "", "a|b"}) {
+    const auto run = k.EseguiJson({"record", "Hall", card});
+    EXPECT_EQ(run.Stato, 1) << card;
+    EXPECT_EQ(run.Oggetti(),
+              (std::vector<json>{{{"card", card}, {"files", 0}, {"bytes", 0}, {"status", 1}}}));
+  }
+}
+
+TEST_F(RecordVerb, LettersOfDrivesServeEveryPath) {
+  k.Cartella.Write("program/Drives.ini", "[Removable]\r\nE=" + k.Host("stick") + "\r\n");
+  k.ScriviMp3("stick/a.mp3", 3);
+  EXPECT_EQ(k.EseguiJson({"mp3", "E:\\A.MP3"}).Oggetti().at(0)["Valid"], true);
+  EXPECT_EQ(k.EseguiJson({"inputs", "Hall", "set", "9", "E:\\a.mp3"}).Stato, 0);
+  EXPECT_EQ(k.EseguiJson({"inputs", "Hall", "list"}).Oggetti().at(1)["FilePath"],
+            k.Percorso("stick") + "\\")
+      << "stored from the root of the host";
+  std::filesystem::copy(k.Host("program/Projects/Hall"), k.Host("stick/Hall"));
+  EXPECT_EQ(k.EseguiJson({"show", "E:\\Hall"}).Stato, 0);
+}
+
 TEST_F(RecordVerb, ForPeopleItSaysWhatItDid) {
   const auto run = k.Esegui({"record", "Hall", k.Host("card")});
   EXPECT_EQ(run.Stato, 0);

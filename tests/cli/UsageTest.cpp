@@ -62,6 +62,25 @@ TEST(Usage, WrongWordsAreStatus2WithHelpOnStandardError) {
   }
 }
 
+TEST(Usage, ComplaintsAreObjectsForPrograms) {
+  const Compagno k;
+  for (const auto& words : std::vector<std::vector<std::string>>{
+           {"dance"}, {"--sing"}, {"mp3"}, {"new", "Hall", "--mode", "3"}}) {
+    const auto run = k.EseguiJson(words);
+    EXPECT_EQ(run.Stato, 2);
+    ASSERT_EQ(run.Box().size(), 1U);
+    EXPECT_NE(run.Box()[0]["text"].get<std::string>().find("usage:"), std::string::npos);
+  }
+}
+
+TEST(Usage, AProgramFolderThatIsNotThereIsNamedWithStatus3) {
+  const Compagno k;
+  const auto run = k.EseguiJson({"--program", k.Host("gone"), "projects"});
+  EXPECT_EQ(run.Stato, 3);
+  EXPECT_NE(run.Box().at(0)["text"].get<std::string>().find(k.Host("gone")), std::string::npos);
+  EXPECT_FALSE(k.Cartella.Exists("gone"));
+}
+
 TEST(Usage, ALanguageThatIsNotThereIsStatus3) {
   EXPECT_EQ(Compagno().Esegui({"--lang", "Klingon", "projects"}).Stato, 3);
 }

@@ -66,6 +66,24 @@ TEST(CopiaFileShell, AnEarlierCancelIsLeftForTheCaller) {
   EXPECT_TRUE(b.C.Stato.AnnullatoDaUtente);
 }
 
+TEST(CoppieDaListe, OneDestinationServesAllAndADoubledBarCountsOnce) {
+  const auto pairs = CoppieDaListe("a||b", "E:\\");
+  ASSERT_EQ(pairs.size(), 2U);
+  EXPECT_EQ(pairs[1].Source, "b");
+  EXPECT_EQ(pairs[1].Destination, "E:\\");
+}
+
+TEST(CopiaFileShell, ABarInsideAPathIsAFailedCopyThatIsTold) {
+  Banco b;
+  b.Cartella.Write("a.mp3", "one");
+  const auto outcome =
+      CopiaFileShell(b.C, "|" + b.Percorso("a.mp3") + "|C:\\x|y.mp3",
+                     "|" + b.Percorso("card/1.mp3") + "|" + b.Percorso("card/2.mp3"));
+  EXPECT_NE(outcome.Result, 0);
+  EXPECT_EQ(b.Copia.Guasti.size(), 1U);
+  EXPECT_TRUE(b.Nomi("card").empty());
+}
+
 TEST(CopiaFileShell, AFailureIsToldByTheCopyWindowAndLeavesNoPendingError) {
   Banco b;
   CopiaFileShell(b.C, b.Percorso("gone.mp3"), b.Percorso("card/1.mp3"));

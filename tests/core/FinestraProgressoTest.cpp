@@ -91,6 +91,62 @@ TEST_F(Progress, CancelRaisesTheFlagAndSaysTheSameTwice) {
   }
 }
 
+TEST_F(Progress, CancelOnAWindowThatWasNotLoadedIsNotLost) {
+  p.Annulla();
+  EXPECT_TRUE(b.C.Stato.AnnullatoDaUtente);
+}
+
+TEST_F(Progress, ShowingLoads) {
+  b.C.Stato.AnnullatoDaUtente = true;
+  p.Mostra();
+  EXPECT_TRUE(p.Visibile());
+  EXPECT_FALSE(b.C.Stato.AnnullatoDaUtente);
+  p.Nascondi();
+  EXPECT_FALSE(p.Visibile());
+  EXPECT_TRUE(p.Caricata()) << "a hidden window stays loaded";
+}
+
+TEST_F(Progress, AStepLetsEventsRunTwiceInsideTheBoundsAndNotAtAllBeyond) {
+  p.ValoreMassimo = 1;
+  p.Step(0, false);
+  EXPECT_EQ(b.Messaggi.Volte, 2);
+  p.Step(0, false);
+  EXPECT_EQ(b.Messaggi.Volte, 2);
+  p.IncrementaContatoreFile();
+  EXPECT_EQ(b.Messaggi.Volte, 3);
+  p.Annulla();
+  EXPECT_EQ(b.Messaggi.Volte, 4);
+}
+
+TEST_F(Progress, BelowTheMinimumTheBarStays) {
+  p.ValoreMinimo = 5;
+  p.ValoreMassimo = 10;
+  p.Progresso(4);
+  EXPECT_EQ(p.ValoreCorrente, 4);
+  EXPECT_EQ(p.LarghezzaBarra(), 0);
+  p.Progresso(5);
+  EXPECT_EQ(p.LarghezzaBarra(), 2940);
+}
+
+TEST_F(Progress, ACounterThatWasHiddenIsShownAgain) {
+  p.ValoreMassimo = 9;
+  p.Step(0, false);
+  EXPECT_FALSE(p.NumFileVisibile());
+  p.IncrementaContatoreFile();
+  EXPECT_TRUE(p.NumFileVisibile());
+  p.Step(0, false);
+  p.Step(2, false);
+  EXPECT_TRUE(p.NumFileVisibile());
+}
+
+TEST_F(Progress, AnExtremeRatioIsShownWithoutHarm) {
+  p.ValoreMinimo = std::numeric_limits<std::int32_t>::min();
+  p.ValoreMassimo = 1;
+  p.ValoreCorrente = std::numeric_limits<std::int32_t>::min();
+  p.Step(0, false);
+  EXPECT_EQ(p.TestoPercento(), "-214748364700%");
+}
+
 TEST_F(Progress, UnloadingGivesEverythingItsInitialValue) {
   p.Operazione("work");
   p.ValoreMassimo = 7;

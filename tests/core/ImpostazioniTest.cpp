@@ -163,6 +163,76 @@ TEST_F(Settings, ALogLineIsTheTimeABlankAndTheMessage) {
             "08:05:09 File: a.mp3\r\n");
 }
 
+TEST_F(Settings, AHiddenFileIsReadAndWrittenAndNotAddedTo) {
+  b.Cartella.Write(".hidden.ini", "[Config]\r\nKey=1\r\n");
+  const std::string file = b.Percorso(".hidden.ini");
+  EXPECT_EQ(LeggiParametroIni(b.C, file, "Config", "Key"), "1");
+  ScriviParametroIni(b.C, file, "Config", "Key", "2");
+  EXPECT_EQ(b.Cartella.Read(".hidden.ini"), "[Config]\r\nKey=2\r\n");
+}
+
+TEST_F(Settings, ReadingAnyMissingIniFileMakesIt) {
+  for (const char* name : {"Config.txt", "config.cfg", "Test.lan"}) {
+    EXPECT_EQ(LeggiParametroIni(b.C, b.Percorso(name), "a", "b", "x"), "x");
+    EXPECT_EQ(b.Cartella.Read(name), "[Config]\r\n");
+    EXPECT_EQ(b.Finestre.Prossimo().Titolo, "Configuration file not found");
+  }
+}
+
+TEST_F(Settings, TheFailureLinesOfTheStoreWouldSayWhatFailed) {
+  b.C.Stato.DebugAbilitato = true;  // no code of the program does this
+  LeggiParametroIni(b.C, b.Percorso("a.ini"), "s", "k");
+  b.Finestre.Prossimo();
+  ScriviParametroIni(b.C, b.Percorso("b.ini"), "s", "k", "v");
+  EXPECT_EQ(b.Cartella.Read("program/Logs/20061020.log"),
+            "08:05:09 Read file " + b.Percorso("a.ini") +
+                ": File non found.File will be crated\r\n08:05:09 Scrittura file " +
+                b.Percorso("b.ini") +
+                "Sezione [s] Parametro=k Valore=v : Errore lettura parametri - errore:file "
+                "inesistente\r\n");
+}
+
+TEST_F(Settings, EmptyOptionsTakeTheirDefaultsAndTheProjectsFolderIsMade) {
+  std::filesystem::remove_all(b.Cartella.Host() / "program/Projects");
+  Write("[Config]\r\nUseExternalPlayer=\r\n[Path]\r\nProjectsDir=\r\n");
+  LeggiOpzioniApplicazione(b.C);
+  EXPECT_EQ(Text(), "[Config]\r\nUseExternalPlayer=0\r\n[Path]\r\nProjectsDir=" +
+                        b.Percorso("program") + "\\Projects\r\n");
+  EXPECT_TRUE(b.Cartella.Exists("program/Projects"));
+}
+
+TEST_F(Settings, AProjectsFolderOf100CharactersComesBackCut) {
+  const std::string longPath = "C:\\" + std::string(120, 'a');
+  Write("[Path]\r\nProjectsDir=" + longPath + "\r\n");
+  LeggiOpzioniApplicazione(b.C);
+  EXPECT_EQ(b.C.Stato.CartellaProgetti, longPath.substr(0, 99));
+}
+
+TEST_F(Settings, AReadOnlyFileWithoutKeysLeavesNoProjectsFolderAndTheProgramGoesOn) {
+  Write("[Config]\r\n");
+  std::filesystem::permissions(b.Cartella.Host() / "program/KVR5Software.ini",
+                               std::filesystem::perms::owner_read);
+  LeggiOpzioniApplicazione(b.C);
+  EXPECT_EQ(b.C.Stato.CartellaProgetti, "");
+  EXPECT_EQ(Text(), "[Config]\r\n");
+}
+
+TEST_F(Settings, AFolderForTheLogThatCannotBeMadeIsAPendingError) {
+  b.Cartella.Write("program/Logs", "a file bears the name");
+  Write("[Config]\r\nEnableDebug=1\r\n");
+  InizializzaLog(b.C);
+  EXPECT_EQ(b.C.Errore.Last().Number(), errors::PathFileAccess);
+  EXPECT_FALSE(b.C.Stato.DebugAbilitato);
+}
+
+TEST_F(Settings, EachDayHasItsLogAndACharacterOutsideThePageIsAQuestionMark) {
+  ScriviLog(b.C, "日");
+  b.Ora.Ora.tm_mday = 21;
+  ScriviLog(b.C, "next day");
+  EXPECT_EQ(b.Cartella.Read("program/Logs/20061020.log"), "08:05:09 ?\r\n");
+  EXPECT_EQ(b.Cartella.Read("program/Logs/20061021.log"), "08:05:09 next day\r\n");
+}
+
 TEST_F(Settings, ALogThatCannotBeWrittenIsSilent) {
   b.Cartella.Write("program/Logs", "a file bears the name");
   ScriviLog(b.C, "lost");

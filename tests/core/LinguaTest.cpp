@@ -41,8 +41,15 @@ TEST_F(Language, WithoutItalianoLanTheLocale1040TakesEnglish) {
 TEST_F(Language, WithoutAnyTheProgramEndsInFixedWords) {
   Remove("Italiano.lan");
   Remove("English.lan");
-  EXPECT_THROW(Chosen(kItalian), test::FineDelProgramma);
+  try {
+    Chosen(kItalian);
+    FAIL() << "the program went on";
+  } catch (const test::FineDelProgramma& end) {
+    EXPECT_EQ(end.Motivo, MotivoFine::LinguaMancante);
+  }
+  EXPECT_EQ(b.C.Stato.LinguaUtente, kItalian);
   const auto box = b.Finestre.Prossimo();
+  EXPECT_EQ(box.Segno, Icona::Avviso);
   EXPECT_EQ(box.Titolo, "Language file not found");
   EXPECT_EQ(box.Testo,
             "Unable to locate the language file 'English.lan'\r\n"
@@ -53,6 +60,7 @@ TEST_F(Language, WithoutAnyTheProgramEndsInFixedWords) {
 TEST_F(Language, ASettingIsTakenUnchecked) {
   Settings("[Config]\r\nLanguageFile=Gone.lan\r\n");
   EXPECT_EQ(Chosen(kItalian), "Gone.lan");
+  EXPECT_EQ(b.C.Stato.LinguaUtente, 0U) << "the locale isn't asked";
   EXPECT_EQ(TestoLingua(b.C, "0020000"), "");
   EXPECT_EQ(TestoLinguaO(b.C, "0160001", "Inputs"), "Inputs");
 }

@@ -38,7 +38,7 @@ class Collecting : public testing::TestWithParam<Passata> {
     Recordset rows;
     Ignora(connection.Open(FileDelProgetto(b.C, Database())));
     Ignora(rows.Open(connection, "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC"));
-    return RaccogliMp3(b.C, GetParam(), rows, list);
+    return RaccogliMp3(b.C, GetParam(), rows, list, Database());
   }
 
   Banco b;
@@ -135,6 +135,32 @@ TEST_P(Collecting, AnEmptyOrUnreadableDatabaseIsPassedOver) {
   std::filesystem::remove(b.Cartella.Host() / "program/Projects/Hall" / Database());
   EXPECT_TRUE(Run().Riuscita);
   EXPECT_EQ(list.ListaSorgenti(), "");
+}
+
+TEST_P(Collecting, AnAliasThatLeadsOutOfTheRootStopsThePass) {
+  Row(1, "a.mp3", Music(), "..\\escaped.mp3");
+  const auto outcome = Run();
+  EXPECT_FALSE(outcome.Riuscita);
+  EXPECT_EQ(outcome.FileMancante, "..\\escaped.mp3");
+  EXPECT_EQ(list.ListaSorgenti(), "");
+}
+
+TEST_P(Collecting, ADatabaseThatCannotBeReadToItsEndStopsThePass) {
+  for (int i = 1; i <= 200; ++i) {
+    Row(i, "a.mp3", Music(), std::string(60, 'x') + std::to_string(i) + ".mp3");
+  }
+  const std::string path = "program/Projects/Hall/" + Database();
+  std::string bytes = b.Cartella.Read(path);
+  for (std::size_t at = 4096 * 8; at < bytes.size(); ++at) bytes[at] = '\xEE';
+  b.Cartella.Write(path, bytes);
+  const auto outcome = Run();
+  if (outcome.Riuscita) {
+    EXPECT_EQ(list.ListaSorgenti(), "") << "refused as a whole at opening";
+  } else {
+    EXPECT_EQ(outcome.FileMancante, GetParam() == Passata::Ingressi && list.ListaSorgenti() != ""
+                                        ? outcome.FileMancante
+                                        : Database());
+  }
 }
 
 TEST_P(Collecting, RowsComeByListAndPlace) {

@@ -142,6 +142,67 @@ TEST_F(InputTable, AMissingDatabaseDoesNothingAndLogsTheConfirmation) {
   EXPECT_TRUE(log.ends_with("08:05:09 File: door.mp3\r\n")) << log;
 }
 
+TEST_F(InputTable, AnotherProjectsTableIsNeverReopened) {
+  table.Assegna(5, "a.mp3", "C:\\");
+  b.CreaProgetto("Lift", 4, 1);
+  std::filesystem::remove(b.Cartella.Host() / "program/Projects/Lift/inputcfg.mdb");
+  table.Apri();
+  EXPECT_FALSE(table.Aperta());
+  table.Riapri();
+  EXPECT_FALSE(table.Aperta());
+}
+
+TEST_F(InputTable, RowsThatOthersAddedToAnEmptyTableAreSeen) {
+  EXPECT_TRUE(table.Righe().empty());
+  b.AggiungiRiga("inputcfg.mdb", 1, 6, "b.mp3", "C:\\", "6.mp3");
+  EXPECT_EQ(table.Righe().size(), 1U);
+}
+
+TEST_F(InputTable, ALockedTableKeepsItsRowsAndTheLogSaysWhy) {
+  table.Assegna(5, "a.mp3", "C:\\");
+  Connection other(b.C.Files);
+  ASSERT_FALSE(other.Open(b.Percorso("program/Projects/Hall/inputcfg.mdb")));
+  {
+    const Transaction lock(other);
+    ASSERT_FALSE(other.Execute("UPDATE [List] SET [FileName]='theirs.mp3' WHERE [Pos]=5"));
+    table.Assegna(5, "b.mp3", "C:\\");
+    EXPECT_EQ(b.C.Errore.Last().Number(), errors::CannotOpen);
+    table.Assegna(6, "c.mp3", "C:\\");
+    EXPECT_EQ(b.C.Errore.Last().Number(), errors::CannotOpen);
+    table.Libera(5);
+    EXPECT_EQ(b.C.Errore.Last().Number(), errors::CannotOpen);
+  }
+  const auto rows = table.Righe();
+  ASSERT_EQ(rows.size(), 1U);
+  EXPECT_EQ(rows[0].FileName, "theirs.mp3");
+  const auto log = b.Cartella.Read("program/Logs/20061020.log");
+  EXPECT_NE(log.find("-2147467259"), std::string::npos) << log;
+  EXPECT_NE(log.find("File:  \r\n"), std::string::npos) << "freeing a code has no file";
+}
+
+TEST_F(InputTable, ADamagedPageNeverPassesForTheRowThatWasAskedFor) {
+  for (std::int16_t code = 1; code <= 255; ++code) {
+    b.AggiungiRiga("inputcfg.mdb", 1, code, std::string(80, 'n') + std::to_string(code) + ".mp3",
+                   "C:\\Music\\", std::to_string(code) + ".mp3");
+  }
+  table.Chiudi();
+  const std::string path = "program/Projects/Hall/inputcfg.mdb";
+  const std::string whole = b.Cartella.Read(path);
+  for (std::size_t page = 2; page < whole.size() / 4096; ++page) {
+    std::string bytes = whole;
+    for (std::size_t i = 0; i < 4096; ++i) bytes[page * 4096 + i] = '\xEE';
+    b.Cartella.Write(path, bytes);
+    table.Apri();
+    for (const std::int16_t code : std::initializer_list<std::int16_t>{3, 130, 250}) {
+      if (table.Cerca(code)) {
+        EXPECT_EQ(table.Cursore().Number("Pos"), code) << "page " << page;
+      }
+    }
+    EXPECT_LE(table.Righe().size(), 255U);
+    table.Chiudi();
+  }
+}
+
 TEST_F(InputTable, ReopeningReadsTheTableAsItIsNow) {
   table.Assegna(5, "a.mp3", "C:\\");
   table.Chiudi();

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <set>
+#include <tuple>
+
 #include "playerconfig/Parametri.h"
 #include "support/Banco.h"
 
@@ -113,12 +116,63 @@ TEST(Parameters, InvrIsOnAboveZeroAndWrittenAsOne) {
   EXPECT_EQ(Saved("INVR", "-1"), "0");
 }
 
+TEST(Parameters, FractionsAreRoundedToEvenWithTheLocalesMark) {
+  EXPECT_EQ(Saved("LOUT", "14.5"), "14");
+  EXPECT_EQ(Saved("LOUT", "15.5"), "16");
+  Locale italian;
+  italian.DecimalMark = ",";
+  italian.GroupMark = ".";
+  EXPECT_EQ(DalFile(Find("LTRE"), "3,5", StatoIniziale(Find("LTRE")), italian).Numero, 4);
+  EXPECT_EQ(Saved("TFIN", "5.5"), "5.5") << "a text inside the limits stays as it is";
+}
+
+TEST(Parameters, AnEmptyValueLeavesWhatIsThereButForTheOnesThatReadItAsOff) {
+  const auto kept = [](const char* key, StatoParametro before) {
+    return DalFile(Find(key), "", before, Locale());
+  };
+  EXPECT_EQ(kept("MOMN", {1, {}}).Numero, 0);
+  EXPECT_EQ(kept("MICP", {1, {}}).Numero, 0);
+  EXPECT_EQ(kept("IMOD", {1, {}}).Numero, 1);
+  EXPECT_EQ(kept("TPCM", {1, "50"}), (StatoParametro{1, "50"}));
+  EXPECT_EQ(kept("INVR", {1, {}}).Numero, 1);
+  EXPECT_EQ(DalFile(Find("INVR"), "x", {1, {}}, Locale()).Numero, 1);
+  EXPECT_EQ(DalFile(Find("LOUT"), "x", {7, {}}, Locale()).Numero, 7);
+}
+
+TEST(Parameters, EveryListEndsWhereItsItemsEnd) {
+  const std::tuple<const char*, int, int> rows[] = {
+      {"TAVC", 0, 4}, {"CMAD", 0, 31}, {"CMCK", 0, 1}, {"CMCL", 0, 1},  {"CMBR", 0, 3},
+      {"CMPR", 0, 2}, {"CMSB", 1, 2},  {"CMDB", 7, 8}, {"CMDR", 0, 15}, {"CMI3", 0, 5},
+      {"ORI3", 0, 1}, {"OMON", 0, 1},  {"PYDT", 0, 1}, {"RSPL", 1, 50}, {"MOMD", 0, 1}};
+  for (const auto& [key, first, last] : rows) {
+    for (int value = -1; value <= 60; ++value) {
+      EXPECT_EQ(ValoreAccettato(Find(key), std::to_string(value)).has_value(),
+                value >= first && value <= last)
+          << key << "=" << value;
+    }
+  }
+}
+
+TEST(Parameters, TheTableListsHoldTheirThirteenValues) {
+  const std::set<int> pydl{0, 1, 2, 3, 4, 5, 10, 20, 30, 60, 120, 180, 240};
+  const std::set<int> tapl{0, 1, 2, 3, 4, 5, 6, 12, 18, 30, 60, 180, 240};
+  for (int value = 0; value <= 300; ++value) {
+    const auto text = std::to_string(value);
+    EXPECT_EQ(ValoreAccettato(Find("PYDL"), text).has_value(), pydl.contains(value)) << value;
+    EXPECT_EQ(ValoreAccettato(Find("TAPL"), text).has_value(), tapl.contains(value)) << value;
+  }
+}
+
+TEST(Parameters, ATpcmOfZerosTurnsTheOptionOnAndLeavesTheBox) {
+  EXPECT_EQ(FromFile("TPCM", "00"), (StatoParametro{1, "0"}));
+}
+
 TEST(Parameters, EachModelReachesItsOwn) {
   const auto reach = [](const char* key, std::int16_t type, std::int16_t mode) {
     return Raggiungibile(Find(key), type, mode);
   };
   for (const std::int16_t type : std::initializer_list<std::int16_t>{1, 2, 3, 4}) {
-    for (const std::int16_t mode : std::initializer_list<std::int16_t>{1, 2, 5}) {
+    for (std::int16_t mode = 1; mode <= 9; ++mode) {
       for (const auto* key : {"LOUT", "LLOU", "LTRE", "LBAS", "LMP3", "LLIN", "LLI2", "TFOU",
                               "TFIN", "TADU", "TAVC"}) {
         EXPECT_TRUE(reach(key, type, mode)) << key;
@@ -139,6 +193,7 @@ TEST(Parameters, EachModelReachesItsOwn) {
     }
   }
   EXPECT_FALSE(reach("LOUT", 0, 1));
+  EXPECT_FALSE(reach("LOUT", 5, 1));
 }
 
 TEST(Parameters, AGivenValueMustFitItsControl) {

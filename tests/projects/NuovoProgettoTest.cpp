@@ -146,6 +146,48 @@ TEST_F(NewProject, TheNameAloneMakesNoFolder) {
   EXPECT_FALSE(b.Cartella.Exists("program/Projects/Hall"));
 }
 
+TEST_F(NewProject, TheNameAloneLeavesThePointer) {
+  Create("Hall", 1);
+  for (const char* name : {"", "Hall", "a:b", "New"}) {
+    b.Messaggi.Ora = Puntatore::Attesa;
+    PreparaCartella(b.C, name, true);
+    EXPECT_EQ(b.Messaggi.Ora, Puntatore::Attesa) << name;
+  }
+  b.Finestre.Prossimo();
+  b.Finestre.Prossimo();
+}
+
+TEST_F(NewProject, AFileOfTheNameIsAFolderThatCannotBeMade) {
+  b.Cartella.Write("program/Projects/Hall", "a file");
+  EXPECT_EQ(Create("Hall", 1), EsitoNuovo::CartellaNonCreata);
+  EXPECT_EQ(b.Finestre.Prossimo().Testo,
+            "This step could not be completed\r\nN°:75\r\nPath/File access error");
+}
+
+TEST_F(NewProject, ReservedAndDottedNamesAreRefusedByTheirBoxes) {
+  for (const char* name : {"CON", "nul.x", "end."}) {
+    EXPECT_EQ(Create(name, 1), EsitoNuovo::CartellaNonCreata) << name;
+    EXPECT_EQ(b.Finestre.Prossimo().Titolo, "Project folder not created");
+  }
+  for (const char* name : {".", ".."}) {
+    EXPECT_EQ(Create(name, 1), EsitoNuovo::CartellaEsistente) << name;
+    EXPECT_EQ(b.Finestre.Prossimo().Titolo, "Name already in use");
+  }
+}
+
+TEST_F(NewProject, AnErrorFromBeforeIsNotThisStepsFailure) {
+  b.C.Errore.Record(Error(errors::DeviceIo));
+  EXPECT_EQ(Create("Hall", 1), EsitoNuovo::Creato);
+}
+
+TEST_F(NewProject, AnotherModelThanKvr5GetsAFolderOnly) {
+  s.PlayerType = 3;
+  EXPECT_EQ(CreaProgettoKvr5(b.C, "Hall", 1, {}), EsitoNuovo::Creato);
+  EXPECT_TRUE(b.Cartella.Exists("program/Projects/Hall"));
+  EXPECT_TRUE(b.Nomi("program/Projects/Hall").empty());
+  EXPECT_EQ(b.Messaggi.Ora, Puntatore::Normale);
+}
+
 TEST_F(NewProject, AMissingTemplateEndsTheProgramAndLeavesWhatCameSoFar) {
   Remove("Defaults/46Config.txt");
   EXPECT_THROW(Create("Hall", 6), test::FineDelProgramma);

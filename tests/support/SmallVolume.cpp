@@ -1,11 +1,11 @@
 #include "support/SmallVolume.h"
 
-#include <stdio.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 
 #include <array>
+#include <cstdio>
 #include <cstring>
 #include <memory>
 

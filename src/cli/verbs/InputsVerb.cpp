@@ -1,6 +1,7 @@
 #include "cli/verbs/Verb.h"
 #include "core/Aiuti.h"
 #include "core/Lingua.h"
+#include "core/ParoleCopia.h"
 #include "mp3/Accettazione.h"
 #include "mp3/modMp3Infos.h"
 #include "platform/FileOps.h"
@@ -20,8 +21,9 @@ int List(Session& session, TabellaIngressi& inputs) {
                             {"FileName", row.FileName},
                             {"FilePath", row.FilePath}});
     } else {
-      session.Out().Line(row.Alias + "  " + NomeIngressi(static_cast<std::int16_t>(row.Pos)) +
-                         "  " + row.FilePath + row.FileName);
+      session.Out().Line(
+          row.Alias + "  " + NomeIngressi(static_cast<std::int16_t>(row.Pos)) + "  " +
+          PercorsoPerPersone(session.Context(), AggiungiBarra(row.FilePath) + row.FileName));
     }
   }
   return kDone;

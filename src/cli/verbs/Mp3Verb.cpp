@@ -45,6 +45,7 @@ std::string ForPeople(const std::string& file, const InfoMp3& info, const Etiche
 /// The texts as the hub shows them, where a file that the lists would take without a word and one
 /// that is refused both show their figures.
 EtichetteMp3 LabelsOnHub(const Contesto& context, const std::string& path, const InfoMp3& info) {
+  if (!info.Valid) return {};
   const auto file = context.Files.Info(path);
   const std::uint64_t length = file ? file.Value().Size : 0;
   return MostraInfoMp3(SchermoMp3::Ingressi, info, length, context.Luogo).Etichette;

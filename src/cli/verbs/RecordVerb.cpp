@@ -1,3 +1,5 @@
+#include <cctype>
+
 #include "cli/Interrupt.h"
 #include "cli/verbs/Verb.h"
 #include "core/Aiuti.h"
@@ -13,22 +15,29 @@ class NoChoice : public SelezioneFlash {
   void Scegli() override {}
 };
 
-/// The root of a card that was given as a drive letter or as a folder; "" for a name that can't
-/// be one.
-std::string CardRoot(Session& session, const std::string& card) {
-  session.ListDrives();  // binds the letters
-  if (card.size() == 2 && card[1] == ':') return card + "\\";
-  const auto folder = session.Context().Files.SystemPath(card);
-  return folder ? AggiungiBarra(folder.Value()) : std::string();
+/// A card given as a letter: "E:" or "E:\\" in either case; '\0' for anything else.
+char LetterGiven(const std::string& card) {
+  const bool letter =
+      (card.size() == 2 && card[1] == ':') || (card.size() == 3 && card.ends_with(":\\"));
+  return letter ? static_cast<char>(std::toupper(static_cast<unsigned char>(card[0]))) : '\0';
 }
 
-bool Record(Session& session, TabellaIngressi& inputs, const std::string& card) {
-  auto& context = session.Context();
-  context.Stato.PercorsoMemoryCard = CardRoot(session, card);
-  if (context.Stato.PercorsoMemoryCard.empty()) {
-    session.Out().Say(card + ": this is no card");
-    return false;
+/// The root of a card that was given as the letter of a removable drive or as a folder; "" where it
+/// can't be one. A letter means a drive that the card dialog would offer, never the host's root.
+std::string CardRoot(Session& session, const std::string& card) {
+  if (const char letter = LetterGiven(card); letter != '\0') {
+    for (const auto& drive : session.ListDrives()) {
+      if (drive.Letter == letter) return drive.Root();
+    }
+    return {};
   }
+  const auto folder = session.Context().Files.SystemPath(card);
+  return folder && !card.empty() ? AggiungiBarra(folder.Value()) : std::string();
+}
+
+EsitoRegistrazione RecordOnto(Session& session, TabellaIngressi& inputs, const std::string& root) {
+  auto& context = session.Context();
+  context.Stato.PercorsoMemoryCard = root;
   TerminalProgress progress(context, session.Line());
   session.Events().Watch(&progress);
   NoChoice choice;
@@ -36,6 +45,17 @@ bool Record(Session& session, TabellaIngressi& inputs, const std::string& card) 
   const auto outcome = RegistraProgettoSuFlash(context, inputs, progress, choice);
   session.Events().Watch(nullptr);
   session.Line().Clear();
+  return outcome;
+}
+
+bool Record(Session& session, TabellaIngressi& inputs, const std::string& card) {
+  const std::string root = CardRoot(session, card);
+  EsitoRegistrazione outcome{FineRegistrazione::SenzaScheda};
+  if (root.empty()) {
+    session.Out().Say(card + ": there is no such card");
+  } else {
+    outcome = RecordOnto(session, inputs, root);
+  }
   const bool good = outcome.Fine == FineRegistrazione::Compiuta && !session.Copy().TakeFailure();
   if (session.Out().IsJson()) {
     session.Out().Object({{"card", card},

@@ -68,16 +68,16 @@ bool CopyRun::Count(const std::vector<CopyPair>& pairs) {
   Counter counter(state_, observer_);
   for (const CopyPair& pair : pairs) {
     const std::string_view name = LastName(pair.Source);
-    const std::string destination(pair.Destination);
     bool goOn = true;
     if (HasWildcard(name)) {
-      goOn = CopyTree(files_, name, counter).Walk(std::string(FolderOf(pair.Source)), destination);
+      goOn = CopyTree(files_, name, counter)
+                 .Walk(std::string(FolderOf(pair.Source)), pair.Destination);
     } else if (const Result<FileInfo> info = files_.Info(pair.Source); !info) {
       continue;
     } else if (info.Value().IsFolder) {
-      goOn = CopyTree(files_, "*.*", counter).Walk(pair.Source, destination);
+      goOn = CopyTree(files_, "*.*", counter).Walk(pair.Source, pair.Destination);
     } else {
-      counter.TakeFile(pair.Source, info.Value(), destination);
+      counter.TakeFile(pair.Source, info.Value(), pair.Destination);
     }
     if (!goOn) {
       cancelled_ = true;
@@ -99,8 +99,9 @@ bool CopyRun::CopyOnePair(const CopyPair& pair) {
     const bool missing = info.Err().Number() == errors::PathNotFound;
     return Fail(pair.Source, true, missing ? Error(errors::FileNotFound) : info.Err());
   }
-  const std::string target =
-      GoesInto(pair.Destination) ? JoinPath(pair.Destination, info.Value().Name) : pair.Destination;
+  const std::string target = pair.Destination.ends_with('\\')
+                                 ? JoinPath(pair.Destination, info.Value().Name)
+                                 : pair.Destination;
   if (info.Value().IsFolder) {
     return Commit() && MakeFolder(target) && CopyFolder(pair.Source, "*.*", target);
   }
@@ -210,12 +211,6 @@ bool CopyRun::Report() {
 bool CopyRun::Fail(const std::string& file, bool source, const Error& cause) {
   if (!failure_) failure_ = CopyFailure{.File = file, .Source = source, .Cause = cause};
   return false;
-}
-
-bool CopyRun::GoesInto(const std::string& destination) const {
-  if (destination.ends_with('\\')) return true;
-  const Result<FileInfo> info = files_.Info(destination);
-  return info && info.Value().IsFolder;
 }
 
 void CopyRun::SyncWritten() {

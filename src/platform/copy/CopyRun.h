@@ -33,8 +33,6 @@ class CopyRun : private CopyVisitor {
   bool Commit();
   bool Report();
   bool Fail(const std::string& file, bool source, const Error& cause);
-
-  bool GoesInto(const std::string& destination) const;
   Error CreateFolders(const std::string& folder);
   void SyncWritten();
 

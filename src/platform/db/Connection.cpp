@@ -54,7 +54,7 @@ Error Transaction::End() {
   const std::shared_ptr<Database> database = std::exchange(database_, nullptr);
   // Nothing is left to end once the connection was closed or a full disk has undone the run.
   if (!database || !database->InTransaction()) return {};
-  return database->Commit();
+  return database->CommitRun();
 }
 
 }  // namespace kvr5

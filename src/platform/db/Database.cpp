@@ -13,6 +13,8 @@ namespace {
 
 /// How long a lock of another program is waited for, in milliseconds.
 constexpr int kBusyTimeout = 300;
+/// The same at the end of a run of changes, where so much more would be lost.
+constexpr int kRunTimeout = 1500;
 /// From this many look-ups on the index pays off.
 constexpr int kLookUpsForIndex = 8;
 
@@ -114,7 +116,7 @@ bool Database::IsWhole(const std::filesystem::path& path) {
 
 void Database::Close() {
   if (!IsOpen()) return;
-  if (InTransaction()) Ignora(Commit());
+  if (InTransaction()) Ignora(CommitRun());
   prepared_.clear();
   while (sqlite3_stmt* const left = sqlite3_next_stmt(handle_, nullptr)) sqlite3_finalize(left);
   sqlite3_close(handle_);
@@ -189,6 +191,13 @@ Error Database::Commit() {
   // A transaction that can't be ended would keep the file locked.
   if (InTransaction()) Step("ROLLBACK");
   ++undone_;
+  return outcome;
+}
+
+Error Database::CommitRun() {
+  sqlite3_busy_timeout(handle_, kRunTimeout);
+  Error outcome = Commit();
+  sqlite3_busy_timeout(handle_, kBusyTimeout);
   return outcome;
 }
 

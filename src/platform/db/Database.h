@@ -45,6 +45,8 @@ class Database {
   bool Begin();
   /// Ends the transaction that is under way; -2147467259 when it had to be undone.
   Error Commit();
+  /// The same for a transaction of many changes: has more patience with other programs' locks.
+  Error CommitRun();
 
   /// Differs from an earlier value when this connection changed a row in between.
   std::uint64_t Changes() const;

@@ -53,8 +53,9 @@ Error RowWindow::Fill(const Keyset& rows, std::size_t slot) {
     const ResetAtEnd reset(statement);
     sqlite3_bind_int64(statement, 1, rows.Key(next));
     const int outcome = sqlite3_step(statement);
-    if (outcome == SQLITE_DONE) break;
-    if (outcome != SQLITE_ROW) return database_.Failure();
+    // What can't be read ahead is told when it is visited.
+    if (outcome != SQLITE_ROW && outcome != SQLITE_DONE && i == place) return database_.Failure();
+    if (outcome != SQLITE_ROW) break;
     if (values_.size() == slots_.size()) values_.emplace_back();
     ReadRow(statement, values_[slots_.size()]);
     slots_.push_back(next);

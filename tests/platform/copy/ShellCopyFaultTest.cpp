@@ -1,3 +1,5 @@
+#include <set>
+
 #include "CopyTest.h"
 
 namespace kvr5 {
@@ -22,8 +24,14 @@ class ShellCopyOnAFailingDevice : public test::CopyTest {
     pairs_ = {{From("a"), Card("a")}, {From("b"), Card("b")}, {From("c"), Card("sub\\c")}};
     fs::remove_all(Host("card/sub"));
   }
-  static std::string New(const std::string& name) { return std::string(kSize, name[0]); }
-  static std::string Old() { return std::string(1000, 'o'); }
+  static std::string New(const std::string& name) {
+    std::string bytes(kSize, name[0]);
+    return bytes;
+  }
+  static std::string Old() {
+    std::string bytes(1000, 'o');
+    return bytes;
+  }
 
   /// No good name stands for anything but a whole file, old or new.
   void ExpectWholeFiles() const {
@@ -51,6 +59,7 @@ class ShellCopyOnAFailingDevice : public test::CopyTest {
 
 TEST_F(ShellCopyOnAFailingDevice, LeavesWholeFilesWhicheverOperationFails) {
   std::size_t failures = 0;
+  std::set<std::string> fatal;
   for (std::size_t index = 0; index < 200; ++index) {
     Prepare();
     files_.FailOperation("", index, errors::DeviceIo);
@@ -66,10 +75,14 @@ TEST_F(ShellCopyOnAFailingDevice, LeavesWholeFilesWhicheverOperationFails) {
     } else {
       EXPECT_EQ(outcome.Result, 57);
       ++failures;
+      fatal.insert(failed);
     }
     if (failed.empty()) {
       EXPECT_EQ(outcome.Result, 0);
       EXPECT_GT(failures, 20U) << "most operations matter";
+      for (const char* step : {"Open", "CopyRange", "Close", "Replace", "SyncVolume"}) {
+        EXPECT_TRUE(fatal.contains(step)) << step;
+      }
       return;
     }
   }

@@ -44,13 +44,21 @@ TEST_F(ShellCopyOf, AFileGoesIntoAFolder) {
   folder_.Write("from/Palin.txt", "x");
   folder_.Write("card/sub/old", "x");
   EXPECT_EQ(Copy({{From("PALIN.TXT"), Card()},
-                  {From("PALIN.TXT"), Card("SUB")},
+                  {From("PALIN.TXT"), Card("SUB\\")},
                   {From("PALIN.TXT"), Card("new\\deep\\")}})
                 .Result,
             0);
   EXPECT_TRUE(folder_.Exists("card/Palin.txt"));
   EXPECT_TRUE(folder_.Exists("card/sub/Palin.txt"));
   EXPECT_TRUE(folder_.Exists("card/new/deep/Palin.txt"));
+}
+
+TEST_F(ShellCopyOf, AFolderInTheFilesPlaceIsAFailureThere) {
+  folder_.Write("from/a.mp3", "x");
+  folder_.Write("card/1.mp3/inside", "x");
+  EXPECT_EQ(Copy({{From("a.mp3"), Card("1.mp3")}}).Result, errors::PathFileAccess);
+  EXPECT_FALSE(folder_.Exists("card/1.mp3/a.mp3"));
+  EXPECT_TRUE(folder_.Exists("card/1.mp3/inside"));
 }
 
 TEST_F(ShellCopyOf, AWildcardTakesTheMatchingFilesOfTheFolderOnly) {

@@ -26,7 +26,7 @@ TEST(Keyset, CountsPlacesOverTheLivingRowsAlone) {
 
 TEST(Keyset, AgreesWithAPlainListOverRandomAdditionsAndRemovals) {
   std::mt19937 random(20240501);
-  for (int session = 0; session < 50; ++session) {
+  for (int round = 0; round < 50; ++round) {
     Keyset keys;
     std::vector<bool> lives;
     for (int step = 0; step < 300; ++step) {

@@ -289,6 +289,15 @@ TEST_F(PlaylistStatements, LeavesEverythingAsItWasWhenAStatementFails) {
   EXPECT_EQ(Column("SELECT * FROM [List]", "FilePath"), Texts(4, "C:\\Music\\"));
 }
 
+TEST_F(PlaylistStatements, RunsConditionsAsDeepAsTheDialectTakesThem) {
+  const std::string all = "SELECT * FROM [List] WHERE ";
+  EXPECT_EQ(Column(all + std::string(40, '(') + "Pos=1" + std::string(40, ')'), "ID"),
+            (Texts{"2", "4"}));
+  std::string nots;
+  for (int i = 0; i < 40; ++i) nots += "NOT ";
+  EXPECT_EQ(Column(all + nots + "Pos=1", "ID"), (Texts{"2", "4"}));
+}
+
 TEST_F(PlaylistStatements, KeepsQueriesAndChangesApart) {
   EXPECT_EQ(connection.Execute("SELECT * FROM [List]").Number(), errors::BadStatement);
   EXPECT_EQ(OpenError("DELETE * FROM [List]"), errors::BadStatement);

@@ -83,7 +83,7 @@ TEST_F(LinuxVolumesOf, AnOrdinaryComputerOffersTheStick) {
   Mount("8:17", "/media/anna/MY\\040CARD", "exfat");
   Mount("0:22", "/proc", "proc", "proc");
   fs::create_directories(folder_.Host() / "labels");
-  fs::create_symlink("../../sdb1", folder_.Host() / "labels" / "MY\\x20C\\xc3\\xa0RD");
+  fs::create_symlink("../../sdb1", folder_.Host() / "labels" / R"(MY\x20C\xc3\xa0RD)");
   const std::vector<Volume> volumes = Removable();
   ASSERT_EQ(volumes.size(), 1U);
   EXPECT_EQ(volumes[0].Mount, "/media/anna/MY CARD");

@@ -120,6 +120,18 @@ TEST_F(HostLookup, TellsADriveWithoutAMedium) {
   EXPECT_FALSE(fs::exists(folder_.Host() / "card"));
 }
 
+TEST_F(HostLookup, NeverTakesAnotherVolumeForAMissingOne) {
+  folder_.Write("CARD/a.mp3", "x");
+  ASSERT_TRUE(paths_.Bind('E', (folder_.Host() / "card").string()));
+  EXPECT_EQ(files_.Info("E:\\a.mp3").Err().Number(), 71);
+  EXPECT_EQ(files_.Open("E:\\a.mp3", OpenMode::Read).Err().Number(), 71);
+  EXPECT_EQ(files_.Open("E:\\b.mp3", OpenMode::Write).Err().Number(), 71);
+  EXPECT_EQ(files_.Open("E:\\b.mp3", OpenMode::New).Err().Number(), 71);
+  EXPECT_EQ(files_.Delete("E:\\a.mp3").Number(), 71);
+  EXPECT_EQ(files_.CreateFolder("E:\\sub").Number(), 71);
+  EXPECT_EQ(files_.HostPath("E:\\a.mp3"), (folder_.Host() / "card/a.mp3").string());
+}
+
 TEST_F(HostLookup, FindsNamesInAnyCase) {
   folder_.Write("Musica/Città/Brano.MP3", "x");
   EXPECT_EQ(files_.Info(Path("MUSICA\\CITTÀ\\brano.mp3")).Value().Name, "Brano.MP3");

@@ -1,24 +1,15 @@
 #include <fcntl.h>
-#include <linux/magic.h>
 #include <linux/msdos_fs.h>
 #include <sys/ioctl.h>
-#include <sys/vfs.h>
 #include <unistd.h>
 
 #include "platform/HostFileSystem.h"
-
-#ifndef EXFAT_SUPER_MAGIC
-#define EXFAT_SUPER_MAGIC 0x2011BAB0
-#endif
+#include "platform/host/posix/Lookup.h"
 
 namespace kvr5 {
 
 std::optional<FatAttributes> ReadFatAttributes(const std::string& hostPath) {
-  struct statfs volume {};
-  if (::statfs(hostPath.c_str(), &volume) != 0) return std::nullopt;
-  if (volume.f_type != MSDOS_SUPER_MAGIC && volume.f_type != EXFAT_SUPER_MAGIC) {
-    return std::nullopt;
-  }
+  if (!host::IsFatVolume(hostPath)) return std::nullopt;
   const int file = ::open(hostPath.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
   if (file < 0) return std::nullopt;
   __u32 bits = 0;

@@ -54,58 +54,73 @@ bool SameEntry(const Place& a, const Place& b) {
 }  // namespace
 
 Result<std::unique_ptr<File>> HostFileSystem::Open(std::string_view path, OpenMode mode) {
-  return mode == OpenMode::Read ? OpenToRead(path) : OpenToWrite(path, mode);
+  switch (mode) {
+    case OpenMode::Read:
+      return OpenToRead(path);
+    case OpenMode::New:
+      return OpenToMake(path);
+    case OpenMode::Write:
+      return OpenToWrite(path, O_TRUNC);
+    case OpenMode::Append:
+      return OpenToWrite(path, O_APPEND);
+  }
+  return Error(errors::InvalidCall);
 }
 
 Result<std::unique_ptr<File>> HostFileSystem::OpenToRead(std::string_view path) const {
-  auto mapped = Map(path);
+  const auto mapped = Map(path);
   if (!mapped) return mapped.Err();
   int code = 0;
   auto file = OpenPlain(mapped.Value(), O_RDONLY, code);
   if (code != ENOENT && code != ENOTDIR) return file;
-  const Place place = host::Locate(std::move(mapped.Value()));
-  if (!place.Found()) return Failure(path, place.Code);
-  return OpenPlain(place.Path, O_RDONLY, code);
+  const Result<Place> found = Find(path);
+  if (!found) return found.Err();
+  if (!found.Value().Found()) return Failure(path, found.Value().Code);
+  return OpenPlain(found.Value().Path, O_RDONLY, code);
 }
 
-Result<std::unique_ptr<File>> HostFileSystem::OpenToWrite(std::string_view path,
-                                                          OpenMode mode) const {
-  auto mapped = Map(path);
+Result<std::unique_ptr<File>> HostFileSystem::OpenToMake(std::string_view path) const {
+  const auto mapped = Map(path);
   if (!mapped) return mapped.Err();
+  if (!CardCanHold(host::NameOf(mapped.Value()))) return Error(errors::BadFileName);
   int code = 0;
-  if (mode == OpenMode::New) {  // the caller made the name up: no need to look for another case
-    if (!CardCanHold(host::NameOf(mapped.Value()))) return Error(errors::BadFileName);
-    auto file = OpenPlain(mapped.Value(), O_WRONLY | O_CREAT | O_EXCL, code);
-    if (code != ENOENT && code != ENOTDIR) return file;
+  auto file = OpenPlain(mapped.Value(), O_WRONLY | O_CREAT | O_EXCL, code);
+  if (code != ENOENT && code != ENOTDIR) return file;
+  // The caller made the name up, so that only its folder can stand there in another case.
+  const Result<Place> folder = Find(FolderOf(path));
+  if (!folder) return folder.Err();
+  if (!folder.Value().IsFolder()) return Failure(path, code);
+  const std::string spelled = folder.Value().Path + '/' + std::string(LastName(path));
+  return OpenPlain(spelled, O_WRONLY | O_CREAT | O_EXCL, code);
+}
+
+Result<std::unique_ptr<File>> HostFileSystem::OpenToWrite(std::string_view path, int how) const {
+  const Result<Place> found = Find(path);
+  if (!found) return found.Err();
+  const Place& place = found.Value();
+  if (place.Found() && (!S_ISREG(place.Stat.st_mode) || !OwnerCanWrite(place.Stat))) {
+    return Error(errors::PathFileAccess);
   }
-  const Place place = host::Locate(std::move(mapped.Value()));
-  if (place.Found()) {
-    if (mode == OpenMode::New) return Error(errors::FileExists);
-    if (!S_ISREG(place.Stat.st_mode) || !OwnerCanWrite(place.Stat)) {
-      return Error(errors::PathFileAccess);
-    }
-  } else if (!CardCanHold(host::NameOf(place.Path))) {
-    return Error(errors::BadFileName);
-  }
-  const int extra = mode == OpenMode::New ? O_EXCL : mode == OpenMode::Write ? O_TRUNC : O_APPEND;
-  auto file = OpenPlain(place.Path, O_WRONLY | O_CREAT | extra, code);
+  if (!place.Found() && !CardCanHold(host::NameOf(place.Path))) return Error(errors::BadFileName);
+  int code = 0;
+  auto file = OpenPlain(place.Path, O_WRONLY | O_CREAT | how, code);
   if (code == ENOENT || code == ENOTDIR) return Failure(path, code);
   return file;
 }
 
 Error HostFileSystem::Delete(std::string_view path) {
-  auto mapped = Map(path);
-  if (!mapped) return mapped.Err();
-  const Place place = host::Locate(std::move(mapped.Value()));
+  const Result<Place> found = Find(path);
+  if (!found) return found.Err();
+  const Place& place = found.Value();
   if (!place.Found()) return Failure(path, place.Code);
   if (place.IsFolder() || !OwnerCanWrite(place.Stat)) return Error(errors::PathFileAccess);
   return ::unlink(place.Path.c_str()) == 0 ? Error() : Failure(path, errno);
 }
 
 Error HostFileSystem::CreateFolder(std::string_view path) {
-  auto mapped = Map(path);
-  if (!mapped) return mapped.Err();
-  const Place place = host::Locate(std::move(mapped.Value()));
+  const Result<Place> found = Find(path);
+  if (!found) return found.Err();
+  const Place& place = found.Value();
   if (place.Found()) return Error(errors::PathFileAccess);
   if (!CardCanHold(host::NameOf(place.Path))) return Error(errors::BadFileName);
   // A drive's own folder is the host's to make: without it there is no medium.
@@ -115,14 +130,14 @@ Error HostFileSystem::CreateFolder(std::string_view path) {
 }
 
 Error HostFileSystem::Rename(std::string_view from, std::string_view to) {
-  auto source = Map(from);
+  const Result<Place> source = Find(from);
   if (!source) return source.Err();
-  auto target = Map(to);
+  const Result<Place> target = Find(to);
   if (!target) return target.Err();
-  const std::string given(host::NameOf(target.Value()));
-  const Place old = host::Locate(std::move(source.Value()));
+  const Place& old = source.Value();
+  const Place& place = target.Value();
   if (!old.Found()) return Failure(from, old.Code);
-  const Place place = host::Locate(std::move(target.Value()));
+  const std::string given(host::NameOf(paths_.ToHost(to)));
   if (!CardCanHold(given)) return Error(errors::BadFileName);
   if (place.Found()) {
     if (!SameEntry(old, place)) return Error(errors::FileExists);
@@ -135,13 +150,13 @@ Error HostFileSystem::Rename(std::string_view from, std::string_view to) {
 }
 
 Error HostFileSystem::Replace(std::string_view from, std::string_view to) {
-  auto source = Map(from);
+  const Result<Place> source = Find(from);
   if (!source) return source.Err();
-  auto target = Map(to);
+  const Result<Place> target = Find(to);
   if (!target) return target.Err();
-  const Place file = host::Locate(std::move(source.Value()));
+  const Place& file = source.Value();
+  const Place& place = target.Value();
   if (!file.Found()) return Failure(from, file.Code);
-  const Place place = host::Locate(std::move(target.Value()));
   if (!place.Found() && !CardCanHold(host::NameOf(place.Path))) return Error(errors::BadFileName);
   if (place.IsFolder() || file.IsFolder()) return Error(errors::PathFileAccess);
   const std::string spelled = place.Found() ? host::Respelled(place.Path) : place.Path;

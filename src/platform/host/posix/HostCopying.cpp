@@ -14,6 +14,7 @@
 namespace kvr5 {
 namespace {
 
+using host::Place;
 using host::PosixFile;
 
 /// True where the volume is kept by another process, which alone knows what isn't on the device.
@@ -54,9 +55,9 @@ Error HostFileSystem::FlushAll(std::span<File* const> files) {
 }
 
 Error HostFileSystem::SyncVolume(std::string_view path) {
-  auto mapped = Map(path);
-  if (!mapped) return mapped.Err();
-  const host::Place place = host::Locate(std::move(mapped.Value()));
+  const Result<Place> found = Find(path);
+  if (!found) return found.Err();
+  const Place& place = found.Value();
   if (!place.Found()) return Failure(path, place.Code);
   const int entry = ::open(place.Path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
   if (entry < 0) return host::FromErrno(errno);

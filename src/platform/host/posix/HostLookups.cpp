@@ -1,9 +1,7 @@
-#include <dirent.h>
 #include <sys/statvfs.h>
 
 #include <algorithm>
 #include <filesystem>
-#include <memory>
 
 #include "platform/Fold.h"
 #include "platform/HostFileSystem.h"
@@ -62,10 +60,6 @@ bool IsSameFolder(std::string a, std::string b) {
                                  host::Respelled(left.Path) == host::Respelled(right.Path));
 }
 
-struct CloseFolder {
-  void operator()(DIR* folder) const { ::closedir(folder); }
-};
-
 /// Puts the entries in order by their names without regard to case.
 void Sort(std::vector<FileInfo>& entries) {
   std::vector<std::pair<std::string, FileInfo>> keyed;
@@ -113,31 +107,36 @@ Result<std::string> HostFileSystem::Map(std::string_view path) const {
   return host;
 }
 
+Result<Place> HostFileSystem::Find(std::string_view path) const {
+  auto mapped = Map(path);
+  if (!mapped) return mapped.Err();
+  return host::Locate(std::move(mapped.Value()), paths_.Root(path[0]).size());
+}
+
 Error HostFileSystem::Failure(std::string_view path, int code) const {
   if (code != ENOENT && code != ENOTDIR) return host::FromErrno(code);
   const std::string root = paths_.Root(path[0]);
-  if (!host::Locate(root).IsFolder()) return Error(errors::DiskNotReady);
-  const std::string hostPath = paths_.ToHost(path);
-  const bool folderThere = host::Locate(host::ParentOf(hostPath)).IsFolder();
+  if (!host::LocateExactly(root).IsFolder()) return Error(errors::DiskNotReady);
+  const std::string folder = host::ParentOf(paths_.ToHost(path));
+  const bool folderThere = host::Locate(folder, root.size()).IsFolder();
   return Error(folderThere ? errors::FileNotFound : errors::PathNotFound);
 }
 
 Result<FileInfo> HostFileSystem::Info(std::string_view path) const {
-  auto mapped = Map(path);
-  if (!mapped) return mapped.Err();
-  const Place place = host::Locate(std::move(mapped.Value()));
+  const Result<Place> found = Find(path);
+  if (!found) return found.Err();
+  const Place& place = found.Value();
   if (!place.Found()) return Failure(path, place.Code);
   const std::string spelled = host::Respelled(place.Path);
   return Describe(host::NameOf(spelled), spelled, place.Stat, attributes_);
 }
 
 Result<std::vector<FileInfo>> HostFileSystem::List(std::string_view folder) const {
-  auto mapped = Map(folder);
-  if (!mapped) return mapped.Err();
-  const Place place = host::Locate(std::move(mapped.Value()));
+  const Result<Place> found = Find(folder);
+  if (!found) return found.Err();
+  const Place& place = found.Value();
   if (place.Found() && !place.IsFolder()) return Error(errors::PathNotFound);
-  const std::unique_ptr<DIR, CloseFolder> entries(place.Found() ? ::opendir(place.Path.c_str())
-                                                                : nullptr);
+  const host::OpenFolder entries(place.Found() ? ::opendir(place.Path.c_str()) : nullptr);
   if (!entries) {
     const Error error = Failure(folder, place.Found() ? errno : place.Code);
     return error.Number() == errors::FileNotFound ? Error(errors::PathNotFound) : error;
@@ -163,9 +162,9 @@ Result<std::vector<FileInfo>> HostFileSystem::List(std::string_view folder) cons
 }
 
 Result<std::uint64_t> HostFileSystem::FreeSpace(std::string_view path) const {
-  auto mapped = Map(path);
-  if (!mapped) return mapped.Err();
-  const Place place = host::Locate(std::move(mapped.Value()));
+  const Result<Place> found = Find(path);
+  if (!found) return found.Err();
+  const Place& place = found.Value();
   if (!place.Found()) return Failure(path, place.Code);
   struct statvfs volume {};
   if (::statvfs(place.Path.c_str(), &volume) != 0) return host::FromErrno(errno);
@@ -173,27 +172,29 @@ Result<std::uint64_t> HostFileSystem::FreeSpace(std::string_view path) const {
 }
 
 bool HostFileSystem::SameFile(std::string_view a, std::string_view b) const {
-  auto first = Map(a);
+  const Result<Place> first = Find(a);
   auto second = Map(b);
-  if (!first || !second) return false;
-  const Place left = host::Locate(std::move(first.Value()));
-  if (!left.Found()) return false;
+  if (!first || !first.Value().Found() || !second) return false;
+  const Place& left = first.Value();
   // A name that isn't there as it is given is worth the search for another case only where it could
   // be the first file itself: whoever copies many new files asks this for each.
-  const Place exact = host::LocateExactly(second.Value());
+  const Place exact = host::LocateExactly(std::move(second.Value()));
   if (exact.Found() && IsSame(left, exact)) return true;
   if (!EqualFold(host::NameOf(left.Path), host::NameOf(exact.Path)) ||
       !IsSameFolder(host::ParentOf(left.Path), host::ParentOf(exact.Path))) {
     return false;
   }
-  const Place right = host::Locate(std::move(second.Value()));
-  return right.Found() &&
-         host::NameOf(host::Respelled(left.Path)) == host::NameOf(host::Respelled(right.Path));
+  const Result<Place> right = Find(b);
+  return right && right.Value().Found() &&
+         host::NameOf(host::Respelled(left.Path)) ==
+             host::NameOf(host::Respelled(right.Value().Path));
 }
 
 std::string HostFileSystem::HostPath(std::string_view path) const {
+  const Result<Place> found = Find(path);
+  if (found) return host::Respelled(found.Value().Path);
   std::string host = paths_.ToHost(path);
-  return host.empty() ? std::string(path) : host::Respelled(host::Locate(std::move(host)).Path);
+  return host.empty() ? std::string(path) : host;
 }
 
 Result<std::string> HostFileSystem::SystemPath(std::string_view given) const {
@@ -201,9 +202,9 @@ Result<std::string> HostFileSystem::SystemPath(std::string_view given) const {
   if (given.starts_with("\\\\")) return std::string(given);  // another computer's: never there
   Result<std::string> path = Absolute(given);
   if (!path) return path;
-  Result<std::string> host = Map(path.Value());
-  if (!host) return host.Err().Number() == errors::PathNotFound ? path : host;
-  return PathMap::FromHost(host::Respelled(host::Locate(std::move(host.Value())).Path));
+  const Result<Place> found = Find(path.Value());
+  if (found) return PathMap::FromHost(host::Respelled(found.Value().Path));
+  return found.Err().Number() == errors::PathNotFound ? path : found.Err();
 }
 
 }  // namespace kvr5

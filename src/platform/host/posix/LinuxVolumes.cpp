@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <charconv>
 #include <fstream>
-#include <iterator>
 #include <map>
 #include <set>
+#include <sstream>
 
 #include "platform/host/posix/BlockDevices.h"
 #include "platform/host/posix/MountTable.h"
@@ -21,7 +21,9 @@ namespace {
 
 std::string ContentOf(const fs::path& file) {
   std::ifstream in(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+  std::ostringstream content;
+  content << in.rdbuf();
+  return content.str();
 }
 
 /// Labels stand as names of links, where "\x20" is a blank.

@@ -1,12 +1,10 @@
 #include "platform/host/posix/Lookup.h"
 
-#include <dirent.h>
 #include <linux/magic.h>
 #include <sys/vfs.h>
 
 #include <algorithm>
 #include <cerrno>
-#include <memory>
 #include <optional>
 
 #include "platform/Fold.h"
@@ -33,13 +31,9 @@ std::string Under(const std::string& folder, std::string_view name) {
   return path;
 }
 
-struct CloseFolder {
-  void operator()(DIR* folder) const { ::closedir(folder); }
-};
-
 /// The folder's own spelling of a name that is given in any case; an exact one wins.
 std::optional<std::string> SpellingIn(const std::string& folder, std::string_view name) {
-  const std::unique_ptr<DIR, CloseFolder> entries(::opendir(folder.c_str()));
+  const OpenFolder entries(::opendir(folder.c_str()));
   if (!entries) return std::nullopt;
   std::optional<std::string> best;
   while (const dirent* entry = ::readdir(entries.get())) {
@@ -54,12 +48,10 @@ bool IsAscii(std::string_view text) {
   return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
-/// True where a name that isn't found as it is given isn't there in another case either. The host
-/// knows the case of ASCII letters only on such volumes, whatever their character set.
+/// True where a name that isn't found as it is given isn't there in another case either. All such
+/// volumes know the case of ASCII letters, whatever their character set.
 bool HostIgnoresCase(const std::string& folder, std::string_view name) {
-  struct statfs volume {};
-  if (!IsAscii(name) || ::statfs(folder.c_str(), &volume) != 0) return false;
-  return volume.f_type == MSDOS_SUPER_MAGIC || volume.f_type == EXFAT_SUPER_MAGIC;
+  return IsAscii(name) && IsFatVolume(folder);
 }
 
 /// The name with the case of every ASCII letter turned round.
@@ -71,14 +63,14 @@ std::string Turned(std::string_view name) {
   return turned;
 }
 
-/// True when the disk surely spells a name that was found like it was asked for: in the other case
-/// nothing is found. Numbers of inodes would prove less, as a user-space driver may give each
-/// spelling its own.
+/// True when the disk surely doesn't spell a name otherwise than it is asked for: either nothing is
+/// found, or nothing in the other case. Numbers of inodes would prove less, as a user-space driver
+/// may give each spelling its own.
 bool SpellingIsSure(const std::string& folder, std::string_view name) {
   const std::string turned = Turned(name);
   if (turned == name) return IsAscii(name);
   struct stat ignored {};
-  return StatOf(Under(folder, turned), ignored) != 0;
+  return StatOf(Under(folder, turned), ignored) != 0 || StatOf(Under(folder, name), ignored) != 0;
 }
 
 /// The length of the longest part of the path that is there; 1 for the root alone.
@@ -102,17 +94,24 @@ std::string_view TakeName(std::string_view path, std::size_t& at) {
 
 }  // namespace
 
+bool IsFatVolume(const std::string& path) {
+  struct statfs volume {};
+  if (::statfs(path.c_str(), &volume) != 0) return false;
+  return volume.f_type == MSDOS_SUPER_MAGIC || volume.f_type == EXFAT_SUPER_MAGIC;
+}
+
 Place LocateExactly(std::string path) {
   Place place{.Path = std::move(path)};
   place.Code = StatOf(place.Path, place.Stat);
   return place;
 }
 
-Place Locate(std::string path) {
+Place Locate(std::string path, std::size_t fixed) {
   Place place = LocateExactly(std::move(path));
   if (!IsMissing(place.Code)) return place;
   const std::string wanted = place.Path;
   std::size_t at = LengthThere(wanted);
+  if (at < fixed) return place;
   std::string there = wanted.substr(0, at);
   struct stat ignored {};
   for (std::string_view name = TakeName(wanted, at); !name.empty(); name = TakeName(wanted, at)) {

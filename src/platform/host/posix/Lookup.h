@@ -1,7 +1,9 @@
 #pragma once
 
+#include <dirent.h>
 #include <sys/stat.h>
 
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -18,8 +20,10 @@ struct Place {
 };
 
 /// Looks a path (host form, absolute) up: exactly first, then name by name without regard to case.
-/// Where several names differ only by case, the first in the order of their bytes is taken.
-Place Locate(std::string path);
+/// Where several names differ only by case, the first in the order of their bytes is taken. The
+/// first `fixed` characters, a drive's own folder, must be there as they are: in another case they
+/// would be another volume's.
+Place Locate(std::string path, std::size_t fixed = 1);
 
 /// Looks a path up as it is given only.
 Place LocateExactly(std::string path);
@@ -27,6 +31,15 @@ Place LocateExactly(std::string path);
 /// The path of something that is there, with every name spelled like the disk spells it, also on a
 /// volume that finds a name in any case.
 std::string Respelled(const std::string& path);
+
+/// True on a FAT or exFAT volume of the kernel's own drivers.
+bool IsFatVolume(const std::string& path);
+
+struct CloseFolder {
+  void operator()(DIR* folder) const { ::closedir(folder); }
+};
+/// A folder that is open to be read.
+using OpenFolder = std::unique_ptr<DIR, CloseFolder>;
 
 /// What precedes the last slash ("/" for names in the root), and what follows it.
 std::string ParentOf(const std::string& path);

@@ -1,4 +1,4 @@
-// Long random sessions of a recordset beside a plain model of it.
+// Long random journeys of a recordset beside a plain model of it.
 
 #include <algorithm>
 #include <optional>
@@ -18,12 +18,12 @@ std::string Small(std::string text) {
   return text;
 }
 
-/// One session; its seed tells all that happens in it.
-class Session : public DatabaseTest {
+/// One journey; its seed tells all that happens in it.
+class Journey : public DatabaseTest {
  public:
-  explicit Session(unsigned seed) : random_(seed) {
+  explicit Journey(unsigned seed) : random_(seed) {
     SetUp();
-    // A commit waits for the disk: most sessions are one run.
+    // A commit waits for the disk: most journeys are one run.
     if (seed % 10 != 0) run_.emplace(connection);
     const int size = Any(12);
     for (int i = 0; i < size; ++i) InsertByStatement();
@@ -208,16 +208,16 @@ class Session : public DatabaseTest {
   RecordsetModel model_;
 };
 
-class RecordsetSessions : public testing::TestWithParam<unsigned> {};
+class RecordsetJourneys : public testing::TestWithParam<unsigned> {};
 
-TEST_P(RecordsetSessions, AgreeWithTheModel) {
+TEST_P(RecordsetJourneys, AgreeWithTheModel) {
   for (unsigned seed = GetParam(); seed < GetParam() + 30 && !HasFailure(); ++seed) {
     SCOPED_TRACE("seed " + std::to_string(seed));
-    Session(seed).Play();
+    Journey(seed).Play();
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, RecordsetSessions, testing::Range(1U, 301U, 30U));
+INSTANTIATE_TEST_SUITE_P(Seeds, RecordsetJourneys, testing::Range(1U, 301U, 30U));
 
 }  // namespace
 }  // namespace kvr5::test
