@@ -144,6 +144,47 @@ TEST(Mp3Verb, AnalysesFilesInOrderFromWordsOrStandardInput) {
   EXPECT_EQ(piped.Oggetti()[0], objects[0]);
 }
 
+TEST(Mp3Verb, FiguresAreCarriedFromFileToFileWithinOneCall) {
+  const Compagno k;
+  // A VBR tag of 100 frames and 60,000 bytes, and one whose flags say that it holds neither.
+  const auto tagged = [](const std::string& flags, const std::string& figures) {
+    std::string frame("\xFF\xFB\x90\x64", 4);
+    frame.resize(36, '\0');
+    frame += "Xing" + flags + figures;
+    frame.resize(417, '\0');
+    return frame + frame;
+  };
+  using namespace std::string_literals;
+  k.Cartella.Write("full.mp3", tagged("\0\0\0\3"s, "\0\0\0\x64\0\0\xEA\x60"s));
+  k.Cartella.Write("bare.mp3", tagged("\0\0\0\0"s, ""));
+  const auto alone = k.EseguiJson({"mp3", k.Host("bare.mp3")}).Oggetti().at(0);
+  const auto after = k.EseguiJson({"mp3", k.Host("full.mp3"), k.Host("bare.mp3")}).Oggetti().at(1);
+  EXPECT_EQ(alone["IsVbr"], false);
+  EXPECT_EQ(after["IsVbr"], true);
+  EXPECT_EQ(after["Frames"], 100);
+  const auto piped =
+      k.EseguiJson({"mp3", "-"}, k.Host("full.mp3") + "\n" + k.Host("bare.mp3") + "\n").Oggetti();
+  EXPECT_EQ(piped.at(1), after);
+}
+
+TEST(Mp3Verb, ARefusedFileOfLayer3ShowsItsFiguresAndOneOfLayer2None) {
+  const Compagno k;
+  std::string slow("\xFF\xFB\x40\x64", 4);  // 56 kbit/s
+  slow.resize(183, '\0');
+  k.Cartella.Write("slow.mp3", slow + slow);
+  std::string layer2("\xFF\xFD\x80\x64", 4);
+  layer2.resize(500, '\0');
+  k.Cartella.Write("layer2.mp3", layer2);
+  const auto objects = k.EseguiJson({"mp3", k.Host("slow.mp3"), k.Host("layer2.mp3")}).Oggetti();
+  EXPECT_EQ(objects.at(0)["Labels"][1], "Bitrate: 56kbit (CBR)");
+  EXPECT_EQ(objects.at(0)["GoodPlaylist"], false);
+  EXPECT_EQ(objects.at(1)["Valid"], true);
+  EXPECT_EQ(objects.at(1)["Labels"], (json{"", "", "", ""}));
+  const auto text = k.Esegui({"mp3", k.Host("slow.mp3"), k.Host("layer2.mp3")}).Righe();
+  EXPECT_TRUE(text.at(0).ends_with("refused")) << text.at(0);
+  EXPECT_TRUE(text.at(1).ends_with("not an MP3 file that the player takes")) << text.at(1);
+}
+
 TEST(Mp3Verb, ANameThatCannotBeTakenIsToldAndIsStatus1) {
   const Compagno k;
   const auto run = k.EseguiJson({"mp3", k.Host("a|b.mp3"), "\xFF.mp3"});

@@ -100,6 +100,14 @@ TEST_F(Opening, AnInputsProjectNeedsItsDatabaseWhichTheBoxCallsOtherwise) {
 }
 
 TEST_F(Opening, TurnsTheBusyPointerOffWhenItRefuses) {
+  for (const char* missing : {"Config.txt", "Config.cfg"}) {
+    b.Messaggi.Ora = Puntatore::Attesa;
+    Project("q", 4, 6);
+    std::filesystem::remove(b.Cartella.Host() / "q" / missing);
+    Open("q");
+    b.Finestre.Prossimo();
+    EXPECT_EQ(b.Messaggi.Ora, Puntatore::Normale) << missing;
+  }
   b.Messaggi.Ora = Puntatore::Attesa;
   Project("p", 4, 1);
   Open("p");

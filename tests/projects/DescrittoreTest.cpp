@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <optional>
+
 #include "core/Impostazioni.h"
 #include "projects/Descrittore.h"
 #include "support/Banco.h"
+#include "support/FaultyFileSystem.h"
 
 namespace kvr5 {
 namespace {
@@ -111,6 +114,38 @@ TEST_F(Descriptor, AFolderThatCannotBeWrittenLeavesAPendingErrorAndStillTrue) {
   s.CartellaProgetto = b.Percorso("gone");
   EXPECT_TRUE(SalvaDescrittoreProgetto(b.C));
   EXPECT_TRUE(b.C.Errore);
+}
+
+TEST_F(Descriptor, ALockedFolderLeavesTheOldFileDeletedAndNoNewOne) {
+  std::optional<test::FaultyFileSystem> faulty;
+  Banco locked([&](FileSystem& inner) -> FileSystem& { return faulty.emplace(inner); });
+  locked.Cartella.Write("Lift-A/Config.cfg", "[CONFIG]\r\nProjectName=old\r\n");
+  locked.C.Stato.CartellaProgetto = locked.Percorso("Lift-A");
+  faulty->FailWritesAfter(locked.Percorso("Lift-A"), 0, errors::DiskFull);
+  EXPECT_TRUE(SalvaDescrittoreProgetto(locked.C));
+  EXPECT_EQ(locked.C.Errore.Last().Number(), errors::DiskFull);
+  EXPECT_EQ(locked.C.Stato.ProjectName, "Lift-A");
+  EXPECT_FALSE(locked.Cartella.Exists("Lift-A/Config.cfg") &&
+               locked.Cartella.Read("Lift-A/Config.cfg") == "[CONFIG]\r\nProjectName=old\r\n");
+}
+
+TEST_F(Descriptor, ANameIsReadAsIniValuesAre) {
+  Put("[CONFIG]\r\nProjectName='Quoted'\r\nPlayerType= 4 \r\nPlayerMode=&H6\r\nAnalyzer=x\r\n");
+  s.Analyzer = 1;
+  LeggiDescrittore(b.C);
+  EXPECT_EQ(s.ProjectName, "Quoted");
+  EXPECT_EQ(s.PlayerType, 4);
+  EXPECT_EQ(s.PlayerMode, 6);
+  EXPECT_EQ(s.Analyzer, 1) << "no number keeps it";
+  Put("[CONFIG]\r\nProjectName=" + std::string(150, 'n') + "\r\n");
+  LeggiDescrittore(b.C);
+  EXPECT_EQ(s.ProjectName.size(), 99U);
+}
+
+TEST_F(Descriptor, ACharacterThatThePageLacksIsAQuestionMark) {
+  s.ProjectName = "日本 A";
+  SalvaDescrittoreProgetto(b.C);
+  EXPECT_NE(Text().find("ProjectName=?? A\r\n"), std::string::npos);
 }
 
 TEST_F(Descriptor, DamagedFilesKeepTheStateAndStayAsTheyAre) {

@@ -7,6 +7,7 @@
 #include "platform/host/posix/Errno.h"
 #include "platform/host/posix/Lookup.h"
 #include "platform/host/posix/PosixFile.h"
+#include "platform/host/posix/Spellings.h"
 
 namespace kvr5 {
 namespace {
@@ -51,6 +52,14 @@ bool SameEntry(const Place& a, const Place& b) {
   return EqualFold(a.Path, b.Path) && host::Respelled(a.Path) == host::Respelled(b.Path);
 }
 
+/// What was read of a folder's names is no longer true once this process changes some.
+struct ChangesNames {
+  ChangesNames() = default;
+  ~ChangesNames() { host::ForgetSpellings(); }
+  ChangesNames(const ChangesNames&) = delete;
+  ChangesNames& operator=(const ChangesNames&) = delete;
+};
+
 }  // namespace
 
 Result<std::unique_ptr<File>> HostFileSystem::Open(std::string_view path, OpenMode mode) {
@@ -80,6 +89,7 @@ Result<std::unique_ptr<File>> HostFileSystem::OpenToRead(std::string_view path) 
 }
 
 Result<std::unique_ptr<File>> HostFileSystem::OpenToMake(std::string_view path) const {
+  const ChangesNames change;
   const auto mapped = Map(path);
   if (!mapped) return mapped.Err();
   if (!CardCanHold(host::NameOf(mapped.Value()))) return Error(errors::BadFileName);
@@ -95,6 +105,7 @@ Result<std::unique_ptr<File>> HostFileSystem::OpenToMake(std::string_view path) 
 }
 
 Result<std::unique_ptr<File>> HostFileSystem::OpenToWrite(std::string_view path, int how) const {
+  const ChangesNames change;
   const Result<Place> found = Find(path);
   if (!found) return found.Err();
   const Place& place = found.Value();
@@ -109,6 +120,7 @@ Result<std::unique_ptr<File>> HostFileSystem::OpenToWrite(std::string_view path,
 }
 
 Error HostFileSystem::Delete(std::string_view path) {
+  const ChangesNames change;
   const Result<Place> found = Find(path);
   if (!found) return found.Err();
   const Place& place = found.Value();
@@ -118,6 +130,7 @@ Error HostFileSystem::Delete(std::string_view path) {
 }
 
 Error HostFileSystem::CreateFolder(std::string_view path) {
+  const ChangesNames change;
   const Result<Place> found = Find(path);
   if (!found) return found.Err();
   const Place& place = found.Value();
@@ -130,6 +143,7 @@ Error HostFileSystem::CreateFolder(std::string_view path) {
 }
 
 Error HostFileSystem::Rename(std::string_view from, std::string_view to) {
+  const ChangesNames change;
   const Result<Place> source = Find(from);
   if (!source) return source.Err();
   const Result<Place> target = Find(to);
@@ -150,6 +164,7 @@ Error HostFileSystem::Rename(std::string_view from, std::string_view to) {
 }
 
 Error HostFileSystem::Replace(std::string_view from, std::string_view to) {
+  const ChangesNames change;
   const Result<Place> source = Find(from);
   if (!source) return source.Err();
   const Result<Place> target = Find(to);

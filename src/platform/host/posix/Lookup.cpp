@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "platform/Fold.h"
+#include "platform/host/posix/Spellings.h"
 
 #ifndef EXFAT_SUPER_MAGIC
 #define EXFAT_SUPER_MAGIC 0x2011BAB0
@@ -117,7 +118,8 @@ Place Locate(std::string path, std::size_t fixed) {
   for (std::string_view name = TakeName(wanted, at); !name.empty(); name = TakeName(wanted, at)) {
     std::string next = Under(there, name);
     if (StatOf(next, ignored) != 0) {
-      const auto spelling = HostIgnoresCase(there, name) ? std::nullopt : SpellingIn(there, name);
+      const auto spelling =
+          HostIgnoresCase(there, name) ? std::nullopt : OtherSpelling(there, name);
       if (!spelling) {
         place.Path = next.append(wanted, at);
         return place;
