@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "mp3/PosixFiles.h"
+#include "mp3/CountingFiles.h"
 #include "mp3/modMp3Infos.h"
 #include "support/TempFolder.h"
 
@@ -58,7 +58,7 @@ class ReaderTest : public testing::Test {
   InfoMp3 Read(const std::string& name, std::string_view bytes);
 
   TempFolder folder_;
-  PosixFiles files_;
+  CountingFiles files_;
   modMp3Infos reader_{files_};
 };
 

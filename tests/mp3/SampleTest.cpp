@@ -11,8 +11,8 @@
 #include <vector>
 
 #include "mp3/Accettazione.h"
+#include "mp3/CountingFiles.h"
 #include "mp3/EtichetteMp3.h"
-#include "mp3/PosixFiles.h"
 #include "mp3/modMp3Infos.h"
 
 // Real and made-up files with what the system has to say about each of them.
@@ -101,7 +101,7 @@ void CompareVerdicts(const InfoMp3& info, const modMp3Infos& reader, const json&
 }
 
 void CompareOne(modMp3Infos& reader, const fs::path& path, const json& expected) {
-  const InfoMp3 info = reader.LeggiInfoMp3(PosixFiles::FromHost(path));
+  const InfoMp3 info = reader.LeggiInfoMp3(CountingFiles::FromHost(path));
   CompareFields(info, expected);
   CompareErrors(reader.Errori(), expected.at("errors"));
   CompareVerdicts(info, reader, expected);
@@ -117,7 +117,7 @@ void CompareOne(modMp3Infos& reader, const fs::path& path, const json& expected)
 }
 
 TEST(Mp3Samples, ReadOneAfterTheOtherInOneProcess) {
-  PosixFiles files;
+  CountingFiles files;
   for (const Samples& samples : AllSamples()) {
     modMp3Infos reader(files);
     ASSERT_FALSE(samples.Expected.at("files").empty());
@@ -131,7 +131,7 @@ TEST(Mp3Samples, ReadOneAfterTheOtherInOneProcess) {
 }
 
 TEST(Mp3Samples, EachReadFirstInItsProcess) {
-  PosixFiles files;
+  CountingFiles files;
   for (const Samples& samples : AllSamples()) {
     for (const json& sample : samples.Expected.at("files")) {
       const fs::path path = samples.Files / sample.at("path").get<std::string>();
@@ -143,13 +143,13 @@ TEST(Mp3Samples, EachReadFirstInItsProcess) {
 }
 
 TEST(Mp3Samples, WhatIsNoFileGivesARecordOfZerosAndIsNotMade) {
-  PosixFiles files;
+  CountingFiles files;
   for (const Samples& samples : AllSamples()) {
     modMp3Infos reader(files);
     for (const json& special : samples.Expected.at("meta").at("special")) {
       const fs::path path = samples.Files / special.at("path").get<std::string>();
       const bool before = fs::exists(path);
-      EXPECT_EQ(reader.LeggiInfoMp3(PosixFiles::FromHost(path)), InfoMp3()) << path;
+      EXPECT_EQ(reader.LeggiInfoMp3(CountingFiles::FromHost(path)), InfoMp3()) << path;
       EXPECT_EQ(fs::exists(path), before) << path;
     }
   }
