@@ -127,7 +127,8 @@ Result<FileInfo> HostFileSystem::Info(std::string_view path) const {
   if (!found) return found.Err();
   const Place& place = found.Value();
   if (!place.Found()) return Failure(path, place.Code);
-  const std::string spelled = host::Respelled(place.Path);
+  // Where the volume minds the case, what was found is spelled like the disk spells it.
+  const std::string spelled = host::MindsCase(place) ? place.Path : host::Respelled(place.Path);
   return Describe(host::NameOf(spelled), spelled, place.Stat, attributes_);
 }
 

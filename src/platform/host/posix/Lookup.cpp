@@ -10,6 +10,9 @@
 #include "platform/Fold.h"
 #include "platform/host/posix/Spellings.h"
 
+#ifndef XFS_SUPER_MAGIC
+#define XFS_SUPER_MAGIC 0x58465342
+#endif
 #ifndef EXFAT_SUPER_MAGIC
 #define EXFAT_SUPER_MAGIC 0x2011BAB0
 #endif
@@ -140,6 +143,20 @@ std::string Respelled(const std::string& path) {
     there = Under(there, spelling ? *spelling : std::string(name));
   }
   return there;
+}
+
+bool MindsCase(const Place& place) {
+  static dev_t asked = 0;  // one thread, and runs stay on one volume
+  static bool answer = false;
+  if (!place.Found()) return false;
+  if (place.Stat.st_dev != asked) {
+    struct statfs volume {};
+    const bool known = ::statfs(place.Path.c_str(), &volume) == 0;
+    answer = known && (volume.f_type == EXT4_SUPER_MAGIC || volume.f_type == XFS_SUPER_MAGIC ||
+                       volume.f_type == BTRFS_SUPER_MAGIC || volume.f_type == TMPFS_MAGIC);
+    asked = place.Stat.st_dev;
+  }
+  return answer;
 }
 
 std::string ParentOf(const std::string& path) {

@@ -32,6 +32,10 @@ Place LocateExactly(std::string path);
 /// volume that finds a name in any case.
 std::string Respelled(const std::string& path);
 
+/// True where what was found lies on a volume that is known to mind the case of names; false in
+/// doubt. Asks the host once a volume.
+bool MindsCase(const Place& place);
+
 /// True on a FAT or exFAT volume of the kernel's own drivers.
 bool IsFatVolume(const std::string& path);
 

@@ -1,6 +1,8 @@
 #include "platform/host/posix/Spellings.h"
 
+#include <linux/magic.h>
 #include <sys/stat.h>
+#include <sys/vfs.h>
 
 #include <chrono>
 #include <ctime>
@@ -8,6 +10,10 @@
 
 #include "platform/Fold.h"
 #include "platform/host/posix/Lookup.h"
+
+#ifndef XFS_SUPER_MAGIC
+#define XFS_SUPER_MAGIC 0x58465342
+#endif
 
 namespace kvr5::host {
 namespace {
@@ -29,11 +35,30 @@ bool SameState(const struct stat& a, const struct stat& b) {
          a.st_mtim.tv_nsec == b.st_mtim.tv_nsec;
 }
 
-/// A change within the grain of the disk's clock (2 s on FAT) wouldn't show in the folder's time;
-/// what was read so soon after a change serves once only.
-bool IsSettled(const struct stat& state) {
-  constexpr std::time_t kGrain = 3;
-  return std::time(nullptr) - state.st_mtim.tv_sec > kGrain;
+/// How long after a change another one may leave the folder's time as it is: a few ticks of the
+/// kernel on its own file systems, 2 s on FAT, and who knows how long behind a driver of its own.
+std::chrono::nanoseconds GrainOf(const std::string& folder) {
+  using namespace std::chrono_literals;
+  struct statfs volume {};
+  if (::statfs(folder.c_str(), &volume) != 0) return 3s;
+  switch (volume.f_type) {
+    case EXT4_SUPER_MAGIC:
+    case XFS_SUPER_MAGIC:
+    case BTRFS_SUPER_MAGIC:
+    case TMPFS_MAGIC:
+      return 50ms;
+    default:
+      return 3s;
+  }
+}
+
+/// What was read so soon after a change that the next one might not show serves once only.
+bool IsSettled(const std::string& folder, const struct stat& state) {
+  timespec now{};
+  ::clock_gettime(CLOCK_REALTIME, &now);
+  const auto age = std::chrono::seconds(now.tv_sec - state.st_mtim.tv_sec) +
+                   std::chrono::nanoseconds(now.tv_nsec - state.st_mtim.tv_nsec);
+  return age > GrainOf(folder);
 }
 
 bool Serves(const std::string& folder, const struct stat& state) {
@@ -65,7 +90,7 @@ std::optional<std::string> OtherSpelling(const std::string& folder, std::string_
   const auto found = g_last->Names.find(FoldCase(name));
   std::optional<std::string> spelling;
   if (found != g_last->Names.end()) spelling = found->second;
-  if (!IsSettled(state)) g_last.reset();
+  if (!IsSettled(folder, state)) g_last.reset();
   return spelling;
 }
 
