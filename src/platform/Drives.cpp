@@ -2,44 +2,20 @@
 
 #include <algorithm>
 
-#include "platform/Fold.h"
+#include "platform/CodePage.h"
+#include "platform/IniFile.h"
 
 namespace kvr5 {
-namespace {
-
-std::string_view Trimmed(std::string_view text) {
-  constexpr std::string_view kBlanks = " \t\r";
-  const std::size_t begin = text.find_first_not_of(kBlanks);
-  if (begin == std::string_view::npos) return {};
-  return text.substr(begin, text.find_last_not_of(kBlanks) - begin + 1);
-}
-
-/// Takes the next line of a text, less the blanks around it.
-std::string_view TakeLine(std::string_view& text) {
-  const std::size_t end = std::min(text.find('\n'), text.size());
-  const std::string_view line = Trimmed(text.substr(0, end));
-  text.remove_prefix(std::min(end + 1, text.size()));
-  return line;
-}
-
-}  // namespace
-
 std::map<char, std::string> RemovableFolders(std::string_view iniText) {
-  std::map<char, std::string> folders;
-  bool inSection = false;
+  constexpr std::size_t kLongestPath = 4096;
+  const CodePage utf8(65001);
   if (iniText.starts_with("\xEF\xBB\xBF")) iniText.remove_prefix(3);
-  while (!iniText.empty()) {
-    const std::string_view line = TakeLine(iniText);
-    if (line.starts_with('[')) inSection = EqualFold(line, "[Removable]");
-    const std::size_t equals = line.find('=');
-    if (!inSection || equals == std::string_view::npos) continue;
-    const std::string letter = FoldCase(Trimmed(line.substr(0, equals)));
-    const std::string_view value = Trimmed(line.substr(equals + 1));
-    if (letter.size() != 1 || letter[0] < 'd' || letter[0] > 'z') continue;
-    const std::string folder =
-        PathMap::IsSystemForm(value) ? PathMap().ToHost(value) : std::string(value);
-    if (!folder.starts_with('/')) continue;
-    folders.emplace(static_cast<char>(letter[0] - 'a' + 'A'), folder);
+  std::map<char, std::string> folders;
+  for (char letter = 'D'; letter <= 'Z'; ++letter) {
+    const std::string value =
+        ini::Read(iniText, "Removable", std::string(1, letter), "", kLongestPath, utf8);
+    const std::string folder = PathMap::IsSystemForm(value) ? PathMap().ToHost(value) : value;
+    if (folder.starts_with('/')) folders.emplace(letter, folder);
   }
   return folders;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -20,12 +21,13 @@ struct FatAttributes {
   bool ReadOnly = false;
 };
 
-/// Asks the disk for the attributes of a file or folder, named by its path in the host's form;
-/// nothing where the volume keeps none.
-using AttributeReader = std::function<std::optional<FatAttributes>(const std::string& hostPath)>;
+/// Asks the disk for the attributes of a file or folder, named by its path in the host's form and
+/// the host's number of the device that it was found on; nothing where the volume keeps none.
+using AttributeReader = std::function<std::optional<FatAttributes>(const std::string& hostPath,
+                                                                   std::uint64_t device)>;
 
 /// Asks the volume itself.
-std::optional<FatAttributes> ReadFatAttributes(const std::string& hostPath);
+std::optional<FatAttributes> ReadFatAttributes(const std::string& hostPath, std::uint64_t device);
 
 /// The real disk. Letters of removable volumes come from `paths`, which must outlive it.
 ///

@@ -3,9 +3,9 @@
 #include <sqlite3.h>
 
 #include <cstddef>
-#include <cstdint>
 
 #include "platform/LetterCase.h"
+#include "platform/Utf8.h"
 
 namespace kvr5 {
 namespace {
@@ -15,30 +15,12 @@ char32_t Small(char32_t c) {
   return c == kFinalSigma ? kFinalSigma + 1 : SmallLetter(c);
 }
 
-constexpr char32_t kBeyondUnicode = 0x110000;
-
-/// The bytes that follow a leading byte in UTF-8; 0 for a byte that leads nothing.
-std::size_t Followers(unsigned char lead) {
-  if (lead >= 0xC2 && lead <= 0xDF) return 1;
-  if (lead >= 0xE0 && lead <= 0xEF) return 2;
-  return lead >= 0xF0 && lead <= 0xF4 ? 3 : 0;
-}
-
 /// Takes the next character off the text; a byte out of place as a value beyond all characters.
 char32_t TakeCharacter(std::string_view& text) {
-  const auto lead = static_cast<unsigned char>(text.front());
-  text.remove_prefix(1);
-  if (lead < 0x80) return lead;
-  const std::size_t followers = Followers(lead);
-  if (followers == 0 || followers > text.size()) return kBeyondUnicode + lead;
-  char32_t c = lead & (0x3FU >> followers);
-  for (std::size_t i = 0; i < followers; ++i) {
-    const auto byte = static_cast<unsigned char>(text[i]);
-    if ((byte & 0xC0U) != 0x80) return kBeyondUnicode + lead;
-    c = (c << 6U) | (byte & 0x3FU);
-  }
-  text.remove_prefix(followers);
-  return c;
+  constexpr char32_t kBeyondUnicode = 0x110000;
+  const utf8::Step step = utf8::Next(text);
+  text.remove_prefix(step.Length);
+  return step.Valid ? step.Value : kBeyondUnicode + step.Value;
 }
 
 int Collate(void* /*unused*/, int sizeA, const void* a, int sizeB, const void* b) {

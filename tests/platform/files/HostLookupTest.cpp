@@ -58,7 +58,7 @@ TEST_F(HostLookup, TakesTheFlagsFromTheNameAndTheOwnersRights) {
 TEST_F(HostLookup, TakesTheFlagsFromTheVolumeWhereItKeepsSome) {
   folder_.Write(".dot", "x");
   folder_.Write("a.txt", "x");
-  const HostFileSystem files(paths_, [](const std::string& hostPath) {
+  const HostFileSystem files(paths_, [](const std::string& hostPath, std::uint64_t /*device*/) {
     const bool isA = hostPath.ends_with("/a.txt");
     return FatAttributes{.Hidden = isA, .System = isA, .ReadOnly = isA};
   });
@@ -73,8 +73,10 @@ TEST_F(HostLookup, TakesTheFlagsFromTheVolumeWhereItKeepsSome) {
 
 TEST_F(HostLookup, ReadsNoAttributesWhereTheVolumeKeepsNone) {
   folder_.Write("a", "x");
-  EXPECT_FALSE(ReadFatAttributes((folder_.Host() / "a").string()));
-  EXPECT_FALSE(ReadFatAttributes((folder_.Host() / "none").string()));
+  struct stat found {};
+  ASSERT_EQ(stat((folder_.Host() / "a").c_str(), &found), 0);
+  EXPECT_FALSE(ReadFatAttributes((folder_.Host() / "a").string(), found.st_dev));
+  EXPECT_FALSE(ReadFatAttributes((folder_.Host() / "none").string(), found.st_dev));
 }
 
 TEST_F(HostLookup, TellsAMissingFileFromAMissingFolder) {

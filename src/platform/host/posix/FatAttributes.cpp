@@ -4,12 +4,13 @@
 #include <unistd.h>
 
 #include "platform/HostFileSystem.h"
-#include "platform/host/posix/Lookup.h"
+#include "platform/host/posix/VolumeKind.h"
 
 namespace kvr5 {
 
-std::optional<FatAttributes> ReadFatAttributes(const std::string& hostPath) {
-  if (!host::IsFatVolume(hostPath)) return std::nullopt;
+std::optional<FatAttributes> ReadFatAttributes(const std::string& hostPath,
+                                               std::uint64_t device) {
+  if (host::KindOf(hostPath, device) != host::VolumeKind::Fat) return std::nullopt;
   const int file = ::open(hostPath.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
   if (file < 0) return std::nullopt;
   __u32 bits = 0;

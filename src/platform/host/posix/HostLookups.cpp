@@ -37,7 +37,7 @@ FileInfo Describe(std::string_view name, const std::string& hostPath, const stru
   info.Modified = status.st_mtime;
   info.ReadOnly = (status.st_mode & S_IWUSR) == 0;
   if (S_ISREG(status.st_mode)) info.Size = static_cast<std::uint64_t>(status.st_size);
-  if (const auto known = attributes(hostPath)) {
+  if (const auto known = attributes(hostPath, status.st_dev)) {
     info.Hidden = known->Hidden;
     info.System = known->System;
     info.ReadOnly = known->ReadOnly;

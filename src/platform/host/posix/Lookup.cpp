@@ -1,21 +1,12 @@
 #include "platform/host/posix/Lookup.h"
 
-#include <linux/magic.h>
-#include <sys/vfs.h>
-
 #include <algorithm>
 #include <cerrno>
 #include <optional>
 
 #include "platform/Fold.h"
 #include "platform/host/posix/Spellings.h"
-
-#ifndef XFS_SUPER_MAGIC
-#define XFS_SUPER_MAGIC 0x58465342
-#endif
-#ifndef EXFAT_SUPER_MAGIC
-#define EXFAT_SUPER_MAGIC 0x2011BAB0
-#endif
+#include "platform/host/posix/VolumeKind.h"
 
 namespace kvr5::host {
 namespace {
@@ -55,7 +46,7 @@ bool IsAscii(std::string_view text) {
 /// True where a name that isn't found as it is given isn't there in another case either. All such
 /// volumes know the case of ASCII letters, whatever their character set.
 bool HostIgnoresCase(const std::string& folder, std::string_view name) {
-  return IsAscii(name) && IsFatVolume(folder);
+  return IsAscii(name) && KindOf(folder) == VolumeKind::Fat;
 }
 
 /// The name with the case of every ASCII letter turned round.
@@ -97,12 +88,6 @@ std::string_view TakeName(std::string_view path, std::size_t& at) {
 }
 
 }  // namespace
-
-bool IsFatVolume(const std::string& path) {
-  struct statfs volume {};
-  if (::statfs(path.c_str(), &volume) != 0) return false;
-  return volume.f_type == MSDOS_SUPER_MAGIC || volume.f_type == EXFAT_SUPER_MAGIC;
-}
 
 Place LocateExactly(std::string path) {
   Place place{.Path = std::move(path)};
@@ -146,17 +131,7 @@ std::string Respelled(const std::string& path) {
 }
 
 bool MindsCase(const Place& place) {
-  static dev_t asked = 0;  // one thread, and runs stay on one volume
-  static bool answer = false;
-  if (!place.Found()) return false;
-  if (place.Stat.st_dev != asked) {
-    struct statfs volume {};
-    const bool known = ::statfs(place.Path.c_str(), &volume) == 0;
-    answer = known && (volume.f_type == EXT4_SUPER_MAGIC || volume.f_type == XFS_SUPER_MAGIC ||
-                       volume.f_type == BTRFS_SUPER_MAGIC || volume.f_type == TMPFS_MAGIC);
-    asked = place.Stat.st_dev;
-  }
-  return answer;
+  return place.Found() && KindOf(place.Path, place.Stat.st_dev) == VolumeKind::MindsCase;
 }
 
 std::string ParentOf(const std::string& path) {

@@ -33,11 +33,8 @@ Place LocateExactly(std::string path);
 std::string Respelled(const std::string& path);
 
 /// True where what was found lies on a volume that is known to mind the case of names; false in
-/// doubt. Asks the host once a volume.
+/// doubt.
 bool MindsCase(const Place& place);
-
-/// True on a FAT or exFAT volume of the kernel's own drivers.
-bool IsFatVolume(const std::string& path);
 
 struct CloseFolder {
   void operator()(DIR* folder) const { ::closedir(folder); }

@@ -1,8 +1,6 @@
 #include "platform/host/posix/Spellings.h"
 
-#include <linux/magic.h>
 #include <sys/stat.h>
-#include <sys/vfs.h>
 
 #include <chrono>
 #include <ctime>
@@ -10,10 +8,7 @@
 
 #include "platform/Fold.h"
 #include "platform/host/posix/Lookup.h"
-
-#ifndef XFS_SUPER_MAGIC
-#define XFS_SUPER_MAGIC 0x58465342
-#endif
+#include "platform/host/posix/VolumeKind.h"
 
 namespace kvr5::host {
 namespace {
@@ -39,17 +34,7 @@ bool SameState(const struct stat& a, const struct stat& b) {
 /// kernel on its own file systems, 2 s on FAT, and who knows how long behind a driver of its own.
 std::chrono::nanoseconds GrainOf(const std::string& folder) {
   using namespace std::chrono_literals;
-  struct statfs volume {};
-  if (::statfs(folder.c_str(), &volume) != 0) return 3s;
-  switch (volume.f_type) {
-    case EXT4_SUPER_MAGIC:
-    case XFS_SUPER_MAGIC:
-    case BTRFS_SUPER_MAGIC:
-    case TMPFS_MAGIC:
-      return 50ms;
-    default:
-      return 3s;
-  }
+  return KindOf(folder) == VolumeKind::MindsCase ? std::chrono::nanoseconds(50ms) : 3s;
 }
 
 /// What was read so soon after a change that the next one might not show serves once only.
