@@ -62,7 +62,9 @@ int RunVerb(const Verb& verb, const Options& options) {
   if (verb.NeedsProgram && !session.Start()) return kMissing;
   const int status = verb.Run(session, options.Arguments);
   if (status == kUsage) session.Out().Say(UsageOf(verb) + "\n" + std::string(verb.Help));
-  return status;
+  if (!session.Out().Failed()) return status;
+  session.Out().Say("the results can't be written to standard output");
+  return status == kDone ? kRefused : status;
 }
 
 }  // namespace

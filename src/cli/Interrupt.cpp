@@ -20,11 +20,11 @@ std::array<struct sigaction, kSignals.size()> g_before{};
 
 }  // namespace
 
-Interrupt::Interrupt() {
+Interrupt::Interrupt(Waits waits) {
   g_pressed = 0;
   struct sigaction cancel {};
   cancel.sa_handler = OnSignal;
-  cancel.sa_flags = SA_RESTART;
+  cancel.sa_flags = waits == Waits::GoOn ? SA_RESTART : 0;
   for (std::size_t i = 0; i < kSignals.size(); ++i) {
     sigaction(kSignals[i], nullptr, &g_before[i]);
     if (g_before[i].sa_handler != SIG_IGN) sigaction(kSignals[i], &cancel, nullptr);

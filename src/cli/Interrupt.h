@@ -6,7 +6,10 @@ namespace kvr5::cli {
 /// does what it did. One at a time. A signal that was ignored stays ignored.
 class Interrupt {
  public:
-  Interrupt();
+  /// What becomes of a wait for input when it is pressed.
+  enum class Waits { GoOn, End };
+
+  explicit Interrupt(Waits waits = Waits::GoOn);
   ~Interrupt();
   Interrupt(const Interrupt&) = delete;
   Interrupt& operator=(const Interrupt&) = delete;

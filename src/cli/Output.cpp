@@ -1,10 +1,14 @@
 #include "cli/Output.h"
 
+#include <unistd.h>
+
+#include "cli/TerminalText.h"
+
 namespace kvr5::cli {
 namespace {
 
 /// Line ends of boxes are CR LF inside the system; a terminal takes LF.
-std::string ForTerminal(std::string_view text) {
+std::string WithPlainLineEnds(std::string_view text) {
   std::string result;
   for (const char each : text) {
     if (each != '\r') result += each;
@@ -12,10 +16,11 @@ std::string ForTerminal(std::string_view text) {
   return result;
 }
 
-void Put(std::FILE* stream, std::string line) {
-  line += '\n';
-  std::fwrite(line.data(), 1, line.size(), stream);
-  std::fflush(stream);  // a line is told when it is true, also into a pipe
+/// A line is told when it is true, also into a pipe.
+bool Put(std::FILE* stream, const std::string& line) {
+  const bool written = std::fwrite(line.data(), 1, line.size(), stream) == line.size() &&
+                       std::fputc('\n', stream) != EOF;
+  return std::fflush(stream) == 0 && written;
 }
 
 std::string Dump(const Json& object) {
@@ -24,24 +29,31 @@ std::string Dump(const Json& object) {
 
 }  // namespace
 
+Output::Output(bool json)
+    : json_(json),
+      resultsOnTerminal_(isatty(STDOUT_FILENO) == 1),
+      boxesOnTerminal_(isatty(STDERR_FILENO) == 1) {}
+
+void Output::Result(const std::string& line) {
+  if (!Put(stdout, resultsOnTerminal_ ? ShownOnTerminal(line) : line)) failed_ = true;
+}
+
 void Output::Line(std::string_view text) {
-  Put(stdout, std::string(text));
+  Result(std::string(text));
 }
 
 void Output::Object(const Json& object) {
-  Put(stdout, Dump(object));
+  Result(Dump(object));
 }
 
 void Output::Box(std::string_view kind, std::string_view title, std::string_view text,
                  std::string_view answer) {
   std::fflush(stdout);
-  if (json_) {
-    Put(stderr,
-        Dump({{"box", kind}, {"title", title}, {"text", ForTerminal(text)}, {"answer", answer}}));
-  } else {
-    Put(stderr, ForTerminal(title) + ": " + ForTerminal(text));
-  }
-  std::fflush(stderr);
+  const std::string words = WithPlainLineEnds(text);
+  const std::string line =
+      json_ ? Dump({{"box", kind}, {"title", title}, {"text", words}, {"answer", answer}})
+            : WithPlainLineEnds(title) + ": " + words;
+  static_cast<void>(Put(stderr, boxesOnTerminal_ ? ShownOnTerminal(line) : line));
 }
 
 }  // namespace kvr5::cli

@@ -13,11 +13,18 @@ using Json = nlohmann::ordered_json;
 
 /// The two streams of the companion. Results go to standard output, all that is said to the user
 /// to standard error; both are UTF-8 whatever the locale. With --json every line is an object.
+///
+/// On a terminal a control character, which a file's name may hold, is shown as U+FFFD: nothing
+/// that a card or a list brings along may steer it.
 class Output {
  public:
-  explicit Output(bool json) : json_(json) {}
+  explicit Output(bool json);
 
   bool IsJson() const { return json_; }
+  /// True when results are read on a terminal.
+  bool OnTerminal() const { return resultsOnTerminal_; }
+  /// True once a line of the result could not be written, as on a full disk.
+  bool Failed() const { return failed_; }
   /// A line of the result, for people.
   void Line(std::string_view text);
   /// A line of the result, for programs.
@@ -29,7 +36,12 @@ class Output {
   void Say(std::string_view text) { Box("warning", "kvr5card", text, "ok"); }
 
  private:
+  void Result(const std::string& line);
+
   bool json_;
+  bool resultsOnTerminal_;
+  bool boxesOnTerminal_;
+  bool failed_ = false;
 };
 
 }  // namespace kvr5::cli

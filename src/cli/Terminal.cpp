@@ -7,6 +7,7 @@
 
 #include "cli/Interrupt.h"
 #include "cli/Status.h"
+#include "cli/TerminalText.h"
 #include "core/Lingua.h"
 #include "core/ParoleCopia.h"
 #include "platform/Fold.h"
@@ -65,7 +66,8 @@ void ProgressLine::Show(const std::string& text) {
   if (!active_ || (shown_ && now - last_ < kRefresh)) return;
   last_ = now;
   shown_ = true;
-  std::cerr << "\r\033[K" << text << std::flush;
+  // the last column stays free: a terminal that wraps there would begin a new line each time
+  std::cerr << "\r\033[K" << CutToWidth(text, TerminalColumns() - 1) << std::flush;
 }
 
 void ProgressLine::Clear() {

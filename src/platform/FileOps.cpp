@@ -50,10 +50,12 @@ Error CopyContent(FileSystem& files, File& from, File& to) {
   }
 }
 
-/// Makes a file beside `path` under a passing name, has it filled, and puts it in the place of
-/// `path`; after a failure nothing of it is left. A folder or a read-only file in that place is 75.
+/// Makes a file beside the one at `given` under a passing name, has it filled, and puts it in its
+/// place; a link goes on leading there. After a failure nothing of it is left. A folder or a
+/// read-only file in that place is 75.
 template <typename Fill>
-Error ReplaceBy(FileSystem& files, std::string_view path, Fill fill) {
+Error ReplaceBy(FileSystem& files, std::string_view given, Fill fill) {
+  const std::string path = files.BehindLink(given);
   const Result<FileInfo> old = files.Info(path);
   if (old && (old.Value().IsFolder || old.Value().ReadOnly)) return Error(errors::PathFileAccess);
   if (!old && old.Err().Number() != errors::FileNotFound) return old.Err();
@@ -155,6 +157,16 @@ Result<std::string> ReadWhole(FileSystem& files, std::string_view path) {
 
 Error ReplaceWhole(FileSystem& files, std::string_view path, std::string_view bytes) {
   return ReplaceBy(files, path, [bytes](File& file) { return file.Write(bytes); });
+}
+
+void SweepLeftovers(FileSystem& files, std::string_view folder) {
+  const Result<std::vector<FileInfo>> list = files.List(folder);
+  if (!list) return;
+  for (const FileInfo& entry : list.Value()) {
+    if (IsNormal(entry) && IsTempName(entry.Name)) {
+      Ignora(files.DeleteUnheld(JoinPath(folder, entry.Name)));
+    }
+  }
 }
 
 }  // namespace kvr5

@@ -45,4 +45,8 @@ Result<std::string> ReadWhole(FileSystem& files, std::string_view path);
 /// new one. 75 where it is read-only or a folder.
 Error ReplaceWhole(FileSystem& files, std::string_view path, std::string_view bytes);
 
+/// Deletes what copies that were cut off (the card pulled out, the power gone) left in a folder
+/// under passing names. Those of a program that is still at work stay.
+void SweepLeftovers(FileSystem& files, std::string_view folder);
+
 }  // namespace kvr5

@@ -79,6 +79,11 @@ class FileSystem {
   virtual Result<std::unique_ptr<File>> Open(std::string_view path, OpenMode mode) = 0;
   /// Deletes one file (no wildcard); 53 when it isn't there, 75 for a folder or a read-only file.
   virtual Error Delete(std::string_view path) = 0;
+  /// Deletes a file unless a program that made it (OpenMode::New) still has it open: 70 then.
+  virtual Error DeleteUnheld(std::string_view path) { return Delete(path); }
+  /// Where a link at `path` leads to, so that what it names can be replaced and the link stays;
+  /// `path` itself where there is none.
+  virtual std::string BehindLink(std::string_view path) const { return std::string(path); }
   /// Makes one folder; 75 when the name is taken, 76 when its parent isn't there.
   virtual Error CreateFolder(std::string_view path) = 0;
   /// Renames; 58 when `to` exists, 53 when `from` doesn't.

@@ -23,8 +23,8 @@ struct FatAttributes {
 
 /// Asks the disk for the attributes of a file or folder, named by its path in the host's form and
 /// the host's number of the device that it was found on; nothing where the volume keeps none.
-using AttributeReader = std::function<std::optional<FatAttributes>(const std::string& hostPath,
-                                                                   std::uint64_t device)>;
+using AttributeReader =
+    std::function<std::optional<FatAttributes>(const std::string& hostPath, std::uint64_t device)>;
 
 /// Asks the volume itself.
 std::optional<FatAttributes> ReadFatAttributes(const std::string& hostPath, std::uint64_t device);
@@ -42,6 +42,8 @@ class HostFileSystem : public FileSystem {
   Result<std::vector<FileInfo>> List(std::string_view folder) const override;
   Result<std::unique_ptr<File>> Open(std::string_view path, OpenMode mode) override;
   Error Delete(std::string_view path) override;
+  Error DeleteUnheld(std::string_view path) override;
+  std::string BehindLink(std::string_view path) const override;
   Error CreateFolder(std::string_view path) override;
   Error Rename(std::string_view from, std::string_view to) override;
   Error Replace(std::string_view from, std::string_view to) override;

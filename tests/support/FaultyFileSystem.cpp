@@ -208,6 +208,11 @@ Error FaultyFileSystem::Delete(std::string_view path) {
   return inner_.Delete(path);
 }
 
+Error FaultyFileSystem::DeleteUnheld(std::string_view path) {
+  if (Error error = Touch("DeleteUnheld", path, Kind::Change)) return error;
+  return inner_.DeleteUnheld(path);
+}
+
 Error FaultyFileSystem::CreateFolder(std::string_view path) {
   if (Error error = Touch("CreateFolder", path, Kind::Change)) return error;
   return inner_.CreateFolder(path);

@@ -45,6 +45,8 @@ class FaultyFileSystem : public FileSystem {
   Result<std::vector<FileInfo>> List(std::string_view folder) const override;
   Result<std::unique_ptr<File>> Open(std::string_view path, OpenMode mode) override;
   Error Delete(std::string_view path) override;
+  Error DeleteUnheld(std::string_view path) override;
+  std::string BehindLink(std::string_view path) const override { return inner_.BehindLink(path); }
   Error CreateFolder(std::string_view path) override;
   Error Rename(std::string_view from, std::string_view to) override;
   Error Replace(std::string_view from, std::string_view to) override;

@@ -1,5 +1,7 @@
+#include <algorithm>
 #include <iostream>
 
+#include "cli/Interrupt.h"
 #include "cli/verbs/Verb.h"
 #include "mp3/Accettazione.h"
 #include "mp3/EtichetteMp3.h"
@@ -55,7 +57,10 @@ EtichetteMp3 LabelsOnHub(const Contesto& context, const std::string& path, const
 bool Analyse(Session& session, modMp3Infos& reader, const std::string& file) {
   auto& context = session.Context();
   const auto path = context.Files.SystemPath(file);
-  if (!path) session.Out().Say(file + ": a file of this name can't be taken");
+  if (!path) {
+    session.Line().Clear();
+    session.Out().Say(file + ": a file of this name can't be taken");
+  }
   const InfoMp3 info = path ? reader.LeggiInfoMp3(path.Value()) : InfoMp3{};
   const EtichetteMp3 labels = LabelsOnHub(context, path ? path.Value() : "", info);
   if (session.Out().IsJson()) {
@@ -66,21 +71,68 @@ bool Analyse(Session& session, modMp3Infos& reader, const std::string& file) {
   return static_cast<bool>(path);
 }
 
+/// The files of one call, one after another, until Ctrl-C.
+class Analysis {
+ public:
+  /// `count`: how many there are; 0 when nobody knows yet.
+  Analysis(Session& session, std::size_t count)
+      : session_(session), reader_(session.Context().Files), count_(count) {}
+
+  /// False when the call was cancelled before this file.
+  bool Take(const std::string& file) {
+    if (Cancelled()) return false;
+    ++done_;
+    // On a terminal the results themselves tell how far the work is.
+    if (!session_.Out().OnTerminal()) session_.Line().Show(Progress());
+    all_ = Analyse(session_, reader_, file) && all_;
+    return true;
+  }
+
+  int Status() {
+    session_.Line().Clear();
+    if (!Cancelled()) return all_ ? kDone : kRefused;
+    session_.Out().Say("cancelled after " + std::to_string(done_) + " files");
+    return kRefused;
+  }
+
+ private:
+  bool Cancelled() {
+    cancelled_ = cancelled_ || Interrupt::Pressed();
+    return cancelled_;
+  }
+
+  std::string Progress() const {
+    const std::string number = "Analysing  " + std::to_string(done_);
+    if (count_ == 0) return number;
+    return number + "/" + std::to_string(count_) + "  " + std::to_string(done_ * 100 / count_) +
+           "%";
+  }
+
+  Session& session_;
+  modMp3Infos reader_;
+  std::size_t count_;
+  std::size_t done_ = 0;
+  bool all_ = true;
+  bool cancelled_ = false;
+  Interrupt interrupt_{Interrupt::Waits::End};
+};
+
 }  // namespace
 
 int RunMp3(Session& session, const std::vector<std::string>& arguments) {
   if (arguments.empty()) return kUsage;
-  modMp3Infos reader(session.Context().Files);
-  bool all = true;
   if (arguments.size() == 1 && arguments[0] == "-") {
+    Analysis run(session, 0);
     for (std::string line; std::getline(std::cin, line);) {
       if (line.ends_with('\r')) line.pop_back();
-      if (!line.empty()) all = Analyse(session, reader, line) && all;
+      if (!line.empty() && !run.Take(line)) break;
     }
-  } else {
-    for (const auto& file : arguments) all = Analyse(session, reader, file) && all;
+    return run.Status();
   }
-  return all ? kDone : kRefused;
+  Analysis run(session, arguments.size());
+  static_cast<void>(
+      std::ranges::all_of(arguments, [&run](const std::string& file) { return run.Take(file); }));
+  return run.Status();
 }
 
 }  // namespace kvr5::cli

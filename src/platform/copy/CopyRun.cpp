@@ -134,6 +134,8 @@ bool CopyRun::CopyOne(const std::string& source, const FileInfo& info, const std
 
 bool CopyRun::Begin(const std::string& target, std::uint64_t size) {
   bool folderMade = false;
+  const auto [folder, isNew] = swept_.emplace(FolderOf(target));
+  if (isNew) SweepLeftovers(files_, *folder);
   for (;;) {
     const Error error = batch_.Begin(target);
     if (!error) {

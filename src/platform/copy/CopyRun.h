@@ -47,6 +47,7 @@ class CopyRun : private CopyVisitor {
   CopyBatch batch_;
   CopyState state_;
   std::string targetFolder_;       ///< where the pair at work leads, less subfolders of its own
+  std::set<std::string> swept_;    ///< the target folders that were freed of leftovers
   std::set<std::string> written_;  ///< the target folders of the pairs that brought something
   std::optional<CopyFailure> failure_;
   bool cancelled_ = false;

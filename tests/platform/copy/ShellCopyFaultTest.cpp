@@ -57,6 +57,16 @@ class ShellCopyOnAFailingDevice : public test::CopyTest {
   std::vector<CopyPair> pairs_;
 };
 
+TEST_F(ShellCopyOnAFailingDevice, FreesTheRoomThatACopyCutOffLeftTaken) {
+  Prepare();
+  folder_.Write("card/" + NewTempName(), std::string(4 * kSize, 'x'));
+  folder_.Write("card/sub/" + NewTempName(), "x");
+  files_.LimitRoom("E:\\", 4 * kSize);
+  EXPECT_EQ(Copy(pairs_).Result, 0);
+  EXPECT_TRUE(AllCopied());
+  EXPECT_FALSE(AnyTemp());
+}
+
 TEST_F(ShellCopyOnAFailingDevice, LeavesWholeFilesWhicheverOperationFails) {
   std::size_t failures = 0;
   std::set<std::string> fatal;

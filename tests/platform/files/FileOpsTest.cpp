@@ -174,6 +174,33 @@ TEST_F(FileOps, ReadWholeFiles) {
   EXPECT_EQ(ReadWhole(files_, Path("a")).Err().Number(), 57);
 }
 
+TEST_F(FileOps, ALinkToAReplacedFileGoesOnLeadingThere) {
+  folder_.Write("elsewhere/real.ini", "old");
+  fs::create_symlink("elsewhere/real.ini", folder_.Host() / "link.ini");
+  fs::create_symlink("elsewhere/none.ini", folder_.Host() / "dead.ini");
+  EXPECT_EQ(ReplaceWhole(files_, Path("LINK.ini"), "new").Number(), 0);
+  EXPECT_TRUE(fs::is_symlink(folder_.Host() / "link.ini"));
+  EXPECT_EQ(folder_.Read("elsewhere/real.ini"), "new");
+  EXPECT_EQ(ReplaceWhole(files_, Path("dead.ini"), "new").Number(), 0);
+  EXPECT_EQ(folder_.Read("dead.ini"), "new");
+}
+
+TEST_F(FileOps, SweepsTheLeftoversOfCopiesThatWereCutOffButNoOthers) {
+  const std::string dead = NewTempName();
+  const std::string atWork = NewTempName();
+  folder_.Write(dead, "half a fi");
+  folder_.Write("~short.kv5", "a user's own");
+  fs::create_directory(folder_.Host() / NewTempName());
+  const auto open = files_.Open(Path(atWork), OpenMode::New);
+  ASSERT_TRUE(open);
+  SweepLeftovers(files_, Path());
+  EXPECT_FALSE(folder_.Exists(dead));
+  EXPECT_TRUE(folder_.Exists(atWork));
+  EXPECT_TRUE(folder_.Exists("~short.kv5"));
+  EXPECT_EQ(files_.List(Path()).Value().size(), 3U);
+  SweepLeftovers(files_, Path("none"));
+}
+
 TEST_F(FileOps, ReplaceWholeFiles) {
   EXPECT_EQ(ReplaceWhole(files_, Path("Config.cfg"), "one").Number(), 0);
   EXPECT_EQ(ReplaceWhole(files_, Path("CONFIG.CFG"), "two").Number(), 0);

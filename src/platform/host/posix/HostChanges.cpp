@@ -1,4 +1,5 @@
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -24,6 +25,12 @@ bool OwnerCanWrite(const struct stat& status) {
   return (status.st_mode & S_IWUSR) != 0;
 }
 
+/// Marks an open file as in use by this program, until it is closed in whatever way; false when
+/// another one holds it, or where the volume knows no such marks.
+bool Hold(int descriptor) {
+  return ::flock(descriptor, LOCK_EX | LOCK_NB) == 0;
+}
+
 /// Opens without waiting for the other end of a pipe, and hands out plain files only.
 Result<std::unique_ptr<File>> OpenPlain(const std::string& hostPath, int flags, int& code) {
   constexpr int kAlways = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
@@ -35,6 +42,7 @@ Result<std::unique_ptr<File>> OpenPlain(const std::string& hostPath, int flags, 
   struct stat status {};
   if (::fstat(descriptor, &status) != 0) return FromErrno(errno);
   if (!S_ISREG(status.st_mode)) return Error(errors::PathFileAccess);
+  if ((flags & O_EXCL) != 0) static_cast<void>(Hold(descriptor));
   return file;
 }
 
@@ -127,6 +135,16 @@ Error HostFileSystem::Delete(std::string_view path) {
   if (!place.Found()) return Failure(path, place.Code);
   if (place.IsFolder() || !OwnerCanWrite(place.Stat)) return Error(errors::PathFileAccess);
   return ::unlink(place.Path.c_str()) == 0 ? Error() : Failure(path, errno);
+}
+
+Error HostFileSystem::DeleteUnheld(std::string_view path) {
+  const Result<Place> found = Find(path);
+  if (!found) return found.Err();
+  constexpr int kFlags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY | O_NOFOLLOW;
+  const int descriptor = ::open(found.Value().Path.c_str(), kFlags);
+  if (descriptor < 0) return Failure(path, errno);
+  const PosixFile file(descriptor);
+  return Hold(descriptor) ? Delete(path) : Error(errors::PermissionDenied);
 }
 
 Error HostFileSystem::CreateFolder(std::string_view path) {

@@ -172,6 +172,19 @@ Result<std::uint64_t> HostFileSystem::FreeSpace(std::string_view path) const {
   return static_cast<std::uint64_t>(volume.f_bavail) * volume.f_frsize;
 }
 
+std::string HostFileSystem::BehindLink(std::string_view path) const {
+  const Result<Place> found = Find(path);
+  struct stat status {};
+  if (!found || !found.Value().Found() || ::lstat(found.Value().Path.c_str(), &status) != 0 ||
+      !S_ISLNK(status.st_mode)) {
+    return std::string(path);
+  }
+  std::error_code failed;
+  const auto real = std::filesystem::canonical(found.Value().Path, failed);
+  const auto target = PathMap::FromHost(real.string());
+  return failed || !target ? std::string(path) : target.Value();
+}
+
 bool HostFileSystem::SameFile(std::string_view a, std::string_view b) const {
   const Result<Place> first = Find(a);
   auto second = Map(b);
