@@ -7,7 +7,7 @@
 
 #include "core/FormattaDurata.h"
 
-namespace kvr5::test {
+namespace kvr5 {
 namespace {
 
 TEST(FormattaDurata, GivesTheTextOfEverySample) {
@@ -18,6 +18,16 @@ TEST(FormattaDurata, GivesTheTextOfEverySample) {
     const double seconds = sample.at("seconds").get<double>();
     EXPECT_EQ(FormattaDurata(seconds), sample.at("text").get<std::string>()) << seconds;
   }
+}
+
+TEST(FormattaDurata, ShowsHoursMinutesAndSecondsWithPoints) {
+  EXPECT_EQ(FormattaDurata(3723), "01.02.03");
+  EXPECT_EQ(FormattaDurata(0), "00.00.00");
+}
+
+TEST(FormattaDurata, HoursAbove99TakeThreeDigits) {
+  EXPECT_EQ(FormattaDurata(99 * 3600.0 + 3599), "99.59.59");
+  EXPECT_EQ(FormattaDurata(100 * 3600.0), "100.00.00");
 }
 
 TEST(FormattaDurata, JustUnderABoundaryLeavesANegativeRest) {
@@ -38,4 +48,4 @@ TEST(FormattaDurata, WhatDoesNotFitIsTheErrorText) {
 }
 
 }  // namespace
-}  // namespace kvr5::test
+}  // namespace kvr5
