@@ -238,7 +238,8 @@ TEST_F(ShellCopyOf, ManyFilesKeepsFewOpen) {
 }
 
 TEST_F(ShellCopyOf, FilesLargerThanABatchArriveWhole) {
-  const std::string bytes = Noise(1'000'003) + std::string(24'000'000, 'x') + Noise(77);
+  std::string bytes = Noise(1'000'003);
+  bytes.append(24'000'000, 'x').append(Noise(77));
   for (const char* name : {"from/a", "from/b", "from/c"}) folder_.Write(name, bytes);
   EXPECT_EQ(Copy({{From("*"), Card()}}).BytesCopied, 75'000'240U);
   for (const char* name : {"a", "b", "c"}) {

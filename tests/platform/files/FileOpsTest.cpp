@@ -250,7 +250,7 @@ void ForEachFault(test::FaultyFileSystem& files, const std::string& prefix, Chan
 TEST_F(FileOps, ReplaceLeavesTheOldOrTheNewFileWhateverFails) {
   ForEachFault(files_, Path(), [this] {
     folder_.Write("a", "old");
-    const Error error = ReplaceWhole(files_, Path("a"), "brand new");
+    Error error = ReplaceWhole(files_, Path("a"), "brand new");
     EXPECT_EQ(folder_.Read("a"), error ? "old" : "brand new");
     EXPECT_EQ(host_.List(Path()).Value().size(), 1U) << files_.FailedOperation();
     return error;
@@ -261,7 +261,7 @@ TEST_F(FileOps, CopyLeavesTheOldOrTheNewFileWhateverFails) {
   ForEachFault(files_, Path(), [this] {
     folder_.Write("from", "brand new");
     folder_.Write("to", "old");
-    const Error error = CopyOneFile(files_, Path("from"), Path("to"));
+    Error error = CopyOneFile(files_, Path("from"), Path("to"));
     EXPECT_EQ(folder_.Read("to"), error ? "old" : "brand new");
     EXPECT_EQ(host_.List(Path()).Value().size(), 2U) << files_.FailedOperation();
     return error;

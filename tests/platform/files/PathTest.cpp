@@ -23,7 +23,7 @@ TEST(PathMap, CountsDoubledAndClosingBackslashesForNothing) {
 
 TEST(PathMap, WorksDotsOutByTheText) {
   const PathMap paths;
-  EXPECT_EQ(paths.ToHost("C:\\a\\.\\b\\..\\c"), "/a/c");
+  EXPECT_EQ(paths.ToHost(R"(C:\a\.\b\..\c)"), "/a/c");
   EXPECT_EQ(paths.ToHost("C:\\..\\..\\a"), "/a");
   EXPECT_EQ(paths.ToHost("C:\\a\\..."), "/a/...");
 }
