@@ -1,9 +1,16 @@
-// Every statement that the system has, in all its spellings, on the real tables.
+// The statements about playlists and names, in all their spellings, and what every statement
+// keeps to, on the real tables.
 
 #include "DatabaseTest.h"
 
 namespace kvr5::test {
 namespace {
+
+/// The tracks with the names of their playlists.
+constexpr std::string_view kNamedTracks =
+    "SELECT [HEAD].[NScheduler],[HEAD].[Descript],[List].[ID],[List].[Filename],"
+    "[List].[FilePath],[List].[NPlaylist],[List].[Pos] FROM [List] INNER JOIN [HEAD] ON "
+    "[HEAD].[NScheduler]=[LIST].[NPlaylist] ORDER BY [Descript],[Pos] ASC";
 
 /// Two playlists, the second entered first and from behind.
 class PlaylistStatements : public DatabaseTest {
@@ -17,36 +24,6 @@ class PlaylistStatements : public DatabaseTest {
     AddTrack(1, 1, "a.mp3");
     Run("INSERT INTO [HEAD] ([NScheduler],[Descript]) VALUES(1,'Morning')");
     Run("INSERT INTO [HEAD] ([NScheduler],[Descript]) VALUES(2,'Evening')");
-  }
-};
-
-/// Two segments of day 3, the later one first, with two spots each; one of day 4.
-class ScheduleStatements : public DatabaseTest {
- protected:
-  void SetUp() override {
-    DatabaseTest::SetUp();
-    const Transaction run(connection);
-    Run("INSERT INTO [HEAD] ([NScheduler],[StartTime]) VALUES(3,#12.30#)");
-    Run("INSERT INTO [HEAD] ([NScheduler],[StartTime]) VALUES(3,#08.00#)");
-    Run("INSERT INTO [HEAD] ([NScheduler],[StartTime]) VALUES(4,#00.00#)");
-    for (const std::string_view values :
-         {"2,'noon2','C:\\',Null,3,1", "1,'noon1','C:\\',Null,3,1", "1,'early1','C:\\',Null,3,2",
-          "2,'early2','C:\\',Null,3,2", "1,'night','C:\\',Null,4,3"}) {
-      Run("INSERT INTO [LIST] ([Pos],[FileName],[FilePath],[Alias],[NPlaylist],[IDSched]) VALUES(" +
-          std::string(values) + ")");
-    }
-  }
-
-  static std::string Grid(const std::string& head, int day) {
-    const std::string playlist = day < 0 ? "[HEAD].[NScheduler]" : std::to_string(day);
-    std::string sql = head;
-    for (int place = 1; place <= 8; ++place) {
-      const std::string text = std::to_string(place);
-      sql.append(",(SELECT TOP 1 [Filename] FROM [List] WHERE [NPlaylist]=").append(playlist);
-      sql.append(" AND Pos=").append(text);
-      sql.append(" AND IDSched=[HEAD].ID) AS Spot").append(text);
-    }
-    return sql;
   }
 };
 
@@ -75,6 +52,17 @@ TEST_F(PlaylistStatements, CountsAPlaylist) {
   EXPECT_EQ(Column("SELECT COUNT([Filename]) AS Brani FROM [LIST] WHERE [NPlaylist]=9", "Brani"),
             Texts{"0"});
   EXPECT_EQ(Column("SELECT COUNT(*) AS N FROM [LIST]", "N"), Texts{"4"});
+}
+
+TEST_F(PlaylistStatements, CountsTheRowsThatHoldAName) {
+  Run("INSERT INTO [LIST] ([NPlaylist],[Pos],[FileName]) VALUES(1,3,Null)");
+  Run("INSERT INTO [LIST] ([NPlaylist],[Pos]) VALUES(1,4)");
+  Run("INSERT INTO [LIST] ([NPlaylist],[FileName]) VALUES(1,'')");
+  const std::string names = "SELECT COUNT([Filename]) AS Brani FROM [LIST] WHERE [NPlaylist]=";
+  EXPECT_EQ(Column(names + "1", "Brani"), Texts{"3"}) << "an empty name is one, a Null is none";
+  EXPECT_EQ(Column(names + "2", "Brani"), Texts{"2"});
+  const std::string places = "SELECT COUNT(Pos) as UltimaPos FROM [List] WHERE [NPlaylist]=";
+  EXPECT_EQ(Column(places + "1", "UltimaPos"), Texts{"4"});
 }
 
 TEST_F(PlaylistStatements, ListsThePlaylistsInUse) {
@@ -114,14 +102,45 @@ TEST_F(PlaylistStatements, GivesNullForTheLargestOfNothing) {
 }
 
 TEST_F(PlaylistStatements, JoinsTracksWithTheNamesOfTheirPlaylists) {
-  const std::string join =
-      "SELECT [HEAD].[NScheduler],[HEAD].[Descript],[List].[ID],[List].[Filename],"
-      "[List].[FilePath],[List].[NPlaylist],[List].[Pos] FROM [List] INNER JOIN [HEAD] ON "
-      "[HEAD].[NScheduler]=[LIST].[NPlaylist] ORDER BY [Descript],[Pos] ASC";
-  EXPECT_EQ(Column(join, "FileName"), (Texts{"c.mp3", "d.mp3", "a.mp3", "b.mp3"}));
-  EXPECT_EQ(Column(join, "Descript"), (Texts{"Evening", "Evening", "Morning", "Morning"}));
-  EXPECT_EQ(Column(join, "ID"), (Texts{"2", "1", "4", "3"}));
-  EXPECT_EQ(Column(join, "FilePath").front(), "C:\\Music\\");
+  EXPECT_EQ(Column(kNamedTracks, "FileName"), (Texts{"c.mp3", "d.mp3", "a.mp3", "b.mp3"}));
+  EXPECT_EQ(Column(kNamedTracks, "Descript"), (Texts{"Evening", "Evening", "Morning", "Morning"}));
+  EXPECT_EQ(Column(kNamedTracks, "ID"), (Texts{"2", "1", "4", "3"}));
+  EXPECT_EQ(Column(kNamedTracks, "FilePath").front(), "C:\\Music\\");
+}
+
+TEST_F(PlaylistStatements, JoinsTheTracksWithEachNameOfTheirNumber) {
+  Run("INSERT INTO [HEAD] ([NScheduler],[Descript]) VALUES(1,'Afternoon')");
+  Run("INSERT INTO [HEAD] ([NScheduler],[Descript]) VALUES(7,'Empty')");
+  EXPECT_EQ(Column(kNamedTracks, "Descript"),
+            (Texts{"Afternoon", "Afternoon", "Evening", "Evening", "Morning", "Morning"}));
+  EXPECT_EQ(Column(kNamedTracks, "FileName"),
+            (Texts{"a.mp3", "b.mp3", "c.mp3", "d.mp3", "a.mp3", "b.mp3"}));
+  EXPECT_EQ(Column(kNamedTracks, "ID"), (Texts{"4", "3", "2", "1", "4", "3"}));
+}
+
+TEST_F(PlaylistStatements, AddsANameThroughTheFirstHeadAlone) {
+  Recordset heads;
+  ASSERT_FALSE(heads.Open(connection, "SELECT TOP 1 * FROM [HEAD]"));
+  ASSERT_FALSE(heads.AddNew());
+  ASSERT_FALSE(heads.Set("Descript", "Night"));
+  ASSERT_FALSE(heads.Set("NScheduler", 3));
+  ASSERT_FALSE(heads.Update());
+  EXPECT_EQ(heads.Number("ID"), 3);
+  heads.Close();
+  EXPECT_EQ(Column("SELECT * FROM [HEAD]", "Descript"), (Texts{"Morning", "Evening", "Night"}));
+  EXPECT_EQ(Column("SELECT * FROM [HEAD]", "NScheduler"), (Texts{"1", "2", "3"}));
+}
+
+TEST_F(PlaylistStatements, AddsTheFirstNameOfAll) {
+  Run("DELETE * FROM [HEAD]");
+  Recordset heads;
+  ASSERT_FALSE(heads.Open(connection, "SELECT TOP 1 * FROM [HEAD]"));
+  EXPECT_EQ(heads.RecordCount(), 0);
+  ASSERT_FALSE(heads.AddNew());
+  ASSERT_FALSE(heads.Set("Descript", "Night"));
+  ASSERT_FALSE(heads.Update());
+  heads.Close();
+  EXPECT_EQ(Column("SELECT TOP 1 * FROM [HEAD]", "Descript"), Texts{"Night"});
 }
 
 TEST_F(PlaylistStatements, ChangesPlaces) {
@@ -161,88 +180,6 @@ TEST_F(PlaylistStatements, NeverGivesANumberTwice) {
   Run("DELETE * FROM [List]");
   AddTrack(1, 1, "new.mp3");
   EXPECT_EQ(Column("SELECT * FROM [List]", "ID"), Texts{"5"});
-}
-
-TEST_F(ScheduleStatements, ReadsTheSpotsOfASegment) {
-  EXPECT_EQ(Column("SELECT * FROM [List] WHERE IDSCHED=1", "Pos"), (Texts{"2", "1"}));
-  EXPECT_EQ(Column("SELECT * FROM [LIST] WHERE [IDSched]=1 ORDER BY ID DESC", "Pos"),
-            (Texts{"1", "2"}));
-  EXPECT_EQ(Column("SELECT * FROM [List] WHERE IDSCHED=2 ORDER BY [IDSched],[Pos] ASC", "FileName"),
-            (Texts{"early1", "early2"}));
-  EXPECT_EQ(Column("SELECT * FROM [List] WHERE [NPlaylist]=3 AND IDSched=1 ORDER BY [Pos],[ID] ASC",
-                   "FileName"),
-            (Texts{"noon1", "noon2"}));
-}
-
-TEST_F(ScheduleStatements, ReadsAllSpots) {
-  const Texts all{"noon1", "noon2", "early1", "early2", "night"};
-  EXPECT_EQ(Column("SELECT * FROM [List] ORDER BY [IDSched],[Pos] ASC", "FileName"), all);
-  EXPECT_EQ(Column("SELECT * FROM [LIST] ORDER BY [NPlaylist],[IDSChed],[Pos]", "FileName"), all);
-}
-
-TEST_F(ScheduleStatements, FindsTheLatestTimeOfADay) {
-  EXPECT_EQ(
-      Column("SELECT max(starttime) as UltimaOra FROM [HEAD] WHERE [NScheduler]=3", "ultimaora"),
-      Texts{"12:30:00"});
-}
-
-TEST_F(ScheduleStatements, ShowsTheSpotsOfADayAsAGrid) {
-  const std::string grid = Grid("SELECT [HEAD].ID,[HEAD].[StartTime]", 3) +
-                           " FROM [HEAD] WHERE [NScheduler]=3 ORDER BY [StartTime] ASC";
-  EXPECT_EQ(Column(grid, "ID"), (Texts{"2", "1"}));
-  EXPECT_EQ(Column(grid, "starttime"), (Texts{"08:00:00", "12:30:00"}));
-  EXPECT_EQ(Column(grid, "Spot1"), (Texts{"early1", "noon1"}));
-  EXPECT_EQ(Column(grid, "spot2"), (Texts{"early2", "noon2"}));
-  EXPECT_EQ(Column(grid, "Spot8"), (Texts{"NULL", "NULL"}));
-}
-
-TEST_F(ScheduleStatements, ShowsTheSpotsOfAllDaysForTheReport) {
-  const std::string grid = Grid("SELECT [HEAD].ID,[HEAD].[NScheduler],[HEAD].[StartTime]", -1) +
-                           " FROM [HEAD] ORDER BY [HEAD].[NScheduler],[HEAD].[StartTime] ASC";
-  EXPECT_EQ(Column(grid, "NScheduler"), (Texts{"3", "3", "4"}));
-  EXPECT_EQ(Column(grid, "Spot1"), (Texts{"early1", "noon1", "night"}));
-}
-
-TEST_F(ScheduleStatements, TakesTheFirstAddedOfTwoSpotsInOnePlace) {
-  Run("UPDATE [List] SET [Pos]=1 WHERE [FileName]='noon2'");
-  const std::string grid = Grid("SELECT [HEAD].ID,[HEAD].[StartTime]", 3) +
-                           " FROM [HEAD] WHERE [NScheduler]=3 ORDER BY [StartTime] ASC";
-  EXPECT_EQ(Column(grid, "Spot1"), (Texts{"early1", "noon2"}));
-}
-
-TEST_F(ScheduleStatements, JoinsSpotsWithTheirTimesForTheExport) {
-  const std::string join =
-      "SELECT [HEAD].[StartTime],[List].[NPlaylist],[List].[IDSched],[List].[Pos],"
-      "[List].[FileName],[List].[FilePath],[List].[Alias] FROM [List] INNER JOIN [HEAD] ON "
-      "[HEAD].[ID]=[LIST].[IDSched] ORDER BY [List].[NPlaylist],[List].[IDSched],[List].[Pos] ASC";
-  EXPECT_EQ(Column(join, "FileName"), (Texts{"noon1", "noon2", "early1", "early2", "night"}));
-  EXPECT_EQ(Column(join, "StartTime"),
-            (Texts{"12:30:00", "12:30:00", "08:00:00", "08:00:00", "00:00:00"}));
-  EXPECT_EQ(Column(join, "Alias"), Texts(5, "NULL"));
-}
-
-TEST_F(ScheduleStatements, ChangesATimeAndFindsItsDouble) {
-  Run("UPDATE [HEAD] SET [StartTime]=#12.30# WHERE ID=2");
-  const std::string others = "SELECT TOP 1 * FROM [HEAD] WHERE [HEAD].[ID]<>2 AND [StartTime]=";
-  EXPECT_EQ(Column(others + "#12.30# AND [NScheduler]=3 ORDER BY ID DESC", "ID"), Texts{"1"});
-  EXPECT_EQ(Column(others + "#12.30# AND [NScheduler]=4 ORDER BY ID DESC", "ID"), Texts{});
-  EXPECT_EQ(connection.Execute("UPDATE [HEAD] SET [StartTime]=#24.00# WHERE ID=2").Number(),
-            errors::BadStatement);
-  EXPECT_EQ(Column("SELECT * FROM [HEAD] WHERE ID=2", "StartTime"), Texts{"12:30:00"});
-}
-
-TEST_F(ScheduleStatements, CopiesTheRowsOfASegment) {
-  Run("INSERT INTO [LIST] ([Pos],[FileName],[FilePath],[Alias],[NPlaylist],[IDSched]) "
-      "VALUES(1,'noon1','C:\\','',0,4)");
-  EXPECT_EQ(Column("SELECT * FROM [List] WHERE [IDSched]=4", "NPlaylist"), Texts{"0"});
-  EXPECT_EQ(Column("SELECT * FROM [List] WHERE [IDSched]=4", "Alias"), Texts{""});
-}
-
-TEST_F(ScheduleStatements, DeletesASegmentWithItsSpots) {
-  Run("DELETE * FROM [HEAD] WHERE [ID]=1");
-  Run("DELETE * FROM [List] WHERE [IDSched]=1");
-  Run("DELETE * FROM [List] WHERE [Pos]=1 AND IDSched=2");
-  EXPECT_EQ(Column("SELECT * FROM [List]", "FileName"), (Texts{"early2", "night"}));
 }
 
 TEST_F(PlaylistStatements, ComparesTextsWithoutRegardToCaseAccentsIncluded) {
