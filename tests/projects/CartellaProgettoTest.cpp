@@ -61,6 +61,23 @@ TEST(ElencoProgetti, ListsTheFoldersThatHoldBothFilesByName) {
   EXPECT_EQ(ElencoProgetti(b.C), (Names{"Alfa", "beta"}));
 }
 
+TEST(ElencoProgetti, ListsAccentedNamesAsTheyAreSpelled) {
+  Banco b;
+  for (const char* name : {"città", "Bücher", "alfa", "Παιδιά", "Déjà vu", "Città 2"}) {
+    b.Cartella.Write("program/Projects/" + std::string(name) + "/Config.txt", "");
+    b.Cartella.Write("program/Projects/" + std::string(name) + "/Config.cfg", "");
+  }
+  EXPECT_EQ(ElencoProgetti(b.C),
+            (Names{"alfa", "Bücher", "città", "Città 2", "Déjà vu", "Παιδιά"}));
+}
+
+TEST(ElencoProgetti, ListsAHiddenFolderToo) {
+  Banco b;
+  b.Cartella.Write("program/Projects/.hidden/Config.txt", "");
+  b.Cartella.Write("program/Projects/.hidden/Config.cfg", "");
+  EXPECT_EQ(ElencoProgetti(b.C), Names{".hidden"});
+}
+
 TEST(ElencoProgetti, IsEmptyWithoutSubfoldersOrWithoutTheFolder) {
   Banco b;
   EXPECT_TRUE(ElencoProgetti(b.C).empty());
