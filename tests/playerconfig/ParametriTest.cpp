@@ -4,12 +4,9 @@
 #include <tuple>
 
 #include "playerconfig/Parametri.h"
-#include "support/Banco.h"
 
 namespace kvr5 {
 namespace {
-
-using test::Banco;
 
 const Parametro& Find(const char* key) {
   const auto* parameter = TrovaParametro(key);
@@ -217,58 +214,6 @@ TEST(Parameters, AGivenValueMustFitItsControl) {
   EXPECT_EQ(accepted("RSPL", "0"), "refused");
   EXPECT_EQ(accepted("IMOD", "1"), "1");
   EXPECT_EQ(accepted("IMOD", "2"), "refused");
-}
-
-TEST(Parameters, EveryStateHasItsWords) {
-  Banco b;
-  const auto words = [&](const char* key, const char* text) {
-    return ParoleDelValore(b.C, Find(key), FromFile(key, text));
-  };
-  EXPECT_EQ(words("LOUT", "14"), "0 dB");
-  EXPECT_EQ(words("LOUT", "0"), "OFF");
-  EXPECT_EQ(words("LTRE", "0"), "-12");
-  EXPECT_EQ(words("LMP3", "20"), "200%");
-  EXPECT_EQ(words("LLOU", "1"), "+0.5 dB");
-  EXPECT_EQ(words("MOMN", "1"), "ON");
-  EXPECT_EQ(words("IMOD", "1"), "1 - active low");
-  EXPECT_EQ(words("TPCM", "0"), "OFF");
-  EXPECT_EQ(words("TPCM", "50"), "50 Millisecond");
-  EXPECT_EQ(words("MICP", "1"), "1 - Continuos play / loop");
-  EXPECT_EQ(words("MIRS", "0"), "1 - Restart") << "what the screen shows";
-  EXPECT_EQ(words("TFOU", "5"), "5 Sec");
-  EXPECT_EQ(words("TAVC", "0"), "0 - off");
-  EXPECT_EQ(words("TAVC", "1"), "2/10 of a second");
-  EXPECT_EQ(words("TAVC", "2"), "2 seconds");
-  EXPECT_EQ(words("TAVC", "3"), "4 seconds");
-  EXPECT_EQ(words("TAVC", "4"), "8 seconds");
-  EXPECT_EQ(words("CMAD", "7"), "7");
-  EXPECT_EQ(words("CMCK", "1"), "1 - Checksum on");
-  EXPECT_EQ(words("CMCL", "0"), "0 - CR LF off");
-  EXPECT_EQ(words("CMBR", "3"), "3 - 9600 bps");
-  EXPECT_EQ(words("CMSB", "2"), "2 - 2 StopBits");
-  EXPECT_EQ(words("CMDB", "8"), "8 - 8 Bits");
-  EXPECT_EQ(words("CMDR", "0"), "0 - shortest delay, 4 ms");
-  EXPECT_EQ(words("CMDR", "15"), "15 - delay 150 ms");
-  EXPECT_EQ(words("PYDL", "240"), "240 seconds");
-  EXPECT_EQ(words("RSPL", "50"), "50 detections");
-  EXPECT_EQ(words("INVR", "1"), "ON");
-}
-
-TEST(Parameters, EveryItemOfEveryListHasItsTextInBothLanguages) {
-  Banco b;
-  for (const auto* language : {"English.lan", "Italiano.lan"}) {
-    b.C.Stato.FileLingua = b.Percorso(std::string("program/Language/") + language);
-    for (const auto& parameter : Parametri()) {
-      for (int value = parameter.Minimo; value <= parameter.Massimo; ++value) {
-        const auto text = std::to_string(value);
-        if (!ValoreAccettato(parameter, text)) continue;
-        const auto state = DalFile(parameter, text, StatoIniziale(parameter), Locale());
-        const auto words = ParoleDelValore(b.C, parameter, state);
-        EXPECT_FALSE(words.empty() || words.ends_with("- ") || words.ends_with(" "))
-            << language << " " << parameter.Chiave << "=" << value << ": " << words;
-      }
-    }
-  }
 }
 
 }  // namespace
