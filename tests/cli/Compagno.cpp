@@ -5,6 +5,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <iterator>
 #include <sstream>
 
 namespace kvr5::test {
@@ -27,15 +29,15 @@ std::vector<nlohmann::json> Parse(const std::string& text) {
   return objects;
 }
 
-[[noreturn]] void Become(const std::vector<std::string>& words, const std::string& folder) {
-  const auto connect = [&](const char* name, int flags, int target) {
-    const int fd = open((folder + name).c_str(), flags, 0600);
-    if (fd < 0 || dup2(fd, target) < 0) _exit(126);
-  };
-  connect("/stdin", O_RDONLY, STDIN_FILENO);
-  connect("/stdout", O_WRONLY | O_CREAT | O_TRUNC, STDOUT_FILENO);
-  connect("/stderr", O_WRONLY | O_CREAT | O_TRUNC, STDERR_FILENO);
-  setenv("LC_ALL", "C", 1);
+void Connect(const std::string& path, int flags, int target) {
+  const int fd = open(path.c_str(), flags, 0600);
+  if (fd < 0 || dup2(fd, target) < 0) _exit(126);
+}
+
+constexpr int kToWrite = O_WRONLY | O_CREAT | O_TRUNC;
+
+[[noreturn]] void Become(const std::vector<std::string>& words, const std::string& locale) {
+  setenv("LC_ALL", locale.c_str(), 1);
   std::vector<char*> arguments;
   for (const auto& word : words) arguments.push_back(const_cast<char*>(word.c_str()));
   arguments.push_back(nullptr);
@@ -64,14 +66,34 @@ Compagno::Compagno() {
 Corsa Compagno::Esegui(std::vector<std::string> arguments, const std::string& input) const {
   const TempFolder streams;
   streams.Write("stdin", input);
-  std::vector<std::string> words = {KVR5_CARD, "--program", Host("program")};
-  words.insert(words.end(), arguments.begin(), arguments.end());
+  const std::vector<std::string> words = Parole(std::move(arguments));
+  const std::string folder = streams.Host().string();
   const pid_t child = fork();
-  if (child == 0) Become(words, streams.Host().string());
+  if (child == 0) {
+    Connect(folder + "/stdin", O_RDONLY, STDIN_FILENO);
+    Connect(folder + "/stdout", kToWrite, STDOUT_FILENO);
+    Connect(folder + "/stderr", kToWrite, STDERR_FILENO);
+    Become(words, Luogo);
+  }
   int status = 0;
   EXPECT_EQ(waitpid(child, &status, 0), child);
   EXPECT_TRUE(WIFEXITED(status)) << "kvr5card was ended by a signal";
   return {WEXITSTATUS(status), streams.Read("stdout"), streams.Read("stderr")};
+}
+
+std::vector<std::string> Compagno::Parole(std::vector<std::string> arguments) const {
+  std::vector<std::string> words = Inizio;
+  std::ranges::move(arguments, std::back_inserter(words));
+  return words;
+}
+
+std::function<int()> Compagno::Lavoro(std::vector<std::string> arguments,
+                                      std::string output) const {
+  return
+      [words = Parole(std::move(arguments)), output = std::move(output), locale = Luogo]() -> int {
+        if (!output.empty()) Connect(output, kToWrite, STDOUT_FILENO);
+        Become(words, locale);
+      };
 }
 
 Corsa Compagno::EseguiJson(std::vector<std::string> arguments, const std::string& input) const {

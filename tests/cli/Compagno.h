@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
@@ -30,8 +31,20 @@ class Compagno : public Banco {
   Corsa Esegui(std::vector<std::string> arguments, const std::string& input = {}) const;
   /// The same with --json in front.
   Corsa EseguiJson(std::vector<std::string> arguments, const std::string& input = {}) const;
+  /// The same run as the work of a process that has its streams already. Standard output goes to
+  /// the file `output` (host path) if one is given.
+  std::function<int()> Lavoro(std::vector<std::string> arguments, std::string output = {}) const;
   /// Host path of a file of the temporary folder.
   std::string Host(const std::string& name) const { return (Cartella.Host() / name).string(); }
+
+  /// The words that every command line begins with: the executable and its program folder.
+  std::vector<std::string> Inizio{KVR5_CARD, "--program", Host("program")};
+  /// The locale of the runs.
+  std::string Luogo = "C";
+
+ private:
+  /// The command line of a run.
+  std::vector<std::string> Parole(std::vector<std::string> arguments) const;
 };
 
 }  // namespace kvr5::test

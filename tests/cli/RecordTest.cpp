@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "cli/Compagno.h"
+#include "support/SmallVolume.h"
 
 namespace kvr5 {
 namespace {
@@ -101,103 +102,30 @@ TEST_F(RecordVerb, ForPeopleItSaysWhatItDid) {
   EXPECT_TRUE(run.Uscita.starts_with(k.Host("card") + ": 4 files, ")) << run.Uscita;
 }
 
-TEST(Mp3Verb, AnalysesFilesInOrderFromWordsOrStandardInput) {
-  const Compagno k;
-  k.ScriviMp3("music/a.mp3", 1, 100);
-  k.Cartella.Write("music/junk.mp3", "junk");
-  const auto run = k.EseguiJson(
-      {"mp3", k.Host("music/a.mp3"), k.Host("music/junk.mp3"), k.Host("music/gone.mp3")});
-  EXPECT_EQ(run.Stato, 0);
-  const auto objects = run.Oggetti();
-  ASSERT_EQ(objects.size(), 3U);
-  EXPECT_EQ(objects[0], (json{{"File", k.Host("music/a.mp3")},
-                              {"Valid", true},
-                              {"Version", 3},
-                              {"Layer", 3},
-                              {"Bitrate", 128000},
-                              {"SampleRate", 44100},
-                              {"Channels", 2},
-                              {"ChannelMode", 1},
-                              {"Emphasis", 0},
-                              {"IsVbr", false},
-                              {"HasId3v1", false},
-                              {"HasId3v2", false},
-                              {"Private", false},
-                              {"Original", true},
-                              {"Frames", 100},
-                              {"FileBytes", 41699},
-                              {"Duration", 3},
-                              {"HeaderOffset", 0},
-                              {"GoodPlaylist", true},
-                              {"GoodInput", true},
-                              {"Labels",
-                               {"MPEG 1 Layer 3", "Bitrate: 128kbit (CBR)",
-                                "44100 - 2 Ch (Joint Stereo)", "00.00.03  41 Kb"}}}));
-  EXPECT_EQ(objects[1]["Valid"], false);
-  EXPECT_EQ(objects[1]["Labels"], (json{"", "", "", ""}));
-  EXPECT_EQ(objects[2]["Valid"], false);
-  EXPECT_FALSE(k.Cartella.Exists("music/gone.mp3")) << "a missing file isn't made";
-
-  const auto piped =
-      k.EseguiJson({"mp3", "-"}, k.Host("music/a.mp3") + "\r\n\n" + k.Host("music/junk.mp3"));
-  ASSERT_EQ(piped.Oggetti().size(), 2U);
-  EXPECT_EQ(piped.Oggetti()[0], objects[0]);
-}
-
-TEST(Mp3Verb, FiguresAreCarriedFromFileToFileWithinOneCall) {
-  const Compagno k;
-  // A VBR tag of 100 frames and 60,000 bytes, and one whose flags say that it holds neither.
-  const auto tagged = [](const std::string& flags, const std::string& figures) {
-    std::string frame("\xFF\xFB\x90\x64", 4);
-    frame.resize(36, '\0');
-    frame += "Xing" + flags + figures;
-    frame.resize(417, '\0');
-    return frame + frame;
-  };
-  using namespace std::string_literals;
-  k.Cartella.Write("full.mp3", tagged("\0\0\0\3"s, "\0\0\0\x64\0\0\xEA\x60"s));
-  k.Cartella.Write("bare.mp3", tagged("\0\0\0\0"s, ""));
-  const auto alone = k.EseguiJson({"mp3", k.Host("bare.mp3")}).Oggetti().at(0);
-  const auto after = k.EseguiJson({"mp3", k.Host("full.mp3"), k.Host("bare.mp3")}).Oggetti().at(1);
-  EXPECT_EQ(alone["IsVbr"], false);
-  EXPECT_EQ(after["IsVbr"], true);
-  EXPECT_EQ(after["Frames"], 100);
-  const auto piped =
-      k.EseguiJson({"mp3", "-"}, k.Host("full.mp3") + "\n" + k.Host("bare.mp3") + "\n").Oggetti();
-  EXPECT_EQ(piped.at(1), after);
-}
-
-TEST(Mp3Verb, ARefusedFileOfLayer3ShowsItsFiguresAndOneOfLayer2None) {
-  const Compagno k;
-  std::string slow("\xFF\xFB\x40\x64", 4);  // 56 kbit/s
-  slow.resize(183, '\0');
-  k.Cartella.Write("slow.mp3", slow + slow);
-  std::string layer2("\xFF\xFD\x80\x64", 4);
-  layer2.resize(500, '\0');
-  k.Cartella.Write("layer2.mp3", layer2);
-  const auto objects = k.EseguiJson({"mp3", k.Host("slow.mp3"), k.Host("layer2.mp3")}).Oggetti();
-  EXPECT_EQ(objects.at(0)["Labels"][1], "Bitrate: 56kbit (CBR)");
-  EXPECT_EQ(objects.at(0)["GoodPlaylist"], false);
-  EXPECT_EQ(objects.at(1)["Valid"], true);
-  EXPECT_EQ(objects.at(1)["Labels"], (json{"", "", "", ""}));
-  const auto text = k.Esegui({"mp3", k.Host("slow.mp3"), k.Host("layer2.mp3")}).Righe();
-  EXPECT_TRUE(text.at(0).ends_with("refused")) << text.at(0);
-  EXPECT_TRUE(text.at(1).ends_with("not an MP3 file that the player takes")) << text.at(1);
-}
-
-TEST(Mp3Verb, ANameThatCannotBeTakenIsToldAndIsStatus1) {
-  const Compagno k;
-  const auto run = k.EseguiJson({"mp3", k.Host("a|b.mp3"), "\xFF.mp3"});
+TEST_F(RecordVerb, AFullCardIsToldAndKeepsNoHalfFile) {
+  const auto volume = test::SmallVolume::InMemory(k.Host("card"), 1);
+  if (!volume->IsMounted()) GTEST_SKIP() << volume->Why();
+  k.Cartella.Write("music/a.mp3", std::string(2'000'000, 'x'));
+  const auto run = k.EseguiJson({"record", "Hall", k.Host("card")});
   EXPECT_EQ(run.Stato, 1);
-  EXPECT_EQ(run.Oggetti().size(), 2U);
-  EXPECT_EQ(run.Box().size(), 2U);
+  EXPECT_EQ(run.Oggetti().at(0)["status"], 1);
+  ASSERT_EQ(run.Box().size(), 1U) << run.Errori;
+  EXPECT_EQ(run.Box()[0]["title"], "Copy stopped");
+  EXPECT_TRUE(run.Box()[0]["text"].get<std::string>().ends_with(k.Host("card/5.mp3")));
+  EXPECT_EQ(k.Nomi("card"), (std::vector<std::string>{"Config.cfg", "Config.txt", "inputcfg.mdb"}));
 }
 
-TEST(Mp3Verb, NeedsNoProgramFolder) {
-  const Compagno k;
-  std::filesystem::remove_all(k.Host("program"));
-  EXPECT_EQ(k.EseguiJson({"mp3", "x.mp3"}).Stato, 0);
-  EXPECT_FALSE(k.Cartella.Exists("program"));
+TEST_F(RecordVerb, AWriteProtectedCardIsRefusedUntouched) {
+  const auto volume = test::SmallVolume::InMemory(k.Host("card"), 1);
+  if (!volume->IsMounted()) GTEST_SKIP() << volume->Why();
+  k.Cartella.Write("card/5.mp3", "old");
+  ASSERT_TRUE(volume->Protect());
+  const auto run = k.EseguiJson({"record", "Hall", k.Host("card")});
+  EXPECT_EQ(run.Stato, 1);
+  ASSERT_EQ(run.Box().size(), 1U) << run.Errori;
+  EXPECT_EQ(run.Box()[0]["title"], "Recording not started");
+  EXPECT_EQ(k.Nomi("card"), std::vector<std::string>{"5.mp3"});
+  EXPECT_EQ(k.Cartella.Read("card/5.mp3"), "old");
 }
 
 }  // namespace

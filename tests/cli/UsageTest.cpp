@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "cli/Compagno.h"
+#include "cli/Terminale.h"
 
 namespace kvr5 {
 namespace {
@@ -109,6 +110,28 @@ TEST(Usage, WithoutAnyLanguageFileTheFatalBoxIsStatus3) {
   const auto run = k.EseguiJson({"projects"});
   EXPECT_EQ(run.Stato, 3);
   EXPECT_EQ(run.Box().at(0)["title"], "Language file not found");
+}
+
+TEST(Usage, WithoutTheOptionTheProgramIsWhereTheExecutableLies) {
+  Compagno k;
+  ASSERT_EQ(k.Esegui({"new", "Hall", "--mode", "1"}).Stato, 0);
+  std::filesystem::copy_file(KVR5_CARD, k.Host("program/kvr5card"));
+  std::filesystem::create_symlink("program/kvr5card", k.Host("short"));
+  for (const char* name : {"program/kvr5card", "short"}) {
+    k.Inizio = {k.Host(name)};
+    const auto run = k.EseguiJson({"projects"});
+    EXPECT_EQ(run.Stato, 0) << run.Errori;
+    ASSERT_EQ(run.Oggetti().size(), 1U);
+    EXPECT_EQ(run.Oggetti()[0]["name"], "Hall");
+  }
+}
+
+TEST(Usage, ResultsThatCannotBeWrittenAreStatus1) {
+  const Compagno k;
+  ASSERT_EQ(k.Esegui({"new", "Hall", "--mode", "1"}).Stato, 0);
+  test::Terminale terminal(k.Lavoro({"projects"}, "/dev/full"));
+  EXPECT_EQ(terminal.Fine(), 1);
+  EXPECT_NE(terminal.Schermo().find("can't be written"), std::string::npos);
 }
 
 }  // namespace

@@ -48,7 +48,9 @@ EsitoRegistrazione RecordOnto(Session& session, TabellaIngressi& inputs, const s
   return outcome;
 }
 
-bool Record(Session& session, TabellaIngressi& inputs, const std::string& card) {
+enum class CardEnd { Good, Failed, Cancelled };
+
+CardEnd Record(Session& session, TabellaIngressi& inputs, const std::string& card) {
   const std::string root = CardRoot(session, card);
   EsitoRegistrazione outcome{FineRegistrazione::SenzaScheda};
   if (root.empty()) {
@@ -66,7 +68,8 @@ bool Record(Session& session, TabellaIngressi& inputs, const std::string& card) 
     session.Out().Line(card + ": " + std::to_string(outcome.File) + " files, " +
                        std::to_string(outcome.Byte) + " bytes");
   }
-  return good;
+  if (outcome.Fine == FineRegistrazione::Annullata) return CardEnd::Cancelled;
+  return good ? CardEnd::Good : CardEnd::Failed;
 }
 
 }  // namespace
@@ -82,7 +85,9 @@ int RunRecord(Session& session, const std::vector<std::string>& arguments) {
   bool all = true;
   for (std::size_t i = 1; i < arguments.size(); ++i) {
     session.Copy().TakeFailure();
-    all = Record(session, inputs, arguments[i]) && all;
+    const CardEnd end = Record(session, inputs, arguments[i]);
+    all = all && end == CardEnd::Good;
+    if (end == CardEnd::Cancelled) break;  // who stops the work doesn't mean one card of many
   }
   return all ? kDone : kRefused;
 }
