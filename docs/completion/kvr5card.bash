@@ -1,32 +1,78 @@
 # Completion of kvr5card for bash: source this file, or put it into the folder of completions.
+
+# Offers those lines of standard input that begin with the word. What comes from projects and folders
+# is text and nothing else: no line is ever expanded.
+_kvr5card_offer() {
+  local line
+  while IFS= read -r line; do
+    [[ $line == "$1"* ]] && COMPREPLY+=("$line")
+  done
+}
+
+_kvr5card_words() {
+  local start=$1
+  shift
+  _kvr5card_offer "$start" < <(printf '%s\n' "$@")
+}
+
+# The names of the languages beside the program.
+_kvr5card_languages() {
+  local folder=$1 file
+  [[ -n $folder ]] || folder=$(dirname -- "$(readlink -f -- "$(type -P kvr5card)")")
+  for file in "$folder"/Language/*.lan; do
+    file=${file##*/}
+    printf '%s\n' "${file%.lan}"
+  done
+}
+
 _kvr5card() {
-  local word=${COMP_WORDS[COMP_CWORD]} verb= project= i
-  local program=() n=0
+  local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]}
+  local verb= project= value= program=() n=0 i
+  [[ $word == "=" ]] && word=
+  [[ $before == "=" ]] && before=${COMP_WORDS[COMP_CWORD - 2]}
   for ((i = 1; i < COMP_CWORD; i++)); do
     case ${COMP_WORDS[i]} in
-      --program) program=(--program "${COMP_WORDS[++i]}") ;;
-      --lang) ((i++)) ;;
+      --program | --lang | --mode)
+        value=${COMP_WORDS[i]}
+        [[ ${COMP_WORDS[i + 1]} == "=" ]] && ((i++))
+        ((++i < COMP_CWORD)) || break
+        [[ $value == --program ]] && program=(--program "${COMP_WORDS[i]}")
+        ;;
       -*) ;;
       *)
         if [[ -z $verb ]]; then verb=${COMP_WORDS[i]}; else ((n++)); fi
-        [[ $n == 1 ]] && project=${COMP_WORDS[i]}
+        [[ $n == 1 && -z $project ]] && project=${COMP_WORDS[i]}
         ;;
     esac
   done
   COMPREPLY=()
+  case $before in
+    --program) mapfile -t COMPREPLY < <(compgen -d -- "$word"); return ;;
+    --lang) _kvr5card_offer "$word" < <(_kvr5card_languages "${program[1]}"); return ;;
+    --mode) _kvr5card_words "$word" 1 2 5 6 7; return ;;
+  esac
   if [[ -z $verb ]]; then
-    mapfile -t COMPREPLY < <(compgen -W "--program --lang --json --yes --no --help --version
-      mp3 new projects show config inputs record" -- "$word")
+    _kvr5card_words "$word" --program --lang --json --yes --no --help --version \
+      mp3 new projects show config inputs record
+    return
+  fi
+  if [[ $word == -* && $n == 0 ]]; then
+    _kvr5card_words "$word" --help
+    [[ $verb == new ]] && _kvr5card_words "$word" --mode
     return
   fi
   case $verb:$n in
     show:0 | config:0 | inputs:0 | record:0)
-      local IFS=$'\n'
-      mapfile -t COMPREPLY < <(compgen -W "$(kvr5card "${program[@]}" projects 2>/dev/null)" -- "$word")
+      _kvr5card_offer "$word" < <(kvr5card "${program[@]}" projects 2>/dev/null)
       ;;
-    config:1) mapfile -t COMPREPLY < <(compgen -W "get set" -- "$word") ;;
-    inputs:1) mapfile -t COMPREPLY < <(compgen -W "list set clear" -- "$word") ;;
-    new:*) mapfile -t COMPREPLY < <(compgen -W "--mode" -- "$word") ;;
+    config:1) _kvr5card_words "$word" get set ;;
+    config:*)
+      _kvr5card_offer "${word^^}" \
+        < <(kvr5card "${program[@]}" config "$project" get 2>/dev/null | cut -d= -f1)
+      ;;
+    inputs:1) _kvr5card_words "$word" list set clear ;;
+    new:*) _kvr5card_words "$word" --mode ;;
+    projects:* | show:*) ;;
     *) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
   esac
 }

@@ -1,7 +1,6 @@
 #include "cli/Companion.h"
 
 #include <algorithm>
-#include <cstdio>
 
 #include "cli/Options.h"
 #include "cli/Session.h"
@@ -14,6 +13,17 @@ namespace {
 std::string UsageOf(const Verb& verb) {
   return "usage: kvr5card [OPTION...] " + std::string(verb.Name) + (verb.Usage.empty() ? "" : " ") +
          std::string(verb.Usage) + "\n";
+}
+
+/// The status of a run whose results had to be written: one that was done but can't be told isn't.
+int WithOutput(Output& output, int status) {
+  if (!output.Failed()) return status;
+  output.Say("the results can't be written to standard output");
+  return status == kDone ? kRefused : status;
+}
+
+std::string Version(bool json) {
+  return json ? KVR5_VERSION : "kvr5card " KVR5_VERSION;
 }
 
 std::string HelpPage() {
@@ -38,12 +48,19 @@ std::string HelpPage() {
       "\n"
       "A PROJECT with a slash, backslash or colon is a folder, anything else a name in the\n"
       "projects folder. Exit status: 0 done, 1 refused or failed, 2 wrong usage, 3 something\n"
-      "needed is missing.\n";
+      "needed is missing.";
   return page;
 }
 
-void Print(std::FILE* stream, const std::string& text) {
-  std::fputs(text.c_str(), stream);
+/// Prints what --help or --version asks for; for programs as the one member of an object.
+int Print(bool json, const char* member, const std::string& text) {
+  Output output(json);
+  if (json) {
+    output.Object({{member, text}});
+  } else {
+    output.Line(text);
+  }
+  return WithOutput(output, kDone);
 }
 
 /// Wrong usage: what is wrong, and the help page, which for programs is part of the message.
@@ -55,16 +72,13 @@ int Complain(bool json, const std::string& complaint) {
 
 int RunVerb(const Verb& verb, const Options& options) {
   if (!options.Arguments.empty() && options.Arguments.front() == "--help") {
-    Print(stdout, UsageOf(verb) + "\n" + std::string(verb.Help) + "\n");
-    return kDone;
+    return Print(options.Json, "help", UsageOf(verb) + "\n" + std::string(verb.Help));
   }
   Session session(options);
   if (verb.NeedsProgram && !session.Start()) return kMissing;
   const int status = verb.Run(session, options.Arguments);
   if (status == kUsage) session.Out().Say(UsageOf(verb) + "\n" + std::string(verb.Help));
-  if (!session.Out().Failed()) return status;
-  session.Out().Say("the results can't be written to standard output");
-  return status == kDone ? kRefused : status;
+  return WithOutput(session.Out(), status);
 }
 
 }  // namespace
@@ -76,14 +90,8 @@ int Run(const std::vector<std::string>& arguments) {
     const bool json = std::find(arguments.begin(), arguments.end(), "--json") != arguments.end();
     return Complain(json, complaint);
   }
-  if (options->Version) {
-    Print(stdout, "kvr5card " KVR5_VERSION "\n");
-    return kDone;
-  }
-  if (options->Help) {
-    Print(stdout, HelpPage());
-    return kDone;
-  }
+  if (options->Version) return Print(options->Json, "version", Version(options->Json));
+  if (options->Help) return Print(options->Json, "help", HelpPage());
   const auto verbs = Verbs();
   const auto verb = std::find_if(verbs.begin(), verbs.end(),
                                  [&](const Verb& each) { return each.Name == options->Verb; });

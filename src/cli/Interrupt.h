@@ -6,16 +6,16 @@ namespace kvr5::cli {
 /// does what it did. One at a time. A signal that was ignored stays ignored.
 class Interrupt {
  public:
-  /// What becomes of a wait for input when it is pressed.
-  enum class Waits { GoOn, End };
-
-  explicit Interrupt(Waits waits = Waits::GoOn);
+  Interrupt();
   ~Interrupt();
   Interrupt(const Interrupt&) = delete;
   Interrupt& operator=(const Interrupt&) = delete;
 
   /// True once it was pressed; the next call is false again until it is pressed anew.
   static bool Pressed();
+  /// Waits until standard input has something to read or is at its end; false when it is pressed
+  /// before, which stays to be told by Pressed.
+  static bool WaitForInput();
 };
 
 }  // namespace kvr5::cli

@@ -7,15 +7,6 @@
 namespace kvr5::cli {
 namespace {
 
-/// Line ends of boxes are CR LF inside the system; a terminal takes LF.
-std::string WithPlainLineEnds(std::string_view text) {
-  std::string result;
-  for (const char each : text) {
-    if (each != '\r') result += each;
-  }
-  return result;
-}
-
 /// A line is told when it is true, also into a pipe.
 bool Put(std::FILE* stream, const std::string& line) {
   const bool written = std::fwrite(line.data(), 1, line.size(), stream) == line.size() &&

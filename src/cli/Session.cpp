@@ -60,7 +60,10 @@ std::vector<Drive> Session::ListDrives() {
 bool Session::Start() {
   auto& context = *context_;
   if (!FolderExists(files_, context.CartellaProgramma)) {
-    output_.Say(options_.Program + ": there is no such folder");
+    const std::string tried = options_.Program.empty() ? ExecutableFolder() : options_.Program;
+    output_.Say(context.CartellaProgramma.empty()
+                    ? tried + ": a folder of this name can't hold the program"
+                    : tried + ": there is no such folder");
     return false;
   }
   if (options_.Language.empty()) {
@@ -69,7 +72,8 @@ bool Session::Start() {
     std::string name = options_.Language;
     if (TogliEstensione(name).empty()) name += ".lan";
     context.Stato.FileLingua = AggiungiBarra(context.CartellaProgramma) + "Language\\" + name;
-    if (!FileExists(files_, context.Stato.FileLingua)) {
+    const bool isName = options_.Language.find_first_of("*?|/\\:") == std::string::npos;
+    if (!isName || !FileExists(files_, context.Stato.FileLingua)) {
       output_.Say("there is no language " + options_.Language);
       return false;
     }

@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <cstdlib>
+#include <fstream>
 #include <iostream>
 
 #include "cli/Interrupt.h"
@@ -42,8 +43,18 @@ std::string_view Word(Risposta answer) {
   }
 }
 
-std::string CopyLine(const std::string& operation, const CopyState& state, double seconds) {
+/// Megabytes a second; a slow card's with a decimal.
+std::string SpeedText(double bytesPerSecond) {
   constexpr double kMegabyte = 1e6;
+  constexpr double kSlow = 10;
+  const double speed = bytesPerSecond / kMegabyte;
+  const auto tenths = static_cast<int>(speed * 10);
+  std::string text = std::to_string(tenths / 10);
+  if (speed < kSlow) text += "." + std::to_string(tenths % 10);
+  return text + " MB/s";
+}
+
+std::string CopyLine(const std::string& operation, const CopyState& state, double seconds) {
   const auto done = static_cast<double>(state.BytesDone);
   const auto total = static_cast<double>(state.BytesTotal);
   std::string text = operation + "  ";
@@ -51,7 +62,7 @@ std::string CopyLine(const std::string& operation, const CopyState& state, doubl
   text += std::to_string(state.FileNumber) + "/" + std::to_string(state.FileCount);
   if (seconds > 0.5 && done > 0) {
     const double speed = done / seconds;
-    text += "  " + std::to_string(static_cast<int>(speed / kMegabyte)) + " MB/s  " +
+    text += "  " + SpeedText(speed) + "  " +
             std::to_string(static_cast<int>((total - done) / speed)) + " s";
   }
   return text;
@@ -97,18 +108,25 @@ Risposta TerminalDialogs::Ask(std::string_view title, std::string_view text, boo
   Risposta answer = withCancel ? Risposta::Annulla : Risposta::No;
   if (answer_ != FixedAnswer::None) {
     answer = answer_ == FixedAnswer::Yes ? Risposta::Si : Risposta::No;
-    output_.Box("question", title, text, Word(answer));
-  } else if (isatty(STDIN_FILENO) == 1 && isatty(STDERR_FILENO) == 1) {
-    output_.Box("question", title, text, "");
-    std::cerr << (withCancel ? "[y/n/c] " : "[y/n] ") << std::flush;
-    std::string typed;
-    std::getline(std::cin, typed);
-    if (EqualFold(typed, "y") || EqualFold(typed, "yes")) answer = Risposta::Si;
-    if (EqualFold(typed, "n") || EqualFold(typed, "no")) answer = Risposta::No;
-  } else {
-    output_.Box("question", title, text, Word(answer));
+  } else if (const auto typed = AskKeyboard(title, text, withCancel)) {
+    if (!output_.IsJson()) return *typed;  // the question stands on the terminal already
+    answer = *typed;
   }
+  output_.Box("question", title, text, Word(answer));
   return answer;
+}
+
+std::optional<Risposta> TerminalDialogs::AskKeyboard(std::string_view title, std::string_view text,
+                                                     bool withCancel) {
+  std::ofstream terminal("/dev/tty");
+  if (isatty(STDIN_FILENO) != 1 || !terminal) return {};
+  terminal << ShownOnTerminal(std::string(title) + ": " + WithPlainLineEnds(text)) << '\n'
+           << (withCancel ? "[y/n/c] " : "[y/n] ") << std::flush;
+  std::string typed;
+  std::getline(std::cin, typed);
+  if (EqualFold(typed, "y") || EqualFold(typed, "yes")) return Risposta::Si;
+  if (EqualFold(typed, "n") || EqualFold(typed, "no")) return Risposta::No;
+  return withCancel ? Risposta::Annulla : Risposta::No;
 }
 
 void TerminalEvents::LasciaCorrere() {
@@ -118,9 +136,12 @@ void TerminalEvents::LasciaCorrere() {
 bool TerminalCopy::Progress(const CopyState& state) {
   if (state.BytesDone == 0 && state.FileNumber <= 1) start_ = Clock::now();
   const std::chrono::duration<double> elapsed = Clock::now() - start_;
-  const std::string operation =
-      context_ == nullptr ? "" : TestoLinguaO(*context_, "0130001", "Copying files");
-  line_.Show(CopyLine(operation, state, elapsed.count()));
+  if (line_.IsActive()) {
+    if (operation_.empty() && context_ != nullptr) {
+      operation_ = TestoLinguaO(*context_, "0130001", "Copying files");
+    }
+    line_.Show(CopyLine(operation_, state, elapsed.count()));
+  }
   if (state.BytesTotal > 0 && state.BytesDone == state.BytesTotal) line_.Clear();
   return !Interrupt::Pressed();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <optional>
 #include <string>
 
 #include "cli/Options.h"
@@ -14,6 +15,8 @@ namespace kvr5::cli {
 class ProgressLine {
  public:
   explicit ProgressLine(bool json);
+  /// True where the line is seen at all.
+  bool IsActive() const { return active_; }
   void Show(const std::string& text);
   void Clear();
 
@@ -24,7 +27,8 @@ class ProgressLine {
 };
 
 /// Boxes on the terminal: printed, and questions answered by --yes, --no, the keyboard, or, where
-/// there is none, by no (by cancel where a box has it).
+/// there is none, by no (by cancel where a box has it). For programs a question is an object like
+/// any box, with the answer in it; what is typed is asked for on the terminal itself.
 class TerminalDialogs : public Dialoghi {
  public:
   TerminalDialogs(Output& output, ProgressLine& line, FixedAnswer answer)
@@ -35,6 +39,9 @@ class TerminalDialogs : public Dialoghi {
 
  private:
   Risposta Ask(std::string_view title, std::string_view text, bool withCancel);
+  /// The answer of the keyboard; nothing where there is none.
+  static std::optional<Risposta> AskKeyboard(std::string_view title, std::string_view text,
+                                             bool withCancel);
 
   Output& output_;
   ProgressLine& line_;
@@ -70,6 +77,7 @@ class TerminalCopy : public CopyObserver {
   Output& output_;
   ProgressLine& line_;
   Contesto* context_ = nullptr;
+  std::string operation_;  ///< what the line begins with, once it was looked up
   bool failed_ = false;
   std::chrono::steady_clock::time_point start_{};
 };

@@ -14,6 +14,12 @@ bool IsControl(char32_t c) {
 
 }  // namespace
 
+std::string WithPlainLineEnds(std::string_view text) {
+  std::string result(text);
+  std::erase(result, '\r');
+  return result;
+}
+
 std::string ShownOnTerminal(std::string_view text) {
   std::string shown;
   shown.reserve(text.size());

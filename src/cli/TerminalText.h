@@ -6,6 +6,9 @@
 
 namespace kvr5::cli {
 
+/// Line ends of boxes are CR LF inside the system; outside they are LF.
+std::string WithPlainLineEnds(std::string_view text);
+
 /// A text (UTF-8) as a terminal may get it: control characters but line feeds, and bytes that
 /// aren't UTF-8, become U+FFFD.
 std::string ShownOnTerminal(std::string_view text);

@@ -8,9 +8,9 @@ namespace {
 std::vector<std::string> Split(std::string_view list) {
   if (list.starts_with('|')) list.remove_prefix(1);
   std::vector<std::string> parts;
-  while (!list.empty()) {
+  while (!list.empty() && !list.starts_with('|')) {
     const auto bar = list.find('|');
-    if (bar != 0) parts.emplace_back(list.substr(0, bar));
+    parts.emplace_back(list.substr(0, bar));
     if (bar == std::string_view::npos) break;
     list.remove_prefix(bar + 1);
   }

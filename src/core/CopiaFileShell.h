@@ -8,9 +8,9 @@
 
 namespace kvr5 {
 
-/// The pairs of two lists of paths with "|" between (and, if they like, before) them. Lists of
-/// different length give nothing (a copy that failed, see below), unless there is one destination
-/// for all.
+/// The pairs of two lists of paths with "|" between (and, if they like, before) them; an
+/// empty path ends its list. Lists of different length give nothing (a copy that failed, see
+/// below), unless there is one destination for all.
 std::vector<CopyPair> CoppieDaListe(std::string_view sorgente, std::string_view destinazione);
 
 /// Copies one file, a wildcard or many pairs in one operation with the copy window, overwriting

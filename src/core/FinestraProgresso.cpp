@@ -45,8 +45,7 @@ void FinestraProgresso::Step(std::int32_t numeroFile, bool incrementa) {
   Dipingi();
   contesto_.Messaggi.LasciaCorrere();
   if (ValoreMassimo != 0) {
-    const auto percent =
-        static_cast<std::int64_t>(static_cast<double>(ValoreCorrente) / ValoreMassimo * 100);
+    const std::int64_t percent = std::int64_t{ValoreCorrente} * 100 / ValoreMassimo;
     percento_ = std::to_string(percent) + "%";
   }
   if (numeroFile < 1) {

@@ -24,6 +24,7 @@ void ListaCopia::Aggiungi(std::string_view sorgente, std::string_view destinazio
 }
 
 bool ListaCopia::Contiene(std::string_view percorso) const {
+  if (sorgenti_.empty()) return false;
   const std::string folded = FoldCase(percorso);
   if (!regolari_ || !IsRegular(folded)) {
     return ripiegati_.find(folded) != std::string::npos;

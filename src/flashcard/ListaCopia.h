@@ -18,7 +18,8 @@ class ListaCopia {
  public:
   /// Appends a pair.
   void Aggiungi(std::string_view sorgente, std::string_view destinazione);
-  /// True when `percorso` occurs in the list of sources; "" occurs in any.
+  /// True when `percorso` occurs in the list of sources; "" occurs in any but an empty
+  /// one.
   bool Contiene(std::string_view percorso) const;
 
   const std::string& ListaSorgenti() const { return sorgenti_; }

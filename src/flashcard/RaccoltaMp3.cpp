@@ -10,25 +10,29 @@ namespace {
 
 EsitoPassata CollectRow(Contesto& context, Passata pass, const Recordset& rows, ListaCopia& list) {
   const std::string alias = rows.Text("Alias");
-  if (alias.empty()) return {};
-  // Every file sits in the card's root; a name that leads elsewhere is no alias.
-  if (alias.find('\\') != std::string::npos) return {false, alias};
+  const bool readable = static_cast<bool>(rows.Get("Alias"));
+  if (readable && alias.empty()) return {};
+  const std::string folder = rows.Text("FilePath");
+  const std::string name = rows.Text("FileName");
+  const std::string tested = AggiungiBarra(folder) + name;
+  const EsitoPassata missing{false, pass == Passata::Ingressi ? name : tested};
+  // Every file sits in the card's root: a name that leads elsewhere is no alias. And the bar
+  // divides the lists.
+  if (!readable || alias.find_first_of("\\|") != std::string::npos) return missing;
   const std::string target = AggiungiBarra(context.Stato.PercorsoMemoryCard) + alias;
   const std::string copy = FileDelProgetto(context, alias);
   if (FileExists(context.Files, copy)) {
     if (!list.Contiene(copy)) list.Aggiungi(copy, target);
     return {};
   }
-  const std::string folder = rows.Text("FilePath");
-  const std::string name = rows.Text("FileName");
   const std::string source = folder + name;
+  if (source.find('|') != std::string::npos) return missing;
   if (pass == Passata::Ingressi) {
-    if (list.Contiene(source)) return {false, name};
+    if (list.Contiene(source)) return missing;
     list.Aggiungi(source, target);
     return {};
   }
-  const std::string tested = AggiungiBarra(folder) + name;
-  if (!FileExists(context.Files, tested)) return {false, tested};
+  if (!FileExists(context.Files, tested)) return missing;
   if (!list.Contiene(source)) list.Aggiungi(source, target);
   return {};
 }
@@ -44,7 +48,7 @@ EsitoPassata RaccogliMp3(Contesto& contesto, Passata passata, Recordset& righe, 
     return outcome.Riuscita;
   });
   // A database that can't be read to its end would leave files off the card in silence.
-  if (error && outcome.Riuscita) outcome = {false, std::string(database)};
+  if (error && outcome.Riuscita) outcome = {false, FileDelProgetto(contesto, database)};
   return outcome;
 }
 

@@ -43,6 +43,7 @@ class Recording {
   bool CollectInputs();
   bool CollectFrom(Passata pass, const char* database);
   bool CollectMp3();
+  void NoteUnread(const std::string& database, const Recordset& rows);
   void CopyMp3();
   void TellUnwritable();
   void TellMissing(const std::string& file);
@@ -187,6 +188,10 @@ bool Recording::CollectInputs() {
     list_.Aggiungi(AggiungiBarra(context_.CartellaProgramma) + "Analyzer.mp3",
                    Card("Analyzer.mp3"));
   }
+  const auto& state = context_.Stato;
+  if (!TabellaIngressi::SenzaIngressi(state.PlayerType, state.PlayerMode)) {
+    NoteUnread("inputcfg.mdb", inputs_.Cursore());
+  }
   const auto pass =
       RaccogliMp3(context_, Passata::Ingressi, inputs_.Cursore(), list_, "inputcfg.mdb");
   if (!pass.Riuscita) TellMissing(pass.FileMancante);
@@ -199,9 +204,16 @@ bool Recording::CollectFrom(Passata pass, const char* database) {
   connection_.Close();
   Ignora(connection_.Open(Source(database)));  // a missing database skips its pass
   Ignora(rows_.Open(connection_, kQuery));
+  NoteUnread(database, rows_);
   const auto result = RaccogliMp3(context_, pass, rows_, list_, database);
   if (!result.Riuscita) TellMissing(PercorsoPerPersone(context_, result.FileMancante));
   return result.Riuscita;
+}
+
+void Recording::NoteUnread(const std::string& database, const Recordset& rows) {
+  if (!rows.IsOpen() && FileExists(context_.Files, Source(database))) {
+    outcome_.NonLetti.push_back(database);
+  }
 }
 
 void Recording::CopyMp3() {

@@ -2,6 +2,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
+#include <vector>
 
 #include "core/Contesto.h"
 #include "core/FinestraProgresso.h"
@@ -24,6 +26,9 @@ struct EsitoRegistrazione {
   FineRegistrazione Fine = FineRegistrazione::Compiuta;
   std::size_t File = 0;    ///< files copied onto the card
   std::uint64_t Byte = 0;  ///< their bytes
+  /// The project's databases that are there but can't be read: their passes were skipped in
+  /// silence, as if they were missing.
+  std::vector<std::string> NonLetti{};
 };
 
 /// Turns the project's folder, as it stands on the disk, into the card's contents: a write test,

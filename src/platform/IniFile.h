@@ -43,8 +43,9 @@ class IniFile {
   std::string Read(std::string_view section, std::string_view key, std::string_view fallback,
                    std::size_t size) const;
   /// Writes one value (UTF-8), making the file if it isn't there. A crash in the middle leaves
-  /// the old file or the new one; every unrelated byte stays. A file that is there but can't be
-  /// read is left alone, and that error returned.
+  /// the old file or the new one; every unrelated byte stays. Where the folder takes no new file,
+  /// the old one is written in its place. A file that is there but can't be read is left alone, and
+  /// that error returned.
   Error Write(std::string_view section, std::string_view key, std::string_view value);
 
  private:

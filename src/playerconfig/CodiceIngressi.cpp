@@ -36,7 +36,8 @@ std::string AliasIngresso(std::int16_t codice) {
   return std::to_string(codice) + ".mp3";
 }
 
-std::string NomeIngressi(std::int16_t codice) {
+std::string NomeIngressi(std::int64_t codice) {
+  if (codice < 1 || codice > 255) return std::to_string(codice);
   std::string name;
   for (int i = 0; i < 8; ++i) {
     if ((codice & (1 << i)) == 0) continue;
@@ -52,7 +53,7 @@ std::optional<std::int16_t> CodiceDaTesto(std::string_view testo) {
   while (true) {
     const auto plus = testo.find('+');
     const int bit = InputBit(testo.substr(0, plus));
-    if (bit == 0) return {};
+    if (bit == 0 || (code & bit) != 0) return {};
     code |= bit;
     if (plus == std::string_view::npos) return static_cast<std::int16_t>(code);
     testo.remove_prefix(plus + 1);

@@ -15,11 +15,11 @@ std::int16_t CodiceIngressi(const std::array<bool, 8>& spuntati);
 /// The name of a combination's file on the card: the code as decimal text and ".mp3".
 std::string AliasIngresso(std::int16_t codice);
 
-/// "IN1+IN3" for 5.
-std::string NomeIngressi(std::int16_t codice);
+/// "IN1+IN3" for 5; a number that is no code in digits.
+std::string NomeIngressi(std::int64_t codice);
 
-/// A code given as a number 1 to 255 or as "IN1+IN3" (without regard to case); nothing for any
-/// other text.
+/// A code given as a number 1 to 255 or as "IN1+IN3" (without regard to case, each input
+/// once); nothing for any other text.
 std::optional<std::int16_t> CodiceDaTesto(std::string_view testo);
 
 /// True when the code holds IN5 or IN6, the inputs that an RS-485 link takes away.

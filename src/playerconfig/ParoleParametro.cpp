@@ -64,6 +64,16 @@ std::string OptionCaption(Words words, int value) {
 
 }  // namespace
 
+std::string ParoleDelFile(Contesto& contesto, const Parametro& parametro, std::string_view testo) {
+  if (parametro.Tipo == TipoParametro::MaiLetto) {
+    const auto number = ValoreAccettato(parametro, testo);
+    if (!number) return {};
+    return ParoleDelValore(contesto, parametro, {std::stoi(*number), {}});
+  }
+  return ParoleDelValore(contesto, parametro,
+                         DalFile(parametro, testo, StatoIniziale(parametro), contesto.Luogo));
+}
+
 std::string ParoleDelValore(Contesto& contesto, const Parametro& parametro,
                             const StatoParametro& stato) {
   const int value = stato.Numero;

@@ -11,6 +11,11 @@ namespace {
 
 constexpr std::string_view kAllRows = "SELECT * FROM [List] ORDER BY [Pos] ASC";
 
+bool IsNull(const Recordset& rows, const char* column) {
+  const auto value = rows.Get(column);
+  return !value || std::holds_alternative<std::monostate>(value.Value());
+}
+
 }  // namespace
 
 TabellaIngressi::TabellaIngressi(Contesto& contesto)
@@ -33,6 +38,7 @@ void TabellaIngressi::Chiudi() {
 
 void TabellaIngressi::Riapri() {
   Chiudi();
+  if (percorso_ != FileDelProgetto(contesto_, "inputcfg.mdb")) return;  // another project's
   Ignora(connessione_.Open(percorso_));
   Ignora(righe_.Open(connessione_, kAllRows));
 }
@@ -88,12 +94,19 @@ void TabellaIngressi::AnnotaErrore(const std::string& fileName) {
 
 std::vector<RigaIngresso> TabellaIngressi::Righe() {
   std::vector<RigaIngresso> rows;
-  Ignora(righe_.Requery());
-  Ignora(WalkRows(righe_, [&] {
-    rows.push_back({righe_.Number("Pos"), righe_.Text("Alias"), righe_.Text("FileName"),
-                    righe_.Text("FilePath")});
+  auto& error = contesto_.Errore;
+  error.Clear();
+  const auto text = [this](const char* column) -> std::optional<std::string> {
+    if (IsNull(righe_, column)) return {};
+    return righe_.Text(column);
+  };
+  const auto add = [&] {
+    std::optional<std::int64_t> pos;
+    if (!IsNull(righe_, "Pos")) pos = righe_.Number("Pos");
+    rows.push_back({pos, text("Alias"), text("FileName"), text("FilePath")});
     return true;
-  }));
+  };
+  if (error.Record(righe_.Requery())) error.Record(WalkRows(righe_, add));
   return rows;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,12 +11,12 @@
 
 namespace kvr5 {
 
-/// One assigned combination of inputs.
+/// One assigned combination of inputs, as the database has it; nothing for a Null.
 struct RigaIngresso {
-  std::int64_t Pos = 0;  ///< the code, 1 to 255
-  std::string Alias;     ///< name on the card
-  std::string FileName;
-  std::string FilePath;  ///< folder with a closing backslash
+  std::optional<std::int64_t> Pos;   ///< the code, 1 to 255
+  std::optional<std::string> Alias;  ///< name on the card
+  std::optional<std::string> FileName;
+  std::optional<std::string> FilePath;  ///< folder with a closing backslash
 };
 
 /// The hub's connection to inputcfg.mdb and the recordset over its table `List`. Each change is
@@ -32,7 +33,8 @@ class TabellaIngressi {
   void Apri();
   /// Closes the recordset and then the connection.
   void Chiudi();
-  /// Opens what Apri opened once more, and the recordset on all rows.
+  /// Opens what Apri opened once more, and the recordset on all rows; nothing when another project
+  /// is open by now.
   void Riapri();
   bool Aperta() const { return righe_.IsOpen(); }
 
@@ -45,7 +47,8 @@ class TabellaIngressi {
   void Assegna(std::int16_t codice, const std::string& fileName, const std::string& cartella);
   /// Frees a code; a free one stays as it is.
   void Libera(std::int16_t codice);
-  /// All rows by Pos.
+  /// All rows by Pos. A table that can't be read to its end is the pending error, with the rows
+  /// before.
   std::vector<RigaIngresso> Righe();
 
   /// The recordset itself, for the pass of a recording over it.

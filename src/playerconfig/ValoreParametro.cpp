@@ -102,6 +102,8 @@ std::optional<std::string> ValoreAccettato(const Parametro& parametro, std::stri
   const auto number = PlainNumber(valore);
   if (!number || !Holds(parametro, *number)) return {};
   const bool text = parametro.Tipo == Kind::Persistenza || parametro.Tipo == Kind::Secondi;
+  constexpr std::size_t kLongestValue = 99;  // what a reading of the file gives at the most
+  if (text && valore.size() > kLongestValue) return {};
   return text ? std::string(valore) : std::to_string(*number);
 }
 

@@ -57,11 +57,10 @@ std::vector<std::string> ElencoProgetti(Contesto& contesto) {
   if (!entries) return names;
   for (const auto& entry : entries.Value()) {
     if (!entry.IsFolder) continue;
-    const std::string path(Rifila(root + entry.Name));
-    const std::string folder = AggiungiBarra(path);
+    const std::string folder = AggiungiBarra(root + entry.Name);
     if (FileExists(contesto.Files, folder + "config.txt") &&
         FileExists(contesto.Files, folder + "config.cfg")) {
-      names.push_back(EstraiNomeFile(path));
+      names.push_back(entry.Name);
     }
   }
   return names;

@@ -2,6 +2,7 @@
 
 #include "core/Aiuti.h"
 #include "core/Lingua.h"
+#include "platform/CodePage.h"
 #include "platform/FileOps.h"
 #include "projects/CartellaProgetto.h"
 #include "projects/Descrittore.h"
@@ -132,7 +133,11 @@ EsitoNuovo PreparaCartella(Contesto& contesto, const std::string& nome, bool sol
   }
   contesto.Errore.Clear();
   if (soloNome) return EsitoNuovo::SoloNome;
-  contesto.Errore.Record(contesto.Files.CreateFolder(state.CartellaProgetto));
+  // The descriptor keeps the name in the code page; a card that is read back makes its folder anew
+  // from there.
+  const bool keepable = CodePage(contesto.Luogo.AnsiCodePage).CanEncode(nome);
+  contesto.Errore.Record(keepable ? contesto.Files.CreateFolder(state.CartellaProgetto)
+                                  : Error(errors::BadFileName));
   if (contesto.Errore) {
     const Error& error = contesto.Errore.Last();
     contesto.Finestre.MostraMessaggio({TestoLingua(contesto, "0030006"),

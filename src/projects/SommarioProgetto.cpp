@@ -30,25 +30,44 @@ RigaProgetto ReadRow(const Contesto& context, const std::string& database, const
   return row;
 }
 
-/// All rows of a database's list; `head` takes the number of its HEAD rows where it is given.
-std::vector<RigaProgetto> ReadList(Contesto& context, const std::string& database,
-                                   const char* query, std::size_t* head) {
-  std::vector<RigaProgetto> result;
-  Connection connection(context.Files);
-  Recordset rows;
-  if (connection.Open(FileDelProgetto(context, database))) return result;
-  Ignora(rows.Open(connection, query));
-  Ignora(WalkRows(rows, [&] {
-    result.push_back(ReadRow(context, database, rows));
-    return true;
-  }));
-  rows.Close();
-  if (head != nullptr) {
-    Ignora(rows.Open(connection, "SELECT COUNT([ID]) AS Brani FROM [HEAD]"));
-    *head = static_cast<std::size_t>(rows.Number("Brani"));
+/// Reads the lists of the open project's databases.
+class Reader {
+ public:
+  Reader(Contesto& context, SommarioProgetto& summary) : context_(context), summary_(summary) {}
+
+  /// All rows of a database's list; `head` takes the number of its HEAD rows where it is given.
+  std::vector<RigaProgetto> ReadList(const std::string& database, const char* query,
+                                     std::size_t* head = nullptr) {
+    std::vector<RigaProgetto> result;
+    if (!FileExists(context_.Files, FileDelProgetto(context_, database))) return result;
+    const Error error = ReadRows(database, query, result, head);
+    if (error) summary_.Guasti.push_back(database + ": " + error.Description());
+    return result;
   }
-  return result;
-}
+
+ private:
+  Error ReadRows(const std::string& database, const char* query, std::vector<RigaProgetto>& result,
+                 std::size_t* head) {
+    Connection connection(context_.Files);
+    Recordset rows;
+    if (Error error = connection.Open(FileDelProgetto(context_, database))) return error;
+    if (Error error = rows.Open(connection, query)) return error;
+    const Error walked = WalkRows(rows, [&] {
+      result.push_back(ReadRow(context_, database, rows));
+      return true;
+    });
+    if (walked || head == nullptr) return walked;
+    rows.Close();
+    if (Error error = rows.Open(connection, "SELECT COUNT([ID]) AS Brani FROM [HEAD]")) {
+      return error;
+    }
+    *head = static_cast<std::size_t>(rows.Number("Brani"));
+    return {};
+  }
+
+  Contesto& context_;
+  SommarioProgetto& summary_;
+};
 
 }  // namespace
 
@@ -66,13 +85,13 @@ std::vector<std::string> SommarioProgetto::FileMancanti() const {
 
 SommarioProgetto LeggiSommario(Contesto& contesto) {
   SommarioProgetto summary;
-  summary.Ingressi =
-      ReadList(contesto, "inputcfg.mdb", "SELECT * FROM [List] ORDER BY [Pos] ASC", nullptr);
-  summary.Brani = ReadList(contesto, "playlist.mdb",
-                           "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC", nullptr);
+  Reader reader(contesto, summary);
+  summary.Ingressi = reader.ReadList("inputcfg.mdb", "SELECT * FROM [List] ORDER BY [Pos] ASC");
+  summary.Brani =
+      reader.ReadList("playlist.mdb", "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC");
   summary.Spot =
-      ReadList(contesto, "scheduler.mdb",
-               "SELECT * FROM [LIST] ORDER BY [NPlaylist],[IDSChed],[Pos]", &summary.Segmenti);
+      reader.ReadList("scheduler.mdb", "SELECT * FROM [LIST] ORDER BY [NPlaylist],[IDSChed],[Pos]",
+                      &summary.Segmenti);
   return summary;
 }
 

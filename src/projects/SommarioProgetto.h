@@ -19,12 +19,14 @@ struct RigaProgetto {
   bool Mancante = false;  ///< neither the source nor the alias copy in the project exists
 };
 
-/// A project's lists in figures. A database that is missing or can't be read counts as empty.
+/// A project's lists in figures. A database that is missing counts as empty, of one that can't be
+/// read to its end the rows before count.
 struct SommarioProgetto {
   std::vector<RigaProgetto> Ingressi;
   std::vector<RigaProgetto> Brani;
   std::vector<RigaProgetto> Spot;
   std::size_t Segmenti = 0;
+  std::vector<std::string> Guasti;  ///< "playlist.mdb: why", for each that can't be read
 
   /// The paths of the missing files, each once, in the order of the lists.
   std::vector<std::string> FileMancanti() const;

@@ -149,11 +149,11 @@ TEST(Mp3Verb, AnEmptyNameCannotBeTaken) {
   EXPECT_EQ(run.Oggetti()[0]["Valid"], false);
 }
 
-TEST(Mp3Verb, AListMayEndItsLinesLikeEitherHostAndHoldBlankOnes) {
+TEST(Mp3Verb, AListMayBearAMarkEndItsLinesLikeEitherHostAndHoldBlankOnes) {
   const Compagno k;
   k.ScriviMp3("a.mp3", 1);
   const std::string name = k.Host("a.mp3");
-  const auto run = k.EseguiJson({"mp3", "-"}, name + "\r\n\n\r\n" + name);
+  const auto run = k.EseguiJson({"mp3", "-"}, "\xEF\xBB\xBF" + name + "\r\n\n\r\n" + name);
   EXPECT_EQ(run.Stato, 0);
   ASSERT_EQ(run.Oggetti().size(), 2U);
   for (const auto& object : run.Oggetti()) EXPECT_EQ(object["File"], name);

@@ -102,6 +102,16 @@ TEST_F(RecordVerb, ForPeopleItSaysWhatItDid) {
   EXPECT_TRUE(run.Uscita.starts_with(k.Host("card") + ": 4 files, ")) << run.Uscita;
 }
 
+TEST_F(RecordVerb, ADatabaseThatCannotBeReadIsToldAndIsStatus1) {
+  k.Cartella.Write("program/Projects/Hall/playlist.mdb", std::string(9000, 'x'));
+  const auto run = k.EseguiJson({"record", "Hall", k.Host("card")});
+  EXPECT_EQ(run.Stato, 1);
+  EXPECT_EQ(run.Oggetti().at(0)["status"], 1);
+  ASSERT_EQ(run.Box().size(), 1U);
+  EXPECT_TRUE(run.Box()[0]["text"].get<std::string>().starts_with("playlist.mdb can't be read"));
+  EXPECT_TRUE(k.Cartella.Exists("card/5.mp3")) << "the other passes went on";
+}
+
 TEST_F(RecordVerb, AFullCardIsToldAndKeepsNoHalfFile) {
   const auto volume = test::SmallVolume::InMemory(k.Host("card"), 1);
   if (!volume->IsMounted()) GTEST_SKIP() << volume->Why();

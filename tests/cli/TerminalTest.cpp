@@ -49,6 +49,7 @@ TEST_F(OnATerminal, CtrlCEndsTheCopyOfARecording) {
   EXPECT_NE(terminal.Schermo().find("Not all was completed"), std::string::npos)
       << terminal.Schermo();
   EXPECT_TRUE(k.Nomi("card2").empty()) << "the other cards are not begun";
+  EXPECT_EQ(terminal.Schermo().find("card2"), std::string::npos);
   EXPECT_FALSE(k.Cartella.Exists("card/1.mp3"));
   for (const auto& name : k.Nomi("card")) EXPECT_NE(name[0], '~') << name;
 }
@@ -130,6 +131,23 @@ TEST(QuestionOnATerminal, TakesTheAnswerOfTheKeyboard) {
   EXPECT_EQ(AnswerOf(Pulsanti::SiNoAnnulla, "\n", kNone), static_cast<int>(Risposta::Annulla));
   EXPECT_EQ(AnswerOf(Pulsanti::SiNoAnnulla, "\x04", kNone), static_cast<int>(Risposta::Annulla))
       << "the end of input";
+}
+
+TEST(QuestionOnATerminal, ForProgramsIsAnObjectThatHoldsTheAnswer) {
+  Terminale terminal([] {
+    cli::Output output(true);
+    cli::ProgressLine line(true);
+    cli::TerminalDialogs dialogs(output, line, cli::FixedAnswer::None);
+    return static_cast<int>(dialogs.MostraMessaggio(
+        {"Erase", "Really?\r\nAll?", Icona::Domanda, Pulsanti::SiNo, Risposta::No}));
+  });
+  ASSERT_TRUE(terminal.Aspetta("Erase: Really?\r\nAll?\r\n[y/n] "));
+  terminal.Scrivi("y\n");
+  EXPECT_EQ(terminal.Fine(), static_cast<int>(Risposta::Si));
+  EXPECT_TRUE(terminal.Schermo().ends_with(
+      R"({"box":"question","title":"Erase","text":"Really?\nAll?","answer":"yes"})"
+      "\r\n"))
+      << terminal.Schermo();
 }
 
 TEST(QuestionOnATerminal, IsNotAskedWhereTheAnswerIsGiven) {

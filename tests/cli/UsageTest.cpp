@@ -112,6 +112,43 @@ TEST(Usage, WithoutAnyLanguageFileTheFatalBoxIsStatus3) {
   EXPECT_EQ(run.Box().at(0)["title"], "Language file not found");
 }
 
+TEST(Usage, ForProgramsHelpAndVersionAreObjectsToo) {
+  const Compagno k;
+  EXPECT_EQ(k.EseguiJson({"--version"}).Oggetti(),
+            (std::vector<nlohmann::json>{{{"version", KVR5_VERSION}}}));
+  for (const auto& words : std::vector<std::vector<std::string>>{{"--help"}, {"mp3", "--help"}}) {
+    const auto run = k.EseguiJson(words);
+    ASSERT_EQ(run.Oggetti().size(), 1U);
+    EXPECT_TRUE(run.Oggetti()[0]["help"].get<std::string>().starts_with("usage: kvr5card"));
+  }
+}
+
+TEST(Usage, IsJudgedBeforeAProjectIsLookedFor) {
+  const Compagno k;
+  EXPECT_EQ(k.Esegui({"config", "None", "set", "LOUT"}).Stato, 2);
+  EXPECT_EQ(k.Esegui({"config", "None", "set", "ZZZZ=1", "LOUT"}).Stato, 2);
+  EXPECT_EQ(k.Esegui({"inputs", "None", "set", "0", "a.mp3"}).Stato, 2);
+  EXPECT_EQ(k.Esegui({"config", "None", "set", "LOUT=1"}).Stato, 3);
+}
+
+TEST(Usage, ALanguageIsAName) {
+  const Compagno k;
+  for (const char* name : {"Ital*", "*", "Englis?", "../Language/English", "C:English"}) {
+    EXPECT_EQ(k.Esegui({"--lang", name, "projects"}).Stato, 3) << name;
+  }
+  EXPECT_EQ(k.Esegui({"--lang", "italiano", "projects"}).Stato, 0);
+}
+
+TEST(Usage, AFolderThatCannotHoldTheProgramIsNamed) {
+  Compagno k;
+  std::filesystem::create_directories(k.Host("a:b"));
+  std::filesystem::copy_file(KVR5_CARD, k.Host("a:b/kvr5card"));
+  k.Inizio = {k.Host("a:b/kvr5card")};
+  const auto run = k.Esegui({"projects"});
+  EXPECT_EQ(run.Stato, 3);
+  EXPECT_NE(run.Errori.find(k.Host("a:b")), std::string::npos) << run.Errori;
+}
+
 TEST(Usage, WithoutTheOptionTheProgramIsWhereTheExecutableLies) {
   Compagno k;
   ASSERT_EQ(k.Esegui({"new", "Hall", "--mode", "1"}).Stato, 0);
@@ -129,9 +166,12 @@ TEST(Usage, WithoutTheOptionTheProgramIsWhereTheExecutableLies) {
 TEST(Usage, ResultsThatCannotBeWrittenAreStatus1) {
   const Compagno k;
   ASSERT_EQ(k.Esegui({"new", "Hall", "--mode", "1"}).Stato, 0);
-  test::Terminale terminal(k.Lavoro({"projects"}, "/dev/full"));
-  EXPECT_EQ(terminal.Fine(), 1);
-  EXPECT_NE(terminal.Schermo().find("can't be written"), std::string::npos);
+  for (const auto& words :
+       std::vector<std::vector<std::string>>{{"projects"}, {"--version"}, {"show", "--help"}}) {
+    test::Terminale terminal(k.Lavoro(words, "/dev/full"));
+    EXPECT_EQ(terminal.Fine(), 1);
+    EXPECT_NE(terminal.Schermo().find("can't be written"), std::string::npos);
+  }
 }
 
 }  // namespace

@@ -66,11 +66,19 @@ TEST(CopiaFileShell, AnEarlierCancelIsLeftForTheCaller) {
   EXPECT_TRUE(b.C.Stato.AnnullatoDaUtente);
 }
 
-TEST(CoppieDaListe, OneDestinationServesAllAndADoubledBarCountsOnce) {
-  const auto pairs = CoppieDaListe("a||b", "E:\\");
+TEST(CoppieDaListe, OneDestinationServesAll) {
+  const auto pairs = CoppieDaListe("a|b", "E:\\");
   ASSERT_EQ(pairs.size(), 2U);
   EXPECT_EQ(pairs[1].Source, "b");
   EXPECT_EQ(pairs[1].Destination, "E:\\");
+}
+
+TEST(CoppieDaListe, AnEmptyPathEndsItsList) {
+  const auto pairs = CoppieDaListe("a||b", "E:\\x|");
+  ASSERT_EQ(pairs.size(), 1U);
+  EXPECT_EQ(pairs[0].Source, "a");
+  EXPECT_EQ(pairs[0].Destination, "E:\\x");
+  EXPECT_TRUE(CoppieDaListe("||a", "E:\\").empty());
 }
 
 TEST(CopiaFileShell, ABarInsideAPathIsAFailedCopyThatIsTold) {

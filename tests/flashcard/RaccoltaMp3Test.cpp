@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "core/Aiuti.h"
 #include "flashcard/RaccoltaMp3.h"
 #include "projects/CartellaProgetto.h"
 #include "support/Banco.h"
@@ -141,7 +142,14 @@ TEST_P(Collecting, AnAliasThatLeadsOutOfTheRootStopsThePass) {
   Row(1, "a.mp3", Music(), "..\\escaped.mp3");
   const auto outcome = Run();
   EXPECT_FALSE(outcome.Riuscita);
-  EXPECT_EQ(outcome.FileMancante, "..\\escaped.mp3");
+  EXPECT_EQ(outcome.FileMancante,
+            GetParam() == Passata::Ingressi ? "a.mp3" : AggiungiBarra(Music()) + "a.mp3");
+  EXPECT_EQ(list.ListaSorgenti(), "");
+}
+
+TEST_P(Collecting, ABarThatWouldDivideTheListsStopsThePass) {
+  Row(1, "a.mp3", Music(), "a|b.mp3");
+  EXPECT_FALSE(Run().Riuscita);
   EXPECT_EQ(list.ListaSorgenti(), "");
 }
 
@@ -159,7 +167,7 @@ TEST_P(Collecting, ADatabaseThatCannotBeReadToItsEndStopsThePass) {
   } else {
     EXPECT_EQ(outcome.FileMancante, GetParam() == Passata::Ingressi && list.ListaSorgenti() != ""
                                         ? outcome.FileMancante
-                                        : Database());
+                                        : FileDelProgetto(b.C, Database()));
   }
 }
 

@@ -34,6 +34,34 @@ TEST(House, AnIncludeGoesDownOnly) {
   }
 }
 
+TEST(House, HouseIncludesAreQuoted) {
+  for (const auto& file : test::SourceFiles()) {
+    for (const auto& included : test::AngleIncludes(file.Text)) {
+      EXPECT_FALSE(kFloors.contains(included.substr(0, included.find('/'))))
+          << file.Path << " includes " << included;
+    }
+  }
+}
+
+TEST(House, AScreenKnowsTheScreensOfItsOwnSubsystemAndTheCoresOnly) {
+  for (const auto& file : test::SourceFiles()) {
+    if (file.Subsystem == "app") continue;
+    for (const auto& included : test::QuotedIncludes(file.Text)) {
+      EXPECT_TRUE(included.find("/screens/") == std::string::npos ||
+                  included.starts_with("core/screens/") ||
+                  included.starts_with(file.Subsystem + "/screens/"))
+          << file.Path << " includes " << included;
+    }
+  }
+}
+
+TEST(House, IncludesAreFoundHoweverTheyAreSpaced) {
+  const std::string text =
+      "#include \"a/b.h\"\n  #  include\t\"c/d.h\"\n#include<e/f.h>\n// \"g.h\"\n";
+  EXPECT_EQ(test::QuotedIncludes(text), (std::vector<std::string>{"a/b.h", "c/d.h"}));
+  EXPECT_EQ(test::AngleIncludes(text), std::vector<std::string>{"e/f.h"});
+}
+
 TEST(House, TheLogicKnowsNoToolkit) {
   for (const auto& file : test::SourceFiles()) {
     const bool screen = file.Path.find("/screens/") != std::string::npos ||

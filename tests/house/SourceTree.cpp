@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <regex>
 #include <sstream>
 
 namespace kvr5::test {
@@ -12,15 +13,15 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// What the include lines of a text name between these marks, however the lines are spaced.
 std::vector<std::string> Includes(const std::string& text, char open, char close) {
+  const std::regex include(R"(^[ \t]*#[ \t]*include[ \t]*)" + std::string(1, open) + "([^" + close +
+                           "]*)" + close);
   std::vector<std::string> names;
   std::istringstream stream(text);
+  std::smatch match;
   for (std::string line; std::getline(stream, line);) {
-    if (!line.starts_with("#include ")) continue;
-    const auto begin = line.find(open);
-    const auto end = line.find(close, begin + 1);
-    if (begin == std::string::npos || end == std::string::npos) continue;
-    names.push_back(line.substr(begin + 1, end - begin - 1));
+    if (std::regex_search(line, match, include)) names.push_back(match[1]);
   }
   return names;
 }

@@ -87,6 +87,38 @@ TEST_F(IniFileTest, KeepsTheOldFileWhateverStepFails) {
   EXPECT_FALSE(file_.Write("Main", "Key", "new"));
 }
 
+/// A folder that an administrator set up: its files can be written, no new one can be made.
+class LockedFolder : public MemoryFileSystem {
+ public:
+  Result<std::unique_ptr<File>> Open(std::string_view path, OpenMode mode) override {
+    if (mode == OpenMode::New) return Error(errors::PathFileAccess);
+    return MemoryFileSystem::Open(path, mode);
+  }
+};
+
+TEST(IniFileInALockedFolder, IsWrittenInItsPlace) {
+  LockedFolder files;
+  files.AddFile(kPath, kBefore);
+  IniFile file(files, kPath, CodePage(1252));
+  EXPECT_EQ(file.Write("Main", "Key", "new").Number(), 0);
+  EXPECT_EQ(files.Content(kPath), "[Main]\r\nKey=new\r\n");
+  files.SetFreeSpace(10);
+  EXPECT_EQ(file.Write("Main", "Key", "newer").Number(), errors::DiskFull);
+  files.SetFreeSpace(1000);
+  files.Fail("", errors::DeviceIo, Operation::Flush);
+  EXPECT_EQ(file.Write("Main", "Key", "newer").Number(), errors::DeviceIo);
+  EXPECT_EQ(files.Content(kPath), "[Main]\r\nKey=new\r\n") << "what was there is put back";
+}
+
+TEST(IniFileInALockedFolder, StaysReadOnlyWhereItIs) {
+  LockedFolder files;
+  files.AddFile(kPath, kBefore);
+  files.SetAttributes(kPath, false, false, true);
+  IniFile file(files, kPath, CodePage(1252));
+  EXPECT_EQ(file.Write("Main", "Key", "new").Number(), errors::PathFileAccess);
+  EXPECT_EQ(files.Content(kPath), kBefore);
+}
+
 TEST_F(IniFileTest, KeepsTheOldFileOnAFullDisk) {
   files_.SetFreeSpace(10);
   EXPECT_EQ(file_.Write("Main", "Key", "new").Number(), errors::DiskFull);

@@ -115,7 +115,7 @@ TEST_F(InputTable, RowsComeByCode) {
   for (const std::int16_t code : std::initializer_list<std::int16_t>{255, 1, 128, 3})
     table.Assegna(code, "a.mp3", "C:\\");
   std::vector<std::int64_t> codes;
-  for (const auto& row : table.Righe()) codes.push_back(row.Pos);
+  for (const auto& row : table.Righe()) codes.push_back(*row.Pos);
   EXPECT_EQ(codes, (std::vector<std::int64_t>{1, 3, 128, 255}));
 }
 
@@ -216,7 +216,7 @@ TEST_F(InputTable, RandomSessionsAgreeWithAMapOfCodes) {
   for (unsigned seed = 1; seed <= 8; ++seed) {
     std::mt19937 random(seed);
     std::map<std::int64_t, std::string> model;
-    for (const auto& row : table.Righe()) table.Libera(static_cast<std::int16_t>(row.Pos));
+    for (const auto& row : table.Righe()) table.Libera(static_cast<std::int16_t>(*row.Pos));
     for (int step = 0; step < 40; ++step) {
       const auto code = static_cast<std::int16_t>(1 + random() % 12);
       if (random() % 3 == 0) {
@@ -231,7 +231,7 @@ TEST_F(InputTable, RandomSessionsAgreeWithAMapOfCodes) {
       if (random() % 10 == 0) table.Riapri();
     }
     std::map<std::int64_t, std::string> found;
-    for (const auto& row : table.Righe()) found[row.Pos] = row.FileName;
+    for (const auto& row : table.Righe()) found[*row.Pos] = *row.FileName;
     EXPECT_EQ(found, model) << "seed " << seed;
     EXPECT_EQ(table.Righe().size(), model.size());
   }

@@ -90,7 +90,7 @@ class MemoryFileSystem : public FileSystem {
 
   std::map<std::string, std::shared_ptr<Node>> nodes_;  ///< by folded path
   std::map<std::pair<std::string, Operation>, int> failures_;
-  std::uint64_t free_ = std::numeric_limits<std::uint64_t>::max();
+  std::uint64_t free_ = std::numeric_limits<std::uint64_t>::max() / 2;  // never overflows
   std::int64_t clock_ = 0;
   std::vector<std::string> calls_;
 };

@@ -1,9 +1,14 @@
+#include <algorithm>
+#include <optional>
+#include <string_view>
 #include <utility>
 
 #include "cli/verbs/Verb.h"
 #include "core/Aiuti.h"
+#include "playerconfig/AvvisoIngressi.h"
 #include "playerconfig/ConfigTxt.h"
 #include "playerconfig/Parametri.h"
+#include "playerconfig/Ponte.h"
 
 namespace kvr5::cli {
 namespace {
@@ -13,8 +18,7 @@ using Change = std::pair<const Parametro*, std::string>;
 void Print(Session& session, const Parametro& parameter) {
   auto& context = session.Context();
   const std::string value = LeggiChiaveConfig(context, parameter.Chiave);
-  const std::string shown = ParoleDelValore(
-      context, parameter, DalFile(parameter, value, StatoIniziale(parameter), context.Luogo));
+  const std::string shown = ParoleDelFile(context, parameter, value);
   if (session.Out().IsJson()) {
     session.Out().Object({{"key", parameter.Chiave}, {"value", value}, {"shown", shown}});
   } else {
@@ -54,13 +58,41 @@ std::string Check(Session& session, const std::string& key, const std::string& v
   return {};
 }
 
+/// The value that the changes of a call give a key, the last one counting; nothing when none does.
+std::optional<int> NewValue(const std::vector<Change>& changes, std::string_view key) {
+  std::optional<int> value;
+  for (const auto& [parameter, text] : changes) {
+    if (parameter->Chiave == key) value = std::stoi(text);
+  }
+  return value;
+}
+
+/// What the control of a list or a box shows for the file as it is.
+int ShownValue(Contesto& context, const Parametro& parameter) {
+  return DalFile(parameter, LeggiChiaveConfig(context, parameter.Chiave), StatoIniziale(parameter),
+                 context.Luogo)
+      .Numero;
+}
+
+/// Bridge mode holds OMON: adds the change that ticking it makes. False where OMON is to be changed
+/// while the screen has it locked.
+bool ApplyBridge(Contesto& context, std::vector<Change>& changes) {
+  const Parametro& bridgeMode = *TrovaParametro("INVR");
+  const Parametro& held = *TrovaParametro("OMON");
+  const auto newOmon = NewValue(changes, "OMON");
+  Ponte bridge(ShownValue(context, bridgeMode) > 0, ShownValue(context, held));
+  const int before = bridge.Omon();
+  if (const auto newBridge = NewValue(changes, "INVR")) bridge.Spunta(*newBridge > 0);
+  if (newOmon) return bridge.OmonLibero() || *newOmon == bridge.Omon();
+  if (bridge.Omon() != before) changes.emplace_back(&held, std::to_string(bridge.Omon()));
+  return true;
+}
+
 int Set(Session& session, const std::vector<std::string>& arguments) {
-  if (arguments.size() < 3) return kUsage;
   std::vector<Change> changes;
   bool refused = false;
   for (std::size_t i = 2; i < arguments.size(); ++i) {
     const auto equals = arguments[i].find('=');
-    if (equals == std::string::npos) return kUsage;
     Change change;
     const std::string why =
         Check(session, arguments[i].substr(0, equals), arguments[i].substr(equals + 1), change);
@@ -73,6 +105,13 @@ int Set(Session& session, const std::vector<std::string>& arguments) {
   }
   if (refused) return kRefused;  // and nothing of the call is written
   auto& context = session.Context();
+  if (!ApplyBridge(context, changes)) {
+    session.Out().Say("OMON: bridge mode (INVR) holds this parameter");
+    return kRefused;
+  }
+  if (NewValue(changes, "IMOD") == 1 && ShownValue(context, *TrovaParametro("IMOD")) != 1) {
+    AvvisaIngressiBassi(context);
+  }
   context.Errore.Clear();
   for (const auto& [parameter, value] : changes) {
     ScriviChiaveConfig(context, parameter->Chiave, value);
@@ -90,7 +129,11 @@ int Set(Session& session, const std::vector<std::string>& arguments) {
 int RunConfig(Session& session, const std::vector<std::string>& arguments) {
   if (arguments.size() < 2) return kUsage;
   const bool get = arguments[1] == "get";
-  if (!get && arguments[1] != "set") return kUsage;
+  const auto isChange = [](const std::string& word) { return word.find('=') != word.npos; };
+  if (!get && (arguments[1] != "set" || arguments.size() < 3 ||
+               !std::all_of(arguments.begin() + 2, arguments.end(), isChange))) {
+    return kUsage;
+  }
   if (const int status = session.OpenProject(arguments[0]); status != kDone) return status;
   return get ? Get(session, arguments) : Set(session, arguments);
 }

@@ -13,26 +13,45 @@
 namespace kvr5::cli {
 namespace {
 
+int Finish(Session& session) {
+  const auto& error = session.Context().Errore;
+  if (!error) return kDone;
+  session.Out().Say("inputcfg.mdb: " + error.Last().Description());
+  return kRefused;
+}
+
+template <typename T>
+Json OrNull(const std::optional<T>& value) {
+  return value ? Json(*value) : Json();
+}
+
+std::string ForPeople(const Contesto& context, const RigaIngresso& row) {
+  const std::string path = AggiungiBarra(row.FilePath.value_or("")) + row.FileName.value_or("");
+  return row.Alias.value_or("") + "  " + NomeIngressi(row.Pos.value_or(0)) + "  " +
+         PercorsoPerPersone(context, path);
+}
+
 int List(Session& session, TabellaIngressi& inputs) {
   for (const auto& row : inputs.Righe()) {
     if (session.Out().IsJson()) {
-      session.Out().Object({{"Pos", row.Pos},
-                            {"Alias", row.Alias},
-                            {"FileName", row.FileName},
-                            {"FilePath", row.FilePath}});
+      session.Out().Object({{"Pos", OrNull(row.Pos)},
+                            {"Alias", OrNull(row.Alias)},
+                            {"FileName", OrNull(row.FileName)},
+                            {"FilePath", OrNull(row.FilePath)}});
     } else {
-      session.Out().Line(
-          row.Alias + "  " + NomeIngressi(static_cast<std::int16_t>(row.Pos)) + "  " +
-          PercorsoPerPersone(session.Context(), AggiungiBarra(row.FilePath) + row.FileName));
+      session.Out().Line(ForPeople(session.Context(), row));
     }
   }
-  return kDone;
+  return Finish(session);  // a table that ends in the middle must not pass for a whole one
 }
 
 /// Why the hub would refuse this file; "" when it takes it.
 std::string WhyRefused(Session& session, const std::string& path) {
   auto& context = session.Context();
-  if (!FileExists(context.Files, path)) return "there is no such file";
+  if (!FileExists(context.Files, path)) {
+    return context.Files.Info(path) ? "a folder or a hidden file isn't taken"
+                                    : "there is no such file";
+  }
   if (!MatchesWildcard(EstraiNomeFile(path), "*.mp3")) return "its name doesn't end in .mp3";
   modMp3Infos reader(context.Files);
   if (!BuonoPerIngressi(reader.LeggiInfoMp3(path))) {
@@ -41,19 +60,8 @@ std::string WhyRefused(Session& session, const std::string& path) {
   return {};
 }
 
-int Finish(Session& session) {
-  const auto& error = session.Context().Errore;
-  if (!error) return kDone;
-  session.Out().Say("inputcfg.mdb: " + error.Last().Description());
-  return kRefused;
-}
-
 int Assign(Session& session, TabellaIngressi& inputs, std::int16_t code, const std::string& file) {
   auto& context = session.Context();
-  if (context.Stato.Usa485 && UsaIngressiRs485(code)) {
-    session.Out().Say("the RS-485 link of this project uses IN5 and IN6");
-    return kRefused;
-  }
   const auto path = context.Files.SystemPath(file);
   const std::string why =
       path ? WhyRefused(session, path.Value()) : "a file of this name can't be taken";
@@ -94,6 +102,10 @@ int RunInputs(Session& session, const std::vector<std::string>& arguments) {
     return kRefused;
   }
   if (list) return List(session, inputs);
+  if (context.Stato.Usa485 && UsaIngressiRs485(code)) {
+    session.Out().Say("the RS-485 link of this project uses IN5 and IN6");
+    return kRefused;
+  }
   if (set) return Assign(session, inputs, code, arguments[3]);
   inputs.Libera(code);
   return Finish(session);

@@ -1,6 +1,6 @@
 #include <algorithm>
-#include <iostream>
 
+#include "cli/InputLines.h"
 #include "cli/Interrupt.h"
 #include "cli/verbs/Verb.h"
 #include "mp3/Accettazione.h"
@@ -102,7 +102,7 @@ class Analysis {
   }
 
   std::string Progress() const {
-    const std::string number = "Analysing  " + std::to_string(done_);
+    std::string number = "Analysing  " + std::to_string(done_);
     if (count_ == 0) return number;
     return number + "/" + std::to_string(count_) + "  " + std::to_string(done_ * 100 / count_) +
            "%";
@@ -114,7 +114,7 @@ class Analysis {
   std::size_t done_ = 0;
   bool all_ = true;
   bool cancelled_ = false;
-  Interrupt interrupt_{Interrupt::Waits::End};
+  Interrupt interrupt_;
 };
 
 }  // namespace
@@ -123,8 +123,11 @@ int RunMp3(Session& session, const std::vector<std::string>& arguments) {
   if (arguments.empty()) return kUsage;
   if (arguments.size() == 1 && arguments[0] == "-") {
     Analysis run(session, 0);
-    for (std::string line; std::getline(std::cin, line);) {
-      if (line.ends_with('\r')) line.pop_back();
+    InputLines lines;
+    std::string line;
+    for (bool first = true; lines.Next(line); first = false) {
+      constexpr std::string_view kMark = "\xEF\xBB\xBF";
+      if (first && line.starts_with(kMark)) line.erase(0, kMark.size());
       if (!line.empty() && !run.Take(line)) break;
     }
     return run.Status();

@@ -41,24 +41,19 @@ EsitoRegistrazione RecordOnto(Session& session, TabellaIngressi& inputs, const s
   TerminalProgress progress(context, session.Line());
   session.Events().Watch(&progress);
   NoChoice choice;
-  const Interrupt cancel;
   const auto outcome = RegistraProgettoSuFlash(context, inputs, progress, choice);
   session.Events().Watch(nullptr);
   session.Line().Clear();
   return outcome;
 }
 
-enum class CardEnd { Good, Failed, Cancelled };
-
-CardEnd Record(Session& session, TabellaIngressi& inputs, const std::string& card) {
-  const std::string root = CardRoot(session, card);
-  EsitoRegistrazione outcome{FineRegistrazione::SenzaScheda};
-  if (root.empty()) {
-    session.Out().Say(card + ": there is no such card");
-  } else {
-    outcome = RecordOnto(session, inputs, root);
+/// Tells how a card ended. False when anything of it is missing.
+bool Report(Session& session, const std::string& card, const EsitoRegistrazione& outcome) {
+  for (const auto& database : outcome.NonLetti) {
+    session.Out().Say(database + " can't be read: its files are not on " + card);
   }
-  const bool good = outcome.Fine == FineRegistrazione::Compiuta && !session.Copy().TakeFailure();
+  const bool good = outcome.Fine == FineRegistrazione::Compiuta && outcome.NonLetti.empty() &&
+                    !session.Copy().TakeFailure();
   if (session.Out().IsJson()) {
     session.Out().Object({{"card", card},
                           {"files", outcome.File},
@@ -68,8 +63,14 @@ CardEnd Record(Session& session, TabellaIngressi& inputs, const std::string& car
     session.Out().Line(card + ": " + std::to_string(outcome.File) + " files, " +
                        std::to_string(outcome.Byte) + " bytes");
   }
-  if (outcome.Fine == FineRegistrazione::Annullata) return CardEnd::Cancelled;
-  return good ? CardEnd::Good : CardEnd::Failed;
+  return good;
+}
+
+EsitoRegistrazione Record(Session& session, TabellaIngressi& inputs, const std::string& card) {
+  const std::string root = CardRoot(session, card);
+  if (!root.empty()) return RecordOnto(session, inputs, root);
+  session.Out().Say(card + ": there is no such card");
+  return {FineRegistrazione::SenzaScheda};
 }
 
 }  // namespace
@@ -78,16 +79,20 @@ int RunRecord(Session& session, const std::vector<std::string>& arguments) {
   if (arguments.size() < 2) return kUsage;
   if (const int status = session.OpenProject(arguments[0]); status != kDone) return status;
   auto& context = session.Context();
+  const Interrupt cancel;
   TabellaIngressi inputs(context);
   if (!TabellaIngressi::SenzaIngressi(context.Stato.PlayerType, context.Stato.PlayerMode)) {
     inputs.Apri();
   }
   bool all = true;
+  bool cancelled = false;
   for (std::size_t i = 1; i < arguments.size(); ++i) {
     session.Copy().TakeFailure();
-    const CardEnd end = Record(session, inputs, arguments[i]);
-    all = all && end == CardEnd::Good;
-    if (end == CardEnd::Cancelled) break;  // who stops the work doesn't mean one card of many
+    // Who stops the work doesn't mean one card of many: those that are left are not begun.
+    const auto outcome = cancelled ? EsitoRegistrazione{FineRegistrazione::Annullata}
+                                   : Record(session, inputs, arguments[i]);
+    cancelled = outcome.Fine == FineRegistrazione::Annullata;
+    all = Report(session, arguments[i], outcome) && all;
   }
   return all ? kDone : kRefused;
 }

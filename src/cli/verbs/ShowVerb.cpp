@@ -1,3 +1,4 @@
+#include <array>
 #include <utility>
 
 #include "cli/verbs/Verb.h"
@@ -47,9 +48,8 @@ void ShowParameters(Session& session) {
   session.Out().Line("Parameters");
   for (const auto& parameter : Parametri()) {
     const std::string value = LeggiChiaveConfig(context, parameter.Chiave);
-    const auto state = DalFile(parameter, value, StatoIniziale(parameter), context.Luogo);
     session.Out().Line("  " + std::string(parameter.Chiave) + "=" + value + "  (" +
-                       ParoleDelValore(context, parameter, state) + ")");
+                       ParoleDelFile(context, parameter, value) + ")");
   }
 }
 
@@ -59,7 +59,7 @@ void ShowRows(Session& session, const std::string& heading, const std::vector<Ri
   session.Out().Line(heading + ": " + std::to_string(rows.size()));
   for (const auto& row : rows) {
     const std::string place = inputs
-                                  ? NomeIngressi(static_cast<std::int16_t>(row.Pos))
+                                  ? NomeIngressi(row.Pos)
                                   : std::to_string(row.NPlaylist) + "." + std::to_string(row.Pos);
     session.Out().Line("  " + place + "  " + row.FileName + (row.Mancante ? "  missing" : ""));
   }
@@ -68,13 +68,13 @@ void ShowRows(Session& session, const std::string& heading, const std::vector<Ri
 void ShowText(Session& session, const SommarioProgetto& summary) {
   auto& context = session.Context();
   const auto& state = context.Stato;
-  const std::pair<const char*, std::string> lines[] = {
+  const std::array<std::pair<const char*, std::string>, 5> lines{{
       {"Project", state.ProjectName},
       {"Folder", PercorsoPerPersone(context, state.CartellaProgetto)},
       {"Player", state.PlayerName},
       {"Kind", state.PlayerConfigDesc},
       {"Mode", std::to_string(state.PlayerMode)},
-  };
+  }};
   for (const auto& [name, value] : lines) session.Out().Line(std::string(name) + ": " + value);
   ShowParameters(session);
   ShowRows(session, "Inputs", summary.Ingressi, true);
@@ -99,7 +99,8 @@ int RunShow(Session& session, const std::vector<std::string>& arguments) {
   } else {
     ShowText(session, summary);
   }
-  return kDone;
+  for (const auto& fault : summary.Guasti) session.Out().Say(fault);
+  return summary.Guasti.empty() ? kDone : kRefused;
 }
 
 }  // namespace kvr5::cli

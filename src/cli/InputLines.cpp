@@ -1,0 +1,42 @@
+#include "cli/InputLines.h"
+
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+
+#include "cli/Interrupt.h"
+
+namespace kvr5::cli {
+
+bool InputLines::Next(std::string& line) {
+  std::size_t searched = 0;
+  std::size_t end = unread_.find('\n');
+  while (end == std::string::npos) {
+    searched = unread_.size();
+    if (!Fill()) {
+      line = std::move(unread_);
+      unread_.clear();
+      return !line.empty();
+    }
+    end = unread_.find('\n', searched);
+  }
+  line = unread_.substr(0, end);
+  unread_.erase(0, end + 1);
+  if (line.ends_with('\r')) line.pop_back();
+  return true;
+}
+
+bool InputLines::Fill() {
+  if (!Interrupt::WaitForInput()) return false;
+  std::array<char, 4096> bytes{};
+  ssize_t count = 0;
+  do {
+    count = read(STDIN_FILENO, bytes.data(), bytes.size());
+  } while (count < 0 && errno == EINTR);
+  if (count <= 0) return false;
+  unread_.append(bytes.data(), static_cast<std::size_t>(count));
+  return true;
+}
+
+}  // namespace kvr5::cli

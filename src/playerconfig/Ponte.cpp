@@ -1,0 +1,16 @@
+#include "playerconfig/Ponte.h"
+
+namespace kvr5 {
+
+void Ponte::Spunta(bool acceso) {
+  if (acceso == acceso_) return;
+  acceso_ = acceso;
+  if (acceso) {
+    omonPrimaDelPonte_ = omon_;
+    omon_ = 1;
+  } else {
+    omon_ = omonPrimaDelPonte_;
+  }
+}
+
+}  // namespace kvr5

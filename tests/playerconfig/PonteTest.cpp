@@ -1,0 +1,45 @@
+#include <gtest/gtest.h>
+
+#include "playerconfig/Ponte.h"
+
+namespace kvr5 {
+namespace {
+
+TEST(Ponte, TickingItHoldsOmonAt1AndUntickingGivesItBack) {
+  for (const int omon : {0, 1}) {
+    Ponte bridge(false, omon);
+    EXPECT_TRUE(bridge.OmonLibero());
+    bridge.Spunta(true);
+    EXPECT_EQ(bridge.Omon(), 1);
+    EXPECT_FALSE(bridge.OmonLibero());
+    bridge.Spunta(false);
+    EXPECT_EQ(bridge.Omon(), omon);
+    EXPECT_TRUE(bridge.OmonLibero());
+  }
+}
+
+TEST(Ponte, AFileThatHasItOnWithOmon0IsShownAsItIs) {
+  Ponte bridge(true, 0);
+  EXPECT_EQ(bridge.Omon(), 0);
+  EXPECT_FALSE(bridge.OmonLibero());
+  bridge.Spunta(true);
+  EXPECT_EQ(bridge.Omon(), 0) << "only a click forces it";
+  bridge.Spunta(false);
+  EXPECT_EQ(bridge.Omon(), 0);
+}
+
+TEST(Ponte, AChoiceBeforeItIsTickedIsWhatItGoesBackTo) {
+  Ponte bridge(false, 0);
+  bridge.ScegliOmon(1);
+  bridge.ScegliOmon(0);
+  bridge.Spunta(true);
+  bridge.Spunta(false);
+  EXPECT_EQ(bridge.Omon(), 0);
+  bridge.ScegliOmon(1);
+  bridge.Spunta(true);
+  bridge.Spunta(false);
+  EXPECT_EQ(bridge.Omon(), 1);
+}
+
+}  // namespace
+}  // namespace kvr5
