@@ -100,6 +100,13 @@ TEST(Mp3Verb, ANameThatCannotBeTakenIsToldAndIsStatus1) {
   EXPECT_EQ(run.Box().size(), 2U);
 }
 
+TEST(Mp3Verb, TheAnalyzersFileThatComesWithTheProgramIsGood) {
+  const auto program = std::filesystem::path(KVR5_CARD).parent_path();
+  const auto run = Compagno().EseguiJson({"mp3", (program / "Analyzer.mp3").string()});
+  EXPECT_EQ(run.Oggetti().at(0)["GoodInput"], true);
+  EXPECT_EQ(run.Oggetti().at(0)["Duration"], 10);
+}
+
 TEST(Mp3Verb, NeedsNoProgramFolder) {
   const Compagno k;
   std::filesystem::remove_all(k.Host("program"));
