@@ -5,13 +5,89 @@
 #include "core/Lingua.h"
 #include "support/Banco.h"
 
-// Starts after the first: in a new process, and again in the same one after a visit to the
-// settings.
+// What a start leaves, and the starts after the first: in a new process, and again in the same one
+// after a visit to the settings.
 
 namespace kvr5 {
 namespace {
 
 using test::Banco;
+
+class Start : public testing::Test {
+ protected:
+  using Routine = void (*)(Contesto&);
+  /// Both ways to start: with the language chosen here, and by the caller.
+  static constexpr Routine kBoth[] = {AvviaSenzaSchermate, AvviaConLingua};
+
+  std::string Program(const std::string& name) { return b.Percorso("program") + "\\" + name; }
+  void Settings(const std::string& text) { b.Cartella.Write("program/KVR5Software.ini", text); }
+  void MakeReadOnly(const std::string& name) {
+    std::filesystem::permissions(b.Cartella.Host() / name, std::filesystem::perms::owner_read);
+  }
+  void RemoveFolder(const std::string& name) {
+    std::filesystem::remove_all(b.Cartella.Host() / name);
+  }
+
+  Banco b;
+};
+
+TEST_F(Start, WithEnableDebugMakesTheLogFolder) {
+  Settings("[Config]\r\nEnableDebug=1\r\n");
+  for (const Routine start : kBoth) {
+    RemoveFolder("program/Logs");
+    start(b.C);
+    EXPECT_TRUE(b.Cartella.Exists("program/Logs"));
+    EXPECT_TRUE(b.Nomi("program/Logs").empty());
+    EXPECT_FALSE(b.C.Stato.DebugAbilitato);
+  }
+}
+
+TEST_F(Start, WithoutEnableDebugMakesNoLogFolder) {
+  Settings("[Config]\r\nEnableDebug=0\r\n");
+  for (const Routine start : kBoth) {
+    start(b.C);
+    EXPECT_FALSE(b.Cartella.Exists("program/Logs"));
+  }
+}
+
+TEST_F(Start, LeavesNoErrorOfSettingsThatCannotBeWritten) {
+  Settings("[Config]\r\n");
+  MakeReadOnly("program/KVR5Software.ini");
+  LeggiOpzioniApplicazione(b.C);
+  ASSERT_EQ(b.C.Errore.Last().Number(), errors::PathFileAccess);
+  for (const Routine start : kBoth) {
+    start(b.C);
+    EXPECT_FALSE(b.C.Errore) << b.C.Errore.Last().Description();
+  }
+}
+
+TEST_F(Start, LeavesNoErrorOfALogFolderThatCannotBeMade) {
+  b.Cartella.Write("program/Logs", "a file bears the name");
+  Settings("[Config]\r\nEnableDebug=1\r\n");
+  for (const Routine start : kBoth) {
+    start(b.C);
+    EXPECT_FALSE(b.C.Errore) << b.C.Errore.Last().Description();
+  }
+}
+
+TEST_F(Start, WithADefaultFolderOfOver99CharactersWritesItWholeAndUsesItCut) {
+  // The program's folder has 95 characters: of "\Projects" behind it, "\Pro" comes back.
+  const std::size_t before = b.Percorso("").size() + 1;
+  ASSERT_LT(before, 90U);
+  const std::string name(95 - before, 'p');
+  std::filesystem::rename(b.Cartella.Host() / "program", b.Cartella.Host() / name);
+  RemoveFolder(name + "/Projects");
+  b.C.CartellaProgramma = b.Percorso(name);
+  ASSERT_EQ(b.C.CartellaProgramma.size(), 95U);
+  b.Cartella.Write(name + "/KVR5Software.ini", "[Config]\r\n");
+  AvviaSenzaSchermate(b.C);
+  EXPECT_EQ(b.Cartella.Read(name + "/KVR5Software.ini"),
+            "[Config]\r\nUseExternalPlayer=0\r\n[Path]\r\nProjectsDir=" + b.Percorso(name) +
+                "\\Projects\r\n");
+  EXPECT_EQ(b.C.Stato.CartellaProgetti, b.Percorso(name) + "\\Pro");
+  EXPECT_TRUE(b.Cartella.Exists(name + "/Pro"));
+  EXPECT_TRUE(b.Cartella.Exists(name + "/Projects")) << "it was made before the key was read again";
+}
 
 class SecondStart : public testing::Test {
  protected:

@@ -71,6 +71,34 @@ TEST_F(Progress, AMaximumOfZeroStopsThePainting) {
   EXPECT_EQ(p.ValoreCorrente, std::numeric_limits<std::int32_t>::max());
 }
 
+TEST_F(Progress, AStepOntoZeroOfZeroKeepsBarAndPercentageAndStillCounts) {
+  p.ValoreMassimo = 7;
+  p.FileTotali = 9;
+  p.Step(0, false);
+  ASSERT_EQ(p.LarghezzaBarra(), 840);
+  ASSERT_EQ(p.TestoPercento(), "14%");
+  p.ValoreMinimo = -3;
+  p.ValoreMassimo = 0;
+  const auto expectAsBefore = [&] {
+    EXPECT_EQ(p.ValoreCorrente, 0);
+    EXPECT_EQ(p.LarghezzaBarra(), 840);
+    EXPECT_EQ(p.TestoPercento(), "14%");
+  };
+  p.ValoreCorrente = -1;
+  p.Step(3, false);
+  expectAsBefore();
+  EXPECT_TRUE(p.NumFileVisibile());
+  EXPECT_EQ(p.TestoNumFile(), "3/9");
+  p.ValoreCorrente = -1;
+  p.Step(1, true);
+  expectAsBefore();
+  EXPECT_EQ(p.TestoNumFile(), "4/9");
+  p.ValoreCorrente = -1;
+  p.Step(0, false);
+  expectAsBefore();
+  EXPECT_FALSE(p.NumFileVisibile());
+}
+
 TEST_F(Progress, LoadingClearsACancelAndAPlainMemberDoesNotLoad) {
   b.C.Stato.AnnullatoDaUtente = true;
   p.ValoreMassimo = 7;
@@ -148,19 +176,36 @@ TEST_F(Progress, AnExtremeRatioIsShownWithoutHarm) {
 }
 
 TEST_F(Progress, UnloadingGivesEverythingItsInitialValue) {
+  const std::string operation = p.TestoOperazione();
+  const std::string percentage = p.TestoPercento();
   p.Operazione("work");
+  p.ValoreMinimo = 1;
   p.ValoreMassimo = 7;
   p.FileTotali = 3;
-  p.Progresso(5);
+  p.Progresso(4);
+  p.Step(2, false);
+  p.Step(0, false);
   p.Mostra();
+  ASSERT_EQ(p.ValoreCorrente, 6);
+  ASSERT_EQ(p.FileCorrente, 2);
+  ASSERT_EQ(p.TestoPercento(), "85%");
+  ASSERT_FALSE(p.NumFileVisibile());
   p.Scarica();
   EXPECT_FALSE(p.Caricata());
   EXPECT_FALSE(p.Visibile());
+  EXPECT_EQ(p.ValoreMinimo, 0);
   EXPECT_EQ(p.ValoreMassimo, 0);
+  EXPECT_EQ(p.ValoreCorrente, 0);
   EXPECT_EQ(p.FileTotali, 0);
+  EXPECT_EQ(p.FileCorrente, 0);
   EXPECT_EQ(p.LarghezzaBarra(), 0);
+  EXPECT_EQ(operation, "Operat");
+  EXPECT_EQ(p.TestoOperazione(), operation);
+  EXPECT_EQ(p.TestoPercento(), percentage);
   EXPECT_EQ(p.TestoNumFile(), "1/1");
-  p.Scarica();  // an unload of what isn't loaded does nothing
+  EXPECT_TRUE(p.NumFileVisibile());
+  p.Scarica();
+  EXPECT_FALSE(p.Caricata()) << "a second unload doesn't load it";
 }
 
 }  // namespace

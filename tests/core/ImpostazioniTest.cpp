@@ -45,6 +45,7 @@ TEST_F(Settings, AFileThatCannotBeMadeEndsTheProgram) {
   const auto box = b.Finestre.Prossimo();
   EXPECT_EQ(box.Titolo, "Configuration file not found");
   EXPECT_EQ(box.Testo, "Unable to read configuration file.Program will be ended");
+  EXPECT_EQ(box.Segno, Icona::Avviso);
   EXPECT_TRUE(b.Cartella.Exists("program/KVR5Software.ini/inside"));
 }
 
