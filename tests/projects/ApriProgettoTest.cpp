@@ -68,6 +68,40 @@ TEST_F(Opening, AFolderWithoutConfigCfgIsRefusedByName) {
   std::filesystem::remove(b.Cartella.Host() / "p/Config.cfg");
   EXPECT_EQ(Open("p"), EsitoApertura::FileMancante);
   ExpectMissing("config.cfg");
+  EXPECT_EQ(s.CartellaProgetto, b.Percorso("p")) << "it names the refused folder";
+  EXPECT_EQ(s.ProjectName, "") << "nothing was read";
+}
+
+TEST_F(Opening, TheFolderIsSetAndTheDescriptorReadBeforeTheBoxOfTheDatabase) {
+  Project("p", 2, 7, 2);
+  s.CartellaProgetto = "before";
+  StatoApplicazione atTheBox;
+  b.Finestre.SuBox = [&](const test::BoxVisto&) { atTheBox = s; };
+  EXPECT_EQ(Open("p"), EsitoApertura::FileMancante);
+  ExpectMissing("input.mdb");
+  for (const auto& state : {atTheBox, s}) {
+    EXPECT_EQ(state.CartellaProgetto, b.Percorso("p"));
+    EXPECT_EQ(state.ProjectName, "stored");
+    EXPECT_EQ(state.PlayerType, 2);
+    EXPECT_EQ(state.PlayerName, "Zub");
+    EXPECT_EQ(state.PlayerConfig, 2);
+    EXPECT_EQ(state.PlayerConfigDesc, "words");
+    EXPECT_EQ(state.PlayerMode, 7);
+    EXPECT_EQ(state.Analyzer, 1);
+  }
+}
+
+TEST_F(Opening, TheFolderIsSetBeforeTheBoxOfEachConfigFile) {
+  for (const char* missing : {"Config.txt", "Config.cfg"}) {
+    Project("p", 4, 6);
+    std::filesystem::remove(b.Cartella.Host() / "p" / missing);
+    s.CartellaProgetto = "before";
+    std::string atTheBox;
+    b.Finestre.SuBox = [&](const test::BoxVisto&) { atTheBox = s.CartellaProgetto; };
+    EXPECT_EQ(Open("p"), EsitoApertura::FileMancante);
+    b.Finestre.Prossimo();
+    EXPECT_EQ(atTheBox, b.Percorso("p")) << missing;
+  }
 }
 
 TEST_F(Opening, AFolderOfTheDescriptorsNameIsNoDescriptor) {
@@ -99,7 +133,10 @@ TEST_F(Opening, AnInputsProjectNeedsItsDatabaseWhichTheBoxCallsOtherwise) {
   EXPECT_EQ(Open("p"), EsitoApertura::Aperto);
 }
 
-TEST_F(Opening, TurnsTheBusyPointerOffWhenItRefuses) {
+TEST_F(Opening, TurnsTheBusyPointerOffAfterTheBoxThatRefuses) {
+  b.Finestre.SuBox = [&](const test::BoxVisto& box) {
+    EXPECT_EQ(b.Messaggi.Ora, Puntatore::Attesa) << box.Testo;
+  };
   for (const char* missing : {"Config.txt", "Config.cfg"}) {
     b.Messaggi.Ora = Puntatore::Attesa;
     Project("q", 4, 6);

@@ -71,6 +71,13 @@ TEST(ElencoProgetti, ListsAccentedNamesAsTheyAreSpelled) {
             (Names{"alfa", "Bücher", "città", "Città 2", "Déjà vu", "Παιδιά"}));
 }
 
+TEST(ElencoProgetti, ListsANameWithItsLeadingBlank) {
+  Banco b;
+  b.Cartella.Write("program/Projects/ Hall/Config.txt", "");
+  b.Cartella.Write("program/Projects/ Hall/Config.cfg", "");
+  EXPECT_EQ(ElencoProgetti(b.C), Names{" Hall"});
+}
+
 TEST(ElencoProgetti, ListsAHiddenFolderToo) {
   Banco b;
   b.Cartella.Write("program/Projects/.hidden/Config.txt", "");

@@ -116,17 +116,73 @@ TEST_F(Descriptor, AFolderThatCannotBeWrittenLeavesAPendingErrorAndStillTrue) {
   EXPECT_TRUE(b.C.Errore);
 }
 
-TEST_F(Descriptor, ALockedFolderLeavesTheOldFileDeletedAndNoNewOne) {
+TEST_F(Descriptor, AReadOnlyOldFileStaysAndIsAPendingError) {
+  const std::string old = "[CONFIG]\r\nProjectName=old\r\n";
+  Put(old);
+  std::filesystem::permissions(b.Cartella.Host() / "Lift-A/Config.cfg",
+                               std::filesystem::perms::owner_read);
+  EXPECT_TRUE(SalvaDescrittoreProgetto(b.C));
+  EXPECT_EQ(b.C.Errore.Last().Number(), errors::PathFileAccess);
+  EXPECT_EQ(Text(), old);
+  EXPECT_EQ(s.ProjectName, "Lift-A") << "the name is filled in all the same";
+  EXPECT_TRUE(b.Finestre.Silenzio());
+}
+
+/// A project with an old descriptor on a disk that fails where the test wants.
+class DescriptorOnABadDisk : public testing::Test {
+ protected:
+  void SetUp() override {
+    b.Cartella.Write("Lift-A/Config.cfg", "[CONFIG]\r\nProjectName=old\r\n");
+    b.C.Stato.CartellaProgetto = b.Percorso("Lift-A");
+  }
+  std::string Path() { return b.Percorso("Lift-A/Config.cfg"); }
+  /// Makes the first operation of this kind on the descriptor fail.
+  void FailFirst(const std::string& operation, int error) {
+    const std::string old = b.Cartella.Read("Lift-A/Config.cfg");
+    for (std::size_t index = 0; index < 20; ++index) {
+      b.Cartella.Write("Lift-A/Config.cfg", old);
+      faulty->FailOperation(Path(), index, error);
+      SalvaDescrittoreProgetto(b.C);
+      if (faulty->FailedOperation() != operation) continue;
+      b.Cartella.Write("Lift-A/Config.cfg", old);
+      b.C.Errore.Clear();
+      b.C.Stato.ProjectName.clear();
+      faulty->FailOperation(Path(), index, error);
+      return;
+    }
+    FAIL() << "it never came to " << operation;
+  }
+
   std::optional<test::FaultyFileSystem> faulty;
-  Banco locked([&](FileSystem& inner) -> FileSystem& { return faulty.emplace(inner); });
-  locked.Cartella.Write("Lift-A/Config.cfg", "[CONFIG]\r\nProjectName=old\r\n");
-  locked.C.Stato.CartellaProgetto = locked.Percorso("Lift-A");
-  faulty->FailWritesAfter(locked.Percorso("Lift-A"), 0, errors::DiskFull);
-  EXPECT_TRUE(SalvaDescrittoreProgetto(locked.C));
-  EXPECT_EQ(locked.C.Errore.Last().Number(), errors::DiskFull);
-  EXPECT_EQ(locked.C.Stato.ProjectName, "Lift-A");
-  EXPECT_FALSE(locked.Cartella.Exists("Lift-A/Config.cfg") &&
-               locked.Cartella.Read("Lift-A/Config.cfg") == "[CONFIG]\r\nProjectName=old\r\n");
+  Banco b{[this](FileSystem& inner) -> FileSystem& { return faulty.emplace(inner); }};
+};
+
+TEST_F(DescriptorOnABadDisk, ALockedFolderLeavesTheOldFileDeletedAndNoNewOne) {
+  FailFirst("Open", errors::PathFileAccess);
+  EXPECT_TRUE(SalvaDescrittoreProgetto(b.C));
+  EXPECT_EQ(b.C.Errore.Last().Number(), errors::PathFileAccess);
+  EXPECT_EQ(b.C.Stato.ProjectName, "Lift-A");
+  EXPECT_TRUE(b.Nomi("Lift-A").empty());
+  EXPECT_TRUE(b.Finestre.Silenzio());
+}
+
+TEST_F(DescriptorOnABadDisk, AFullDiskLeavesNothingOfTheOldTextAndNoHalfOfTheNew) {
+  faulty->FailWritesAfter(Path(), 0, errors::DiskFull);
+  EXPECT_TRUE(SalvaDescrittoreProgetto(b.C));
+  EXPECT_EQ(b.C.Errore.Last().Number(), errors::DiskFull);
+  EXPECT_EQ(b.C.Stato.ProjectName, "Lift-A");
+  EXPECT_TRUE(!b.Cartella.Exists("Lift-A/Config.cfg") ||
+              b.Cartella.Read("Lift-A/Config.cfg").empty());
+  EXPECT_TRUE(b.Finestre.Silenzio());
+}
+
+TEST_F(DescriptorOnABadDisk, AnOldFileThatCannotBeDeletedIsNeverAddedTo) {
+  FailFirst("Delete", errors::PermissionDenied);
+  b.C.Stato.ProjectName = "new";
+  EXPECT_TRUE(SalvaDescrittoreProgetto(b.C));
+  EXPECT_EQ(b.C.Errore.Last().Number(), errors::PermissionDenied);
+  EXPECT_TRUE(b.Cartella.Read("Lift-A/Config.cfg").starts_with("[CONFIG]\r\nProjectName=new\r\n"));
+  EXPECT_EQ(b.Cartella.Read("Lift-A/Config.cfg").find("old"), std::string::npos);
 }
 
 TEST_F(Descriptor, ANameIsReadAsIniValuesAre) {

@@ -91,6 +91,11 @@ TEST_F(NewProject, TheNoteShowsTheCharacters) {
             "A name can't hold these characters:  \\ / : ? \" < > |");
 }
 
+TEST_F(NewProject, TheNoteOfTheNameDialogShowsThemOnALineOfTheirOwn) {
+  EXPECT_EQ(NotaCaratteriVietati(b.C, "\r\n"),
+            "A name can't hold these characters:\r\n \\ / : ? \" < > |");
+}
+
 TEST_F(NewProject, AnEmptyNameIsAskedFor) {
   EXPECT_EQ(Create("", 1), EsitoNuovo::NomeVuoto);
   const auto box = b.Finestre.Prossimo();
@@ -128,6 +133,7 @@ TEST_F(NewProject, AnExistingNameIsRefusedWithoutRegardToCaseAndACorrectedOneGoe
   const auto box = b.Finestre.Prossimo();
   EXPECT_EQ(box.Titolo, "Name already in use");
   EXPECT_EQ(box.Testo, "A project folder of this name exists. Choose another name.");
+  EXPECT_EQ(box.Segno, Icona::Informazione);
   EXPECT_EQ(s.ProjectName, "HALL");
   EXPECT_EQ(s.CartellaProgetto, b.Percorso("program/Projects/HALL"));
   EXPECT_EQ(Create("Hall 2", 1), EsitoNuovo::Creato);
@@ -203,9 +209,12 @@ TEST_F(NewProject, AMissingTemplateEndsTheProgramAndLeavesWhatCameSoFar) {
 TEST_F(NewProject, AMissingSourceDatabaseEndsTheProgram) {
   Remove("source.mdb");
   EXPECT_THROW(Create("Hall", 1), test::FineDelProgramma);
-  EXPECT_EQ(b.Finestre.Prossimo().Testo,
+  const auto box = b.Finestre.Prossimo();
+  EXPECT_EQ(box.Titolo, "Project not created: a program file is missing");
+  EXPECT_EQ(box.Testo,
             "Project not created: the file source.mdb is missing\r\nInstall the program again.\r\n"
             "The program ends now; delete the unfinished project folder.");
+  EXPECT_EQ(box.Segno, Icona::Avviso);
   EXPECT_EQ(b.Nomi("program/Projects/Hall"), (Names{"Config.cfg", "Config.txt", "KVR5.gif"}));
 }
 

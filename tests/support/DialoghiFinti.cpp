@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace kvr5::test {
 
 DialoghiFinti::~DialoghiFinti() {
@@ -19,15 +21,20 @@ Risposta DialoghiFinti::Risposta_(const std::string& titolo) {
   return answer;
 }
 
+void DialoghiFinti::Vedi(BoxVisto box) {
+  if (SuBox) SuBox(box);
+  visti_.push_back(std::move(box));
+}
+
 Risposta DialoghiFinti::MostraMessaggio(const Messaggio& messaggio) {
   const bool onlyOk = messaggio.Scelte == Pulsanti::Ok;
-  visti_.push_back({messaggio.Titolo, messaggio.Testo, false, onlyOk, {}, messaggio.Segno, 0});
+  Vedi({messaggio.Titolo, messaggio.Testo, false, onlyOk, {}, messaggio.Segno, 0});
   return onlyOk ? Risposta::Ok : Risposta_(messaggio.Titolo);
 }
 
 std::uint8_t DialoghiFinti::MostraSiNo(const BoxSiNo& box) {
-  visti_.push_back({box.Titolo, box.Nota, true, box.SoloOk.has_value(), box.SoloOk.value_or(""),
-                    Icona::Nessuna, box.ColoreNota.value_or(0)});
+  Vedi({box.Titolo, box.Nota, true, box.SoloOk.has_value(), box.SoloOk.value_or(""), Icona::Nessuna,
+        box.ColoreNota.value_or(0)});
   if (box.SoloOk) return 1;
   const Risposta answer = Risposta_(box.Titolo);
   if (answer == Risposta::Annulla) return 0;

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <string>
 
 #include "core/Dialoghi.h"
@@ -34,7 +35,11 @@ class DialoghiFinti : public Dialoghi {
   BoxVisto Prossimo();
   bool Silenzio() const { return visti_.empty(); }
 
+  /// What a test wants to look at while a box stands on the screen.
+  std::function<void(const BoxVisto&)> SuBox;
+
  private:
+  void Vedi(BoxVisto box);
   Risposta Risposta_(const std::string& titolo);
 
   std::deque<BoxVisto> visti_;
