@@ -1,68 +1,12 @@
 #include <gtest/gtest.h>
 
-#include "flashcard/Registrazione.h"
-#include "support/Banco.h"
+#include "BancoRegistrazione.h"
 
 namespace kvr5 {
 namespace {
 
-using test::Banco;
+using test::Recording;
 using Names = std::vector<std::string>;
-
-/// The card dialog of a test: gives a card, or is left.
-class Choice : public SelezioneFlash {
- public:
-  explicit Choice(StatoApplicazione& state) : state_(state) {}
-  void Scegli() override {
-    ++Times;
-    state_.SelezioneFlashAnnullata = Cancelled;
-    if (!Card.empty()) state_.PercorsoMemoryCard = Card;
-  }
-
-  int Times = 0;
-  bool Cancelled = false;
-  std::string Card;
-
- private:
-  StatoApplicazione& state_;
-};
-
-class Recording : public testing::Test {
- protected:
-  void SetUp() override { s.PercorsoMemoryCard = b.Percorso("card") + "\\"; }
-
-  void Project(std::int16_t type, std::int16_t mode, std::int16_t config = 0) {
-    b.CreaProgetto("Hall", type, mode, config);
-    for (const char* name : {"a.mp3", "b.mp3", "c.mp3"}) {
-      b.ScriviMp3(std::string("music/") + name, name[0]);
-    }
-  }
-  std::string Music() const { return b.Percorso("music") + "\\"; }
-  void Put(const std::string& name, const std::string& text = "x") {
-    b.Cartella.Write("program/Projects/Hall/" + name, text);
-  }
-  FineRegistrazione Record() {
-    if (!TabellaIngressi::SenzaIngressi(s.PlayerType, s.PlayerMode)) inputs.Apri();
-    return RegistraProgettoSuFlash(b.C, inputs, progress, choice).Fine;
-  }
-  Names Card() const { return b.Nomi("card"); }
-  std::string OnCard(const std::string& name) const { return b.Cartella.Read("card/" + name); }
-  void ExpectBox(const std::string& title, const std::string& text, std::uint32_t colour) {
-    const auto box = b.Finestre.Prossimo();
-    EXPECT_TRUE(box.SiNo);
-    EXPECT_TRUE(box.SoloOk);
-    EXPECT_EQ(box.TestoOk, "OK");
-    EXPECT_EQ(box.Titolo, title);
-    EXPECT_EQ(box.Testo, text);
-    EXPECT_EQ(box.Colore, colour);
-  }
-
-  Banco b;
-  StatoApplicazione& s = b.C.Stato;
-  TabellaIngressi inputs{b.C};
-  FinestraProgresso progress{b.C};
-  Choice choice{b.C.Stato};
-};
 
 constexpr const char* kCancelTitle = "Project";
 constexpr const char* kCancelText = "Not all was completed: please repeat";
