@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string>
+
+#include "core/Contesto.h"
+#include "platform/db/Connection.h"
+
+namespace kvr5 {
+
+/// The copy of a project database on which an editor works (tmpPlaylist.mdb of playlist.mdb,
+/// tmpScheduler.mdb of scheduler.mdb). The real database changes by Salva alone, and as a whole: a
+/// copy of the file is the commit.
+class CopiaDiLavoro {
+ public:
+  /// Names of files in the open project's folder.
+  CopiaDiLavoro(Contesto& contesto, std::string vero, std::string temporaneo);
+  /// Leaves the editor: what wasn't saved is gone.
+  ~CopiaDiLavoro();
+  CopiaDiLavoro(const CopiaDiLavoro&) = delete;
+  CopiaDiLavoro& operator=(const CopiaDiLavoro&) = delete;
+
+  /// Throws away what a crash left, copies the real database and opens the copy. A real one that is
+  /// missing leaves the connection closed.
+  void Apri();
+  /// The connection on the copy; its recordsets are the editor's.
+  Connection& Connessione() { return connessione_; }
+  /// Closes the connection and puts the copy in the real database's place. A copy that fails (a
+  /// full disk) leaves the real one as it was, and is told by the copy window. The connection stays
+  /// closed: the editor goes on to leave, or opens the copy again.
+  void Salva();
+  /// Closes the connection and deletes the copy.
+  void Lascia();
+
+ private:
+  void EliminaCopia();
+
+  Contesto& contesto_;
+  std::string vero_;  ///< full paths
+  std::string temporaneo_;
+  Connection connessione_;
+};
+
+}  // namespace kvr5

@@ -1,0 +1,111 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <memory>
+
+#include "platform/db/Recordset.h"
+#include "projects/CopiaDiLavoro.h"
+#include "support/Banco.h"
+#include "support/FaultyFileSystem.h"
+
+namespace kvr5 {
+namespace {
+
+using test::Banco;
+
+struct Editor {
+  std::int16_t Mode;
+  const char* Real;
+  const char* Temp;
+};
+
+/// The databases of the two editors.
+class WorkingCopy : public testing::TestWithParam<Editor> {
+ protected:
+  void SetUp() override {
+    b.CreaProgetto("Hall", 4, GetParam().Mode);
+    b.AggiungiRiga(GetParam().Real, 1, 1, "a.mp3", "C:\\m\\", "");
+    before = b.Cartella.Read(Real());
+  }
+  std::string Real() const { return std::string("program/Projects/Hall/") + GetParam().Real; }
+  std::string Temp() const { return std::string("program/Projects/Hall/") + GetParam().Temp; }
+  static std::int64_t Rows(Connection& connection) {
+    Recordset rows;
+    EXPECT_FALSE(rows.Open(connection, "SELECT * FROM [List]"));
+    return rows.RecordCount();
+  }
+
+  std::unique_ptr<test::FaultyFileSystem> faults;
+  Banco b{[this](FileSystem& inner) -> FileSystem& {
+    faults = std::make_unique<test::FaultyFileSystem>(inner);
+    return *faults;
+  }};
+  std::string before;
+};
+
+TEST_P(WorkingCopy, LeavingWithoutSavingLeavesTheRealOneByteForByte) {
+  {
+    CopiaDiLavoro copy(b.C, GetParam().Real, GetParam().Temp);
+    copy.Apri();
+    ASSERT_TRUE(copy.Connessione().IsOpen());
+    EXPECT_FALSE(copy.Connessione().Execute("DELETE * FROM [List]"));
+    EXPECT_EQ(Rows(copy.Connessione()), 0);
+    EXPECT_TRUE(b.Cartella.Exists(Temp()));
+  }
+  EXPECT_TRUE(b.Cartella.Read(Real()) == before);
+  EXPECT_FALSE(b.Cartella.Exists(Temp()));
+}
+
+TEST_P(WorkingCopy, SavingPutsItInTheRealOnesPlace) {
+  CopiaDiLavoro copy(b.C, GetParam().Real, GetParam().Temp);
+  copy.Apri();
+  EXPECT_FALSE(copy.Connessione().Execute("DELETE * FROM [List]"));
+  copy.Salva();
+  EXPECT_FALSE(copy.Connessione().IsOpen());
+  copy.Lascia();
+  Connection real(b.Disco);
+  ASSERT_FALSE(real.Open(b.Percorso(Real())));
+  EXPECT_EQ(Rows(real), 0);
+  EXPECT_FALSE(b.Cartella.Exists(Temp()));
+}
+
+TEST_P(WorkingCopy, WhatACrashLeftIsThrownAwayWithItsJournal) {
+  b.Cartella.Write(Temp(), "half a database");
+  b.Cartella.Write(Temp() + "-journal", "of another copy");
+  CopiaDiLavoro copy(b.C, GetParam().Real, GetParam().Temp);
+  copy.Apri();
+  EXPECT_EQ(Rows(copy.Connessione()), 1);
+  copy.Lascia();
+  EXPECT_FALSE(b.Cartella.Exists(Temp() + "-journal"));
+}
+
+TEST_P(WorkingCopy, ASaveThatFailsLeavesTheRealOneAsItWas) {
+  CopiaDiLavoro copy(b.C, GetParam().Real, GetParam().Temp);
+  copy.Apri();
+  EXPECT_FALSE(copy.Connessione().Execute("DELETE * FROM [List]"));
+  faults->FailWritesAfter(b.Percorso("program/Projects"), 100, errors::DiskFull);
+  copy.Salva();
+  faults->Repair();
+  EXPECT_EQ(b.Copia.Guasti.size(), 1U);
+  EXPECT_TRUE(b.Cartella.Read(Real()) == before);
+}
+
+TEST_P(WorkingCopy, OfADatabaseThatIsMissingStaysClosed) {
+  std::filesystem::remove(b.Cartella.Host() / Real());
+  CopiaDiLavoro copy(b.C, GetParam().Real, GetParam().Temp);
+  copy.Apri();
+  EXPECT_FALSE(copy.Connessione().IsOpen());
+  copy.Salva();
+  EXPECT_FALSE(b.Cartella.Exists(Real()));
+  EXPECT_TRUE(b.Copia.Guasti.empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Editors, WorkingCopy,
+                         testing::Values(Editor{5, "playlist.mdb", "tmpPlaylist.mdb"},
+                                         Editor{2, "scheduler.mdb", "tmpScheduler.mdb"}),
+                         [](const auto& each) {
+                           return each.param.Mode == 5 ? "Playlists" : "Schedule";
+                         });
+
+}  // namespace
+}  // namespace kvr5
