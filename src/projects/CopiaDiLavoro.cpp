@@ -6,7 +6,7 @@
 
 namespace kvr5 {
 
-CopiaDiLavoro::CopiaDiLavoro(Contesto& contesto, std::string vero, std::string temporaneo)
+CopiaDiLavoro::CopiaDiLavoro(Contesto& contesto, std::string_view vero, std::string_view temporaneo)
     : contesto_(contesto),
       vero_(FileDelProgetto(contesto, vero)),
       temporaneo_(FileDelProgetto(contesto, temporaneo)),

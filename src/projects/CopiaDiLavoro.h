@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "core/Contesto.h"
 #include "platform/db/Connection.h"
@@ -13,7 +14,7 @@ namespace kvr5 {
 class CopiaDiLavoro {
  public:
   /// Names of files in the open project's folder.
-  CopiaDiLavoro(Contesto& contesto, std::string vero, std::string temporaneo);
+  CopiaDiLavoro(Contesto& contesto, std::string_view vero, std::string_view temporaneo);
   /// Leaves the editor: what wasn't saved is gone.
   ~CopiaDiLavoro();
   CopiaDiLavoro(const CopiaDiLavoro&) = delete;

@@ -1,5 +1,6 @@
 #include "projects/Descrittore.h"
 
+#include <array>
 #include <string>
 #include <utility>
 
@@ -13,7 +14,7 @@ namespace kvr5 {
 namespace {
 
 std::string DescriptorText(const StatoApplicazione& state) {
-  const std::pair<const char*, std::string> lines[] = {
+  const std::array<std::pair<const char*, std::string>, 7> lines{{
       {"ProjectName", state.ProjectName},
       {"PlayerName", state.PlayerName},
       {"PlayerType", std::to_string(state.PlayerType)},
@@ -21,7 +22,7 @@ std::string DescriptorText(const StatoApplicazione& state) {
       {"PlayerConfigDesc", state.PlayerConfigDesc},
       {"PlayerMode", std::to_string(state.PlayerMode)},
       {"Analyzer", std::to_string(state.Analyzer)},
-  };
+  }};
   std::string text = "[CONFIG]\r\n";
   for (const auto& [key, value] : lines) text.append(key).append("=").append(value).append("\r\n");
   return text;

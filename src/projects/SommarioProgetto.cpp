@@ -52,7 +52,7 @@ class Reader {
     Recordset rows;
     if (Error error = connection.Open(FileDelProgetto(context_, database))) return error;
     if (Error error = rows.Open(connection, query)) return error;
-    const Error walked = WalkRows(rows, [&] {
+    Error walked = WalkRows(rows, [&] {
       result.push_back(ReadRow(context_, database, rows));
       return true;
     });

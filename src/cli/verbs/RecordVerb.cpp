@@ -41,7 +41,7 @@ EsitoRegistrazione RecordOnto(Session& session, TabellaIngressi& inputs, const s
   TerminalProgress progress(context, session.Line());
   session.Events().Watch(&progress);
   NoChoice choice;
-  const auto outcome = RegistraProgettoSuFlash(context, inputs, progress, choice);
+  auto outcome = RegistraProgettoSuFlash(context, inputs, progress, choice);
   session.Events().Watch(nullptr);
   session.Line().Clear();
   return outcome;
@@ -50,7 +50,8 @@ EsitoRegistrazione RecordOnto(Session& session, TabellaIngressi& inputs, const s
 /// Tells how a card ended. False when anything of it is missing.
 bool Report(Session& session, const std::string& card, const EsitoRegistrazione& outcome) {
   for (const auto& database : outcome.NonLetti) {
-    session.Out().Say(database + " can't be read: its files are not on " + card);
+    session.Out().Say(std::string(database).append(" can't be read: its files are not on ") +=
+                      card);
   }
   const bool good = outcome.Fine == FineRegistrazione::Compiuta && outcome.NonLetti.empty() &&
                     !session.Copy().TakeFailure();
