@@ -1,0 +1,217 @@
+#include <gtest/gtest.h>
+
+#include "BancoRegistrazione.h"
+
+namespace kvr5 {
+namespace {
+
+using test::Recording;
+using Names = std::vector<std::string>;
+
+constexpr const char* kCancelTitle = "Project";
+constexpr const char* kCancelText = "Not all was completed: please repeat";
+constexpr std::uint32_t kOrange = 33023;
+
+TEST_F(Recording, AProjectReadBackFromACardUsesItsAliasCopies) {
+  Project(4, 5);
+  Put("P01-001.mp3", "copy");
+  b.AggiungiRiga("playlist.mdb", 1, 1, "gone.mp3", "C:\\no\\where\\", "P01-001.mp3");
+  EXPECT_EQ(Record(), FineRegistrazione::Compiuta);
+  EXPECT_EQ(OnCard("P01-001.mp3"), "copy");
+}
+
+TEST_F(Recording, TheSameMp3UnderTwoAliasesIsOneFileOnTheCard) {
+  Project(4, 5);
+  b.AggiungiRiga("playlist.mdb", 1, 1, "a.mp3", Music(), "P01-001.mp3");
+  b.AggiungiRiga("playlist.mdb", 2, 1, "a.mp3", Music(), "P02-001.mp3");
+  EXPECT_EQ(Record(), FineRegistrazione::Compiuta);
+  EXPECT_TRUE(b.Cartella.Exists("card/P01-001.mp3"));
+  EXPECT_FALSE(b.Cartella.Exists("card/P02-001.mp3"));
+}
+
+TEST_F(Recording, TheSameMp3OnTwoInputsStopsTheRunWithoutAnyMp3) {
+  Project(4, 1);
+  inputs.Apri();
+  inputs.Assegna(1, "a.mp3", Music());
+  inputs.Assegna(2, "a.mp3", Music());
+  EXPECT_EQ(Record(), FineRegistrazione::FileMancante);
+  ExpectBox("MP3 files not copied",
+            "No MP3 was copied. This file can't be found, or a second input uses it too (give "
+            "that one a copy under another name):\r\na.mp3",
+            kOrange);
+  EXPECT_EQ(Card(), (Names{"Config.cfg", "Config.txt", "inputcfg.mdb"}));
+  EXPECT_EQ(b.Messaggi.Ora, Puntatore::Attesa) << "the wait pointer is left on";
+  EXPECT_FALSE(progress.Caricata());
+}
+
+TEST_F(Recording, AMissingTrackStopsTheRunWithItsPath) {
+  Project(4, 5);
+  b.AggiungiRiga("playlist.mdb", 1, 1, "a.mp3", Music(), "P01-001.mp3");
+  b.AggiungiRiga("playlist.mdb", 1, 2, "gone.mp3", Music(), "P01-002.mp3");
+  EXPECT_EQ(Record(), FineRegistrazione::FileMancante);
+  ExpectBox("MP3 files not copied",
+            "No MP3 was copied. This file can't be found, or a second input uses it too (give "
+            "that one a copy under another name):\r\n" +
+                (b.Cartella.Host() / "music/gone.mp3").string(),
+            kOrange);
+  EXPECT_EQ(Card(), (Names{"Config.cfg", "Config.txt", "playlist.mdb"}));
+}
+
+TEST_F(Recording, AMissingSpotStopsTheRunWithItsPath) {
+  Project(4, 2);
+  b.AggiungiRiga("scheduler.mdb", 0, 1, "gone.mp3", Music(), "F0-0011.mp3", 1);
+  EXPECT_EQ(Record(), FineRegistrazione::FileMancante);
+  EXPECT_TRUE(b.Finestre.Prossimo().Testo.ends_with("music/gone.mp3"));
+}
+
+TEST_F(Recording, AMissingInputFileIsToldByTheCopyAndTheRunGoesOn) {
+  Project(4, 1);
+  inputs.Apri();
+  inputs.Assegna(1, "gone.mp3", Music());
+  EXPECT_EQ(Record(), FineRegistrazione::Compiuta);
+  ASSERT_EQ(b.Copia.Guasti.size(), 1U);
+  EXPECT_TRUE(b.Finestre.Silenzio());
+}
+
+TEST_F(Recording, WithoutACardTheDialogIsAskedAndALeftOneStopsInSilence) {
+  Project(4, 1);
+  s.PercorsoMemoryCard.clear();
+  EXPECT_EQ(Record(), FineRegistrazione::SenzaScheda);
+  EXPECT_EQ(choice.Times, 1);
+  choice.Cancelled = true;
+  choice.Card = b.Percorso("card") + "\\";
+  EXPECT_EQ(Record(), FineRegistrazione::SenzaScheda);
+  EXPECT_TRUE(Card().empty());
+  EXPECT_TRUE(b.Finestre.Silenzio());
+  EXPECT_EQ(b.Messaggi.Ora, Puntatore::Normale);
+}
+
+TEST_F(Recording, ACardChosenInTheDialogIsRecorded) {
+  Project(4, 1);
+  s.PercorsoMemoryCard.clear();
+  choice.Card = b.Percorso("card") + "\\";
+  EXPECT_EQ(Record(), FineRegistrazione::Compiuta);
+  EXPECT_FALSE(Card().empty());
+  EXPECT_EQ(Record(), FineRegistrazione::Compiuta);
+  EXPECT_EQ(choice.Times, 1) << "it isn't asked again";
+}
+
+TEST_F(Recording, ACardThatIsNotThereIsToldBeforeAnythingElse) {
+  Project(4, 1);
+  for (const auto& card : {b.Percorso("gone") + "\\", std::string("X:\\")}) {
+    s.PercorsoMemoryCard = card;
+    EXPECT_EQ(Record(), FineRegistrazione::NonScrivibile);
+    ExpectBox("Recording not started",
+              "Nothing was copied: this card can't be written. Open its lock, put it back in, "
+              "choose it again.",
+              0);
+    EXPECT_FALSE(progress.Caricata());
+  }
+}
+
+TEST_F(Recording, AProtectedCardIsToldAndKeepsNoStray) {
+  Project(4, 1);
+  b.Cartella.Write("card/test.txt/inside", "");  // a folder bears the name: the write test fails
+  EXPECT_EQ(Record(), FineRegistrazione::NonScrivibile);
+  b.Finestre.Prossimo();
+  EXPECT_EQ(Card(), Names{"test.txt/inside"});
+}
+
+TEST_F(Recording, TheSevenStagesShowTheirTextsInOrder) {
+  Project(4, 1);
+  std::vector<std::string> texts;
+  std::vector<std::int32_t> values;
+  b.Messaggi.Accade = [&] {
+    if (!progress.Visibile()) return;
+    if (texts.empty() || texts.back() != progress.TestoOperazione()) {
+      texts.push_back(progress.TestoOperazione());
+    }
+    if (values.empty() || values.back() != progress.ValoreCorrente) {
+      values.push_back(progress.ValoreCorrente);
+    }
+  };
+  Record();
+  EXPECT_EQ(texts, (Names{"Writing the files of the project", "Copying the databases",
+                          "Copying the configuration", "Copying playlists and schedules",
+                          "Copying reports and pictures", "Looking for the MP3 files"}));
+  EXPECT_EQ(values, (std::vector<std::int32_t>{1, 2, 3, 4, 5, 6, 7}));
+}
+
+TEST_F(Recording, ACancelInTheProgressWindowIsLookedAtOnlyAtTheEnd) {
+  for (int stage = 1; stage <= 7; ++stage) {
+    SCOPED_TRACE(stage);
+    const std::string name = "H" + std::to_string(stage);
+    b.CreaProgetto(name, 4, 1);
+    b.ScriviMp3("music/a.mp3", stage);
+    inputs.Apri();
+    inputs.Assegna(5, "a.mp3", Music());
+    b.Messaggi.Accade = [&] {
+      if (progress.Visibile() && progress.ValoreCorrente == stage && !s.AnnullatoDaUtente) {
+        progress.Annulla();
+      }
+    };
+    EXPECT_EQ(Record(), FineRegistrazione::Annullata);
+    b.Messaggi.Accade = nullptr;
+    ExpectBox(kCancelTitle, kCancelText, kOrange);
+    EXPECT_TRUE(b.Cartella.Same("card/5.mp3", "music/a.mp3")) << "the MP3 files came all the same";
+    EXPECT_EQ(b.Messaggi.Ora, Puntatore::Normale);
+  }
+}
+
+TEST_F(Recording, ACancelFromBeforeTheRunIsForgotten) {
+  Project(4, 1);
+  s.AnnullatoDaUtente = true;
+  EXPECT_EQ(Record(), FineRegistrazione::Compiuta);
+}
+
+TEST_F(Recording, ACancelInTheCopyWindowLetsLaterCopiesRun) {
+  Project(4, 5);
+  Put("1.m3u", "list");
+  b.AggiungiRiga("playlist.mdb", 1, 1, "a.mp3", Music(), "P01-001.mp3");
+  b.Copia.SuProgresso = [&](const CopyState& state) {
+    b.Copia.AnnullaAlla = state.File.ends_with("Config.txt") ? 1 : 0;
+  };
+  EXPECT_EQ(Record(), FineRegistrazione::Annullata);
+  ExpectBox(kCancelTitle, kCancelText, kOrange);
+  EXPECT_EQ(Card(), (Names{"1.m3u", "Config.cfg", "P01-001.mp3", "playlist.mdb"}));
+}
+
+TEST_F(Recording, ACancelDuringTheMp3CopyKeepsWhatCame) {
+  Project(4, 5);
+  b.AggiungiRiga("playlist.mdb", 1, 1, "a.mp3", Music(), "P01-001.mp3");
+  b.AggiungiRiga("playlist.mdb", 1, 2, "b.mp3", Music(), "P01-002.mp3");
+  b.Copia.SuProgresso = [&](const CopyState& state) {
+    b.Copia.AnnullaAlla = state.File.ends_with("b.mp3") ? 1 : 0;
+  };
+  EXPECT_EQ(Record(), FineRegistrazione::Annullata);
+  b.Finestre.Prossimo();
+  EXPECT_EQ(Card(), (Names{"Config.cfg", "Config.txt", "P01-001.mp3", "playlist.mdb"}));
+}
+
+TEST_F(Recording, AMissingDatabaseIsSkippedWithItsPass) {
+  for (const std::int16_t mode : std::initializer_list<std::int16_t>{1, 2, 5}) {
+    SCOPED_TRACE(mode);
+    b.CreaProgetto("M" + std::to_string(mode), 4, mode);
+    for (const char* name : {"inputcfg.mdb", "playlist.mdb", "scheduler.mdb"}) {
+      std::filesystem::remove(b.Cartella.Host() / "program/Projects" /
+                              ("M" + std::to_string(mode)) / name);
+    }
+    EXPECT_EQ(Record(), FineRegistrazione::Compiuta);
+    EXPECT_EQ(Card(), (Names{"Config.cfg", "Config.txt"}));
+  }
+}
+
+TEST_F(Recording, DamagedDatabasesAreCopiedAndTheirPassesSkipped) {
+  Project(4, 1);
+  for (const auto& bytes :
+       {std::string(), std::string(8192, '\0'), std::string("SQLite format 3")}) {
+    Put("inputcfg.mdb", bytes);
+    Put("playlist.mdb", bytes);
+    EXPECT_EQ(Record(), FineRegistrazione::Compiuta);
+    EXPECT_TRUE(OnCard("inputcfg.mdb") == bytes);
+    EXPECT_TRUE(b.Cartella.Read("program/Projects/Hall/inputcfg.mdb") == bytes);
+  }
+}
+
+}  // namespace
+}  // namespace kvr5
