@@ -51,11 +51,11 @@ Interrupt::~Interrupt() {
 }
 
 bool Interrupt::Pressed() {
-  if (g_pressed == 0) return false;  // a press from now on is for the next call
+  if (g_pressed == 0) return false;
+  g_pressed = 0;  // a press from now on is for the next call; at worst this one is told twice
   std::array<char, 16> bytes{};
   while (read(g_pipe[0], bytes.data(), bytes.size()) > 0) {
   }
-  g_pressed = 0;
   return true;
 }
 
@@ -63,8 +63,8 @@ bool Interrupt::WaitForInput() {
   std::array<pollfd, 2> sources{pollfd{STDIN_FILENO, POLLIN, 0}, pollfd{g_pipe[0], POLLIN, 0}};
   while (g_pressed == 0) {
     const int ready = poll(sources.data(), sources.size(), -1);
-    if (ready > 0 && sources[1].revents == 0) return true;
-    if (ready < 0 && errno != EINTR) return true;  // then the reading itself finds out
+    if (ready > 0) return sources[1].revents == 0;
+    if (errno != EINTR) return true;  // then the reading itself finds out
   }
   return false;
 }

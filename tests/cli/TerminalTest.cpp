@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <filesystem>
 
 #include "cli/Compagno.h"
+#include "cli/Interrupt.h"
 #include "cli/Terminal.h"
 #include "cli/TerminalText.h"
 #include "cli/Terminale.h"
@@ -154,6 +156,32 @@ TEST(QuestionOnATerminal, IsNotAskedWhereTheAnswerIsGiven) {
   EXPECT_EQ(AnswerOf(Pulsanti::SiNo, "", cli::FixedAnswer::Yes), static_cast<int>(Risposta::Si));
   EXPECT_EQ(AnswerOf(Pulsanti::SiNoAnnulla, "", cli::FixedAnswer::No),
             static_cast<int>(Risposta::No));
+}
+
+TEST(Interrupt, IsToldOnceAndEndsAWaitForInputThatComesLater) {
+  Terminale terminal([] {
+    const cli::Interrupt cancel;
+    if (cli::Interrupt::Pressed()) return 1;
+    raise(SIGINT);
+    if (cli::Interrupt::WaitForInput()) return 2;  // whenever the press came
+    if (!cli::Interrupt::Pressed()) return 3;
+    if (cli::Interrupt::Pressed()) return 4;
+    raise(SIGTERM);
+    raise(SIGHUP);
+    return cli::Interrupt::Pressed() && !cli::Interrupt::Pressed() ? 0 : 5;
+  });
+  EXPECT_EQ(terminal.Fine(), 0);
+}
+
+TEST(Interrupt, ThatWasToldLetsTheNextLineBeRead) {
+  Terminale terminal([] {
+    const cli::Interrupt cancel;
+    raise(SIGINT);
+    if (!cli::Interrupt::Pressed()) return 1;
+    return cli::Interrupt::WaitForInput() ? 0 : 2;
+  });
+  terminal.Scrivi("line\n");
+  EXPECT_EQ(terminal.Fine(), 0);
 }
 
 TEST(TerminalText, IsFreeOfControlCharactersAndBrokenBytes) {

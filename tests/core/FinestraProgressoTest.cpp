@@ -34,6 +34,15 @@ TEST_F(Progress, ThePercentageDropsItsFraction) {
   EXPECT_EQ(p.LarghezzaBarra(), 1680);
 }
 
+TEST_F(Progress, ThePercentageIsExactWhereFractionsOfTwoAreNot) {
+  p.ValoreMassimo = 100;
+  for (const int value : {29, 57, 58}) {
+    p.Progresso(value - 1);
+    p.Step(0, false);
+    EXPECT_EQ(p.TestoPercento(), std::to_string(value) + "%");
+  }
+}
+
 TEST_F(Progress, AStepWithoutANumberHidesTheCounterAndStillMoves) {
   p.ValoreMassimo = 4;
   EXPECT_TRUE(p.NumFileVisibile());

@@ -136,17 +136,30 @@ TEST(Parameters, AnEmptyValueLeavesWhatIsThereButForTheOnesThatReadItAsOff) {
   EXPECT_EQ(DalFile(Find("LOUT"), "x", {7, {}}, Locale()).Numero, 7);
 }
 
-TEST(Parameters, EveryListEndsWhereItsItemsEnd) {
+TEST(Parameters, EveryControlEndsWhereItsValuesEnd) {
   const std::tuple<const char*, int, int> rows[] = {
-      {"TAVC", 0, 4}, {"CMAD", 0, 31}, {"CMCK", 0, 1}, {"CMCL", 0, 1},  {"CMBR", 0, 3},
-      {"CMPR", 0, 2}, {"CMSB", 1, 2},  {"CMDB", 7, 8}, {"CMDR", 0, 15}, {"CMI3", 0, 5},
-      {"ORI3", 0, 1}, {"OMON", 0, 1},  {"PYDT", 0, 1}, {"RSPL", 1, 50}, {"MOMD", 0, 1}};
+      {"TAVC", 0, 4},  {"CMAD", 0, 31}, {"CMCK", 0, 1},  {"CMCL", 0, 1},  {"CMBR", 0, 3},
+      {"CMPR", 0, 2},  {"CMSB", 1, 2},  {"CMDB", 7, 8},  {"CMDR", 0, 15}, {"CMI3", 0, 5},
+      {"ORI3", 0, 1},  {"OMON", 0, 1},  {"PYDT", 0, 1},  {"RSPL", 1, 50}, {"MOMD", 0, 1},
+      {"LOUT", 0, 20}, {"LLOU", 0, 20}, {"LTRE", 0, 20}, {"LBAS", 0, 20}, {"LMP3", 0, 20},
+      {"LLIN", 0, 20}, {"LLI2", 0, 20}, {"MOMN", 0, 1},  {"IMOD", 0, 1},  {"MICP", 0, 1},
+      {"MIRS", 0, 1},  {"INVR", 0, 1},  {"TFOU", 1, 30}, {"TFIN", 1, 30}, {"TADU", 1, 30}};
   for (const auto& [key, first, last] : rows) {
     for (int value = -1; value <= 60; ++value) {
       EXPECT_EQ(ValoreAccettato(Find(key), std::to_string(value)).has_value(),
                 value >= first && value <= last)
           << key << "=" << value;
     }
+  }
+}
+
+TEST(Parameters, ASliderKeepsItsPlaceWhereTheFileLiesOutsideItsScale) {
+  for (const char* key : {"LOUT", "LLOU", "LTRE", "LBAS", "LMP3", "LLIN", "LLI2"}) {
+    const StatoParametro form = StatoIniziale(Find(key));
+    EXPECT_EQ(FromFile(key, "21"), form) << key;
+    EXPECT_EQ(FromFile(key, "-1"), form) << key;
+    EXPECT_EQ(FromFile(key, "20").Numero, 20) << key;
+    EXPECT_EQ(FromFile(key, "0").Numero, 0) << key;
   }
 }
 
