@@ -1,6 +1,7 @@
 #include "cli/Companion.h"
 
 #include <algorithm>
+#include <array>
 
 #include "cli/Options.h"
 #include "cli/Session.h"
@@ -70,9 +71,21 @@ int Complain(bool json, const std::string& complaint) {
   return kUsage;
 }
 
+/// The first word behind the verb that is an option of the companion; "" when none is.
+std::string MisplacedOption(const Options& options) {
+  constexpr std::array<std::string_view, 5> kOptions{"--json", "--yes", "--no", "--program",
+                                                     "--lang"};
+  const auto found = std::ranges::find_first_of(options.Arguments, kOptions);
+  return found == options.Arguments.end() ? std::string() : *found;
+}
+
 int RunVerb(const Verb& verb, const Options& options) {
   if (!options.Arguments.empty() && options.Arguments.front() == "--help") {
     return Print(options.Json, "help", UsageOf(verb) + "\n" + std::string(verb.Help));
+  }
+  if (const std::string option = MisplacedOption(options); !option.empty()) {
+    Output(options.Json).Say(option + ": an option stands before the verb\n" + UsageOf(verb));
+    return kUsage;
   }
   Session session(options);
   if (verb.NeedsProgram && !session.Start()) return kMissing;

@@ -98,6 +98,9 @@ std::string PerIlFile(const Parametro& parametro, const StatoParametro& stato);
 /// where the screen's control can't hold it.
 std::optional<std::string> ValoreAccettato(const Parametro& parametro, std::string_view valore);
 
+/// The values that the owning screen's control can hold, for people: "0 to 20", "0, 1, 5".
+std::string LimitiDelValore(const Parametro& parametro);
+
 /// The words for a value of Config.txt: those of the screen that owns it, after a read of the
 /// value. MPLL, which no screen reads, has those of its number, or none.
 std::string ParoleDelFile(Contesto& contesto, const Parametro& parametro, std::string_view testo);

@@ -98,6 +98,18 @@ std::string PerIlFile(const Parametro& parametro, const StatoParametro& stato) {
   return text ? stato.Testo : std::to_string(stato.Numero);
 }
 
+std::string LimitiDelValore(const Parametro& parametro) {
+  if (parametro.Dati.empty()) {
+    return std::to_string(parametro.Minimo) + " to " + std::to_string(parametro.Massimo);
+  }
+  std::string values;
+  for (const int value : parametro.Dati) {
+    if (!values.empty()) values += ", ";
+    values += std::to_string(value);
+  }
+  return values;
+}
+
 std::optional<std::string> ValoreAccettato(const Parametro& parametro, std::string_view valore) {
   const auto number = PlainNumber(valore);
   if (!number || !Holds(parametro, *number)) return {};

@@ -61,6 +61,15 @@ TEST_F(ConfigVerb, TurningTheInputsActiveLowWarnsAsTheScreenDoes) {
   EXPECT_EQ(k.EseguiJson({"config", "Hall", "set", "IMOD=0"}).Errori, "");
 }
 
+TEST_F(ConfigVerb, ARefusedValueTellsWhatTheScreenCanHold) {
+  New();
+  const auto why = [&](const char* change) {
+    return k.EseguiJson({"config", "Hall", "set", change}).Box().at(0)["text"].get<std::string>();
+  };
+  EXPECT_TRUE(why("LOUT=21").ends_with("only 0 to 20"));
+  EXPECT_TRUE(why("PYDL=15").ends_with("only 0, 1, 2, 3, 4, 5, 10, 20, 30, 60, 120, 180, 240"));
+}
+
 TEST_F(ConfigVerb, TickingBridgeModeHoldsOmonAt1) {
   New();
   const auto run = k.EseguiJson({"config", "Hall", "set", "INVR=1"});

@@ -148,6 +148,12 @@ TEST(Mp3Verb, ADashAmongOtherWordsIsAFilesName) {
   EXPECT_EQ(run.Oggetti()[1]["Valid"], false);
 }
 
+TEST(Mp3Verb, ForPeopleAMissingFileIsCalledMissing) {
+  const Compagno k;
+  const auto run = k.Esegui({"mp3", k.Host("none.mp3")});
+  EXPECT_EQ(run.Uscita, k.Host("none.mp3") + ": there is no such file\n");
+}
+
 TEST(Mp3Verb, AnEmptyNameCannotBeTaken) {
   const auto run = Compagno().EseguiJson({"mp3", ""});
   EXPECT_EQ(run.Stato, 1);

@@ -68,7 +68,7 @@ TEST_F(RecordVerb, AFailedCopyIsToldAndIsStatus1) {
 
 TEST_F(RecordVerb, ADriveOfDrivesIniIsACard) {
   k.Cartella.Write("program/Drives.ini", "[Removable]\r\nE=" + k.Host("card") + "\r\n");
-  for (const char* card : {"E:", "e:\\"}) {
+  for (const char* card : {"E:", "e:\\", "E"}) {
     const auto run = k.EseguiJson({"record", "Hall", card});
     EXPECT_EQ(run.Stato, 0) << card << run.Errori;
     EXPECT_TRUE(k.Cartella.Exists("card/5.mp3"));

@@ -63,6 +63,18 @@ TEST(Usage, WrongWordsAreStatus2WithHelpOnStandardError) {
   }
 }
 
+TEST(Usage, AnOptionBehindTheVerbIsNamedBeforeAnythingIsDone) {
+  const Compagno k;
+  k.Esegui({"new", "Hall", "--mode", "1"});
+  for (const char* option : {"--json", "--yes", "--no", "--program", "--lang"}) {
+    const auto run = k.Esegui({"record", "Hall", k.Host("card"), option});
+    EXPECT_EQ(run.Stato, 2);
+    EXPECT_NE(run.Errori.find(std::string(option) + ": an option stands before the verb"),
+              std::string::npos);
+  }
+  EXPECT_TRUE(k.Nomi("card").empty());
+}
+
 TEST(Usage, ComplaintsAreObjectsForPrograms) {
   const Compagno k;
   for (const auto& words : std::vector<std::vector<std::string>>{

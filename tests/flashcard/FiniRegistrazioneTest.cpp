@@ -101,10 +101,11 @@ TEST_F(Recording, ACardThatIsNotThereIsToldBeforeAnythingElse) {
   for (const auto& card : {b.Percorso("gone") + "\\", std::string("X:\\")}) {
     s.PercorsoMemoryCard = card;
     EXPECT_EQ(Record(), FineRegistrazione::NonScrivibile);
-    ExpectBox("Recording not started",
-              "Nothing was copied: this card can't be written. Open its lock, put it back in, "
-              "choose it again.",
-              0);
+    ExpectBox(
+        "Recording not started",
+        "Nothing was copied: this card isn't there or can't be written. Open its lock, put it in, "
+        "choose it again.",
+        0);
     EXPECT_FALSE(progress.Caricata());
   }
 }

@@ -2,26 +2,35 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <regex>
 #include <sstream>
+#include <string_view>
 
 namespace kvr5::test {
 namespace {
 
 namespace fs = std::filesystem;
 
+/// Takes blanks, then `word`, off the start of a line; false when it isn't there.
+bool Take(std::string_view& line, std::string_view word) {
+  line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
+  if (!line.starts_with(word)) return false;
+  line.remove_prefix(word.size());
+  return true;
+}
+
 /// What the include lines of a text name between these marks, however the lines are spaced.
 std::vector<std::string> Includes(const std::string& text, char open, char close) {
-  const std::regex include(R"(^[ \t]*#[ \t]*include[ \t]*)" + std::string(1, open) + "([^" + close +
-                           "]*)" + close);
   std::vector<std::string> names;
   std::istringstream stream(text);
-  std::smatch match;
-  for (std::string line; std::getline(stream, line);) {
-    if (std::regex_search(line, match, include)) names.push_back(match[1]);
+  for (std::string whole; std::getline(stream, whole);) {
+    std::string_view line = whole;
+    if (Take(line, "#") && Take(line, "include") && Take(line, std::string_view(&open, 1))) {
+      names.emplace_back(line.substr(0, line.find(close)));
+    }
   }
   return names;
 }

@@ -53,7 +53,9 @@ std::string Check(Session& session, const std::string& key, const std::string& v
     return key + ": no screen of this model and mode changes this parameter";
   }
   const auto accepted = ValoreAccettato(*parameter, value);
-  if (!accepted) return key + ": the screen can't hold the value \"" + value + "\"";
+  if (!accepted)
+    return key + ": the screen can't hold the value \"" + value + "\", only " +
+           LimitiDelValore(*parameter);
   change = {parameter, *accepted};
   return {};
 }

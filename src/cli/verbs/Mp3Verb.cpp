@@ -6,6 +6,7 @@
 #include "mp3/Accettazione.h"
 #include "mp3/EtichetteMp3.h"
 #include "mp3/modMp3Infos.h"
+#include "platform/FileOps.h"
 
 namespace kvr5::cli {
 namespace {
@@ -35,8 +36,10 @@ Json ToJson(const std::string& file, const InfoMp3& info, const EtichetteMp3& la
       {"Labels", {labels.lblVersioneMpeg, labels.lblBitrate, labels.lblFreq, labels.lblDurata}}};
 }
 
-std::string ForPeople(const std::string& file, const InfoMp3& info, const EtichetteMp3& labels) {
+std::string ForPeople(const std::string& file, bool isThere, const InfoMp3& info,
+                      const EtichetteMp3& labels) {
   std::string text = file + ": ";
+  if (!isThere) return text + "there is no such file";
   if (labels.lblVersioneMpeg.empty()) return text + "not an MP3 file that the player takes";
   text += labels.lblVersioneMpeg + ", " + labels.lblBitrate + ", " + labels.lblFreq + ", " +
           labels.lblDurata + ": ";
@@ -66,7 +69,8 @@ bool Analyse(Session& session, modMp3Infos& reader, const std::string& file) {
   if (session.Out().IsJson()) {
     session.Out().Object(ToJson(file, info, labels));
   } else {
-    session.Out().Line(ForPeople(file, info, labels));
+    const bool isThere = path && FileExists(context.Files, path.Value());
+    session.Out().Line(ForPeople(file, isThere, info, labels));
   }
   return static_cast<bool>(path);
 }

@@ -4,6 +4,7 @@
 #include "cli/verbs/Verb.h"
 #include "core/Aiuti.h"
 #include "flashcard/Registrazione.h"
+#include "platform/FileOps.h"
 #include "platform/Path.h"
 
 namespace kvr5::cli {
@@ -15,9 +16,10 @@ class NoChoice : public SelezioneFlash {
   void Scegli() override {}
 };
 
-/// A card given as a letter: "E:" or "E:\\" in either case; '\0' for anything else.
+/// A card given as a letter: "E:", "E:\\" or "E" in either case; '\0' for anything else.
 char LetterGiven(const std::string& card) {
   const bool letter =
+      (card.size() == 1 && std::isalpha(static_cast<unsigned char>(card[0])) != 0) ||
       (card.size() == 2 && card[1] == ':') || (card.size() == 3 && card.ends_with(":\\"));
   return letter ? static_cast<char>(std::toupper(static_cast<unsigned char>(card[0]))) : '\0';
 }
@@ -25,14 +27,15 @@ char LetterGiven(const std::string& card) {
 /// The root of a card that was given as the letter of a removable drive or as a folder; "" where it
 /// can't be one. A letter means a drive that the card dialog would offer, never the host's root.
 std::string CardRoot(Session& session, const std::string& card) {
-  if (const char letter = LetterGiven(card); letter != '\0') {
-    for (const auto& drive : session.ListDrives()) {
-      if (drive.Letter == letter) return drive.Root();
-    }
-    return {};
-  }
   const auto folder = session.Context().Files.SystemPath(card);
-  return folder && !card.empty() ? AggiungiBarra(folder.Value()) : std::string();
+  const std::string root = folder && !card.empty() ? AggiungiBarra(folder.Value()) : std::string();
+  const char letter = LetterGiven(card);
+  const bool bare = card.size() == 1;  // may be a folder's name as well
+  if (letter == '\0' || (bare && FolderExists(session.Context().Files, root))) return root;
+  for (const auto& drive : session.ListDrives()) {
+    if (drive.Letter == letter) return drive.Root();
+  }
+  return bare ? root : std::string();
 }
 
 EsitoRegistrazione RecordOnto(Session& session, TabellaIngressi& inputs, const std::string& root) {
@@ -61,8 +64,8 @@ bool Report(Session& session, const std::string& card, const EsitoRegistrazione&
                           {"bytes", outcome.Byte},
                           {"status", good ? kDone : kRefused}});
   } else if (good) {
-    session.Out().Line(card + ": " + std::to_string(outcome.File) + " files, " +
-                       std::to_string(outcome.Byte) + " bytes");
+    session.Out().Line(card + (card.ends_with(':') ? " " : ": ") + std::to_string(outcome.File) +
+                       " files, " + std::to_string(outcome.Byte) + " bytes");
   }
   return good;
 }
