@@ -11,6 +11,7 @@
 #include "flashcard/RaccoltaMp3.h"
 #include "platform/FileOps.h"
 #include "projects/CartellaProgetto.h"
+#include "projects/RipristinaDatabase.h"
 
 namespace kvr5 {
 namespace {
@@ -36,7 +37,6 @@ class Recording {
   void Begin();
   void Stage(const char* textKey);
   void CopyDatabases();
-  void RollBack(const std::string& name);
   void CopyConfiguration();
   void CopyLists();
   void CopyReports();
@@ -136,18 +136,11 @@ void Recording::CopyDatabases() {  // stage 1
   progress_.Operazione(TestoLingua(context_, "0070014"));
   inputs_.Chiudi();  // a copy of a closed file
   for (const char* name : {"inputcfg.mdb", "playlist.mdb", "scheduler.mdb"}) {
-    RollBack(name);
+    // A crash may have left it half changed: the card doesn't get the half.
+    Ignora(RipristinaDatabase(context_, Source(name)));
     CopyIfThere(name);
   }
   inputs_.Riapri();
-}
-
-/// A crash may have left a database half changed with its journal beside it; opening puts it back,
-/// so that the card doesn't get the half.
-void Recording::RollBack(const std::string& name) {
-  if (!FileExists(context_.Files, Source(name + "-journal"))) return;
-  Connection connection(context_.Files);
-  Ignora(connection.Open(Source(name)));
 }
 
 void Recording::CopyConfiguration() {  // stage 2

@@ -33,6 +33,8 @@ class CopiaDiLavoro {
   void Lascia();
 
  private:
+  /// Puts the real database back where its journal tells to; false where it can't be (told).
+  bool Ripristina();
   void EliminaCopia();
 
   Contesto& contesto_;

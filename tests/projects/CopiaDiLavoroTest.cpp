@@ -79,6 +79,27 @@ TEST_P(WorkingCopy, WhatACrashLeftIsThrownAwayWithItsJournal) {
   EXPECT_FALSE(b.Cartella.Exists(Temp() + "-journal"));
 }
 
+TEST_P(WorkingCopy, OfADatabaseThatACrashLeftHalfChangedHoldsWhatWasThereBefore) {
+  b.InterrompiModifica(GetParam().Real);
+  CopiaDiLavoro copy(b.C, GetParam().Real, GetParam().Temp);
+  copy.Apri();
+  EXPECT_EQ(Rows(copy.Connessione()), 1);
+  EXPECT_FALSE(b.Cartella.Exists(Real() + "-journal"));
+  EXPECT_TRUE(b.Cartella.Read(Real()) == before);
+}
+
+TEST_P(WorkingCopy, AJournalThatComesUpMeanwhileIsNotPlayedBackIntoWhatWasSaved) {
+  CopiaDiLavoro copy(b.C, GetParam().Real, GetParam().Temp);
+  copy.Apri();
+  EXPECT_FALSE(copy.Connessione().Execute("DELETE * FROM [List]"));
+  b.InterrompiModifica(GetParam().Real);
+  copy.Salva();
+  EXPECT_FALSE(b.Cartella.Exists(Real() + "-journal"));
+  Connection real(b.Disco);
+  ASSERT_FALSE(real.Open(b.Percorso(Real())));
+  EXPECT_EQ(Rows(real), 0);
+}
+
 TEST_P(WorkingCopy, ASaveThatFailsLeavesTheRealOneAsItWas) {
   CopiaDiLavoro copy(b.C, GetParam().Real, GetParam().Temp);
   copy.Apri();

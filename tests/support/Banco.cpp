@@ -91,4 +91,28 @@ void Banco::AggiungiRiga(const std::string& database, int nPlaylist, int pos,
   ASSERT_FALSE(rows.Update());
 }
 
+void Banco::InterrompiModifica(const std::string& database) {
+  const std::filesystem::path path = Disco.HostPath(FileDelProgetto(C, database));
+  const std::string name = std::filesystem::relative(path, Cartella.Host()).string();
+  const std::string whole = Cartella.Read(name);
+  std::string half;
+  std::string journal;
+  {
+    Connection connection(Disco);
+    ASSERT_FALSE(connection.Open(FileDelProgetto(C, database)));
+    const Transaction run(connection);
+    for (int i = 0; i < 2000; ++i) {  // more than is held in memory
+      Ignora(connection.Execute(
+          "INSERT INTO [LIST] ([Pos],[FileName],[FilePath],[Alias],[NPlaylist],[IDSched]) "
+          "VALUES(1,'" +
+          std::string(2000, 'n') + "','C:\\','P.mp3',1,0)"));
+    }
+    half = Cartella.Read(name);
+    journal = Cartella.Read(name + "-journal");
+  }
+  ASSERT_TRUE(half != whole) << "nothing of the run had reached the disk";
+  Cartella.Write(name, half);
+  Cartella.Write(name + "-journal", journal);
+}
+
 }  // namespace kvr5::test

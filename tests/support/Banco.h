@@ -95,6 +95,10 @@ class Banco {
                     const std::string& fileName, const std::string& filePath,
                     const std::string& alias, int idSched = 0);
 
+  /// Leaves a database of the open project as a crash in the middle of a change would: half
+  /// changed, its journal beside it.
+  void InterrompiModifica(const std::string& database);
+
  private:
   void Prepara();
 };
