@@ -18,7 +18,7 @@ _kvr5card_words() {
 # The names of the languages beside the program.
 _kvr5card_languages() {
   local folder=$1 file
-  [[ -n $folder ]] || folder=$(dirname -- "$(readlink -f -- "$(type -P kvr5card)")")
+  [[ -n $folder ]] || folder=$(dirname -- "$(readlink -f -- "$(type -P -- "$command")")")
   for file in "$folder"/Language/*.lan; do
     file=${file##*/}
     printf '%s\n' "${file%.lan}"
@@ -27,6 +27,7 @@ _kvr5card_languages() {
 
 _kvr5card() {
   local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]}
+  local command=${COMP_WORDS[0]/#\~\//$HOME/}
   local verb= project= value= program=() n=0 i
   [[ $word == "=" ]] && word=
   [[ $before == "=" ]] && before=${COMP_WORDS[COMP_CWORD - 2]}
@@ -36,7 +37,7 @@ _kvr5card() {
         value=${COMP_WORDS[i]}
         [[ ${COMP_WORDS[i + 1]} == "=" ]] && ((i++))
         ((++i < COMP_CWORD)) || break
-        [[ $value == --program ]] && program=(--program "${COMP_WORDS[i]}")
+        [[ $value == --program ]] && program=(--program "${COMP_WORDS[i]/#\~\//$HOME/}")
         ;;
       -*) ;;
       *)
@@ -63,12 +64,13 @@ _kvr5card() {
   fi
   case $verb:$n in
     show:0 | config:0 | inputs:0 | record:0)
-      _kvr5card_offer "$word" < <(kvr5card "${program[@]}" projects 2>/dev/null)
+      _kvr5card_offer "$word" < <("$command" "${program[@]}" projects 2>/dev/null)
       ;;
     config:1) _kvr5card_words "$word" get set ;;
     config:*)
+      [[ ${COMP_WORDS[COMP_CWORD]} == "=" || ${COMP_WORDS[COMP_CWORD - 1]} == "=" ]] && return
       _kvr5card_offer "${word^^}" \
-        < <(kvr5card "${program[@]}" config "$project" get 2>/dev/null | cut -d= -f1)
+        < <("$command" "${program[@]}" config "$project" get 2>/dev/null | cut -d= -f1)
       ;;
     inputs:1) _kvr5card_words "$word" list set clear ;;
     new:*) _kvr5card_words "$word" --mode ;;

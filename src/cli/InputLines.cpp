@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 
@@ -10,10 +11,10 @@
 namespace kvr5::cli {
 
 bool InputLines::Next(std::string& line) {
-  std::size_t searched = 0;
   std::size_t end = unread_.find('\n');
   while (end == std::string::npos) {
-    searched = unread_.size();
+    unread_.resize(std::min(unread_.size(), kLongest + 1));
+    const std::size_t searched = unread_.size();
     if (!Fill()) {
       line = std::move(unread_);
       unread_.clear();
@@ -21,7 +22,7 @@ bool InputLines::Next(std::string& line) {
     }
     end = unread_.find('\n', searched);
   }
-  line = unread_.substr(0, end);
+  line = unread_.substr(0, std::min(end, kLongest));
   unread_.erase(0, end + 1);
   if (line.ends_with('\r')) line.pop_back();
   return true;
@@ -34,6 +35,7 @@ bool InputLines::Fill() {
   do {
     count = read(STDIN_FILENO, bytes.data(), bytes.size());
   } while (count < 0 && errno == EINTR);
+  failed_ = count < 0;
   if (count <= 0) return false;
   unread_.append(bytes.data(), static_cast<std::size_t>(count));
   return true;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 namespace kvr5::cli {
@@ -7,14 +8,20 @@ namespace kvr5::cli {
 /// The lines of standard input. A wait for the next one ends with Ctrl-C while an Interrupt stands.
 class InputLines {
  public:
+  /// The longest line in bytes; more than any path has. Of a longer one the rest is passed over.
+  static constexpr std::size_t kLongest = std::size_t{64} << 10U;
+
   /// Takes the next line, without its line end; false at the end of the input or when cancelled.
   bool Next(std::string& line);
+  /// True once the input could not be read on, so that its end isn't the end.
+  bool Failed() const { return failed_; }
 
  private:
   /// Reads what is there; false at the end or when cancelled.
   bool Fill();
 
   std::string unread_;
+  bool failed_ = false;
 };
 
 }  // namespace kvr5::cli

@@ -90,9 +90,17 @@ int Session::OpenProject(const std::string& project) {
   const auto outcome = folder && !project.empty()
                            ? ApriProgetto(context, WithoutBar(folder.Value()))
                            : EsitoApertura::NessunaCartella;
-  if (outcome == EsitoApertura::Aperto) return kDone;
+  if (outcome == EsitoApertura::Aperto) return CanRead("Config.cfg") ? kDone : kRefused;
   if (outcome == EsitoApertura::NessunaCartella) output_.Say("there is no project " + project);
   return kMissing;
+}
+
+bool Session::CanRead(std::string_view name) {
+  const std::string path = AggiungiBarra(context_->Stato.CartellaProgetto).append(name);
+  const auto file = files_.Open(path, OpenMode::Read);
+  if (file || !FileExists(files_, path)) return true;
+  output_.Say(files_.HostPath(path) + ": " + file.Err().Description());
+  return false;
 }
 
 }  // namespace kvr5::cli

@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "cli/Options.h"
@@ -34,6 +35,9 @@ class Session {
   bool Start();
   /// Opens a project by name or folder. 0, or the status to end with (told).
   int OpenProject(const std::string& project);
+  /// Whether a file of the open project can be read (told if not); a missing one counts as
+  /// readable, as its routines have their own words for that.
+  bool CanRead(std::string_view name);
 
  private:
   Options options_;

@@ -105,6 +105,8 @@ bool Recording::CardIsWritable() {
   auto& error = context_.Errore;
   error.Clear();
   const std::string path = Card("\\test.txt");  // the doubled backslash counts as one
+  // A link of that name is the card's own; what it leads to isn't.
+  if (context_.Files.BehindLink(path) != path) Ignora(context_.Files.Delete(path));
   auto file = context_.Files.Open(path, OpenMode::Write);
   if (error.Record(file.Err())) {
     error.Record(file.Value()->Write("test\r\n"));
@@ -187,7 +189,11 @@ bool Recording::CollectInputs() {
   }
   const auto pass =
       RaccogliMp3(context_, Passata::Ingressi, inputs_.Cursore(), list_, "inputcfg.mdb");
-  if (!pass.Riuscita) TellMissing(pass.FileMancante);
+  if (!pass.Riuscita) {
+    // a row's own FileName, or the path of a database that can't be read on
+    const bool isPath = PathMap::IsSystemForm(pass.FileMancante);
+    TellMissing(isPath ? PercorsoPerPersone(context_, pass.FileMancante) : pass.FileMancante);
+  }
   return pass.Riuscita;
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/CodePage.h"
+#include "platform/Fold.h"
 #include "platform/IniFile.h"
 
 namespace kvr5 {
@@ -11,9 +12,13 @@ std::map<char, std::string> RemovableFolders(std::string_view iniText) {
   const CodePage utf8(65001);
   if (iniText.starts_with("\xEF\xBB\xBF")) iniText.remove_prefix(3);
   std::map<char, std::string> folders;
-  for (char letter = 'D'; letter <= 'Z'; ++letter) {
-    const std::string value =
-        ini::Read(iniText, "Removable", std::string(1, letter), "", kLongestPath, utf8);
+  const std::string keys =
+      ini::Read(iniText, "Removable", std::nullopt, "", iniText.size() + 2, utf8);
+  for (std::size_t at = 0; at < keys.size(); at = std::min(keys.find('\0', at), keys.size()) + 1) {
+    const std::string key = FoldCase(keys.c_str() + at);
+    const char letter = key.size() == 1 ? static_cast<char>(key[0] - 'a' + 'A') : '\0';
+    if (letter < 'D' || letter > 'Z' || folders.contains(letter)) continue;
+    const std::string value = ini::Read(iniText, "Removable", key, "", kLongestPath, utf8);
     const std::string folder = PathMap::IsSystemForm(value) ? PathMap().ToHost(value) : value;
     if (folder.starts_with('/')) folders.emplace(letter, folder);
   }

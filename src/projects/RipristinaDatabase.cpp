@@ -6,7 +6,10 @@
 namespace kvr5 {
 
 Error RipristinaDatabase(Contesto& contesto, const std::string& percorso) {
-  if (!FileExists(contesto.Files, percorso + "-journal")) return {};
+  if (!FileExists(contesto.Files, percorso + "-journal") &&
+      !FileExists(contesto.Files, percorso + "-wal")) {
+    return {};
+  }
   Connection connection(contesto.Files);
   return connection.Open(percorso);
 }

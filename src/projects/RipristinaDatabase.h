@@ -6,8 +6,9 @@
 
 namespace kvr5 {
 
-/// Puts a project database (full path) back as it was where an interrupted change left its journal
-/// beside it, so that a copy of the file is whole. Nothing to do is no error; a database that can't
+/// Has a project database (full path) whole in its one file: where an interrupted change left its
+/// journal beside it, it is put back as it was; changes of another program that still lie in a log
+/// beside it are taken in. Nothing to do is no error; a database that can't
 /// be put back is the error of opening it.
 Error RipristinaDatabase(Contesto& contesto, const std::string& percorso);
 

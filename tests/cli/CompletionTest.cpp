@@ -74,6 +74,8 @@ TEST_F(Completion, OffersValues) {
   EXPECT_EQ(Offered({"--program", "=", k.Host("program"), "--lang", "It"}), Words{"Italiano"});
   EXPECT_EQ(Offered({"config", "it's", "get", "lo"}), Words{"LOUT"});
   EXPECT_TRUE(Offered({"config", "none", "get", "lo"}).empty());
+  EXPECT_TRUE(Offered({"config", "it's", "set", "LOUT", "="}).empty()) << "a value, not a key";
+  EXPECT_TRUE(Offered({"config", "it's", "set", "LOUT", "=", "L"}).empty());
 }
 
 /// A document of the companion.

@@ -154,6 +154,17 @@ TEST(Mp3Verb, ForPeopleAMissingFileIsCalledMissing) {
   EXPECT_EQ(run.Uscita, k.Host("none.mp3") + ": there is no such file\n");
 }
 
+TEST(Mp3Verb, AnEndlessLineIsCutAndTheNextOneIsTaken) {
+  const Compagno k;
+  k.ScriviMp3("a.mp3", 1);
+  const auto run =
+      k.EseguiJson({"mp3", "-"}, std::string(3'000'000, 'x') + "\n" + k.Host("a.mp3") + "\n");
+  ASSERT_EQ(run.Oggetti().size(), 2U);
+  EXPECT_EQ(run.Oggetti()[0]["Valid"], false);
+  EXPECT_EQ(run.Oggetti()[0]["File"].get<std::string>().size(), 65536U);
+  EXPECT_EQ(run.Oggetti()[1]["Valid"], true);
+}
+
 TEST(Mp3Verb, AnEmptyNameCannotBeTaken) {
   const auto run = Compagno().EseguiJson({"mp3", ""});
   EXPECT_EQ(run.Stato, 1);

@@ -56,6 +56,21 @@ TEST_F(OnATerminal, CtrlCEndsTheCopyOfARecording) {
   for (const auto& name : k.Nomi("card")) EXPECT_NE(name[0], '~') << name;
 }
 
+TEST_F(OnATerminal, CtrlCAtAStageLetsTheMp3CopyRunAndIsToldAtTheEnd) {
+  // The copy of a stage takes long enough to be met; its cancel is the stage's.
+  std::filesystem::resize_file(k.Host("program/Projects/Hall/KVR5.gif"), 1);
+  k.Cartella.Write("program/Projects/Hall/big.htm", "x");
+  std::filesystem::resize_file(k.Host("program/Projects/Hall/big.htm"), std::uintmax_t{1} << 30U);
+  Terminale terminal(k.Lavoro({"record", "Hall", k.Host("card"), k.Host("card2")}));
+  ASSERT_TRUE(terminal.Aspetta("MB/s")) << terminal.Schermo();
+  terminal.Scrivi("\x03");
+  EXPECT_EQ(terminal.Fine(), 1) << terminal.Schermo();
+  EXPECT_NE(terminal.Schermo().find("Not all was completed"), std::string::npos);
+  EXPECT_FALSE(k.Cartella.Exists("card/big.htm"));
+  EXPECT_TRUE(k.Cartella.Exists("card/1.mp3")) << "later copies run, as they always did";
+  EXPECT_TRUE(k.Nomi("card2").empty());
+}
+
 TEST_F(OnATerminal, TheProgressLineFitsItsWidth) {
   constexpr unsigned short kNarrow = 12;
   Terminale terminal(k.Lavoro({"record", "Hall", k.Host("card")}, k.Host("out")), kNarrow);
@@ -83,7 +98,7 @@ TEST_F(OnATerminal, CtrlCEndsMp3WhileItWaitsForTheNextLine) {
   ASSERT_TRUE(terminal.Aspetta("\"Valid\":true")) << terminal.Schermo();
   terminal.Scrivi("\x03");
   EXPECT_EQ(terminal.Fine(), 1);
-  EXPECT_NE(terminal.Schermo().find("cancelled after 1 file"), std::string::npos)
+  EXPECT_NE(terminal.Schermo().find("cancelled; files analysed: 1"), std::string::npos)
       << terminal.Schermo();
 }
 

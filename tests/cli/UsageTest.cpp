@@ -175,6 +175,24 @@ TEST(Usage, WithoutTheOptionTheProgramIsWhereTheExecutableLies) {
   }
 }
 
+TEST(Usage, StreamsThatComeClosedHangNothing) {
+  Compagno k;
+  k.ScriviMp3("a.mp3");
+  const std::vector<std::string> program = k.Inizio;
+  const auto run = [&](const std::string& closed, std::vector<std::string> arguments) {
+    const std::string command = "exec " + program[0] + " --program " + program[2] + " \"$@\" ";
+    k.Inizio = {"/bin/sh", "-c", command + closed, "sh"};
+    return k.Esegui(std::move(arguments), k.Host("a.mp3") + "\n");
+  };
+  EXPECT_EQ(run("<&-", {"mp3", "-"}).Stato, 0) << "the end of the input";
+  EXPECT_EQ(run("<&- >&- 2>&-", {"mp3", "-"}).Stato, 0);
+  EXPECT_EQ(run(">&-", {"mp3", "-"}).Stato, 1) << "the result can't be told";
+  EXPECT_EQ(run("2>&-", {"mp3", "a|b.mp3"}).Stato, 1);
+  const auto folder = run("</", {"mp3", "-"});
+  EXPECT_EQ(folder.Stato, 1) << "an input that can't be read isn't at its end";
+  EXPECT_NE(folder.Errori.find("can't be read"), std::string::npos);
+}
+
 TEST(Usage, ResultsThatCannotBeWrittenAreStatus1) {
   const Compagno k;
   ASSERT_EQ(k.Esegui({"new", "Hall", "--mode", "1"}).Stato, 0);

@@ -45,7 +45,8 @@ class Recording : public testing::Test {
   }
   FineRegistrazione Record() {
     if (!TabellaIngressi::SenzaIngressi(s.PlayerType, s.PlayerMode)) inputs.Apri();
-    return RegistraProgettoSuFlash(b.C, inputs, progress, choice).Fine;
+    outcome = RegistraProgettoSuFlash(b.C, inputs, progress, choice);
+    return outcome.Fine;
   }
   std::vector<std::string> Card() const { return b.Nomi("card"); }
   std::string OnCard(const std::string& name) const { return b.Cartella.Read("card/" + name); }
@@ -64,6 +65,7 @@ class Recording : public testing::Test {
   TabellaIngressi inputs{b.C};
   FinestraProgresso progress{b.C};
   SceltaFinta choice{b.C.Stato};
+  EsitoRegistrazione outcome;  ///< of the last Record
 };
 
 }  // namespace kvr5::test

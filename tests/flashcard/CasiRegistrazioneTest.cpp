@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 #include "BancoRegistrazione.h"
 
@@ -110,6 +111,34 @@ TEST_F(Recording, RowsWithoutAFolderAreToldByTheCopyOrAsMissing) {
   EXPECT_TRUE(b.Finestre.Prossimo().Testo.ends_with("\\a.mp3"));
 }
 
+TEST_F(Recording, ALinkOfTheWriteTestsNameIsNotFollowed) {
+  Project(4, 5);
+  b.Cartella.Write("letter.txt", "a user's own");
+  std::filesystem::create_symlink("../letter.txt", b.Cartella.Host() / "card/test.txt");
+  EXPECT_EQ(Record(), FineRegistrazione::Compiuta);
+  EXPECT_EQ(b.Cartella.Read("letter.txt"), "a user's own");
+}
+
+TEST_F(Recording, ARowTooLongForAnyMemoryIsRefusedAsDamaged) {
+  Project(4, 5);
+  const std::string path = b.Percorso("program/Projects/Hall/playlist.mdb");
+  {
+    sqlite3* handle = nullptr;
+    ASSERT_EQ(sqlite3_open(b.Disco.HostPath(path).c_str(), &handle), SQLITE_OK);
+    EXPECT_EQ(sqlite3_create_collation(handle, "KVR5NOCASE", SQLITE_UTF8, nullptr,
+                                       [](void*, int, const void*, int, const void*) { return 0; }),
+              SQLITE_OK);
+    EXPECT_EQ(sqlite3_exec(handle,
+                           "INSERT INTO List (Pos,FileName,FilePath,Alias,NPlaylist) VALUES(1,"
+                           "replace(hex(zeroblob(20000000)),'0','n'),'C:\\','P.mp3',1)",
+                           nullptr, nullptr, nullptr),
+              SQLITE_OK);
+    sqlite3_close(handle);
+  }
+  EXPECT_EQ(Record(), FineRegistrazione::Compiuta);
+  EXPECT_EQ(outcome.NonLetti, Names{"playlist.mdb"});
+}
+
 TEST_F(Recording, ADatabaseLeftHalfChangedIsPutBackBeforeItIsCopied) {
   Project(4, 5);
   const std::string folder = "program/Projects/Hall/";
@@ -138,7 +167,7 @@ TEST_F(Recording, ReportsItsFiguresAndLeavesNoSideFiles) {
   Project(4, 1);
   inputs.Apri();
   inputs.Assegna(5, "a.mp3", Music());
-  const auto outcome = RegistraProgettoSuFlash(b.C, inputs, progress, choice);
+  outcome = RegistraProgettoSuFlash(b.C, inputs, progress, choice);
   EXPECT_EQ(outcome.File, 4U);
   std::uint64_t bytes = 0;
   for (const auto& name : Card()) bytes += OnCard(name).size();

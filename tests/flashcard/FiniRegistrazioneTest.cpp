@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 #include "BancoRegistrazione.h"
+#include "platform/db/Connection.h"
 
 namespace kvr5 {
 namespace {
@@ -208,10 +210,72 @@ TEST_F(Recording, DamagedDatabasesAreCopiedAndTheirPassesSkipped) {
        {std::string(), std::string(8192, '\0'), std::string("SQLite format 3")}) {
     Put("inputcfg.mdb", bytes);
     Put("playlist.mdb", bytes);
+    Put("scheduler.mdb", bytes);
     EXPECT_EQ(Record(), FineRegistrazione::Compiuta);
+    EXPECT_EQ(outcome.NonLetti, (Names{"inputcfg.mdb", "playlist.mdb", "Scheduler.mdb"}));
     EXPECT_TRUE(OnCard("inputcfg.mdb") == bytes);
     EXPECT_TRUE(b.Cartella.Read("program/Projects/Hall/inputcfg.mdb") == bytes);
   }
+}
+
+TEST_F(Recording, MissingDatabasesAndThoseOfNoScreenAreNotUnread) {
+  Project(4, 5);
+  b.AggiungiRiga("playlist.mdb", 1, 1, "a.mp3", Music(), "P01-001.mp3");
+  Put("inputcfg.mdb", b.Cartella.Read("program/source.mdb"));
+  EXPECT_EQ(Record(), FineRegistrazione::Compiuta);
+  EXPECT_TRUE(outcome.NonLetti.empty()) << "this mode has no inputs to read";
+}
+
+TEST_F(Recording, ChangesThatLieInALogBesideADatabaseReachTheCard) {
+  Project(4, 5);
+  b.AggiungiRiga("playlist.mdb", 1, 1, "a.mp3", Music(), "P01-001.mp3");
+  const std::string whole = b.Cartella.Read("program/Projects/Hall/playlist.mdb");
+  const std::string folder = "program/Projects/Hall/";
+  {
+    Connection other(b.Disco);  // another program that writes ahead and is ended
+    ASSERT_FALSE(other.Open(b.Percorso(folder + "playlist.mdb")));
+    ASSERT_EQ(
+        sqlite3_exec(other.Handle(), "PRAGMA journal_mode=WAL; UPDATE List SET Alias='P01-009.mp3'",
+                     nullptr, nullptr, nullptr),
+        SQLITE_OK);
+    for (const char* side : {"", "-wal"}) {
+      b.Cartella.Write(std::string("left") + side, b.Cartella.Read(folder + "playlist.mdb" + side));
+    }
+  }
+  for (const char* side : {"", "-wal"}) {
+    b.Cartella.Write(folder + "playlist.mdb" + side, b.Cartella.Read(std::string("left") + side));
+  }
+  EXPECT_EQ(Record(), FineRegistrazione::Compiuta);
+  EXPECT_TRUE(b.Cartella.Exists("card/P01-009.mp3"));
+  EXPECT_NE(OnCard("playlist.mdb").find("P01-009.mp3"), std::string::npos);
+  EXPECT_TRUE(OnCard("playlist.mdb") == b.Cartella.Read(folder + "playlist.mdb"));
+}
+
+TEST_F(Recording, ARowThatCannotBeReadStopsTheRunNamingItsDatabase) {
+  Project(2, 0);
+  inputs.Apri();
+  inputs.Assegna(1, "a.mp3", Music());
+  inputs.Chiudi();
+  const std::string name = "program/Projects/Hall/inputcfg.mdb";
+  {
+    Connection connection(b.Disco);
+    ASSERT_FALSE(connection.Open(b.Percorso(name)));
+    ASSERT_FALSE(
+        connection.Execute("INSERT INTO [LIST] ([Pos],[FileName],[FilePath],[Alias],[NPlaylist],"
+                           "[IDSched]) VALUES(2,'b.mp3','C:\\m\\','" +
+                           std::string(20'000, 'x') + "',1,0)"));
+  }
+  // The long name lies on pages of its own; the way from one to the next is broken.
+  std::string bytes = b.Cartella.Read(name);
+  const std::size_t page = bytes.find(std::string(4092, 'x')) & ~std::size_t{4095};
+  bytes.replace(page, 4, "\xFF\xFF\xFF\xFF");
+  b.Cartella.Write(name, bytes);
+  EXPECT_EQ(Record(), FineRegistrazione::FileMancante);
+  ExpectBox("MP3 files not copied",
+            "No MP3 was copied. This file can't be found, or a second input uses it too (give that "
+            "one a copy under another name):\r\n" +
+                b.Disco.HostPath(b.Percorso(name)),
+            kOrange);
 }
 
 }  // namespace

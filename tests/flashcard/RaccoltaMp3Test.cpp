@@ -154,8 +154,11 @@ TEST_P(Collecting, ABarThatWouldDivideTheListsStopsThePass) {
 }
 
 TEST_P(Collecting, ADatabaseThatCannotBeReadToItsEndStopsThePass) {
+  // Each input has its own file: a repeat would end that pass before.
+  const bool inputs = GetParam() == Passata::Ingressi;
   for (int i = 1; i <= 200; ++i) {
-    Row(i, "a.mp3", Music(), std::string(60, 'x') + std::to_string(i) + ".mp3");
+    const std::string name = inputs ? "n" + std::to_string(i) + ".mp3" : "a.mp3";
+    Row(i, name, Music(), std::string(60, 'x') + std::to_string(i) + ".mp3");
   }
   const std::string path = "program/Projects/Hall/" + Database();
   std::string bytes = b.Cartella.Read(path);
@@ -165,9 +168,7 @@ TEST_P(Collecting, ADatabaseThatCannotBeReadToItsEndStopsThePass) {
   if (outcome.Riuscita) {
     EXPECT_EQ(list.ListaSorgenti(), "") << "refused as a whole at opening";
   } else {
-    EXPECT_EQ(outcome.FileMancante, GetParam() == Passata::Ingressi && list.ListaSorgenti() != ""
-                                        ? outcome.FileMancante
-                                        : FileDelProgetto(b.C, Database()));
+    EXPECT_EQ(outcome.FileMancante, FileDelProgetto(b.C, Database()));
   }
 }
 

@@ -137,6 +137,7 @@ int RunConfig(Session& session, const std::vector<std::string>& arguments) {
     return kUsage;
   }
   if (const int status = session.OpenProject(arguments[0]); status != kDone) return status;
+  if (!session.CanRead("Config.txt")) return kRefused;
   return get ? Get(session, arguments) : Set(session, arguments);
 }
 

@@ -92,10 +92,17 @@ class Analysis {
     return true;
   }
 
+  /// Tells what keeps the call from being done whole.
+  void Fail(std::string_view why) {
+    session_.Line().Clear();
+    session_.Out().Say(why);
+    all_ = false;
+  }
+
   int Status() {
     session_.Line().Clear();
     if (!Cancelled()) return all_ ? kDone : kRefused;
-    session_.Out().Say("cancelled after " + std::to_string(done_) + " files");
+    session_.Out().Say("cancelled; files analysed: " + std::to_string(done_));
     return kRefused;
   }
 
@@ -134,6 +141,7 @@ int RunMp3(Session& session, const std::vector<std::string>& arguments) {
       if (first && line.starts_with(kMark)) line.erase(0, kMark.size());
       if (!line.empty() && !run.Take(line)) break;
     }
+    if (lines.Failed()) run.Fail("standard input can't be read");
     return run.Status();
   }
   Analysis run(session, arguments.size());

@@ -93,6 +93,7 @@ void ShowText(Session& session, const SommarioProgetto& summary) {
 int RunShow(Session& session, const std::vector<std::string>& arguments) {
   if (arguments.size() != 1) return kUsage;
   if (const int status = session.OpenProject(arguments[0]); status != kDone) return status;
+  if (!session.CanRead("Config.txt")) return kRefused;
   const SommarioProgetto summary = LeggiSommario(session.Context());
   if (session.Out().IsJson()) {
     ShowJson(session, summary);

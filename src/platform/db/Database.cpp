@@ -68,6 +68,9 @@ Database::~Database() {
 
 bool Database::Configure() {
   sqlite3_busy_timeout(handle_, kBusyTimeout);
+  // What no row of ours comes near; a damaged or hostile one is refused before it fills the memory.
+  constexpr int kLongestRow = 16 << 20;
+  sqlite3_limit(handle_, SQLITE_LIMIT_LENGTH, kLongestRow);
   return Harden(handle_) && RegisterCollation(handle_) && LeavesWalMode() &&
          Step("PRAGMA synchronous=FULL") && Step("PRAGMA mmap_size=0") &&
          Step("PRAGMA temp_store=MEMORY") && Step("PRAGMA cell_size_check=ON");

@@ -120,6 +120,7 @@ TEST(RemovableFolders, PassesOverWhatIsNoDrive) {
   EXPECT_TRUE(RemovableFolders("[Removable]\nA=/a\nB=/b\nC=/c\n1=/d\nEE=/e\nF=\nG=relative\n"
                                "H=Q:\\unknown\n=/i")
                   .empty());
+  EXPECT_EQ(RemovableFolders("[Removable]\ne=/small\nQQ=/x\n").at('E'), "/small");
   EXPECT_EQ(RemovableFolders("[Removable]\nE=/first\nE=/second").at('E'), "/first");
 }
 

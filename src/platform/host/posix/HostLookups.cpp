@@ -208,7 +208,9 @@ std::string HostFileSystem::HostPath(std::string_view path) const {
   const Result<Place> found = Find(path);
   if (found) return host::Respelled(found.Value().Path);
   std::string host = paths_.ToHost(path);
-  return host.empty() ? std::string(path) : host;
+  if (!host.empty()) return host;
+  host = paths_.ToHost(FolderOf(path));  // a last name that no path can hold is shown as it is
+  return host.empty() ? std::string(path) : host.append("/").append(LastName(path));
 }
 
 Result<std::string> HostFileSystem::SystemPath(std::string_view given) const {
