@@ -8,8 +8,7 @@
 
 namespace kvr5 {
 
-std::optional<FatAttributes> ReadFatAttributes(const std::string& hostPath,
-                                               std::uint64_t device) {
+std::optional<FatAttributes> ReadFatAttributes(const std::string& hostPath, std::uint64_t device) {
   if (host::KindOf(hostPath, device) != host::VolumeKind::Fat) return std::nullopt;
   const int file = ::open(hostPath.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
   if (file < 0) return std::nullopt;
