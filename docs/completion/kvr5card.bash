@@ -20,6 +20,7 @@ _kvr5card_languages() {
   local folder=$1 file
   [[ -n $folder ]] || folder=$(dirname -- "$(readlink -f -- "$(type -P -- "$command")")")
   for file in "$folder"/Language/*.lan; do
+    [[ -e $file ]] || continue
     file=${file##*/}
     printf '%s\n' "${file%.lan}"
   done
@@ -27,7 +28,8 @@ _kvr5card_languages() {
 
 _kvr5card() {
   local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]}
-  local command=${COMP_WORDS[0]/#\~\//$HOME/}
+  local command=${COMP_WORDS[0]//[\"\'\\]/}
+  command=${command/#\~\//$HOME/}
   local verb= project= value= program=() n=0 i
   [[ $word == "=" ]] && word=
   [[ $before == "=" ]] && before=${COMP_WORDS[COMP_CWORD - 2]}

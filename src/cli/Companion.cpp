@@ -71,20 +71,30 @@ int Complain(bool json, const std::string& complaint) {
   return kUsage;
 }
 
-/// The first word behind the verb that is an option of the companion; "" when none is.
+/// The option of the companion that a word behind the verb is; "" for any other word.
+std::string OptionOf(const std::string& word) {
+  constexpr std::array<std::string_view, 8> kOptions{"--json", "--yes",  "--no", "--program",
+                                                     "--lang", "--help", "-h",   "--version"};
+  const auto name = word.substr(0, word.find('='));
+  return std::ranges::find(kOptions, name) == kOptions.end() ? std::string() : name;
+}
+
+/// The first of the companion's options behind the verb, where they do nothing; "" when none is.
 std::string MisplacedOption(const Options& options) {
-  constexpr std::array<std::string_view, 5> kOptions{"--json", "--yes", "--no", "--program",
-                                                     "--lang"};
-  const auto found = std::ranges::find_first_of(options.Arguments, kOptions);
-  return found == options.Arguments.end() ? std::string() : *found;
+  for (const auto& word : options.Arguments) {
+    if (auto option = OptionOf(word); !option.empty()) return option;
+  }
+  return {};
 }
 
 int RunVerb(const Verb& verb, const Options& options) {
-  if (!options.Arguments.empty() && options.Arguments.front() == "--help") {
+  if (!options.Arguments.empty() &&
+      (options.Arguments.front() == "--help" || options.Arguments.front() == "-h")) {
     return Print(options.Json, "help", UsageOf(verb) + "\n" + std::string(verb.Help));
   }
   if (const std::string option = MisplacedOption(options); !option.empty()) {
-    Output(options.Json).Say(option + ": an option stands before the verb\n" + UsageOf(verb));
+    Output output(options.Json || option == "--json");
+    output.Say(option + ": an option stands before the verb\n" + UsageOf(verb));
     return kUsage;
   }
   Session session(options);

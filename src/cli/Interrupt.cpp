@@ -22,6 +22,12 @@ void OnSignal(int /*signal*/) {
   errno = error;
 }
 
+void DrainPipe() {
+  std::array<char, 16> bytes{};
+  while (read(g_pipe[0], bytes.data(), bytes.size()) > 0) {
+  }
+}
+
 /// What asks a program to stop: Ctrl-C, the end of the terminal, a shutdown.
 constexpr std::array kSignals{SIGINT, SIGTERM, SIGHUP};
 std::array<struct sigaction, kSignals.size()> g_before{};
@@ -53,9 +59,7 @@ Interrupt::~Interrupt() {
 bool Interrupt::Pressed() {
   if (g_pressed == 0) return false;
   g_pressed = 0;  // a press from now on is for the next call; at worst this one is told twice
-  std::array<char, 16> bytes{};
-  while (read(g_pipe[0], bytes.data(), bytes.size()) > 0) {
-  }
+  DrainPipe();
   return true;
 }
 
@@ -63,8 +67,12 @@ bool Interrupt::WaitForInput() {
   std::array<pollfd, 2> sources{pollfd{STDIN_FILENO, POLLIN, 0}, pollfd{g_pipe[0], POLLIN, 0}};
   while (g_pressed == 0) {
     const int ready = poll(sources.data(), sources.size(), -1);
-    if (ready > 0) return sources[1].revents == 0;
-    if (errno != EINTR) return true;  // then the reading itself finds out
+    if (ready > 0 && sources[1].revents == 0) return true;
+    if (ready > 0) {
+      DrainPipe();  // of the press that the condition sees, or of one that was answered already
+    } else if (errno != EINTR) {
+      return true;  // then the reading itself finds out
+    }
   }
   return false;
 }

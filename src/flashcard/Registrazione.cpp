@@ -107,7 +107,9 @@ bool Recording::CardIsWritable() {
   const std::string path = Card("\\test.txt");  // the doubled backslash counts as one
   // A link of that name is the card's own; what it leads to isn't.
   if (context_.Files.BehindLink(path) != path) Ignora(context_.Files.Delete(path));
-  auto file = context_.Files.Open(path, OpenMode::Write);
+  // One that leads nowhere can't be told from a free name: a new file goes nowhere but here.
+  const bool there = static_cast<bool>(context_.Files.Info(path));
+  auto file = context_.Files.Open(path, there ? OpenMode::Write : OpenMode::New);
   if (error.Record(file.Err())) {
     error.Record(file.Value()->Write("test\r\n"));
     error.Record(file.Value()->Close());

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <iterator>
 #include <sstream>
 
@@ -61,6 +62,17 @@ Compagno::Compagno() {
   Cartella.Write("program/KVR5Software.ini",
                  "[Config]\r\nUseExternalPlayer=0\r\n[Path]\r\nProjectsDir=" +
                      Percorso("program/Projects") + "\r\n");
+}
+
+void Compagno::SenzaDirittiDiRoot() {
+  if (geteuid() != 0) return;
+  namespace fs = std::filesystem;
+  // Where the executable lies, and the temporary folder, may be closed to others.
+  fs::permissions(Cartella.Host(), fs::perms::all);
+  const std::string copy = Host("program/kvr5card");
+  fs::copy_file(KVR5_CARD, copy);
+  Inizio = {"/usr/bin/setpriv", "--reuid=65534", "--clear-groups", copy,
+            "--program",        Host("program")};
 }
 
 Corsa Compagno::Esegui(std::vector<std::string> arguments, const std::string& input) const {

@@ -34,6 +34,8 @@ class Compagno : public Banco {
   /// The same run as the work of a process that has its streams already. Standard output goes to
   /// the file `output` (host path) if one is given.
   std::function<int()> Lavoro(std::vector<std::string> arguments, std::string output = {}) const;
+  /// Has the runs from now on done by somebody who is not root, who may read everything.
+  void SenzaDirittiDiRoot();
   /// Host path of a file of the temporary folder.
   std::string Host(const std::string& name) const { return (Cartella.Host() / name).string(); }
 

@@ -24,7 +24,7 @@ class Completion : public testing::Test {
 
   /// The words are split as bash does it at "="; the last one is being typed.
   Words Offered(const Words& line) {
-    std::string script = "source " KVR5_COMPLETION "\nCOMP_WORDS=(kvr5card";
+    std::string script = "source " KVR5_COMPLETION "\nCOMP_WORDS=(" + Typed;
     for (const auto& word : line) script += " '" + Quoted(word) + "'";
     script += ")\nCOMP_CWORD=" + std::to_string(line.size()) +
               "\n_kvr5card\nprintf '%s\\n' \"${COMPREPLY[@]}\"\n";
@@ -41,6 +41,8 @@ class Completion : public testing::Test {
   }
 
   Compagno k;
+  /// The command as it stands in the line, a word of the shell.
+  std::string Typed = "kvr5card";
 
  private:
   static std::string Quoted(const std::string& word) {
@@ -76,6 +78,21 @@ TEST_F(Completion, OffersValues) {
   EXPECT_TRUE(Offered({"config", "none", "get", "lo"}).empty());
   EXPECT_TRUE(Offered({"config", "it's", "set", "LOUT", "="}).empty()) << "a value, not a key";
   EXPECT_TRUE(Offered({"config", "it's", "set", "LOUT", "=", "L"}).empty());
+}
+
+TEST_F(Completion, AsksTheCommandThatWasTyped) {
+  k.Cartella.Write("My Cards/keep", "");
+  std::filesystem::create_directory_symlink(k.Host("program"), k.Host("My Cards/program"));
+  for (const char* typed : {"./program/kvr5card", "\"'./My Cards/program/kvr5card'\"",
+                            "'./My\\ Cards/program/kvr5card'"}) {
+    Typed = typed;
+    EXPECT_EQ(Offered({"record", "My"}), Words{"My Hall"}) << typed;
+    EXPECT_EQ(Offered({"--lang", "It"}), Words{"Italiano"}) << typed;
+  }
+}
+
+TEST_F(Completion, OffersNoLanguageOfAFolderThatHasNone) {
+  EXPECT_TRUE(Offered({"--program", k.Host("music"), "--lang", ""}).empty());
 }
 
 /// A document of the companion.

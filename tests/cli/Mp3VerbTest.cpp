@@ -183,5 +183,24 @@ TEST(Mp3Verb, AListMayBearAMarkEndItsLinesLikeEitherHostAndHoldBlankOnes) {
   for (const auto& object : run.Oggetti()) EXPECT_EQ(object["File"], name);
 }
 
+TEST(Mp3Verb, SaysThatAFileIsMissingOnlyWhereNothingOfItsNameIsThere) {
+  const Compagno k;
+  k.Cartella.Write("music/.hidden.mp3", "junk");
+  k.Cartella.Write("music/folder.mp3/inside", "");
+  const std::string missing = ": there is no such file";
+  const std::string refused = ": not an MP3 file that the player takes";
+  const std::string unusable = k.Host("music/a|b.mp3");
+  const auto run = k.Esegui({"mp3", k.Host("music/.hidden.mp3"), k.Host("music/folder.mp3"),
+                             k.Host("music/gone.mp3"), k.Host("gone/gone.mp3"), unusable});
+  EXPECT_EQ(run.Stato, 1);
+  EXPECT_EQ(run.Righe(), (std::vector<std::string>{
+                             k.Host("music/.hidden.mp3") + refused,
+                             k.Host("music/folder.mp3") + refused,
+                             k.Host("music/gone.mp3") + missing,
+                             k.Host("gone/gone.mp3") + missing,
+                             unusable + refused,
+                         }));
+}
+
 }  // namespace
 }  // namespace kvr5

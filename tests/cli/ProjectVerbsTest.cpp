@@ -4,6 +4,7 @@ namespace kvr5 {
 namespace {
 
 using nlohmann::json;
+using test::Compagno;
 using Verbs = test::Verbi;
 
 TEST_F(Verbs, NewPrintsTheFolderAndMakesTheWizardsProject) {
@@ -135,6 +136,37 @@ TEST_F(Verbs, NoVerbLeavesASideFileOrWritesTheLastFolder) {
   EXPECT_EQ(k.Nomi("program/Projects/Hall"),
             (std::vector<std::string>{"Config.cfg", "Config.txt", "KVR5.gif", "inputcfg.mdb"}));
   EXPECT_EQ(k.Cartella.Read("program/KVR5Software.ini").find("LastMp3Dir"), std::string::npos);
+}
+
+TEST(ProjectVerbs, AFileOfAProjectThatMayNotBeReadIsNamedWithStatus1) {
+  for (const char* name : {"Config.cfg", "Config.txt"}) {
+    Compagno k;
+    ASSERT_EQ(k.Esegui({"new", "Hall", "--mode", "1"}).Stato, 0);
+    const std::string file = k.Host("program/Projects/Hall/") + name;
+    std::filesystem::permissions(file, std::filesystem::perms::none);
+    k.SenzaDirittiDiRoot();
+    for (const std::vector<std::string>& words :
+         {std::vector<std::string>{"show", "Hall"}, {"config", "Hall", "get"}}) {
+      const auto run = k.EseguiJson(words);
+      EXPECT_EQ(run.Stato, 1) << name << words[0];
+      ASSERT_EQ(run.Box().size(), 1U) << name << words[0];
+      EXPECT_TRUE(run.Box()[0]["text"].get<std::string>().starts_with(file)) << run.Errori;
+      EXPECT_EQ(run.Uscita, "");
+    }
+  }
+}
+
+TEST(ProjectVerbs, AProjectsFolderThatMayNotBeReadIsNamedWithStatus1) {
+  Compagno k;
+  const std::string folder = k.Host("program/Projects");
+  std::filesystem::permissions(folder, std::filesystem::perms::none);
+  k.SenzaDirittiDiRoot();
+  const auto run = k.EseguiJson({"projects"});
+  std::filesystem::permissions(folder, std::filesystem::perms::all);
+  EXPECT_EQ(run.Stato, 1);
+  EXPECT_EQ(run.Uscita, "");
+  ASSERT_EQ(run.Box().size(), 1U);
+  EXPECT_TRUE(run.Box()[0]["text"].get<std::string>().starts_with(folder)) << run.Errori;
 }
 
 }  // namespace

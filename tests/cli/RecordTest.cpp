@@ -102,6 +102,21 @@ TEST_F(RecordVerb, ForPeopleItSaysWhatItDid) {
   EXPECT_TRUE(run.Uscita.starts_with(k.Host("card") + ": 4 files, ")) << run.Uscita;
 }
 
+TEST_F(RecordVerb, ABareLetterIsAFolderOfThatNameBeforeItIsADrive) {
+  k.Cartella.Write("program/Drives.ini", "[Removable]\r\nE=" + k.Host("stick") + "\r\n");
+  k.Cartella.Write("stick/keep", "");
+  k.Inizio = {"/usr/bin/env", "-C", k.Host("work"), KVR5_CARD, "--program", k.Host("program")};
+  k.Cartella.Write("work/keep", "");
+  const auto drive = k.Esegui({"record", "Hall", "E"});
+  EXPECT_EQ(drive.Stato, 0);
+  EXPECT_TRUE(k.Cartella.Exists("stick/Config.txt"));
+  EXPECT_TRUE(drive.Uscita.starts_with("E: 4 files, ")) << drive.Uscita;
+  EXPECT_TRUE(k.Esegui({"record", "Hall", "E:"}).Uscita.starts_with("E: 4 files, "));
+  k.Cartella.Write("work/E/keep", "");
+  EXPECT_EQ(k.Esegui({"record", "Hall", "E"}).Stato, 0);
+  EXPECT_TRUE(k.Cartella.Exists("work/E/Config.txt"));
+}
+
 TEST_F(RecordVerb, ADatabaseThatCannotBeReadIsToldAndIsStatus1) {
   k.Cartella.Write("program/Projects/Hall/playlist.mdb", std::string(9000, 'x'));
   const auto run = k.EseguiJson({"record", "Hall", k.Host("card")});

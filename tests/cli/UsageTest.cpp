@@ -66,13 +66,29 @@ TEST(Usage, WrongWordsAreStatus2WithHelpOnStandardError) {
 TEST(Usage, AnOptionBehindTheVerbIsNamedBeforeAnythingIsDone) {
   const Compagno k;
   k.Esegui({"new", "Hall", "--mode", "1"});
-  for (const char* option : {"--json", "--yes", "--no", "--program", "--lang"}) {
+  for (const char* option : {"--yes", "--no", "--program", "--lang", "--program=/x", "--lang=x",
+                             "--help", "-h", "--version"}) {
     const auto run = k.Esegui({"record", "Hall", k.Host("card"), option});
     EXPECT_EQ(run.Stato, 2);
-    EXPECT_NE(run.Errori.find(std::string(option) + ": an option stands before the verb"),
-              std::string::npos);
+    const std::string word = option;
+    EXPECT_NE(
+        run.Errori.find(word.substr(0, word.find('=')) + ": an option stands before the verb"),
+        std::string::npos)
+        << run.Errori;
   }
+  const auto json = k.Esegui({"record", "Hall", k.Host("card"), "--json"});
+  EXPECT_EQ(json.Stato, 2);
+  EXPECT_NE(json.Box().at(0)["text"].get<std::string>().find("--json: an option stands"),
+            std::string::npos);
   EXPECT_TRUE(k.Nomi("card").empty());
+}
+
+TEST(Usage, AVerbExplainsItselfUnderBothNamesOfTheOption) {
+  const Compagno k;
+  const auto page = k.Esegui({"record", "--help"});
+  EXPECT_EQ(page.Stato, 0);
+  EXPECT_TRUE(page.Uscita.starts_with("usage: kvr5card [OPTION...] record "));
+  EXPECT_EQ(k.Esegui({"record", "-h"}).Uscita, page.Uscita);
 }
 
 TEST(Usage, ComplaintsAreObjectsForPrograms) {

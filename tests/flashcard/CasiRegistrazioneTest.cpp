@@ -119,6 +119,31 @@ TEST_F(Recording, ALinkOfTheWriteTestsNameIsNotFollowed) {
   EXPECT_EQ(b.Cartella.Read("letter.txt"), "a user's own");
 }
 
+TEST_F(Recording, ALinkOfTheWriteTestsNameThatLeadsNowhereMakesNothingThere) {
+  Project(4, 5);
+  std::filesystem::create_symlink("../nowhere.txt", b.Cartella.Host() / "card/test.txt");
+  EXPECT_EQ(Record(), FineRegistrazione::NonScrivibile);
+  b.Finestre.Prossimo();
+  EXPECT_FALSE(b.Cartella.Exists("nowhere.txt"));
+  EXPECT_TRUE(std::filesystem::is_symlink(b.Cartella.Host() / "card/test.txt"));
+}
+
+TEST_F(Recording, AHalfChangedDatabaseBehindALinkReachesTheCardAsItWas) {
+  Project(4, 5);
+  const std::string folder = "program/Projects/Hall/playlist.mdb";
+  b.AggiungiRiga("playlist.mdb", 1, 1, "a.mp3", Music(), "P01-001.mp3");
+  const std::string whole = b.Cartella.Read(folder);
+  b.InterrompiModifica("playlist.mdb");
+  for (const char* side : {"", "-journal"}) {
+    b.Cartella.Write(std::string("elsewhere/real.mdb") + side, b.Cartella.Read(folder + side));
+    std::filesystem::remove(b.Cartella.Host() / (folder + side));
+  }
+  std::filesystem::create_symlink(b.Cartella.Host() / "elsewhere/real.mdb",
+                                  b.Cartella.Host() / folder);
+  EXPECT_EQ(Record(), FineRegistrazione::Compiuta);
+  EXPECT_TRUE(OnCard("playlist.mdb") == whole);
+}
+
 TEST_F(Recording, ARowTooLongForAnyMemoryIsRefusedAsDamaged) {
   Project(4, 5);
   const std::string path = b.Percorso("program/Projects/Hall/playlist.mdb");

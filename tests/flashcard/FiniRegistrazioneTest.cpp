@@ -251,6 +251,22 @@ TEST_F(Recording, ChangesThatLieInALogBesideADatabaseReachTheCard) {
   EXPECT_TRUE(OnCard("playlist.mdb") == b.Cartella.Read(folder + "playlist.mdb"));
 }
 
+TEST_F(Recording, ADatabaseThatAnotherProgramLeftWritingAheadReachesTheCardAsOneFile) {
+  Project(4, 5);
+  b.AggiungiRiga("playlist.mdb", 1, 1, "a.mp3", Music(), "P01-001.mp3");
+  const std::string path = b.Percorso("program/Projects/Hall/playlist.mdb");
+  {
+    sqlite3* other = nullptr;
+    ASSERT_EQ(sqlite3_open(b.Disco.HostPath(path).c_str(), &other), SQLITE_OK);
+    EXPECT_EQ(sqlite3_exec(other, "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr), SQLITE_OK);
+    EXPECT_EQ(sqlite3_close(other), SQLITE_OK);
+  }
+  constexpr std::size_t kWriteVersion = 18;
+  ASSERT_EQ(b.Cartella.Read("program/Projects/Hall/playlist.mdb").substr(kWriteVersion, 2), "\2\2");
+  EXPECT_EQ(Record(), FineRegistrazione::Compiuta);
+  EXPECT_EQ(OnCard("playlist.mdb").substr(kWriteVersion, 2), "\1\1");
+}
+
 TEST_F(Recording, ARowThatCannotBeReadStopsTheRunNamingItsDatabase) {
   Project(2, 0);
   inputs.Apri();

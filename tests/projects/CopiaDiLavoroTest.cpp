@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 #include <filesystem>
 #include <memory>
@@ -85,6 +86,43 @@ TEST_P(WorkingCopy, OfADatabaseThatACrashLeftHalfChangedHoldsWhatWasThereBefore)
   copy.Apri();
   EXPECT_EQ(Rows(copy.Connessione()), 1);
   EXPECT_FALSE(b.Cartella.Exists(Real() + "-journal"));
+  EXPECT_TRUE(b.Cartella.Read(Real()) == before);
+}
+
+TEST_P(WorkingCopy, OfAHalfChangedDatabaseBehindALinkHoldsWhatWasThereBefore) {
+  b.InterrompiModifica(GetParam().Real);
+  b.Cartella.Write("elsewhere/real.mdb", b.Cartella.Read(Real()));
+  b.Cartella.Write("elsewhere/real.mdb-journal", b.Cartella.Read(Real() + "-journal"));
+  for (const std::string& file : {Real(), Real() + "-journal"}) {
+    std::filesystem::remove(b.Cartella.Host() / file);
+  }
+  std::filesystem::create_symlink(b.Cartella.Host() / "elsewhere/real.mdb",
+                                  b.Cartella.Host() / Real());
+  CopiaDiLavoro copy(b.C, GetParam().Real, GetParam().Temp);
+  copy.Apri();
+  EXPECT_EQ(Rows(copy.Connessione()), 1);
+  EXPECT_FALSE(b.Cartella.Exists("elsewhere/real.mdb-journal"));
+  EXPECT_TRUE(b.Cartella.Read("elsewhere/real.mdb") == before);
+}
+
+TEST_P(WorkingCopy, OfADatabaseThatAnotherProgramIsChangingStaysClosedAndNothingIsSavedOverIt) {
+  sqlite3* other = nullptr;
+  ASSERT_EQ(sqlite3_open((b.Cartella.Host() / Real()).c_str(), &other), SQLITE_OK);
+  ASSERT_EQ(sqlite3_exec(other, "BEGIN EXCLUSIVE; DELETE FROM List", nullptr, nullptr, nullptr),
+            SQLITE_OK);
+  ASSERT_TRUE(b.Cartella.Exists(Real() + "-journal"));
+  {
+    CopiaDiLavoro copy(b.C, GetParam().Real, GetParam().Temp);
+    copy.Apri();
+    EXPECT_FALSE(copy.Connessione().IsOpen());
+    ASSERT_EQ(b.Copia.Guasti.size(), 1U);
+    EXPECT_TRUE(b.Copia.Guasti[0].File.ends_with(GetParam().Real));
+    EXPECT_TRUE(b.Copia.Guasti[0].Source);
+    b.Cartella.Write(Temp(), "an edited copy");
+    copy.Salva();
+    EXPECT_EQ(b.Copia.Guasti.size(), 2U);
+  }
+  EXPECT_EQ(sqlite3_close(other), SQLITE_OK);
   EXPECT_TRUE(b.Cartella.Read(Real()) == before);
 }
 

@@ -36,10 +36,8 @@ Json ToJson(const std::string& file, const InfoMp3& info, const EtichetteMp3& la
       {"Labels", {labels.lblVersioneMpeg, labels.lblBitrate, labels.lblFreq, labels.lblDurata}}};
 }
 
-std::string ForPeople(const std::string& file, bool isThere, const InfoMp3& info,
-                      const EtichetteMp3& labels) {
+std::string ForPeople(const std::string& file, const InfoMp3& info, const EtichetteMp3& labels) {
   std::string text = file + ": ";
-  if (!isThere) return text + "there is no such file";
   if (labels.lblVersioneMpeg.empty()) return text + "not an MP3 file that the player takes";
   text += labels.lblVersioneMpeg + ", " + labels.lblBitrate + ", " + labels.lblFreq + ", " +
           labels.lblDurata + ": ";
@@ -56,21 +54,29 @@ EtichetteMp3 LabelsOnHub(const Contesto& context, const std::string& path, const
   return MostraInfoMp3(SchermoMp3::Ingressi, info, length, context.Luogo).Etichette;
 }
 
+/// True where nothing of this name is there; a folder, or what may not be looked at, is something.
+bool IsMissing(const Contesto& context, const std::string& path) {
+  const auto found = context.Files.Info(path);
+  return found.Err().Number() == errors::FileNotFound ||
+         found.Err().Number() == errors::PathNotFound;
+}
+
 /// False when the name can't be taken at all.
 bool Analyse(Session& session, modMp3Infos& reader, const std::string& file) {
   auto& context = session.Context();
   const auto path = context.Files.SystemPath(file);
+  const InfoMp3 info = path ? reader.LeggiInfoMp3(path.Value()) : InfoMp3{};
+  const EtichetteMp3 labels = LabelsOnHub(context, path ? path.Value() : "", info);
   if (!path) {
     session.Line().Clear();
     session.Out().Say(file + ": a file of this name can't be taken");
   }
-  const InfoMp3 info = path ? reader.LeggiInfoMp3(path.Value()) : InfoMp3{};
-  const EtichetteMp3 labels = LabelsOnHub(context, path ? path.Value() : "", info);
   if (session.Out().IsJson()) {
     session.Out().Object(ToJson(file, info, labels));
+  } else if (path && IsMissing(context, path.Value())) {
+    session.Out().Line(file + ": there is no such file");
   } else {
-    const bool isThere = path && FileExists(context.Files, path.Value());
-    session.Out().Line(ForPeople(file, isThere, info, labels));
+    session.Out().Line(ForPeople(file, info, labels));
   }
   return static_cast<bool>(path);
 }

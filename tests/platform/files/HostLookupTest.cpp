@@ -145,6 +145,12 @@ TEST_F(HostLookup, FindsNamesInAnyCase) {
             (folder_.Host() / "Musica/NEU/x.MP3").string());
 }
 
+TEST_F(HostLookup, ShowsALastNameThatNoPathCanHoldInItsHostFolder) {
+  const std::string folder = Path("music");
+  EXPECT_EQ(files_.HostPath(folder + "\\AC/DC.mp3"), (folder_.Host() / "music/AC/DC.mp3").string());
+  EXPECT_EQ(files_.HostPath(folder + "\\AC/DC\\a.mp3"), folder + "\\AC/DC\\a.mp3");
+}
+
 TEST_F(HostLookup, PrefersTheExactNameThenTheFirstInOrder) {
   folder_.Write("a.txt", "small");
   folder_.Write("A.txt", "big");
