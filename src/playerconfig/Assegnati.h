@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "core/Contesto.h"
+#include "playerconfig/TabellaIngressi.h"
+
+namespace kvr5 {
+
+/// One row of lstAssegnati: a combination of inputs that has a file.
+struct Assegnato {
+  std::int64_t Codice = 0;  ///< 1 to 255; any other number, which no click makes, from elsewhere
+  std::string Ingressi;     ///< "IN1+IN3"; digits where the number is no code
+  std::string FileName;
+  std::string Percorso;     ///< of the source, system form
+  bool Mancante = false;    ///< neither the source nor its copy "5.mp3" in the project exists
+  bool StessoFile = false;  ///< shares its source with another row: a recording will stop
+  bool operator==(const Assegnato&) const = default;
+};
+
+/// The rows of lstAssegnati and what stands below them.
+struct ElencoAssegnati {
+  std::vector<Assegnato> Righe;
+  std::size_t Mancanti = 0;
+  bool operator==(const ElencoAssegnati&) const = default;
+};
+
+/// All assigned combinations, by code, from the rows of the table.
+///
+/// A recording takes the copy "5.mp3" where the project has one, else the source, which it refuses
+/// to list a second time, even where the listed one is longer and only begins with the same path.
+/// Both rows of such a pair are marked. Two rows that both have a copy never are. The project's
+/// folder is read once, each source looked up once.
+ElencoAssegnati Assegnati(const Contesto& contesto, const std::vector<RigaIngresso>& righe);
+
+/// What a row is marked with: "missing", "same file: recording will stop", both, or "".
+std::string SegnoAssegnato(Contesto& contesto, const Assegnato& riga);
+
+/// "2 files, 1 missing" in the user's language; the missing ones only where there are any.
+std::string CifreAssegnati(Contesto& contesto, const ElencoAssegnati& elenco);
+
+}  // namespace kvr5
