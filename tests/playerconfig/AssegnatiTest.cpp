@@ -12,6 +12,7 @@ class Assigned : public testing::Test {
  protected:
   void SetUp() override {
     b.CreaProgetto("Hall", 4, 1);
+    b.C.Stato.FileLingua = b.Percorso("program/Language/None.lan");  // the built-in words
     table.Apri();
   }
   /// A file of the folder "music" for a code.
@@ -49,6 +50,18 @@ TEST_F(Assigned, AreListedByCodeWithTheirInputsAndFiles) {
   EXPECT_EQ(CifreAssegnati(b.C, list), "2 files, 1 missing");
   EXPECT_EQ(SegnoAssegnato(b.C, list.Righe[0]), "");
   EXPECT_EQ(SegnoAssegnato(b.C, list.Righe[1]), "missing");
+}
+
+TEST_F(Assigned, FiguresAndMarksSpeakTheUsersLanguage) {
+  b.Cartella.Write("program/Language/Keys.lan",
+                   "[Strings]\r\n0040060=uno\r\n0040061=molti\r\n0040062=manca\r\n"
+                   "0040063=mancano\r\n0040064=uguale\r\n");
+  b.C.Stato.FileLingua = b.Percorso("program/Language/Keys.lan");
+  Assign(1, "a.mp3");
+  EXPECT_EQ(CifreAssegnati(b.C, List()), "1 uno, 1 manca");
+  Assign(2, "a.mp3");
+  EXPECT_EQ(CifreAssegnati(b.C, List()), "2 molti, 2 mancano");
+  EXPECT_EQ(SegnoAssegnato(b.C, List().Righe[1]), "manca, uguale");
 }
 
 TEST_F(Assigned, FiguresSayNothingOfMissingFilesWhereThereAreNone) {
