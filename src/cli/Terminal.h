@@ -36,6 +36,11 @@ class TerminalDialogs : public Dialoghi {
 
   Risposta MostraMessaggio(const Messaggio& messaggio) override;
   std::uint8_t MostraSiNo(const BoxSiNo& box) override;
+  /// Folders are arguments here: nothing is chosen.
+  std::string SfogliaCartella(const std::string& /*titolo*/,
+                              const std::string& /*inizio*/) override {
+    return {};
+  }
 
  private:
   Risposta Ask(std::string_view title, std::string_view text, bool withCancel);

@@ -39,6 +39,9 @@ class Dialoghi {
   virtual Risposta MostraMessaggio(const Messaggio& messaggio) = 0;
   /// Shows frmSiNo and waits: 1 yes (or the only button), 2 no, 0 closed by the window's button.
   virtual std::uint8_t MostraSiNo(const BoxSiNo& box) = 0;
+  /// Lets the user choose a folder, starting in `inizio` (system form, may be "" or gone). The
+  /// folder in the system's form; "" when nothing was chosen.
+  virtual std::string SfogliaCartella(const std::string& titolo, const std::string& inizio) = 0;
 };
 
 }  // namespace kvr5

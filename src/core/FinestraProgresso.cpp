@@ -1,8 +1,10 @@
 #include "core/FinestraProgresso.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "core/Lingua.h"
+#include "platform/Locale.h"
 
 namespace kvr5 {
 namespace {
@@ -96,7 +98,19 @@ void FinestraProgresso::Scarica() {
   numFile_ = "1/1";
   numFileVisibile_ = true;
   barra_ = 0;
+  acceso_ = true;
   Ridisegna();
+}
+
+void FinestraProgresso::Tick() {
+  if (!caricata_) return;  // a tick that was under way when the window went
+  acceso_ = !acceso_;
+  Ridisegna();
+}
+
+int FinestraProgresso::PixelBarra() const {
+  const double whole = std::clamp(barra_, 0.0, static_cast<double>(LarghezzaPiena));
+  return static_cast<int>(ArrotondaPari(whole * PixelPieni / LarghezzaPiena));
 }
 
 void FinestraProgresso::Annulla() {

@@ -21,6 +21,10 @@ class FinestraProgresso {
 
   /// Width of the whole bar in twips; a constant of the form.
   static constexpr int LarghezzaPiena = 5880;
+  /// The same in logical pixels, of 15 twips each.
+  static constexpr int PixelPieni = LarghezzaPiena / 15;
+  /// Interval of tmrCicla in milliseconds.
+  static constexpr int IntervalloCicla = 1000;
 
   std::int32_t ValoreMinimo = 0;
   std::int32_t ValoreMassimo = 0;
@@ -41,6 +45,8 @@ class FinestraProgresso {
   void Mostra();
   void Nascondi();
   void Scarica();
+  /// tmrCicla, each 1000 ms from the load on: the operation's text blinks.
+  void Tick();
   /// picAnnulla: raises the flag and says so; the operation goes on until it looks.
   void Annulla();
 
@@ -52,6 +58,11 @@ class FinestraProgresso {
   bool NumFileVisibile() const { return numFileVisibile_; }
   /// Twips, 0 to LarghezzaPiena.
   double LarghezzaBarra() const { return barra_; }
+  /// The bar's width to draw: whole logical pixels, 0 to PixelPieni also where bounds below zero
+  /// give an odd width.
+  int PixelBarra() const;
+  /// Which of its two display states lblOperazione is in; the first one from the load on.
+  bool TestoAcceso() const { return acceso_; }
 
  protected:
   /// Called after every change of what is seen.
@@ -70,6 +81,7 @@ class FinestraProgresso {
   std::string numFile_ = "1/1";
   bool numFileVisibile_ = true;
   double barra_ = 0;
+  bool acceso_ = true;
 };
 
 }  // namespace kvr5

@@ -1,16 +1,29 @@
 #include "core/Orologio.h"
 
 namespace kvr5 {
+namespace {
+
+bool ToLocal(std::time_t seconds, std::tm& local) {
+#ifdef _WIN32
+  return localtime_s(&local, &seconds) == 0;
+#else
+  return localtime_r(&seconds, &local) != nullptr;
+#endif
+}
+
+}  // namespace
+
+std::tm InOraLocale(std::int64_t secondi) {
+  std::tm local{};
+  if (ToLocal(static_cast<std::time_t>(secondi), local)) return local;
+  std::tm epoch{};
+  epoch.tm_mday = 1;
+  epoch.tm_year = 70;
+  return epoch;
+}
 
 std::tm OrologioDiSistema::Adesso() const {
-  const std::time_t now = std::time(nullptr);
-  std::tm local{};
-#ifdef _WIN32
-  localtime_s(&local, &now);
-#else
-  localtime_r(&now, &local);
-#endif
-  return local;
+  return InOraLocale(static_cast<std::int64_t>(std::time(nullptr)));
 }
 
 }  // namespace kvr5

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <ctime>
 
 namespace kvr5 {
@@ -11,6 +12,10 @@ class Orologio {
   /// Date and time of day here and now.
   virtual std::tm Adesso() const = 0;
 };
+
+/// A moment in seconds since 1970-01-01 UTC as date and time of day here. One that the host can't
+/// tell (beyond its years) is the beginning of 1970.
+std::tm InOraLocale(std::int64_t secondi);
 
 /// The host's clock.
 class OrologioDiSistema : public Orologio {

@@ -35,6 +35,13 @@ enum class OpenMode {
   New,     ///< made; 58 when something of this very name is there
 };
 
+/// The bytes of a volume.
+struct VolumeSpace {
+  std::uint64_t Available = 0;  ///< free for this user
+  std::uint64_t Total = 0;
+  std::uint64_t Free = 0;  ///< free at all, with what is kept for the administrator
+};
+
 /// An open file. Closing is the destructor's work where nobody asks for the outcome.
 class File {
  public:
@@ -102,6 +109,8 @@ class FileSystem {
   virtual Error SyncVolume(std::string_view path) = 0;
   /// Bytes free for this user on the volume of `path`.
   virtual Result<std::uint64_t> FreeSpace(std::string_view path) const = 0;
+  /// All three figures of the volume of `path`; fails as FreeSpace does.
+  virtual Result<VolumeSpace> Space(std::string_view path) const = 0;
   /// True when both exist and are the same file on the disk.
   virtual bool SameFile(std::string_view a, std::string_view b) const = 0;
   /// The path in the host's own form, with the spelling of the disk as far as it exists; a path of

@@ -184,6 +184,43 @@ TEST_F(Progress, AnExtremeRatioIsShownWithoutHarm) {
   EXPECT_EQ(p.TestoPercento(), "-214748364700%");
 }
 
+TEST_F(Progress, TheTextBlinksAtEachTickOfALoadedWindow) {
+  p.Tick();
+  EXPECT_TRUE(p.TestoAcceso()) << "the timer runs from the load on";
+  p.Operazione("work");
+  p.Tick();
+  EXPECT_FALSE(p.TestoAcceso());
+  p.Tick();
+  EXPECT_TRUE(p.TestoAcceso());
+  p.Tick();
+  p.Scarica();
+  EXPECT_TRUE(p.TestoAcceso());
+}
+
+TEST_F(Progress, TheBarIsDrawnInWholePixelsOf392) {
+  p.ValoreMassimo = 7;
+  EXPECT_EQ(p.PixelBarra(), 0);
+  p.Progresso(1);
+  EXPECT_EQ(p.PixelBarra(), 56);
+  p.Progresso(7);
+  EXPECT_EQ(p.PixelBarra(), 392);
+  p.ValoreMassimo = 1000;
+  p.Progresso(1);
+  EXPECT_EQ(p.PixelBarra(), 0);
+  p.Progresso(2);
+  EXPECT_EQ(p.PixelBarra(), 1);
+}
+
+TEST_F(Progress, ABarOfBoundsBelowZeroIsDrawnInsideItsFrame) {
+  p.ValoreMinimo = -9;
+  p.ValoreMassimo = 7;
+  p.Progresso(-3);
+  EXPECT_EQ(p.PixelBarra(), 0);
+  p.ValoreMassimo = -1;
+  p.Progresso(-3);
+  EXPECT_EQ(p.PixelBarra(), 392);
+}
+
 TEST_F(Progress, UnloadingGivesEverythingItsInitialValue) {
   const std::string operation = p.TestoOperazione();
   const std::string percentage = p.TestoPercento();

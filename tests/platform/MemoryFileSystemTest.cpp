@@ -39,6 +39,7 @@ TEST(MemoryFileSystem, WritesWhatTheSpaceHoldsAndThenFails) {
   EXPECT_EQ(files.Content("C:\\a"), "abc");
   EXPECT_FALSE(files.Delete("C:\\a"));
   EXPECT_EQ(files.FreeSpace("C:\\").Value(), 3U);
+  EXPECT_EQ(files.Space("C:\\").Value().Available, 3U);
 }
 
 TEST(MemoryFileSystem, AppendsAndListsByName) {

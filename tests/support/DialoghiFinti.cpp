@@ -9,6 +9,7 @@ namespace kvr5::test {
 DialoghiFinti::~DialoghiFinti() {
   for (const auto& box : visti_) ADD_FAILURE() << "nobody looked at the box: " << box.Testo;
   EXPECT_TRUE(risposte_.empty()) << "answers were left over";
+  EXPECT_TRUE(cartelle_.empty()) << "folders were left over";
 }
 
 Risposta DialoghiFinti::Risposta_(const std::string& titolo) {
@@ -39,6 +40,17 @@ std::uint8_t DialoghiFinti::MostraSiNo(const BoxSiNo& box) {
   const Risposta answer = Risposta_(box.Titolo);
   if (answer == Risposta::Annulla) return 0;
   return answer == Risposta::Si ? 1 : 2;
+}
+
+std::string DialoghiFinti::SfogliaCartella(const std::string& titolo, const std::string& inizio) {
+  Sfogliate.push_back({titolo, inizio});
+  if (cartelle_.empty()) {
+    ADD_FAILURE() << "nobody expected the chooser: " << titolo;
+    return {};
+  }
+  std::string chosen = cartelle_.front();
+  cartelle_.pop_front();
+  return chosen;
 }
 
 BoxVisto DialoghiFinti::Prossimo() {

@@ -4,6 +4,8 @@
 #include <deque>
 #include <functional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "core/Dialoghi.h"
 
@@ -20,17 +22,28 @@ struct BoxVisto {
   std::uint32_t Colore = 0;
 };
 
-/// The user of a test: answers questions from a script and remembers every box. A question without
-/// an answer, and a box that the test never looked at, fail the test.
+/// A folder chooser that the logic opened.
+struct SfogliaVisto {
+  std::string Titolo;
+  std::string Inizio;
+};
+
+/// The user of a test: answers questions from a script and remembers every box. A question or a
+/// folder chooser without an answer, and a box that the test never looked at, fail the test.
 class DialoghiFinti : public Dialoghi {
  public:
   ~DialoghiFinti() override;
 
   Risposta MostraMessaggio(const Messaggio& messaggio) override;
   std::uint8_t MostraSiNo(const BoxSiNo& box) override;
+  std::string SfogliaCartella(const std::string& titolo, const std::string& inizio) override;
 
   /// The answer to the next question.
   void Rispondi(Risposta risposta) { risposte_.push_back(risposta); }
+  /// The folder that the next chooser gives; "" is a cancel.
+  void ScegliCartella(std::string cartella) { cartelle_.push_back(std::move(cartella)); }
+  /// The choosers so far.
+  std::vector<SfogliaVisto> Sfogliate;
   /// The first box that wasn't looked at yet; fails the test when there is none.
   BoxVisto Prossimo();
   bool Silenzio() const { return visti_.empty(); }
@@ -44,6 +57,7 @@ class DialoghiFinti : public Dialoghi {
 
   std::deque<BoxVisto> visti_;
   std::deque<Risposta> risposte_;
+  std::deque<std::string> cartelle_;
 };
 
 }  // namespace kvr5::test

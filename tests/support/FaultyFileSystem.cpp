@@ -271,6 +271,15 @@ Result<std::uint64_t> FaultyFileSystem::FreeSpace(std::string_view path) const {
   return inner_.FreeSpace(path);
 }
 
+Result<VolumeSpace> FaultyFileSystem::Space(std::string_view path) const {
+  if (Error error = Touch("Space", path, Kind::Look)) return error;
+  if (room_ && IsBelow(path, room_->Prefix)) {
+    const std::uint64_t free = room_->Bytes - std::min(room_->Bytes, Used(room_->Prefix));
+    return VolumeSpace{free, room_->Bytes, free};
+  }
+  return inner_.Space(path);
+}
+
 bool FaultyFileSystem::SameFile(std::string_view a, std::string_view b) const {
   if (Touch("SameFile", a, Kind::Look) || Touch("SameFile", b, Kind::Look)) return false;
   return inner_.SameFile(a, b);

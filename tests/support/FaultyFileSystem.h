@@ -54,6 +54,7 @@ class FaultyFileSystem : public FileSystem {
   Error FlushAll(std::span<File* const> files) override;
   Error SyncVolume(std::string_view path) override;
   Result<std::uint64_t> FreeSpace(std::string_view path) const override;
+  Result<VolumeSpace> Space(std::string_view path) const override;
   bool SameFile(std::string_view a, std::string_view b) const override;
   std::string HostPath(std::string_view path) const override { return inner_.HostPath(path); }
   Result<std::string> SystemPath(std::string_view given) const override {

@@ -263,6 +263,14 @@ Result<std::uint64_t> MemoryFileSystem::FreeSpace(std::string_view path) const {
   return free_;
 }
 
+Result<VolumeSpace> MemoryFileSystem::Space(std::string_view path) const {
+  const auto free = FreeSpace(path);
+  if (!free) return free.Err();
+  std::uint64_t used = 0;
+  for (const auto& [name, node] : nodes_) used += node->Bytes.size();
+  return VolumeSpace{free.Value(), used + free.Value(), free.Value()};
+}
+
 bool MemoryFileSystem::SameFile(std::string_view a, std::string_view b) const {
   const auto node = Find(a);
   return node && node == Find(b);

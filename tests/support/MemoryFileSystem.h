@@ -65,6 +65,7 @@ class MemoryFileSystem : public FileSystem {
   Result<std::size_t> CopyRange(File& from, File& to, std::size_t size) override;
   Error SyncVolume(std::string_view path) override;
   Result<std::uint64_t> FreeSpace(std::string_view path) const override;
+  Result<VolumeSpace> Space(std::string_view path) const override;
   bool SameFile(std::string_view a, std::string_view b) const override;
   /// "C:\a\b" as "/a/b", other drives as "/media/e/b".
   std::string HostPath(std::string_view path) const override;

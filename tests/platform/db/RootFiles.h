@@ -35,6 +35,7 @@ class RootFiles : public FileSystem {
   }
   Error SyncVolume(std::string_view /*path*/) override { return Unused(); }
   Result<std::uint64_t> FreeSpace(std::string_view /*path*/) const override { return Unused(); }
+  Result<VolumeSpace> Space(std::string_view /*path*/) const override { return Unused(); }
   bool SameFile(std::string_view /*a*/, std::string_view /*b*/) const override { return false; }
   Result<std::string> SystemPath(std::string_view /*given*/) const override { return Unused(); }
 

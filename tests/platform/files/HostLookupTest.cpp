@@ -221,6 +221,15 @@ TEST_F(HostLookup, TellsTheRoomThatIsLeft) {
   EXPECT_EQ(files_.FreeSpace(Path("none")).Err().Number(), 53);
 }
 
+TEST_F(HostLookup, TellsTheVolumesSpaceInItsThreeFigures) {
+  const auto space = files_.Space(Path());
+  ASSERT_TRUE(space);
+  EXPECT_GT(space.Value().Available, 0U);
+  EXPECT_LE(space.Value().Available, space.Value().Free);
+  EXPECT_LT(space.Value().Free, space.Value().Total);
+  EXPECT_EQ(files_.Space(Path("none")).Err().Number(), 53);
+}
+
 TEST_F(HostLookup, TakesPathsInBothForms) {
   folder_.Write("Musica/Brano.MP3", "x");
   const std::string expected = Path("Musica\\Brano.MP3");

@@ -163,13 +163,20 @@ Result<std::vector<FileInfo>> HostFileSystem::List(std::string_view folder) cons
 }
 
 Result<std::uint64_t> HostFileSystem::FreeSpace(std::string_view path) const {
+  const Result<VolumeSpace> space = Space(path);
+  if (!space) return space.Err();
+  return space.Value().Available;
+}
+
+Result<VolumeSpace> HostFileSystem::Space(std::string_view path) const {
   const Result<Place> found = Find(path);
   if (!found) return found.Err();
   const Place& place = found.Value();
   if (!place.Found()) return Failure(path, place.Code);
   struct statvfs volume {};
   if (::statvfs(place.Path.c_str(), &volume) != 0) return host::FromErrno(errno);
-  return static_cast<std::uint64_t>(volume.f_bavail) * volume.f_frsize;
+  const std::uint64_t unit = volume.f_frsize;
+  return VolumeSpace{volume.f_bavail * unit, volume.f_blocks * unit, volume.f_bfree * unit};
 }
 
 std::string HostFileSystem::BehindLink(std::string_view path) const {
