@@ -1,25 +1,18 @@
 #include "mp3/Accettazione.h"
 
-#include <cstdint>
-
 #include "mp3/TabelleMp3.h"
 #include "platform/Locale.h"
 
 namespace kvr5 {
 namespace {
 
-constexpr std::int32_t kMinKbit = 60;
-constexpr std::int32_t kMaxKbit = 320;
-constexpr std::int32_t kMinHz = 22050;
-constexpr std::int32_t kMaxHz = 44100;
-
 bool BitrateEntroILimiti(const InfoMp3& info) {
   const double kbit = ArrotondaPari(info.Bitrate / 1000.0);
-  return kbit >= kMinKbit && kbit <= kMaxKbit;
+  return kbit >= limiti_mp3::MinKbit && kbit <= limiti_mp3::MaxKbit;
 }
 
 bool FrequenzaEntroILimiti(const InfoMp3& info) {
-  return info.SampleRate >= kMinHz && info.SampleRate <= kMaxHz;
+  return info.SampleRate >= limiti_mp3::MinHz && info.SampleRate <= limiti_mp3::MaxHz;
 }
 
 RifiutoMp3 Giudica(const InfoMp3& info, bool soloMpeg1) {

@@ -1,11 +1,21 @@
 #pragma once
 
+#include <cstdint>
+
 #include "mp3/InfoMp3.h"
 
 namespace kvr5 {
 
 /// Which files the player takes: MPEG Layer III, 60 to 320 kbit/s (the average of a VBR file),
 /// 22,050 to 44,100 Hz, all limits included. 32,000 Hz is good. Inputs take MPEG 1 only.
+
+/// The limits, themselves included.
+namespace limiti_mp3 {
+inline constexpr std::int32_t MinKbit = 60;
+inline constexpr std::int32_t MaxKbit = 320;
+inline constexpr std::int32_t MinHz = 22050;
+inline constexpr std::int32_t MaxHz = 44100;
+}  // namespace limiti_mp3
 
 /// Why a file is refused.
 enum class RifiutoMp3 {

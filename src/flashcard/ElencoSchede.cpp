@@ -1,0 +1,76 @@
+#include "flashcard/ElencoSchede.h"
+
+#include "core/Lingua.h"
+#include "platform/Fold.h"
+
+namespace kvr5 {
+namespace {
+
+constexpr std::size_t kDriveName = 2;  // "e:", the label behind it is none of the path
+
+bool IsFloppy(std::string_view drive) {
+  return EqualFold(drive, "A:") || EqualFold(drive, "B:");
+}
+
+std::string UpperRoot(std::string root) {
+  if (!root.empty() && root[0] >= 'a' && root[0] <= 'z') {
+    root[0] = static_cast<char>(root[0] - 'a' + 'A');
+  }
+  return root;
+}
+
+}  // namespace
+
+bool ElencoSchede::Carica() {
+  contesto_.Stato.SelezioneFlashAnnullata = false;
+  schede_.clear();
+  scelta_ = 0;
+  for (const std::string& entry : drive_.Voci()) {
+    const std::string drive = entry.substr(0, kDriveName);
+    // Refused by name, before any call: no floppy is touched.
+    if (IsFloppy(drive) || !Candidata(drive + "\\")) continue;
+    const std::string root = UpperRoot(drive + "\\");
+    schede_.push_back({root, drive_.Fatti(root)});
+  }
+  if (schede_.empty()) DiciNessuna();
+  return !schede_.empty();
+}
+
+bool ElencoSchede::Candidata(const std::string& radice) {
+  contesto_.Errore.Clear();
+  const std::uint32_t type = drive_.Tipo(radice);
+  contesto_.Messaggi.LasciaCorrere();
+  const Error listing = drive_.Elenca(radice);
+  // Any other failure lets the drive through: what is wrong with it is told when it is used.
+  return type == tipo_drive::Rimovibile && listing.Number() != errors::BadFileName;
+}
+
+void ElencoSchede::DiciNessuna() {
+  contesto_.Finestre.MostraSiNo({.Titolo = TestoLingua(contesto_, "0060002"),
+                                 .Nota = TestoLingua(contesto_, "0060001"),
+                                 .SoloOk = TestoLingua(contesto_, "0140022"),
+                                 .ColoreNota = {}});
+}
+
+void ElencoSchede::Scegli(std::size_t indice) {
+  if (indice < schede_.size()) scelta_ = indice;
+}
+
+std::string ElencoSchede::Testo() const {
+  return schede_.empty() ? std::string() : schede_.at(scelta_).Radice;
+}
+
+bool ElencoSchede::Conferma(std::string_view formChiamante) {
+  contesto_.Stato.PercorsoMemoryCard = Testo();
+  return EqualFold(formChiamante, "frmPlayerConfig");
+}
+
+void ElencoSchede::Annulla() {
+  contesto_.Stato.SelezioneFlashAnnullata = true;
+}
+
+void ElencoSchede::Esplora(Esecutore& esecutore) const {
+  esecutore.Apri(Testo());
+}
+
+}  // namespace kvr5

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/Contesto.h"
+#include "core/Esecutore.h"
+#include "flashcard/SorgenteDrive.h"
+
+namespace kvr5 {
+
+/// An item of cmdFlash.
+struct SchedaTrovata {
+  std::string Radice;          ///< "E:\", the item's text
+  std::optional<Drive> Fatti;  ///< shown beside it; nothing where the host tells nothing
+};
+
+/// frmSelectFlash without its pixels: the scan for cards and the choice of one. A dialog that goes
+/// by the window's own button calls neither Conferma nor Annulla, and leaves both flags.
+class ElencoSchede {
+ public:
+  ElencoSchede(Contesto& contesto, SorgenteDrive& drive) : contesto_(contesto), drive_(drive) {}
+
+  /// Load: clears SelezioneFlashAnnullata and looks for the cards; the first one is selected.
+  /// False when there is none: that was told by frmSiNo, and the dialog has to go.
+  bool Carica();
+  const std::vector<SchedaTrovata>& Schede() const { return schede_; }
+  std::size_t Scelta() const { return scelta_; }
+  /// Selects an item; past the items nothing happens.
+  void Scegli(std::size_t indice);
+  /// The text of cmdFlash: the selected root, or "".
+  std::string Testo() const;
+
+  /// picOk: the text becomes PercorsoMemoryCard. True when the calling form, by its name, shows
+  /// the path and has to run its AggiornaPercorsoMemoryCard.
+  bool Conferma(std::string_view formChiamante);
+  /// picCancel: raises SelezioneFlashAnnullata; the card that was chosen before stays.
+  void Annulla();
+  /// picOpen: the selected card in the host's file browser.
+  void Esplora(Esecutore& esecutore) const;
+
+ private:
+  bool Candidata(const std::string& radice);
+  void DiciNessuna();
+
+  Contesto& contesto_;
+  SorgenteDrive& drive_;
+  std::vector<SchedaTrovata> schede_;
+  std::size_t scelta_ = 0;
+};
+
+}  // namespace kvr5
