@@ -23,6 +23,12 @@ std::string Format(const std::tm& time, const char* picture) {
   return text;
 }
 
+/// True for what breaks a line or turns its direction: controls, separators, bidirectional marks.
+bool SteersLine(char32_t c) {
+  return c < 0x20 || (c >= 0x7F && c < 0xA0) || (c >= 0x2028 && c <= 0x202E) ||
+         (c >= 0x2066 && c <= 0x2069);
+}
+
 }  // namespace
 
 std::string ConValori(std::string_view testo, std::initializer_list<std::string_view> valori) {
@@ -45,8 +51,7 @@ std::string SuUnaRiga(std::string_view testo) {
   std::string line;
   while (!testo.empty()) {
     const utf8::Step step = utf8::Next(testo);
-    const bool control = step.Value < 0x20 || (step.Value >= 0x7F && step.Value < 0xA0);
-    utf8::Append(line, step.Valid && !control ? step.Value : kReplacement);
+    utf8::Append(line, step.Valid && !SteersLine(step.Value) ? step.Value : kReplacement);
     testo.remove_prefix(step.Length);
   }
   return line;

@@ -14,7 +14,8 @@ namespace kvr5 {
 std::string ConValori(std::string_view testo, std::initializer_list<std::string_view> valori);
 
 /// A text from elsewhere (a card's label, a name in a damaged file) fit for one line of a screen:
-/// control characters and bytes that aren't UTF-8 become U+FFFD.
+/// control characters, line separators, marks of the writing direction and bytes that aren't UTF-8
+/// become U+FFFD.
 std::string SuUnaRiga(std::string_view testo);
 
 /// Bytes as a person reads them, in units of 1024, with the locale's marks: "7.4 GB", "512 MB",

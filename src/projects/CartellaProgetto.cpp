@@ -58,8 +58,9 @@ std::vector<std::string> ElencoProgetti(Contesto& contesto) {
   for (const auto& entry : entries.Value()) {
     if (!entry.IsFolder) continue;
     const std::string folder = AggiungiBarra(root + entry.Name);
-    if (FileExists(contesto.Files, folder + "config.txt") &&
-        FileExists(contesto.Files, folder + "config.cfg")) {
+    // In the spelling that they are written with: it is found at once, any other by a search.
+    if (FileExists(contesto.Files, folder + "Config.txt") &&
+        FileExists(contesto.Files, folder + "Config.cfg")) {
       names.push_back(entry.Name);
     }
   }
