@@ -62,3 +62,36 @@ function(kvr5_add_test name)
   gtest_discover_tests(test_${name} TEST_PREFIX "${name}/" DISCOVERY_MODE PRE_TEST
     PROPERTIES TIMEOUT 300)
 endfunction()
+
+# kvr5_add_screens(<name> [DEPENDS <target>...])
+# The library kvr5_<name>_screens of the folder screens/ below the current one: the only ones that
+# see the toolkit.
+function(kvr5_add_screens name)
+  if(NOT KVR5_SCREENS)
+    return()
+  endif()
+  cmake_parse_arguments(ARG "" "" "DEPENDS" ${ARGN})
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS
+    "${CMAKE_CURRENT_SOURCE_DIR}/screens/*.cpp" "${CMAKE_CURRENT_SOURCE_DIR}/screens/*.h")
+  add_library(kvr5_${name}_screens STATIC ${sources})
+  target_include_directories(kvr5_${name}_screens SYSTEM PRIVATE ${Qt6Widgets_INCLUDE_DIRS})
+  target_link_libraries(kvr5_${name}_screens PUBLIC kvr5_${name} ${ARG_DEPENDS} Qt6::Widgets
+    PRIVATE kvr5_options)
+endfunction()
+
+# kvr5_add_screen_test(<name> LINK <target>...)
+# The GoogleTest program test_<name>_screens of all sources of the current folder: real widgets,
+# operated by mouse and keys, without a display.
+function(kvr5_add_screen_test name)
+  cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS
+    "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp" "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
+  set(target test_${name}_screens)
+  add_executable(${target} ${sources})
+  target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+  target_link_libraries(${target} PRIVATE
+    ${ARG_LINK} kvr5_test_screens GTest::gtest GTest::gmock Qt6::Test kvr5_options)
+  include(GoogleTest)
+  gtest_discover_tests(${target} TEST_PREFIX "${name}/screens/" DISCOVERY_MODE PRE_TEST
+    PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 120)
+endfunction()

@@ -6,7 +6,10 @@ namespace kvr5 {
 
 CopyOutcome ShellCopy(FileSystem& files, const std::vector<CopyPair>& pairs,
                       CopyObserver& observer) {
-  return CopyRun(files, observer).Run(pairs);
+  observer.Begin();
+  const CopyOutcome outcome = CopyRun(files, observer).Run(pairs);
+  observer.End();
+  return outcome;
 }
 
 }  // namespace kvr5

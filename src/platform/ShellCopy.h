@@ -39,6 +39,9 @@ struct CopyFailure {
 class CopyObserver {
  public:
   virtual ~CopyObserver() = default;
+  /// Called before the first and after the last of all other calls of one operation.
+  virtual void Begin() {}
+  virtual void End() {}
   /// Called for each folder that is counted, before each file and after each piece of at most
   /// 1 MiB; lets events run. False cancels.
   virtual bool Progress(const CopyState& state) = 0;

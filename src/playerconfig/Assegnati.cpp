@@ -90,12 +90,22 @@ std::string CifreAssegnati(Contesto& contesto, const ElencoAssegnati& elenco) {
   return figures;
 }
 
-std::string SegnoAssegnato(Contesto& contesto, const Assegnato& riga) {
+ParoleAssegnato::ParoleAssegnato(Contesto& contesto)
+    : Mancante(TestoLinguaO(contesto, "0040062", "missing")),
+      StessoFile(TestoLinguaO(contesto, "0040064", "same file: recording will stop")),
+      EraQui(TestoLinguaO(contesto, "0130129", "It was here:")),
+      AltroIngresso(TestoLingua(contesto, "0130131")) {}
+
+std::string SegnoAssegnato(const ParoleAssegnato& parole, const Assegnato& riga) {
   std::string mark;
-  if (riga.Mancante) mark = TestoLinguaO(contesto, "0040062", "missing");
+  if (riga.Mancante) mark = parole.Mancante;
   if (!riga.StessoFile) return mark;
   if (!mark.empty()) mark += ", ";
-  return mark + TestoLinguaO(contesto, "0040064", "same file: recording will stop");
+  return mark + parole.StessoFile;
+}
+
+std::string SegnoAssegnato(Contesto& contesto, const Assegnato& riga) {
+  return SegnoAssegnato(ParoleAssegnato(contesto), riga);
 }
 
 }  // namespace kvr5

@@ -36,7 +36,17 @@ struct ElencoAssegnati {
 /// folder is read once, each source looked up once.
 ElencoAssegnati Assegnati(const Contesto& contesto, const std::vector<RigaIngresso>& righe);
 
+/// The words for what is wrong with a row, in the user's language; read once for a whole list.
+struct ParoleAssegnato {
+  explicit ParoleAssegnato(Contesto& contesto);
+  std::string Mancante;
+  std::string StessoFile;
+  std::string EraQui;         ///< before the path of a missing file
+  std::string AltroIngresso;  ///< what to do about a file that two inputs use
+};
+
 /// What a row is marked with: "missing", "same file: recording will stop", both, or "".
+std::string SegnoAssegnato(const ParoleAssegnato& parole, const Assegnato& riga);
 std::string SegnoAssegnato(Contesto& contesto, const Assegnato& riga);
 
 /// "2 files, 1 missing" in the user's language; the missing ones only where there are any.

@@ -1,7 +1,5 @@
 #include "playerconfig/ElencoMp3.h"
 
-#include <utility>
-
 #include "core/Lingua.h"
 #include "platform/Fold.h"
 
@@ -33,12 +31,15 @@ std::optional<std::size_t> ElencoMp3::Indice(std::string_view nome) const {
 }
 
 ElencoMp3 RiempiElencoMp3(const FileSystem& file, std::string_view cartella) {
+  const auto entries = file.List(cartella);
+  return RiempiElencoMp3(entries ? entries.Value() : std::vector<FileInfo>{});
+}
+
+ElencoMp3 RiempiElencoMp3(const std::vector<FileInfo>& voci) {
   ElencoMp3 list{{{" ", NameFault::None}}, 0};
-  auto entries = file.List(cartella);
-  if (!entries) return list;
-  list.Voci.reserve(entries.Value().size() + 1);
-  for (auto& entry : entries.Value()) {
-    if (IsMp3(entry)) list.Voci.push_back({std::move(entry.Name), entry.Unusable});
+  list.Voci.reserve(voci.size() + 1);
+  for (const auto& entry : voci) {
+    if (IsMp3(entry)) list.Voci.push_back({entry.Name, entry.Unusable});
   }
   list.Scelto = FirstFile(list.Voci, [](const auto&) { return true; }).value_or(0);
   return list;

@@ -35,6 +35,9 @@ struct ElencoMp3 {
 /// read gives the blank alone. The folder is read once, whatever the number of its files.
 ElencoMp3 RiempiElencoMp3(const FileSystem& file, std::string_view cartella);
 
+/// The same from the entries of a folder that were read already, in the order of List.
+ElencoMp3 RiempiElencoMp3(const std::vector<FileInfo>& voci);
+
 /// Why a file can't be taken, in the user's language; "" for one that can.
 std::string ParoleDifetto(Contesto& contesto, NameFault difetto);
 

@@ -19,7 +19,7 @@ bool IsKey(std::string text) {
   if (text.ends_with(' ')) text.pop_back();
   const bool digits =
       std::all_of(text.begin(), text.end(), [](char each) { return each >= '0' && each <= '9'; });
-  return digits && (text.size() == 7 || text == "70008");
+  return digits && (text.size() == 7 || text == "70008" || text == "50014");
 }
 
 /// The keys that stand as texts in the sources.

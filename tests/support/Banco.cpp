@@ -24,6 +24,11 @@ Banco::Banco(const std::function<FileSystem&(FileSystem&)>& wrap)
   Prepara();
 }
 
+Banco::Banco(Dialoghi& finestre, Eventi& messaggi, CopyObserver& copia, Processo& programma)
+    : C{Disco, finestre, messaggi, copia, Ora, programma, Cartella.System("program"), {}, {}, {}} {
+  Prepara();
+}
+
 void Banco::Prepara() {
   const fs::path staged = KVR5_STAGED_PROGRAM;
   const fs::path program = Cartella.Host() / "program";
@@ -67,8 +72,12 @@ void Banco::CreaProgetto(const std::string& name, std::int16_t playerType, std::
   state.PlayerName =
       std::array{"", "Veskadro", "Zub", "Ostrel", "KVR5"}.at(static_cast<std::size_t>(playerType));
   state.PlayerConfigDesc = "test";
-  ASSERT_EQ(PreparaCartella(C, name, false), EsitoNuovo::Creato);
-  RiempiCartella(C);
+  // No window comes while a project is staged, whatever the ports of the test are.
+  Contesto quiet{C.Files, Finestre, Messaggi, Copia, C.Ora, C.Programma, C.CartellaProgramma,
+                 C.Luogo, C.Stato,  {}};
+  ASSERT_EQ(PreparaCartella(quiet, name, false), EsitoNuovo::Creato);
+  RiempiCartella(quiet);
+  C.Stato = quiet.Stato;
   if (playerType == 3 && playerMode == 1) Finestre.Prossimo();
 }
 

@@ -68,6 +68,8 @@ class Banco {
   Banco();
   /// The same with a file system of the test's own over the real one.
   explicit Banco(const std::function<FileSystem&(FileSystem&)>& wrap);
+  /// The same with ports to the user, and an end of the process, of the test's own.
+  Banco(Dialoghi& finestre, Eventi& messaggi, CopyObserver& copia, Processo& programma);
 
   TempFolder Cartella;
   PathMap Percorsi;

@@ -1,0 +1,121 @@
+#include "app/Programma.h"
+
+#include <QCoreApplication>
+
+#include "core/Aiuti.h"
+#include "flashcard/Registrazione.h"
+#include "platform/FileOps.h"
+
+namespace kvr5 {
+namespace {
+
+/// The dialog that a recording opens when no card is chosen.
+class SceltaDalDialogo : public SelezioneFlash {
+ public:
+  explicit SceltaDalDialogo(Navigazione& schermi) : schermi_(schermi) {}
+  void Scegli() override { schermi_.ScegliScheda(Schermata::Configurazione); }
+
+ private:
+  Navigazione& schermi_;
+};
+
+}  // namespace
+
+Programma::Programma(const std::string& cartella, Processo& processo)
+    : contesto_{files_, finestre_, eventi_, copia_, ora_, processo, {}, Locale::Host(), {}, {}},
+      vita_([this] { TerminaProgramma(); }),
+      ambiente_{contesto_, *this, documenti_, vita_},
+      drives_(percorsi_, *volumi_, [this] { return TestoDrives(); }),
+      progresso_(ambiente_) {
+  const auto folder = files_.SystemPath(cartella);
+  if (folder) contesto_.CartellaProgramma = folder.Value();
+  finestre_.Collega(ambiente_);
+  copia_.Collega(contesto_);
+  drives_.List();  // letters are bound before any path is looked at
+}
+
+Programma::~Programma() = default;
+
+std::string Programma::TestoDrives() {
+  const auto text = ReadWhole(files_, AggiungiBarra(contesto_.CartellaProgramma) + "Drives.ini");
+  return text ? text.Value() : std::string();
+}
+
+void Programma::Avvia(std::string rigaDiComando) {
+  Main(contesto_, *this, rigaDiComando);
+}
+
+void Programma::Mostra(Schermata schermata) {
+  switch (schermata) {
+    case Schermata::Splash:
+      return splash_->Mostra();
+    case Schermata::Menu:
+      return menu_->Mostra();
+    case Schermata::Impostazioni:
+      return impostazioni_->Mostra();
+    case Schermata::Wizard:
+      return wizard_->Mostra();
+    case Schermata::ElencoProgetti:
+      return elenco_->Mostra();
+    case Schermata::Configurazione:
+      return hub_->Mostra();
+    case Schermata::Nessuna:
+    case Schermata::EditorPlaylist:
+    case Schermata::Palinsesto:
+      return;
+  }
+}
+
+void Programma::MostraElencoProgetti(Schermata chiamante) {
+  elenco_->FormChiamante = chiamante;
+  elenco_->Mostra();
+}
+
+void Programma::ApriConfigurazione(std::int16_t apreDaFlash) {
+  hub_->ApreDaFlash = apreDaFlash;
+  hub_->Mostra();
+}
+
+void Programma::ScegliScheda(Schermata chiamante) {
+  if (scheda_.Caricata()) return;  // its load lets events run: a second press is one too many
+  scheda_->FormChiamante = chiamante;
+  scheda_->MostraModale();
+  eventi_.LasciaCorrere();
+}
+
+void Programma::AggiornaPercorsoMemoryCard() {
+  hub_->AggiornaPercorsoMemoryCard();
+}
+
+void Programma::RiavviaMain() {
+  Main(contesto_, *this, {});
+}
+
+void Programma::TerminaProgramma() {
+  // quit() would first close each window, and the hub would ask its question once more.
+  QCoreApplication::exit();
+}
+
+void Programma::MostraSplash(Schermata successivo) {
+  splash_->FormSuccessivo = successivo;
+  splash_->Mostra();
+}
+
+void Programma::AvviaTempoSplash() {
+  splash_->tmrChiusura.start();
+}
+
+void Programma::RegistraProgetto(TabellaIngressi& ingressi) {
+  SceltaDalDialogo choice(*this);
+  RegistraProgettoSuFlash(contesto_, ingressi, progresso_, choice);
+}
+
+std::optional<Drive> Programma::FattiDellaScheda() {
+  const std::string& root = contesto_.Stato.PercorsoMemoryCard;
+  for (const auto& drive : drives_.List()) {
+    if (drive.Root() == root) return drive;
+  }
+  return {};
+}
+
+}  // namespace kvr5

@@ -1,0 +1,83 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "core/Main.h"
+#include "core/Orologio.h"
+#include "core/screens/EsecutoreQt.h"
+#include "core/screens/EventiQt.h"
+#include "core/screens/FinestraCopia.h"
+#include "core/screens/FinestreQt.h"
+#include "core/screens/Navigazione.h"
+#include "core/screens/frmConfig.h"
+#include "core/screens/frmMain.h"
+#include "core/screens/frmSplash.h"
+#include "flashcard/screens/frmProgress.h"
+#include "flashcard/screens/frmSelectFlash.h"
+#include "platform/Drives.h"
+#include "platform/HostFileSystem.h"
+#include "playerconfig/screens/frmPlayerConfig.h"
+#include "projects/screens/frmCaricaProgetto.h"
+#include "projects/screens/frmRichiestaNomeForm.h"
+#include "projects/screens/frmWizardPanel1.h"
+
+namespace kvr5 {
+
+/// The composition root: the host, the state, the ports as windows, and every screen.
+class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
+ public:
+  /// `cartella`: the program's folder, in the host's form. The process that ends at once and the
+  /// opener of documents are given.
+  Programma(const std::string& cartella, Processo& processo);
+  ~Programma() override;
+
+  /// Runs Main with the command line (without the program's name).
+  void Avvia(std::string rigaDiComando);
+  Contesto& C() { return contesto_; }
+  /// Drops the hub without its question, so that the next project opens in a fresh one.
+  void DimenticaConfigurazione() { hub_.Dimentica(); }
+
+  void Mostra(Schermata schermata) override;
+  void MostraElencoProgetti(Schermata chiamante) override;
+  void ApriConfigurazione(std::int16_t apreDaFlash) override;
+  void ScegliScheda(Schermata chiamante) override;
+  void AggiornaPercorsoMemoryCard() override;
+  void RiavviaMain() override;
+  void TerminaProgramma() override;
+
+  void MostraSplash(Schermata successivo) override;
+  void AvviaTempoSplash() override;
+
+  void RegistraProgetto(TabellaIngressi& ingressi) override;
+  std::optional<Drive> FattiDellaScheda() override;
+
+ private:
+  std::string TestoDrives();
+
+  PathMap percorsi_;
+  HostFileSystem files_{percorsi_};
+  FinestreQt finestre_;
+  EventiQt eventi_;
+  FinestraCopia copia_;
+  OrologioDiSistema ora_;
+  Contesto contesto_;
+  EsecutoreQt documenti_{contesto_};
+  VitaForme vita_;
+  Ambiente ambiente_;
+  std::unique_ptr<VolumeSource> volumi_ = HostVolumes();
+  Drives drives_;
+  DriveDelComputer driveDelComputer_{drives_, files_};
+  ProgressoQt progresso_;
+
+  FormPredefinita<frmSplash> splash_{[this] { return new frmSplash(ambiente_); }};
+  FormPredefinita<frmMain> menu_{[this] { return new frmMain(ambiente_); }};
+  FormPredefinita<frmConfig> impostazioni_{[this] { return new frmConfig(ambiente_); }};
+  FormPredefinita<frmWizardPanel1> wizard_{[this] { return new frmWizardPanel1(ambiente_); }};
+  FormPredefinita<frmCaricaProgetto> elenco_{[this] { return new frmCaricaProgetto(ambiente_); }};
+  FormPredefinita<frmPlayerConfig> hub_{[this] { return new frmPlayerConfig(ambiente_, *this); }};
+  FormPredefinita<frmSelectFlash> scheda_{
+      [this] { return new frmSelectFlash(ambiente_, driveDelComputer_); }};
+};
+
+}  // namespace kvr5

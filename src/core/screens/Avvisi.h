@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QLabel>
+#include <cstdint>
+
+namespace kvr5 {
+
+/// The drawing of a sign in its colour, as a label of its own.
+QLabel* SegnoDi(const char* icona, const QColor& colore, int lato, QWidget* padre);
+
+/// A text of several lines that shows whole, however long, and can be selected with the keyboard.
+QLabel* TestoLungo(const char* nome, const QString& testo, QWidget* padre);
+
+/// Makes a box that is about to be shown as high as its texts need at its width; by itself a window
+/// comes up no higher than two thirds of the screen.
+void MostraIntero(QWidget& finestra);
+
+/// Has a text appear in a colour of the logic's own, on the dark plate that every such colour can
+/// be read on.
+void SuTarga(QLabel& etichetta, std::uint32_t coloreBgr);
+
+}  // namespace kvr5

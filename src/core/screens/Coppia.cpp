@@ -1,0 +1,158 @@
+#include "core/screens/Coppia.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QVariant>
+
+#include "core/screens/Icona.h"
+#include "core/screens/LocalizzaForm.h"
+#include "core/screens/Stile.h"
+#include "core/screens/Tema.h"
+#include "core/screens/Testo.h"
+
+namespace kvr5 {
+namespace {
+
+constexpr int kIcon = 20;
+constexpr int kCardIcon = 48;
+constexpr int kPadding = 12;
+
+}  // namespace
+
+Coppia::Coppia(const char* nomePic, const char* nomeLbl, const QString& scritta, const char* icona,
+               int tag, QWidget* padre)
+    : QAbstractButton(padre), icona_(QLatin1String(icona)) {
+  setObjectName(QLatin1String(nomePic));
+  setFocusPolicy(Qt::StrongFocus);
+  setAttribute(Qt::WA_Hover);
+  setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
+  if (*nomeLbl != '\0') {
+    etichetta_ = new QLabel(this);
+    etichetta_->setObjectName(QLatin1String(nomeLbl));
+    etichetta_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    etichetta_->setTextFormat(Qt::PlainText);
+    etichetta_->setForegroundRole(QPalette::WindowText);
+    if (tag >= 0) etichetta_->setProperty(kTag, tag);
+  }
+  ImpostaScritta(scritta);
+}
+
+void Coppia::ImpostaScritta(const QString& testo) {
+  setText(SenzaMnemonico(testo));
+  setAccessibleName(testo);
+  if (etichetta_ != nullptr) {
+    etichetta_->setText(testo);
+  } else {
+    setToolTip(testo);
+  }
+  updateGeometry();
+  Disponi();
+}
+
+void Coppia::ImpostaGenere(Genere genere) {
+  genere_ = genere;
+  if (etichetta_ != nullptr) {
+    const bool large = genere == Genere::Carta;
+    etichetta_->setFont(FontDi(large                        ? Carattere::Schermata
+                               : genere == Genere::Primario ? Carattere::Riquadro
+                                                            : Carattere::Corpo));
+    etichetta_->setAlignment(large ? Qt::AlignHCenter | Qt::AlignTop : Qt::AlignVCenter);
+    etichetta_->setWordWrap(large);
+  }
+  if (genere == Genere::Carta) setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  Colora();
+  updateGeometry();
+  Disponi();
+  update();
+}
+
+void Coppia::ImpostaIcona(const char* icona) {
+  icona_ = QLatin1String(icona);
+  update();
+}
+
+int Coppia::LatoIcona() const {
+  return genere_ == Genere::Carta ? kCardIcon : kIcon;
+}
+
+QSize Coppia::sizeHint() const {
+  const int height = (genere_ == Genere::Primario ? spazi::kPrimario : spazi::kPulsante);
+  if (etichetta_ == nullptr) return {height, height};
+  const QSize text = etichetta_->sizeHint();
+  if (genere_ == Genere::Carta) {
+    return {220, kCardIcon + spazi::kMedio + text.height() + 2 * spazi::kLargo};
+  }
+  return {2 * kPadding + kIcon + spazi::kStretto + text.width(), height};
+}
+
+QRect Coppia::PostoIcona() const {
+  const int side = LatoIcona();
+  if (genere_ == Genere::Carta) {
+    const int text = etichetta_->heightForWidth(width() - 2 * spazi::kLargo);
+    const int top = (height() - side - spazi::kMedio - text) / 2;
+    return {(width() - side) / 2, top, side, side};
+  }
+  if (etichetta_ == nullptr) return {(width() - side) / 2, (height() - side) / 2, side, side};
+  const int content = side + spazi::kStretto + etichetta_->sizeHint().width();
+  return {std::max(kPadding, (width() - content) / 2), (height() - side) / 2, side, side};
+}
+
+void Coppia::Disponi() {
+  if (etichetta_ == nullptr) return;
+  const QRect icon = PostoIcona();
+  if (genere_ == Genere::Carta) {
+    const int wide = width() - 2 * spazi::kLargo;
+    etichetta_->setGeometry(spazi::kLargo, icon.bottom() + 1 + spazi::kMedio, wide,
+                            etichetta_->heightForWidth(wide));
+    return;
+  }
+  const int left = icon.right() + 1 + spazi::kStretto;
+  etichetta_->setGeometry(left, 0, std::max(0, width() - left - 2), height());
+}
+
+QColor Coppia::ColoreTesto() const {
+  const Tema& tema = Tema::Corrente();
+  if (!isEnabled()) return tema.Disabilitato;
+  if (genere_ == Genere::Primario) return tema.SuPrimario;
+  return genere_ == Genere::Pericolo ? tema.Errore : tema.Testo;
+}
+
+void Coppia::Colora() {
+  if (etichetta_ == nullptr) return;
+  QPalette palette = etichetta_->palette();
+  palette.setColor(QPalette::WindowText, ColoreTesto());
+  etichetta_->setPalette(palette);
+}
+
+void Coppia::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  DipingiPulsante(
+      painter, rect(),
+      {.Genere = genere_, .Abilitato = isEnabled(), .Sopra = underMouse(), .Premuto = isDown()});
+  if (hasFocus()) DipingiFuoco(painter, rect());
+  const bool card = genere_ == Genere::Carta && isEnabled();
+  DipingiIcona(painter, PostoIcona(), icona_, card ? Tema::Corrente().Primario : ColoreTesto());
+}
+
+void Coppia::resizeEvent(QResizeEvent* event) {
+  QAbstractButton::resizeEvent(event);
+  Disponi();
+}
+
+void Coppia::changeEvent(QEvent* event) {
+  QAbstractButton::changeEvent(event);
+  if (event->type() == QEvent::EnabledChange) Colora();
+}
+
+void Coppia::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (enter && !event->isAutoRepeat()) {
+    click();
+    return;
+  }
+  QAbstractButton::keyPressEvent(event);
+}
+
+}  // namespace kvr5

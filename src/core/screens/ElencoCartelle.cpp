@@ -1,0 +1,81 @@
+#include "core/screens/ElencoCartelle.h"
+
+#include <QKeyEvent>
+
+#include "core/Aiuti.h"
+#include "core/screens/Icona.h"
+#include "core/screens/Tema.h"
+#include "core/screens/Testo.h"
+#include "platform/FileOps.h"
+
+namespace kvr5 {
+namespace {
+
+/// The folder that holds this one; "" at a root.
+std::string ParentOf(const std::string& path) {
+  constexpr std::size_t kRoot = 3;  // "C:\"
+  if (path.size() <= kRoot) return {};
+  const std::string parent = EstraiCartella(path);
+  return parent.size() <= kRoot ? parent : parent.substr(0, parent.size() - 1);
+}
+
+std::string WithoutBar(std::string path) {
+  constexpr std::size_t kRoot = 3;
+  while (path.size() > kRoot && path.ends_with('\\')) path.pop_back();
+  return path;
+}
+
+}  // namespace
+
+ElencoCartelle::ElencoCartelle(Contesto& contesto, const char* nome, QWidget* padre)
+    : QListWidget(padre), contesto_(contesto) {
+  setObjectName(QLatin1String(nome));
+  setUniformItemSizes(true);
+  setIconSize({16, 16});
+  connect(this, &QListWidget::itemDoubleClicked, this,
+          [this](const QListWidgetItem* item) { Entra(item); });
+}
+
+void ElencoCartelle::ImpostaPercorso(const std::string& percorso) {
+  const std::string folder = WithoutBar(percorso);
+  if (!FolderExists(contesto_.Files, folder)) return;
+  percorso_ = folder;
+  Riempi();
+  if (SuCambio) SuCambio();
+}
+
+void ElencoCartelle::Riempi() {
+  clear();
+  const QIcon icon = IconaDi(QStringLiteral("cartella"), Tema::Corrente().Attenuato);
+  const QIcon up = IconaDi(QStringLiteral("su"), Tema::Corrente().Attenuato);
+  if (const std::string parent = ParentOf(percorso_); !parent.empty()) {
+    auto* item = new QListWidgetItem(up, QStringLiteral(".."), this);
+    item->setData(Qt::UserRole, Qs(parent));
+  }
+  auto entries = contesto_.Files.List(percorso_);
+  voci_ = entries ? std::move(entries.Value()) : std::vector<FileInfo>{};
+  for (const auto& entry : voci_) {
+    if (!entry.IsFolder || entry.Name.starts_with('.')) continue;
+    auto* item = new QListWidgetItem(icon, Qs(entry.Name), this);
+    item->setData(Qt::UserRole, Qs(AggiungiBarra(percorso_) + entry.Name));
+  }
+  setCurrentRow(0);
+}
+
+void ElencoCartelle::Entra(const QListWidgetItem* voce) {
+  if (voce != nullptr) ImpostaPercorso(Std(voce->data(Qt::UserRole).toString()));
+}
+
+void ElencoCartelle::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    Entra(currentItem());
+    return;
+  }
+  if (event->key() == Qt::Key_Backspace) {
+    if (const std::string parent = ParentOf(percorso_); !parent.empty()) ImpostaPercorso(parent);
+    return;
+  }
+  QListWidget::keyPressEvent(event);
+}
+
+}  // namespace kvr5

@@ -1,0 +1,14 @@
+#include "core/screens/EsecutoreQt.h"
+
+#include <QDesktopServices>
+#include <QUrl>
+
+#include "core/screens/Testo.h"
+
+namespace kvr5 {
+
+bool EsecutoreQt::Apri(const std::string& percorso) {
+  return QDesktopServices::openUrl(QUrl::fromLocalFile(Qs(contesto_.Files.HostPath(percorso))));
+}
+
+}  // namespace kvr5

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "core/Contesto.h"
+#include "core/Esecutore.h"
+
+namespace kvr5 {
+
+/// Opens documents and folders with the host's own programs.
+class EsecutoreQt : public Esecutore {
+ public:
+  explicit EsecutoreQt(Contesto& contesto) : contesto_(contesto) {}
+  bool Apri(const std::string& percorso) override;
+
+ private:
+  Contesto& contesto_;
+};
+
+}  // namespace kvr5

@@ -1,0 +1,115 @@
+#include "core/screens/FinestraCopia.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "core/Lingua.h"
+#include "core/Parole.h"
+#include "core/ParoleCopia.h"
+#include "core/screens/Pagina.h"
+#include "core/screens/Tema.h"
+#include "core/screens/Testo.h"
+
+namespace kvr5 {
+namespace {
+
+constexpr qint64 kPatience = 500;  // milliseconds until the window comes
+constexpr int kWidth = 480;
+
+QString Words(Contesto& contesto, const char* key, const char* fallback,
+              std::initializer_list<std::string_view> values) {
+  return Qs(ConValori(TestoLinguaO(contesto, key, fallback), values));
+}
+
+/// "1:05" for 65 seconds.
+std::string MinutesAndSeconds(qint64 seconds) {
+  const std::string rest = std::to_string(seconds % 60);
+  return std::to_string(seconds / 60) + (rest.size() == 1 ? ":0" : ":") + rest;
+}
+
+}  // namespace
+
+RiquadroCopia::RiquadroCopia(Contesto& contesto, QWidget* padre)
+    : QDialog(padre), contesto_(contesto) {
+  setObjectName(QStringLiteral("FinestraCopia"));
+  setWindowModality(Qt::ApplicationModal);
+  setWindowTitle(Qs(TestoLinguaO(contesto, "0130001", "Copying files")));
+  setMinimumWidth(kWidth);
+  auto* page = NuovaPagina(*this);
+  file_ = NuovaEtichetta("lblFile", {}, -1, this);
+  quanto_ = NuovaEtichetta("lblQuanto", {}, -1, this);
+  tempo_ = NuovaEtichetta("lblTempo", {}, -1, this);
+  Veste(*tempo_, Carattere::Suggerimento, Ruolo::Attenuato);
+  barra_ = new Barra(this);
+  barra_->setObjectName(QStringLiteral("picBarra"));
+  annulla_ = new Coppia("cmdAnnulla", "lblAnnulla", "", "rimuovi", -1, this);
+  annulla_->ImpostaScritta(Qs(TestoLinguaO(contesto, "0130092", "Cancel")));
+  page->addWidget(file_);
+  page->addWidget(barra_);
+  page->addWidget(quanto_);
+  page->addLayout(Riga({tempo_, nullptr, annulla_}));
+  connect(annulla_, &QAbstractButton::clicked, this, [this] { reject(); });
+}
+
+void RiquadroCopia::reject() {
+  annullato_ = true;
+  annulla_->setEnabled(false);
+}
+
+void RiquadroCopia::Aggiorna(const CopyState& stato, qint64 millisecondi) {
+  if (!isVisible()) show();
+  Scrivi(stato, millisecondi);
+}
+
+void RiquadroCopia::Scrivi(const CopyState& stato, qint64 millisecondi) {
+  const QString path = Qs(PercorsoPerPersone(contesto_, stato.File));
+  file_->setText(fontMetrics().elidedText(path, Qt::ElideMiddle, kWidth - 2 * spazi::kLargo));
+  file_->setToolTip(path);
+  if (stato.FileNumber == 0) {
+    quanto_->setText(
+        Words(contesto_, "0130084", "Counting the files: %1", {std::to_string(stato.FileCount)}));
+    return;
+  }
+  const double part = stato.BytesTotal == 0 ? 0.0
+                                            : static_cast<double>(stato.BytesDone) /
+                                                  static_cast<double>(stato.BytesTotal);
+  barra_->ImpostaParte(part);
+  quanto_->setText(Words(contesto_, "0130080", "File %1 of %2, %3 of %4",
+                         {std::to_string(stato.FileNumber), std::to_string(stato.FileCount),
+                          QuantitaInParole(stato.BytesDone, contesto_.Luogo),
+                          QuantitaInParole(stato.BytesTotal, contesto_.Luogo)}));
+  if (stato.BytesDone == 0 || millisecondi < 1) return;
+  const double rate =
+      static_cast<double>(stato.BytesDone) * 1000 / static_cast<double>(millisecondi);
+  const auto left = static_cast<double>(stato.BytesTotal - stato.BytesDone) / rate;
+  tempo_->setText(Words(contesto_, "0130081", "%1 a second, %2 left",
+                        {QuantitaInParole(static_cast<std::uint64_t>(rate), contesto_.Luogo),
+                         MinutesAndSeconds(static_cast<qint64>(left) + 1)}));
+}
+
+void FinestraCopia::Begin() {
+  inizio_.start();
+}
+
+bool FinestraCopia::Progress(const CopyState& state) {
+  if (!inizio_.isValid()) inizio_.start();
+  if (!riquadro_ && inizio_.elapsed() >= kPatience) {
+    riquadro_ = std::make_unique<RiquadroCopia>(*contesto_, QApplication::activeWindow());
+  }
+  if (riquadro_) riquadro_->Aggiorna(state, inizio_.elapsed());
+  contesto_->Messaggi.LasciaCorrere();
+  return !riquadro_ || !riquadro_->Annullato();
+}
+
+void FinestraCopia::Failed(const CopyFailure& failure) {
+  riquadro_.reset();
+  contesto_->Finestre.MostraMessaggio(BoxGuastoCopia(*contesto_, failure));
+}
+
+void FinestraCopia::End() {
+  riquadro_.reset();
+  inizio_.invalidate();
+}
+
+}  // namespace kvr5

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QDialog>
+#include <QElapsedTimer>
+#include <memory>
+
+#include "core/Contesto.h"
+#include "core/screens/Barra.h"
+#include "core/screens/Coppia.h"
+
+class QLabel;
+
+namespace kvr5 {
+
+/// The window of one copy: the file at work, how much is done, how fast, how long it will take, and
+/// the cancel.
+class RiquadroCopia : public QDialog {
+ public:
+  RiquadroCopia(Contesto& contesto, QWidget* padre);
+  /// `millisecondi`: since the copy began.
+  void Aggiorna(const CopyState& stato, qint64 millisecondi);
+  bool Annullato() const { return annullato_; }
+  /// The window's own button and Esc cancel too.
+  void reject() override;
+
+ private:
+  void Scrivi(const CopyState& stato, qint64 millisecondi);
+
+  Contesto& contesto_;
+  QLabel* file_;
+  QLabel* quanto_;
+  QLabel* tempo_;
+  Barra* barra_;
+  Coppia* annulla_;
+  bool annullato_ = false;
+};
+
+/// Shows a copy's window once it has taken about half a second, and its failure in the window's own
+/// words until it is acknowledged.
+class FinestraCopia : public CopyObserver {
+ public:
+  FinestraCopia() = default;
+  /// To be called once, before the first copy.
+  void Collega(Contesto& contesto) { contesto_ = &contesto; }
+
+  void Begin() override;
+  bool Progress(const CopyState& state) override;
+  void Failed(const CopyFailure& failure) override;
+  void End() override;
+
+ private:
+  Contesto* contesto_ = nullptr;
+  std::unique_ptr<RiquadroCopia> riquadro_;
+  QElapsedTimer inizio_;
+};
+
+}  // namespace kvr5

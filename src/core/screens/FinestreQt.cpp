@@ -1,0 +1,62 @@
+#include "core/screens/FinestreQt.h"
+
+#include <QApplication>
+#include <QFileDialog>
+
+#include "core/screens/RiquadroMessaggio.h"
+#include "core/screens/Testo.h"
+
+namespace kvr5 {
+namespace {
+
+/// A box needs the plain pointer; a routine that left the busy one on finds it on again.
+class PlainPointer {
+ public:
+  PlainPointer() : busy_(QGuiApplication::overrideCursor() != nullptr) {
+    if (busy_) QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
+  }
+  ~PlainPointer() {
+    if (busy_) QGuiApplication::restoreOverrideCursor();
+  }
+  PlainPointer(const PlainPointer&) = delete;
+  PlainPointer& operator=(const PlainPointer&) = delete;
+
+ private:
+  bool busy_;
+};
+
+}  // namespace
+
+Risposta FinestreQt::MostraMessaggio(const Messaggio& messaggio) {
+  const PlainPointer pointer;
+  RiquadroMessaggio box(ambiente_->C, messaggio, QApplication::activeWindow());
+  box.exec();
+  return box.Esito();
+}
+
+std::uint8_t FinestreQt::MostraSiNo(const BoxSiNo& box) {
+  const PlainPointer pointer;
+  auto& state = ambiente_->C.Stato;
+  frmSiNo& form = *frmSiNo_;
+  form.Carica();
+  form.setWindowTitle(Qs(box.Titolo));
+  form.ImpostaNota(QsRighe(box.Nota));
+  if (box.ColoreNota) form.ColoraNota(*box.ColoreNota);
+  if (box.SoloOk) form.MostraSoloOk(*box.SoloOk);
+  state.RispostaSiNo = 0;
+  form.MostraModale();
+  return state.RispostaSiNo;
+}
+
+std::string FinestreQt::SfogliaCartella(const std::string& titolo, const std::string& inizio) {
+  const PlainPointer pointer;
+  const FileSystem& files = ambiente_->C.Files;
+  const QString start = inizio.empty() ? QString() : Qs(files.HostPath(inizio));
+  const QString chosen =
+      QFileDialog::getExistingDirectory(QApplication::activeWindow(), Qs(titolo), start);
+  if (chosen.isEmpty()) return {};
+  const auto path = files.SystemPath(Std(chosen));
+  return path ? path.Value() : std::string();
+}
+
+}  // namespace kvr5

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "core/Dialoghi.h"
+#include "core/screens/Ambiente.h"
+#include "core/screens/FormPredefinita.h"
+#include "core/screens/frmSiNo.h"
+
+namespace kvr5 {
+
+/// The boxes and choosers of the logic as windows.
+class FinestreQt : public Dialoghi {
+ public:
+  FinestreQt() = default;
+  /// What the boxes are made with; to be called once, before the first box.
+  void Collega(Ambiente& ambiente) { ambiente_ = &ambiente; }
+
+  Risposta MostraMessaggio(const Messaggio& messaggio) override;
+  std::uint8_t MostraSiNo(const BoxSiNo& box) override;
+  std::string SfogliaCartella(const std::string& titolo, const std::string& inizio) override;
+
+ private:
+  Ambiente* ambiente_ = nullptr;
+  FormPredefinita<frmSiNo> frmSiNo_{[this] { return new frmSiNo(*ambiente_); }};
+};
+
+}  // namespace kvr5

@@ -1,0 +1,115 @@
+#include "core/screens/Form.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QShortcut>
+#include <QWindow>
+#include <utility>
+
+#include "core/Aiuto.h"
+
+namespace kvr5 {
+
+Form::Form(Ambiente& ambiente, const char* nome) : ambiente_(ambiente) {
+  setObjectName(QLatin1String(nome));
+  setWindowFlag(Qt::Window);
+}
+
+Form::~Form() {
+  FineAttesa();
+}
+
+void Form::Carica() {
+  if (stato_ != Stato::Nuova) return;
+  stato_ = Stato::Caricata;
+  ambiente_.Vita.Caricata();
+  AlCaricamento();
+}
+
+void Form::Mostra() {
+  Carica();
+  if (Scaricata()) return;  // its own load may have sent it away
+  show();
+  raise();
+  activateWindow();
+}
+
+void Form::MostraModale() {
+  Carica();
+  if (Scaricata()) return;
+  QWidget* before = QApplication::activeWindow();
+  setWindowModality(Qt::ApplicationModal);
+  setWindowFlag(Qt::Dialog);
+  winId();
+  if (before != nullptr && before != this) {
+    windowHandle()->setTransientParent(before->window()->windowHandle());
+  }
+  show();
+  activateWindow();
+  QEventLoop loop;
+  attesa_ = &loop;
+  loop.exec();
+}
+
+void Form::Nascondi() {
+  hide();
+  FineAttesa();
+}
+
+void Form::FineAttesa() {
+  if (attesa_) attesa_->quit();
+}
+
+void Form::ChiudiDa(Causa causa) {
+  if (!Caricata() || chiude_) return;
+  if (impegni_ > 0) {
+    rinviata_ = causa;
+    return;
+  }
+  chiude_ = true;  // to the end: the unload lets events run, and must not begin once more
+  if (!PuoChiudere(causa)) {
+    chiude_ = false;
+    return;
+  }
+  AlloScarico();
+  stato_ = Stato::Scaricata;
+  Nascondi();
+  deleteLater();
+  ambiente_.Vita.Scaricata();
+}
+
+void Form::FineImpegno() {
+  if (--impegni_ > 0 || !rinviata_) return;
+  const Causa cause = *std::exchange(rinviata_, std::nullopt);
+  QMetaObject::invokeMethod(
+      this, [this, cause] { ChiudiDa(cause); }, Qt::QueuedConnection);
+}
+
+void Form::SuTasto(Qt::Key tasto, std::function<void()> azione) {
+  auto* key = new QShortcut(QKeySequence(tasto), this);
+  key->setAutoRepeat(false);  // a key that is held down is one press
+  connect(key, &QShortcut::activated, this, std::move(azione));
+}
+
+void Form::Aiuto() {
+  ApriAiuto(C(), ambiente_.Documenti);
+}
+
+bool Form::event(QEvent* event) {
+  const bool done = QWidget::event(event);
+  if (event->type() == QEvent::WindowActivate && Caricata() && isVisible()) AllAttivazione();
+  return done;
+}
+
+void Form::closeEvent(QCloseEvent* event) {
+  event->ignore();  // what becomes of the window is the form's own affair
+  ChiudiDa(Causa::Utente);
+}
+
+void Form::mousePressEvent(QMouseEvent* event) {
+  // A click beside the controls leaves the field that has the focus, with its check.
+  if (QWidget* field = focusWidget()) field->clearFocus();
+  QWidget::mousePressEvent(event);
+}
+
+}  // namespace kvr5

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <QEventLoop>
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+#include <optional>
+
+#include "core/screens/Ambiente.h"
+
+namespace kvr5 {
+
+/// A screen: load, show (modal or not), activate, hide, query-unload, unload.
+///
+/// The constructor makes the controls as they are designed and nothing else. The load runs once, at
+/// the first show or when a caller asks for it before it fills controls. A hidden form stays
+/// loaded. An unloaded form is done for: its FormPredefinita makes the next one, so that every
+/// member begins with its initial value again.
+class Form : public QWidget {
+ public:
+  /// Who asks a form to close.
+  enum class Causa { Codice, Utente };
+
+  /// `nome` becomes the objectName, such as "frmMain".
+  Form(Ambiente& ambiente, const char* nome);
+  ~Form() override;
+
+  /// Loads the form unless it is loaded or has been unloaded.
+  void Carica();
+  /// Shows it, not modally, and brings it to the front.
+  void Mostra();
+  /// Shows it and waits until it is hidden or unloaded.
+  void MostraModale();
+  void Nascondi();
+  /// Asks the form itself, and unloads it if it doesn't refuse.
+  void Scarica() { ChiudiDa(Causa::Codice); }
+
+  bool Caricata() const { return stato_ == Stato::Caricata; }
+  bool Scaricata() const { return stato_ == Stato::Scaricata; }
+
+ protected:
+  /// Keeps a form in place while a handler of it lets events run: a close that is asked for in the
+  /// meantime is put off until the last of them is gone.
+  class Impegno {
+   public:
+    explicit Impegno(Form& form) : form_(form) { ++form_.impegni_; }
+    ~Impegno() { form_.FineImpegno(); }
+    Impegno(const Impegno&) = delete;
+    Impegno& operator=(const Impegno&) = delete;
+
+   private:
+    Form& form_;
+  };
+
+  /// The form's own part of each step of its life.
+  virtual void AlCaricamento() {}
+  virtual void AllAttivazione() {}
+  virtual bool PuoChiudere(Causa /*causa*/) { return true; }
+  virtual void AlloScarico() {}
+
+  /// Has a key of the window, wherever the focus is, run `azione`.
+  void SuTasto(Qt::Key tasto, std::function<void()> azione);
+  /// Opens the help document, as F1 and picHelp do.
+  void Aiuto();
+
+  Contesto& C() const { return ambiente_.C; }
+  Ambiente& ambiente_;
+
+  bool event(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+
+ private:
+  enum class Stato { Nuova, Caricata, Scaricata };
+
+  void ChiudiDa(Causa causa);
+  void FineAttesa();
+  void FineImpegno();
+
+  Stato stato_ = Stato::Nuova;
+  bool chiude_ = false;  ///< from a close that was granted to its end
+  int impegni_ = 0;
+  std::optional<Causa> rinviata_;
+  QPointer<QEventLoop> attesa_;
+};
+
+}  // namespace kvr5

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+
+#include "core/Schermata.h"
+
+namespace kvr5 {
+
+/// How a screen hands over to another one without knowing it: the composition root knows them all.
+/// A screen that isn't loaded is loaded by being shown.
+class Navigazione {
+ public:
+  virtual ~Navigazione() = default;
+  /// Shows a screen, not modally; Nessuna does nothing.
+  virtual void Mostra(Schermata schermata) = 0;
+  /// Shows frmCaricaProgetto, which comes back to `chiamante`.
+  virtual void MostraElencoProgetti(Schermata chiamante) = 0;
+  /// Shows frmPlayerConfig for the open project: 0 just made, 1 from the disk, 2 from a card.
+  virtual void ApriConfigurazione(std::int16_t apreDaFlash) = 0;
+  /// Shows frmSelectFlash modally for `chiamante`.
+  virtual void ScegliScheda(Schermata chiamante) = 0;
+  /// Has frmPlayerConfig show the chosen card anew.
+  virtual void AggiornaPercorsoMemoryCard() = 0;
+  /// Runs Main once more, as every visit to the settings ends.
+  virtual void RiavviaMain() = 0;
+  /// Ends the whole program, whatever screens are loaded.
+  virtual void TerminaProgramma() = 0;
+};
+
+}  // namespace kvr5

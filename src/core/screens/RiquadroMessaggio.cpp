@@ -1,0 +1,123 @@
+#include "core/screens/RiquadroMessaggio.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+#include <vector>
+
+#include "core/Lingua.h"
+#include "core/screens/Avvisi.h"
+#include "core/screens/Coppia.h"
+#include "core/screens/Tema.h"
+#include "core/screens/Testo.h"
+
+namespace kvr5 {
+namespace {
+
+struct Sign {
+  const char* Icon;
+  QColor Colour;
+};
+
+Sign SignOf(Icona icona) {
+  const Tema& tema = Tema::Corrente();
+  switch (icona) {
+    case Icona::Avviso:
+      return {"avviso", tema.Avviso};
+    case Icona::Domanda:
+      return {"domanda", tema.Fuoco};
+    case Icona::Informazione:
+    case Icona::Nessuna:
+      break;
+  }
+  return {"informazione", tema.Fuoco};
+}
+
+struct Button {
+  Risposta Answer;
+  const char* Name;
+  const char* Icon;
+  const char* Key;
+  const char* Caption;
+};
+
+std::vector<Button> ButtonsOf(Pulsanti pulsanti) {
+  const Button yes{Risposta::Si, "cmdYes", "fatto", "0130090", "Yes"};
+  const Button no{Risposta::No, "cmdNo", "rimuovi", "0130091", "No"};
+  const Button cancel{Risposta::Annulla, "cmdCancel", "indietro", "0130092", "Cancel"};
+  switch (pulsanti) {
+    case Pulsanti::SiNo:
+      return {no, yes};
+    case Pulsanti::SiNoAnnulla:
+      return {cancel, no, yes};
+    case Pulsanti::Ok:
+      break;
+  }
+  return {{Risposta::Ok, "cmdOk", "fatto", "0130093", "OK"}};
+}
+
+Risposta Closed(Pulsanti pulsanti) {
+  if (pulsanti == Pulsanti::Ok) return Risposta::Ok;
+  return pulsanti == Pulsanti::SiNo ? Risposta::No : Risposta::Annulla;
+}
+
+}  // namespace
+
+RiquadroMessaggio::RiquadroMessaggio(Contesto& contesto, const Messaggio& messaggio, QWidget* padre)
+    : QDialog(padre), esito_(Closed(messaggio.Scelte)) {
+  setObjectName(QStringLiteral("RiquadroMessaggio"));
+  setWindowTitle(Qs(messaggio.Titolo));
+  auto* page = new QVBoxLayout(this);
+  page->setContentsMargins(spazi::kLargo, spazi::kLargo, spazi::kLargo, spazi::kMedio);
+  page->setSpacing(spazi::kMedio);
+  auto* top = new QHBoxLayout();
+  top->setSpacing(spazi::kMedio);
+  const Sign sign = SignOf(messaggio.Segno);
+  top->addWidget(SegnoDi(sign.Icon, sign.Colour, 32, this), 0, Qt::AlignTop);
+  auto* words = new QVBoxLayout();
+  auto* title = TestoLungo("lblTitolo", Qs(messaggio.Titolo), this);
+  Veste(*title, Carattere::Schermata);
+  title->setVisible(!messaggio.Titolo.empty());
+  words->addWidget(title);
+  auto* text = TestoLungo("lblTesto", QsRighe(messaggio.Testo), this);
+  text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  text->setFocusPolicy(Qt::NoFocus);
+  text->setContextMenuPolicy(Qt::NoContextMenu);
+  text->setMinimumWidth(380);
+  words->addWidget(text);
+  top->addLayout(words, 1);
+  page->addLayout(top, 1);
+  AggiungiPulsanti(contesto, messaggio);
+  setAccessibleName(Qs(messaggio.Titolo));
+  setAccessibleDescription(text->text());
+  setMaximumWidth(640);
+}
+
+void RiquadroMessaggio::showEvent(QShowEvent* event) {
+  MostraIntero(*this);
+  QDialog::showEvent(event);
+}
+
+void RiquadroMessaggio::AggiungiPulsanti(Contesto& contesto, const Messaggio& messaggio) {
+  auto* line = new QHBoxLayout();
+  line->setSpacing(spazi::kStretto);
+  line->addStretch();
+  const auto buttons = ButtonsOf(messaggio.Scelte);
+  // A box of one button has that as its default, whatever the caller says.
+  const Risposta standard = buttons.size() == 1 ? buttons[0].Answer : messaggio.Predefinita;
+  for (const auto& button : buttons) {
+    auto* pair = new Coppia(button.Name, "lblPulsante", "", button.Icon, -1, this);
+    pair->ImpostaScritta(Qs(TestoLinguaO(contesto, button.Key, button.Caption)));
+    if (button.Answer == standard) {
+      pair->ImpostaGenere(Coppia::Genere::Primario);
+      pair->setFocus();
+    }
+    connect(pair, &QAbstractButton::clicked, this, [this, answer = button.Answer] {
+      esito_ = answer;
+      accept();
+    });
+    line->addWidget(pair);
+  }
+  static_cast<QVBoxLayout*>(layout())->addLayout(line);
+}
+
+}  // namespace kvr5

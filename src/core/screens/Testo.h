@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+#include <string>
+#include <string_view>
+
+namespace kvr5 {
+
+/// The logic's text (UTF-8) for a control.
+inline QString Qs(std::string_view testo) {
+  return QString::fromUtf8(testo.data(), static_cast<qsizetype>(testo.size()));
+}
+
+/// A text of the logic's boxes, whose lines are divided by CR LF, for a control.
+inline QString QsRighe(std::string_view testo) {
+  return Qs(testo).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+}
+
+/// What a control holds, for the logic.
+inline std::string Std(const QString& testo) {
+  return testo.toStdString();
+}
+
+/// A text that a button takes as it stands, without a mnemonic.
+inline QString SenzaMnemonico(QString testo) {
+  return testo.replace(QLatin1Char('&'), QStringLiteral("&&"));
+}
+
+}  // namespace kvr5

@@ -1,0 +1,165 @@
+#include "core/screens/frmConfig.h"
+
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+#include <QVariant>
+
+#include "core/Lingua.h"
+#include "core/screens/LocalizzaForm.h"
+#include "core/screens/Pagina.h"
+#include "core/screens/Riquadro.h"
+#include "core/screens/Tema.h"
+#include "core/screens/Testo.h"
+
+namespace kvr5 {
+namespace {
+
+constexpr std::int16_t kForm = 9;
+
+}  // namespace
+
+frmConfig::frmConfig(Ambiente& ambiente) : Form(ambiente, "frmConfig"), modello_(ambiente.C) {
+  setWindowTitle(QStringLiteral("Config"));
+  resize(640, 420);
+  Costruisci();
+  Collega();
+}
+
+void frmConfig::Costruisci() {
+  auto* page = NuovaPagina(*this);
+  auto* card = new Riquadro("fraImpostazioni", {}, -1, this);
+  auto* grid = new QGridLayout();
+  grid->setHorizontalSpacing(spazi::kMedio);
+  grid->setVerticalSpacing(spazi::kMedio);
+  lblMp3_Dir = NuovaEtichetta("lblMp3_Dir", QStringLiteral("Project Directory"), 1, this);
+  txtProjectDir = new QLineEdit(this);
+  txtProjectDir->setObjectName(QStringLiteral("txtProjectDir"));
+  txtProjectDir->installEventFilter(this);
+  txtProjectDir->setContextMenuPolicy(Qt::NoContextMenu);
+  txtProjectDir->setAcceptDrops(false);
+  txtProjectDir->setReadOnly(true);
+  cmdSelPrjDir = new Coppia("cmdSelPrjDir", "", {}, "cartella", -1, this);
+  lblMp3_Dir->setBuddy(txtProjectDir);
+  lblLanguage = NuovaEtichetta("lblLanguage", QStringLiteral("Language"), 4, this);
+  cmbLanguage = new QComboBox(this);
+  cmbLanguage->setObjectName(QStringLiteral("cmbLanguage"));
+  lblLanguage->setBuddy(cmbLanguage);
+  lblPlayer = NuovaEtichetta("lblPlayer", QStringLiteral("Mp3 Player"), -1, this);
+  optInternal = new QRadioButton(QStringLiteral("Internal Player"), this);
+  optInternal->setObjectName(QStringLiteral("optInternal"));
+  optExternal =
+      new QRadioButton(QStringLiteral("External Player (use system default player)"), this);
+  optExternal->setObjectName(QStringLiteral("optExternal"));
+  lblPlayer->setBuddy(optInternal);
+  grid->addWidget(lblMp3_Dir, 0, 0);
+  grid->addWidget(txtProjectDir, 0, 1);
+  grid->addWidget(cmdSelPrjDir, 0, 2);
+  grid->addWidget(lblLanguage, 1, 0);
+  grid->addWidget(cmbLanguage, 1, 1);
+  grid->addWidget(lblPlayer, 2, 0);
+  grid->addWidget(optInternal, 2, 1);
+  grid->addWidget(optExternal, 3, 1);
+  grid->setColumnStretch(1, 1);
+  card->Corpo()->addLayout(grid);
+  card->Corpo()->addStretch();
+  picHelp = NuovoAiuto(this);
+  lblTitolo = NuovaEtichetta("lblTitolo", {}, -1, this);
+  Veste(*lblTitolo, Carattere::Schermata);
+  page->addLayout(Riga({lblTitolo, nullptr, picHelp}));
+  page->addWidget(card, 1);
+  cmdExit = new Coppia("cmdExit", "lblEsci", QStringLiteral("Cancel"), "indietro", 3, this);
+  cmdSave = new Coppia("cmdSave", "lblSave", QStringLiteral("Save"), "salva", 2, this);
+  cmdSave->ImpostaGenere(Coppia::Genere::Primario);
+  lblEsci = cmdExit->Etichetta();
+  lblSave = cmdSave->Etichetta();
+  page->addLayout(Riga({cmdExit, nullptr, cmdSave}));
+  OrdineTab({txtProjectDir, cmdSelPrjDir, cmbLanguage, optInternal, optExternal, cmdExit, cmdSave,
+             picHelp});
+}
+
+void frmConfig::Collega() {
+  connect(cmdSelPrjDir, &QAbstractButton::clicked, this, [this] {
+    modello_.Sfoglia();
+    MostraCartella();
+  });
+  connect(cmbLanguage, &QComboBox::activated, this, [this](int index) {
+    modello_.ScegliLingua(static_cast<std::size_t>(index));
+    MostraModificato();
+  });
+  for (QRadioButton* option : {optInternal, optExternal}) {
+    connect(option, &QAbstractButton::clicked, this, [this, option] {
+      modello_.ScegliPlayer(option == optExternal);
+      MostraModificato();
+    });
+  }
+  connect(cmdSave, &QAbstractButton::clicked, this, [this] {
+    modello_.Salva();
+    MostraCartella();
+  });
+  connect(cmdExit, &QAbstractButton::clicked, this, [this] {
+    if (!modello_.ChiedeUscita()) return;
+    uscitaChiesta_ = true;
+    Scarica();
+  });
+  connect(picHelp, &QAbstractButton::clicked, this, [this] { Aiuto(); });
+  SuTasto(Qt::Key_F1, [this] { Aiuto(); });
+}
+
+void frmConfig::AlCaricamento() {
+  LocalizzaForm(C(), kForm, *this);
+  lblTitolo->setText(windowTitle());
+  cmdSelPrjDir->ImpostaScritta(Qs(TestoLingua(C(), "0090005")));
+  modello_.Carica();
+  for (const auto& language : modello_.Lingue()) cmbLanguage->addItem(Qs(language));
+  cmbLanguage->setCurrentIndex(modello_.LinguaScelta() ? static_cast<int>(*modello_.LinguaScelta())
+                                                       : -1);
+  (modello_.PlayerEsterno() ? optExternal : optInternal)->setChecked(true);
+  MostraCartella();
+}
+
+void frmConfig::AllAttivazione() {
+  if (focusWidget() == nullptr) txtProjectDir->setFocus();
+}
+
+void frmConfig::showEvent(QShowEvent* event) {
+  modello_.Mostra();
+  Form::showEvent(event);
+}
+
+void frmConfig::MostraCartella() {
+  const QString folder = Qs(modello_.CartellaPerPersone());
+  txtProjectDir->setText(folder);
+  txtProjectDir->setToolTip(folder);
+  txtProjectDir->setCursorPosition(0);
+  MostraModificato();
+}
+
+void frmConfig::MostraModificato() {
+  cmdSave->setEnabled(modello_.Modificato());
+  lblSave->setVisible(modello_.Modificato());
+}
+
+bool frmConfig::PuoChiudere(Causa causa) {
+  return causa == Causa::Codice || uscitaChiesta_ || modello_.ChiedeUscita();
+}
+
+void frmConfig::AlloScarico() {
+  hide();
+  ambiente_.Schermi.RiavviaMain();
+}
+
+bool frmConfig::eventFilter(QObject* object, QEvent* event) {
+  if (object == txtProjectDir && event->type() == QEvent::KeyPress) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    const bool passes = key == Qt::Key_Tab || key == Qt::Key_Backtab || key == Qt::Key_F1 ||
+                        key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt;
+    if (!passes) {
+      cmdSelPrjDir->click();
+      return true;
+    }
+  }
+  return Form::eventFilter(object, event);
+}
+
+}  // namespace kvr5

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QLabel>
+
+#include "core/screens/Coppia.h"
+#include "core/screens/Form.h"
+
+namespace kvr5 {
+
+/// The main menu: a new project, an old one, the settings, the end.
+class frmMain : public Form {
+ public:
+  explicit frmMain(Ambiente& ambiente);
+
+  QWidget* imgUpFrameLogo;
+  Coppia* picNuovoProgetto;
+  QLabel* lblNuovoProgetto;
+  Coppia* picCaricaDaDisco;
+  QLabel* lblCaricaDaDisco;
+  Coppia* picEsci;
+  QLabel* lblUscita;
+  Coppia* picConfig;
+  QLabel* lblConfigurazione;
+  Coppia* picHelp;
+
+ protected:
+  void AlCaricamento() override;
+  void AllAttivazione() override;
+
+ private:
+  void NuovoProgetto();
+};
+
+}  // namespace kvr5

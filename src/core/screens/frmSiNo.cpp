@@ -1,0 +1,97 @@
+#include "core/screens/frmSiNo.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "core/Lingua.h"
+#include "core/screens/Avvisi.h"
+#include "core/screens/Icona.h"
+#include "core/screens/Tema.h"
+#include "core/screens/Testo.h"
+
+namespace kvr5 {
+namespace {
+
+/// The picture of a button that has a third name for it.
+QWidget* PictureOf(const char* name, Coppia* button) {
+  auto* picture = new QWidget(button);
+  picture->setObjectName(QLatin1String(name));
+  picture->setAttribute(Qt::WA_TransparentForMouseEvents);
+  picture->setGeometry(0, 0, 36, 44);
+  return picture;
+}
+
+}  // namespace
+
+frmSiNo::frmSiNo(Ambiente& ambiente) : Form(ambiente, "frmSiNo") {
+  setWindowTitle(QStringLiteral("Question"));
+  auto* page = new QVBoxLayout(this);
+  page->setContentsMargins(spazi::kLargo, spazi::kLargo, spazi::kLargo, spazi::kMedio);
+  page->setSpacing(spazi::kLargo);
+  page->setSizeConstraint(QLayout::SetMinimumSize);
+  auto* top = new QHBoxLayout();
+  top->setSpacing(spazi::kMedio);
+  segno_ = SegnoDi("domanda", Tema::Corrente().Fuoco, 32, this);
+  top->addWidget(segno_, 0, Qt::AlignTop);
+  lblNota = TestoLungo("lblNota", QStringLiteral("Nota"), this);
+  lblNota->setMinimumWidth(400);
+  top->addWidget(lblNota, 1);
+  page->addLayout(top, 1);
+
+  cmdNo = new Coppia("cmdNo", "lblNo", QStringLiteral("No"), "rimuovi", -1, this);
+  cmdSi = new Coppia("cmdSi", "lblYes", QStringLiteral("Yes"), "fatto", -1, this);
+  cmdSi->ImpostaGenere(Coppia::Genere::Primario);
+  lblNo = cmdNo->Etichetta();
+  lblYes = cmdSi->Etichetta();
+  picCancel = PictureOf("picCancel", cmdNo);
+  picSi = PictureOf("picSi", cmdSi);
+  auto* line = new QHBoxLayout();
+  line->addStretch();
+  line->addWidget(cmdNo);
+  line->addWidget(cmdSi);
+  line->addStretch();
+  page->addLayout(line);
+
+  connect(cmdSi, &QAbstractButton::clicked, this, [this] { Rispondi(1); });
+  connect(cmdNo, &QAbstractButton::clicked, this, [this] { Rispondi(2); });
+  // Enter is swallowed: only a notice, which has one button, can be sent away by it.
+  for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+    SuTasto(key, [this] {
+      if (!cmdNo->isVisible()) cmdSi->click();
+    });
+  }
+  SuTasto(Qt::Key_Escape, [this] { close(); });
+}
+
+void frmSiNo::AlCaricamento() {
+  C().Messaggi.ImpostaPuntatore(Puntatore::Attesa);
+  cmdSi->ImpostaScritta(Qs(TestoLingua(C(), "0050022")));
+  cmdNo->ImpostaScritta(Qs(TestoLingua(C(), "0050021")));
+  C().Messaggi.ImpostaPuntatore(Puntatore::Normale);
+  cmdSi->setFocus();
+}
+
+void frmSiNo::showEvent(QShowEvent* event) {
+  MostraIntero(*this);
+  Form::showEvent(event);
+}
+
+void frmSiNo::MostraSoloOk(const std::string& testo) {
+  Carica();
+  cmdNo->hide();
+  cmdSi->ImpostaScritta(Qs(testo));
+  segno_->setPixmap(DisegnoDi(QStringLiteral("informazione"), segno_->size(),
+                              Tema::Corrente().Fuoco, devicePixelRatioF()));
+}
+
+void frmSiNo::ColoraNota(std::uint32_t colore) {
+  Carica();
+  SuTarga(*lblNota, colore);
+}
+
+void frmSiNo::Rispondi(std::uint8_t risposta) {
+  C().Stato.RispostaSiNo = risposta;
+  Scarica();
+}
+
+}  // namespace kvr5

@@ -1,0 +1,101 @@
+#include "flashcard/screens/frmProgress.h"
+
+#include <QVBoxLayout>
+
+#include "core/Lingua.h"
+#include "core/Parole.h"
+#include "core/screens/LocalizzaForm.h"
+#include "core/screens/Pagina.h"
+#include "core/screens/PrimoPiano.h"
+#include "core/screens/Tema.h"
+#include "core/screens/Testo.h"
+
+namespace kvr5 {
+namespace {
+
+constexpr std::int16_t kForm = 7;
+constexpr int kBarHeight = 16;
+
+}  // namespace
+
+ProgressoQt::~ProgressoQt() {
+  delete finestra_;
+}
+
+void ProgressoQt::Ridisegna() {
+  if (!Caricata()) {
+    if (frmProgress* gone = std::exchange(finestra_, nullptr)) gone->Scarica();
+    return;
+  }
+  if (finestra_ == nullptr) {
+    finestra_ = new frmProgress(ambiente_, *this);
+    finestra_->Carica();
+  }
+  finestra_->Disegna();
+  if (Visibile() != finestra_->isVisible()) {
+    if (Visibile()) {
+      finestra_->Mostra();
+    } else {
+      finestra_->Nascondi();
+    }
+  }
+}
+
+frmProgress::frmProgress(Ambiente& ambiente, ProgressoQt& progresso)
+    : Form(ambiente, "frmProgress"), progresso_(progresso) {
+  setWindowFlag(Qt::Dialog);
+  setFixedSize(FinestraProgresso::PixelPieni + 2 * spazi::kLargo, 180);
+  auto* page = NuovaPagina(*this);
+  lblOperazione = NuovaEtichetta("lblOperazione", QStringLiteral("Operat"), -1, this);
+  lblPerc = NuovaEtichetta("lblPerc", {}, -1, this);
+  page->addLayout(Riga({lblOperazione, nullptr, lblPerc}));
+  picCont = new QWidget(this);
+  picCont->setObjectName(QStringLiteral("picCont"));
+  picCont->setFixedSize(FinestraProgresso::PixelPieni, kBarHeight);
+  picBar = new Barra(picCont);
+  picBar->setObjectName(QStringLiteral("picBar"));
+  picBar->setGeometry(0, 0, FinestraProgresso::PixelPieni, kBarHeight);
+  page->addWidget(picCont);
+  page->addStretch(1);
+  lblNumFile = NuovaEtichetta("lblNumFile", QStringLiteral("1/1"), -1, this);
+  lblFase = NuovaEtichetta("lblFase", {}, -1, this);
+  Veste(*lblFase, Carattere::Suggerimento, Ruolo::Attenuato);
+  picAnnulla = new Coppia("picAnnulla", "lblAnnulla", QStringLiteral("Cancel"), "rimuovi", 1, this);
+  lblAnnulla = picAnnulla->Etichetta();
+  page->addLayout(Riga({lblNumFile, lblFase, nullptr, picAnnulla}));
+  connect(picAnnulla, &QAbstractButton::clicked, this, [this] { progresso_.Annulla(); });
+  tmrCicla.setInterval(1000);
+  connect(&tmrCicla, &QTimer::timeout, this, [this] { progresso_.Tick(); });
+}
+
+void frmProgress::AlCaricamento() {
+  LocalizzaForm(C(), kForm, *this);
+  picBar->setAccessibleName(Qs(TestoLingua(C(), "0130184")));
+  ImpostaPrimoPiano(*this, true);
+  tmrCicla.start();
+}
+
+bool frmProgress::PuoChiudere(Causa causa) {
+  // The operation unloads its window when its work is done; the window's own button only cancels.
+  if (causa == Causa::Utente) progresso_.Annulla();
+  return causa == Causa::Codice;
+}
+
+void frmProgress::Disegna() {
+  lblOperazione->setText(lblOperazione->fontMetrics().elidedText(
+      Qs(progresso_.TestoOperazione()), Qt::ElideRight, FinestraProgresso::PixelPieni - 60));
+  lblOperazione->setToolTip(Qs(progresso_.TestoOperazione()));
+  Veste(*lblOperazione, Carattere::Riquadro,
+        progresso_.TestoAcceso() ? Ruolo::Testo : Ruolo::Attenuato);
+  lblPerc->setText(Qs(progresso_.TestoPercento()));
+  picBar->ImpostaParte(static_cast<double>(progresso_.PixelBarra()) /
+                       FinestraProgresso::PixelPieni);
+  lblNumFile->setText(Qs(progresso_.TestoNumFile()));
+  lblNumFile->setVisible(progresso_.NumFileVisibile());
+  lblFase->setVisible(!progresso_.NumFileVisibile());
+  lblFase->setText(Qs(ConValori(
+      TestoLinguaO(C(), "0130183", "Step %1 of %2"),
+      {std::to_string(progresso_.ValoreCorrente), std::to_string(progresso_.ValoreMassimo)})));
+}
+
+}  // namespace kvr5

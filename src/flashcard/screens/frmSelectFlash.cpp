@@ -1,0 +1,101 @@
+#include "flashcard/screens/frmSelectFlash.h"
+
+#include <QVBoxLayout>
+
+#include "core/Lingua.h"
+#include "core/screens/Avvisi.h"
+#include "core/screens/LocalizzaForm.h"
+#include "core/screens/Pagina.h"
+#include "core/screens/Tema.h"
+#include "core/screens/Testo.h"
+#include "flashcard/FattiScheda.h"
+
+namespace kvr5 {
+namespace {
+
+constexpr std::int16_t kForm = 6;
+
+/// How a form is called by the dialog that asks for its name.
+const char* NameOf(Schermata schermata) {
+  return schermata == Schermata::Configurazione ? "frmPlayerConfig" : "";
+}
+
+}  // namespace
+
+frmSelectFlash::frmSelectFlash(Ambiente& ambiente, SorgenteDrive& drive)
+    : Form(ambiente, "frmSelectFlash"), elenco_(ambiente.C, drive) {
+  setWindowTitle(QStringLiteral("Selezione Percorso Memory Card"));
+  resize(560, 280);
+  Costruisci();
+  connect(cmdFlash, &QComboBox::currentIndexChanged, this, [this](int index) {
+    if (index >= 0) elenco_.Scegli(static_cast<std::size_t>(index));
+    MostraFatti();
+  });
+  connect(picOk, &QAbstractButton::clicked, this, [this] {
+    if (elenco_.Conferma(NameOf(FormChiamante))) ambiente_.Schermi.AggiornaPercorsoMemoryCard();
+    Scarica();
+  });
+  connect(picCancel, &QAbstractButton::clicked, this, [this] {
+    elenco_.Annulla();
+    Scarica();
+  });
+  connect(picOpen, &QAbstractButton::clicked, this,
+          [this] { elenco_.Esplora(ambiente_.Documenti); });
+  SuTasto(Qt::Key_F1, [this] { Aiuto(); });
+  SuTasto(Qt::Key_Escape, [this] { picCancel->click(); });
+}
+
+void frmSelectFlash::Costruisci() {
+  auto* page = NuovaPagina(*this);
+  lblMp3_Dir = NuovaEtichetta("lblMp3_Dir", QStringLiteral("Select Memory Card path"), 3, this);
+  Veste(*lblMp3_Dir, Carattere::Schermata);
+  page->addWidget(lblMp3_Dir);
+  cmdFlash = new QComboBox(this);
+  cmdFlash->setObjectName(QStringLiteral("cmdFlash"));
+  lblMp3_Dir->setBuddy(cmdFlash);
+  page->addWidget(cmdFlash);
+  lblFatti = TestoLungo("lblFatti", {}, this);
+  lblContenuto = TestoLungo("lblContenuto", {}, this);
+  Veste(*lblContenuto, Carattere::Corpo, Ruolo::Attenuato);
+  page->addWidget(lblFatti);
+  page->addWidget(lblContenuto);
+  page->addStretch(1);
+  picOpen = new Coppia("picOpen", "lblExplore", QStringLiteral("Explore"), "cartella", 6, this);
+  picCancel = new Coppia("picCancel", "lblCancel", QStringLiteral("Cancel"), "indietro", 5, this);
+  picOk = new Coppia("picOk", "lblOk", QStringLiteral("OK"), "fatto", 4, this);
+  picOk->ImpostaGenere(Coppia::Genere::Primario);
+  lblExplore = picOpen->Etichetta();
+  lblCancel = picCancel->Etichetta();
+  lblOk = picOk->Etichetta();
+  page->addLayout(Riga({picOpen, nullptr, picCancel, picOk}));
+  OrdineTab({cmdFlash, picOpen, picCancel, picOk});
+}
+
+void frmSelectFlash::AlCaricamento() {
+  LocalizzaForm(C(), kForm, *this);
+  cmdFlash->setAccessibleName(Qs(TestoLingua(C(), "0130187")));
+  picOpen->setToolTip(Qs(TestoLingua(C(), "0130188")));
+  if (!elenco_.Carica()) {
+    Scarica();  // there is no card; that was told
+    return;
+  }
+  for (const auto& card : elenco_.Schede()) cmdFlash->addItem(Qs(card.Radice));
+  cmdFlash->setCurrentIndex(0);
+  MostraFatti();
+  cmdFlash->setFocus();
+}
+
+void frmSelectFlash::MostraFatti() {
+  const auto& cards = elenco_.Schede();
+  if (elenco_.Scelta() >= cards.size()) return;
+  const auto& card = cards[elenco_.Scelta()];
+  lblFatti->setText(card.Fatti ? Qs(FattiScheda(C(), *card.Fatti)) : QString());
+  lblContenuto->setText(Qs(ProgettoSullaScheda(C(), card.Radice)));
+}
+
+void frmSelectFlash::AlloScarico() {
+  hide();
+  ambiente_.Schermi.Mostra(FormChiamante);
+}
+
+}  // namespace kvr5

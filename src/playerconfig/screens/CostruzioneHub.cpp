@@ -1,0 +1,275 @@
+// The controls of the hub and how they lie.
+
+#include <QGridLayout>
+#include <QPainter>
+#include <QScrollArea>
+#include <QVBoxLayout>
+#include <QVariant>
+
+#include "core/Lingua.h"
+#include "core/screens/Avvisi.h"
+#include "core/screens/Icona.h"
+#include "core/screens/LocalizzaForm.h"
+#include "core/screens/Pagina.h"
+#include "core/screens/Tema.h"
+#include "core/screens/Testo.h"
+#include "platform/FileOps.h"
+#include "playerconfig/screens/frmPlayerConfig.h"
+#include "projects/CartellaProgetto.h"
+
+namespace kvr5 {
+namespace {
+
+constexpr int kFileInfoDelay = 500;
+constexpr int kCardWatch = 2000;
+
+/// The drawing of a model.
+class Disegno : public QWidget {
+ public:
+  Disegno(const char* name, QWidget* parent) : QWidget(parent) {
+    setObjectName(QLatin1String(name));
+    setMinimumSize(320, 200);
+    setMaximumSize(480, 300);
+  }
+  void ImpostaNome(const QString& picture) {
+    picture_ = picture;
+    update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QPainter painter(this);
+    DipingiIcona(painter, rect(), picture_, Tema::Corrente().Testo);
+  }
+
+ private:
+  QString picture_;
+};
+
+QString PictureOf(std::int16_t playerType) {
+  switch (playerType) {
+    case 1:
+      return QStringLiteral("pannello-veskadro");
+    case 2:
+      return QStringLiteral("pannello-zub");
+    case 3:
+      return QStringLiteral("pannello-ostrel");
+    default:
+      return QStringLiteral("pannello-kvr5");
+  }
+}
+
+}  // namespace
+
+void frmPlayerConfig::Costruisci() {
+  auto* page = NuovaPagina(*this);
+  page->setSpacing(12);
+  page->addLayout(CostruisciTestata());
+  auto* middle = new QScrollArea(this);
+  middle->setFrameShape(QFrame::NoFrame);
+  middle->setWidgetResizable(true);
+  middle->setFocusPolicy(Qt::NoFocus);
+  middle->setWidget(CostruisciCorpo());
+  middle->viewport()->setAutoFillBackground(false);
+  middle->widget()->setAutoFillBackground(false);
+  page->addWidget(middle, 1);
+  Barra = new Comandi(C(), this);
+  page->addWidget(Barra);
+  CostruisciNascosti();
+  guardia_.setInterval(kCardWatch);
+}
+
+QLayout* frmPlayerConfig::CostruisciTestata() {
+  auto* head = new QVBoxLayout();
+  head->setSpacing(2);
+  lblTipoPlayer = NuovaEtichetta("lblTipoPlayer", QStringLiteral("Player"), -1, this);
+  Veste(*lblTipoPlayer, Carattere::Corpo, Ruolo::Attenuato);
+  lblProgetto = NuovaEtichetta("lblProgetto", {}, -1, this);
+  Veste(*lblProgetto, Carattere::Progetto);
+  lblProgetto->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  lblNonSalvato = NuovaEtichetta("lblNonSalvato", {}, -1, this);
+  Veste(*lblNonSalvato, Carattere::Riquadro, Ruolo::Avviso);
+  QPalette palette = lblNonSalvato->palette();
+  palette.setColor(QPalette::Window, Tema::Corrente().FondoAvviso);
+  lblNonSalvato->setPalette(palette);
+  lblNonSalvato->setAutoFillBackground(true);
+  lblNonSalvato->setMargin(6);
+  lblNonSalvato->hide();
+  picHelp = NuovoAiuto(this);
+  auto* top = Riga({lblProgetto, lblTipoPlayer, lblNonSalvato, picHelp});
+  top->setStretch(0, 1);
+  top->setSpacing(spazi::kMedio);
+  head->addLayout(top);
+  Scheda = new RigaScheda(C(), this);
+  head->addWidget(Scheda);
+  return head;
+}
+
+QWidget* frmPlayerConfig::CostruisciCorpo() {
+  auto* body = new QWidget(this);
+  auto* columns = new QHBoxLayout(body);
+  columns->setContentsMargins(0, 0, 0, 0);
+  columns->setSpacing(spazi::kMedio);
+  auto* left = new QVBoxLayout();
+  fraOutputLevel = new Livelli(C(), body);
+  auto* options = new Riquadro("fraOpzioni", {}, -1, body);
+  Opzioni = new OpzioniIngressi(C(), options);
+  options->Corpo()->addWidget(Opzioni);
+  left->addWidget(fraOutputLevel, 1);
+  left->addWidget(options);
+  columns->addLayout(left, 3);
+  colonne_ = {new QWidget(body), new QWidget(body)};
+  auto* centre = new QVBoxLayout(colonne_[0]);
+  fraIngressiLogici = new IngressiLogici(C(), body);
+  Assegnazioni = new ListaAssegnati(C(), body);
+  centre->addWidget(fraIngressiLogici);
+  centre->addWidget(Assegnazioni, 1);
+  columns->addWidget(colonne_[0], 4);
+  auto* right = new QVBoxLayout(colonne_[1]);
+  for (auto* column : {centre, right}) column->setContentsMargins(0, 0, 0, 0);
+  fraFileName = new PaneMp3(C(), body);
+  fraFileInfo = new PannelloInfo(QStringLiteral("Mp3 info"), 35, 5, kFileInfoDelay, body);
+  right->addWidget(fraFileName, 1);
+  right->addWidget(fraFileInfo);
+  columns->addWidget(colonne_[1], 4);
+  columns->addWidget(CostruisciPannello(), 8);
+  for (auto* column : {left, centre, right}) column->setSpacing(spazi::kMedio);
+  return body;
+}
+
+QWidget* frmPlayerConfig::CostruisciPannello() {
+  auto* frame = new Riquadro("fraPannello", {}, -1, this);
+  picPanel = new Disegno("picPanel", frame);
+  lblModoPanelBig = NuovaEtichetta("lblModoPanelBig", QStringLiteral("Modalità"), -1, frame);
+  Veste(*lblModoPanelBig, Carattere::Schermata);
+  lblModoPanelBig->setAlignment(Qt::AlignCenter);
+  frame->Corpo()->addStretch();
+  frame->Corpo()->addLayout(Riga({nullptr, picPanel, nullptr}), 4);
+  static_cast<QHBoxLayout*>(frame->Corpo()->itemAt(frame->Corpo()->count() - 1)->layout())
+      ->setStretch(1, 4);
+  frame->Corpo()->addWidget(lblModoPanelBig);
+  frame->Corpo()->addStretch();
+  return frame;
+}
+
+void frmPlayerConfig::CostruisciNascosti() {
+  // What no model shows; the controls are there all the same, with their texts.
+  const auto hidden = [this](const char* name, const char* caption, int tag) {
+    auto* label = NuovaEtichetta(name, QString::fromUtf8(caption), tag, this);
+    label->hide();
+    return label;
+  };
+  lblModoPanel = hidden("lblModoPanel", "Modalità", -1);
+  lblModoZub = hidden("lblModoZub", "Modalità", -1);
+  lblModoZubBig = hidden("lblModoZubBig", "Modalità", -1);
+  lblModoOstrel = hidden("lblModoOstrel", "Modalità", -1);
+  lblModoOstrelBig = hidden("lblModoOstrelBig", "Modalità", -1);
+  for (const char* name : {"picPanelSmall", "picZub", "picZubSmall", "picOstrel", "picOstrelSmall",
+                           "picVeskadroSmall"}) {
+    hidden(name, "", -1);
+  }
+  struct Caption {
+    const char* Name;
+    const char* Text;
+    int Tag;
+  };
+  for (const auto& each : {Caption{"fra232", "RS232", 103}, Caption{"fra232bis", "RS232", 103},
+                           Caption{"fra485", "485", 105}, Caption{"fra485bis", "485", 105},
+                           Caption{"fraCopiaFilesFlash", "Manual File Copy", 107}}) {
+    hidden(each.Name, each.Text, each.Tag);
+  }
+}
+
+void frmPlayerConfig::Disponi() {
+  const bool noInputs = !layout_.fraIngressiLogici;
+  fraOutputLevel->setVisible(layout_.fraOutputLevel);
+  Opzioni->Disponi(layout_);
+  fraIngressiLogici->setVisible(layout_.fraIngressiLogici);
+  Assegnazioni->setVisible(layout_.fraIngressiLogici);
+  fraFileName->setVisible(layout_.fraFileName);
+  fraFileInfo->setVisible(layout_.fraFileInfo);
+  for (QWidget* column : colonne_) column->setVisible(!noInputs);
+  fraFileName->lblMp3_Dir->setVisible(layout_.lblMp3_Dir);
+  fraFileName->picDisk->setVisible(layout_.picDisk);
+  fraFileName->DirDirectoryMp3->setEnabled(layout_.DirDirectoryMp3);
+  fraFileName->cmdStopMp3->setVisible(layout_.cmdStopMp3);
+  fraIngressiLogici->cmdMp3Preview_Stop->setVisible(layout_.cmdMp3Preview_Stop);
+  picPanel->setVisible(layout_.picPanel);
+  picPanel->parentWidget()->setVisible(noInputs);
+  static_cast<Disegno*>(picPanel)->ImpostaNome(PictureOf(C().Stato.PlayerType));
+  picPanel->setAccessibleName(Qs(TestoLingua(C(), "0130181")));
+  Barra->Disponi(layout_);
+}
+
+void frmPlayerConfig::Collega() {
+  fraIngressiLogici->SuSpunta = [this](int input, bool on) { Spunta(input, on); };
+  Assegnazioni->SuScelta = [this](std::int64_t code) {
+    const Impegno stays(*this);
+    codice_->Scegli(code);
+    MostraCodice();
+    SceltoFile();
+  };
+  fraFileName->SuScelta = [this] { SceltoFile(); };
+  fraFileName->SuSfoglia = [this] { SfogliaMp3(); };
+  connect(fraFileName->cmdOkFileMp3, &QAbstractButton::clicked, this, [this] { ConfermaFile(); });
+  connect(&fraFileInfo->tmrInfoMp3, &QTimer::timeout, this, [this] {
+    const Impegno stays(*this);
+    MostraInfoMp3();
+    C().Messaggi.LasciaCorrere();
+  });
+  const auto changed = [this] {
+    // Not while the load sets one control after the other: what isn't shown yet would be lost.
+    if (letti_) AggiornaNonSalvato();
+  };
+  fraOutputLevel->SuCambio = changed;
+  Opzioni->SuCambio = changed;
+  Scheda->SuScegli = [this] {
+    const Impegno stays(*this);
+    ambiente_.Schermi.ScegliScheda(Schermata::Configurazione);
+  };
+  connect(&guardia_, &QTimer::timeout, this, [this] {
+    if (!C().Stato.PercorsoMemoryCard.empty()) Scheda->MostraStato(servizi_.FattiDellaScheda());
+  });
+}
+
+void frmPlayerConfig::CollegaComandi() {
+  connect(Barra->picRecordFlash, &QAbstractButton::clicked, this, [this] { Registra(); });
+  connect(Barra->picEsci, &QAbstractButton::clicked, this, [this] { Scarica(); });
+  connect(picHelp, &QAbstractButton::clicked, this, [this] { Aiuto(); });
+  SuTasto(Qt::Key_F1, [this] { Aiuto(); });
+}
+
+void frmPlayerConfig::DisabilitaFuturi() {
+  for (QWidget* control :
+       {static_cast<QWidget*>(Barra->picSave), static_cast<QWidget*>(Barra->picReport),
+        static_cast<QWidget*>(Barra->picPlaylist), static_cast<QWidget*>(Barra->picPalinsesto),
+        static_cast<QWidget*>(Barra->picCancellaFlash), static_cast<QWidget*>(Barra->picVerifica),
+        static_cast<QWidget*>(Opzioni->picConfiguraFade),
+        static_cast<QWidget*>(Opzioni->cmdConfigureExtra),
+        static_cast<QWidget*>(fraFileName->cmdPlayMp3),
+        static_cast<QWidget*>(fraFileName->cmdStopMp3),
+        static_cast<QWidget*>(fraIngressiLogici->cmdMp3Preview_Play),
+        static_cast<QWidget*>(fraIngressiLogici->cmdMp3Preview_Stop)}) {
+    control->setEnabled(false);
+  }
+}
+
+void frmPlayerConfig::RiempiAltro() {
+  const auto text = [this](const char* key) { return SenzaMnemonico(Qs(TestoLingua(C(), key))); };
+  QMenu& menu = Barra->menuAltro;
+  const auto has = [this](const char* database) {
+    return FileExists(C().Files, FileDelProgetto(C(), database));
+  };
+  if (!layout_.picPalinsesto && has("scheduler.mdb")) {
+    menu.addAction(text("0130151"))->setEnabled(false);
+  }
+  if (!layout_.picPlaylist && has("playlist.mdb")) {
+    menu.addAction(text("0130152"))->setEnabled(false);
+  }
+  menu.addAction(text("0130156"))->setEnabled(false);
+  QAction* open = menu.addAction(text("0130157"));
+  connect(open, &QAction::triggered, this,
+          [this] { ambiente_.Documenti.Apri(C().Stato.CartellaProgetto); });
+}
+
+}  // namespace kvr5

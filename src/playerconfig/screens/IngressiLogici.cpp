@@ -1,0 +1,142 @@
+#include "playerconfig/screens/IngressiLogici.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QVBoxLayout>
+#include <QVariant>
+
+#include "core/Lingua.h"
+#include "core/Parole.h"
+#include "core/screens/Avvisi.h"
+#include "core/screens/LocalizzaForm.h"
+#include "core/screens/Pagina.h"
+#include "core/screens/Tema.h"
+#include "core/screens/Testo.h"
+
+namespace kvr5 {
+namespace {
+
+/// The colour of the terminal strip in both themes: the names on it have fixed colours.
+const QColor kStrip(0xE9, 0xED, 0xEF);
+
+QString Numbered(const char* name, int number) {
+  return QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(number);
+}
+
+}  // namespace
+
+Lampada::Lampada(int numero, QWidget* padre) : QWidget(padre) {
+  setObjectName(Numbered("shaIn", numero));
+  setFixedSize(18, 18);
+}
+
+void Lampada::Imposta(std::uint32_t coloreBgr, bool accesa) {
+  colore_ = DaBgr(coloreBgr);
+  accesa_ = accesa;
+  update();
+}
+
+void Lampada::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(QColor(0x4F, 0x5D, 0x65), 1.5));
+  painter.setBrush(colore_);
+  painter.drawEllipse(QRectF(rect()).adjusted(2, 2, -2, -2));
+  if (!accesa_) return;
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(Qt::white);
+  painter.drawEllipse(QRectF(rect()).center(), 2.5, 2.5);
+}
+
+IngressiLogici::IngressiLogici(Contesto& contesto, QWidget* padre)
+    : Riquadro("fraIngressiLogici", QStringLiteral("Logic Inputs tag"), 15, padre),
+      contesto_(contesto) {
+  Corpo()->addWidget(CostruisciMorsettiera());
+  Corpo()->addWidget(CostruisciAssociato());
+}
+
+QWidget* IngressiLogici::CostruisciMorsettiera() {
+  auto* strip = new QWidget(this);
+  QPalette palette = PaletteDi(Tema::Chiaro());
+  palette.setColor(QPalette::Window, kStrip);
+  strip->setPalette(palette);
+  strip->setAutoFillBackground(true);
+  auto* grid = new QGridLayout(strip);
+  grid->setContentsMargins(8, 8, 8, 8);
+  grid->setHorizontalSpacing(0);
+  grid->setVerticalSpacing(6);
+  for (int i = 0; i < 8; ++i) {
+    const auto at = static_cast<std::size_t>(i);
+    const int number = i + 1;
+    shaIn[at] = new Lampada(number, strip);
+    chkIn[at] = new QCheckBox(strip);
+    chkIn[at]->setObjectName(Numbered("chkIn", number));
+    lblIn[at] = NuovaEtichetta("", QStringLiteral("IN%1").arg(number), -1, strip);
+    lblIn[at]->setObjectName(Numbered("lblIn", number));
+    lblIn[at]->setFont(FontDi(Carattere::Suggerimento));
+    grid->addWidget(shaIn[at], 0, i, Qt::AlignHCenter);
+    grid->addWidget(chkIn[at], 1, i, Qt::AlignHCenter);
+    grid->addWidget(lblIn[at], 2, i, Qt::AlignHCenter);
+    grid->setColumnStretch(i, 1);
+    connect(chkIn[at], &QCheckBox::toggled, this, [this, number](bool on) {
+      if (SuSpunta) SuSpunta(number, on);
+    });
+  }
+  return strip;
+}
+
+QWidget* IngressiLogici::CostruisciAssociato() {
+  fraFileAssociato = new QWidget(this);
+  fraFileAssociato->setObjectName(QStringLiteral("fraFileAssociato"));
+  QSizePolicy policy = fraFileAssociato->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);  // nothing jumps under the pointer
+  fraFileAssociato->setSizePolicy(policy);
+  auto* line = new QHBoxLayout(fraFileAssociato);
+  line->setContentsMargins(0, 0, 0, 0);
+  lblFileAssociato = NuovaEtichetta("lblFileAssociato", {}, -1, fraFileAssociato);
+  lblFileAssociato->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  lblEtichettaTroppoLunga =
+      NuovaEtichetta("lblEtichettaTroppoLunga", QStringLiteral("..."), -1, fraFileAssociato);
+  cmdMp3Preview_Play = new Coppia("cmdMp3Preview_Play", "lblPreview", QStringLiteral("Preview"),
+                                  "ascolta", 36, fraFileAssociato);
+  cmdMp3Preview_Stop = new Coppia("cmdMp3Preview_Stop", "", {}, "ferma", -1, fraFileAssociato);
+  lblPreview = cmdMp3Preview_Play->Etichetta();
+  line->addWidget(lblFileAssociato, 1);
+  line->addWidget(lblEtichettaTroppoLunga);
+  line->addWidget(cmdMp3Preview_Play);
+  line->addWidget(cmdMp3Preview_Stop);
+  fraFileAssociato->hide();
+  lblEtichettaTroppoLunga->hide();
+  return fraFileAssociato;
+}
+
+void IngressiLogici::Mostra(const CodiceScelto& codice) {
+  for (int number = 1; number <= 8; ++number) {
+    const auto at = static_cast<std::size_t>(number - 1);
+    const StatoIngresso& state = codice.Ingresso(number);
+    const QSignalBlocker quiet(chkIn[at]);
+    chkIn[at]->setChecked(state.Spuntato);
+    chkIn[at]->setEnabled(state.Abilitato);
+    chkIn[at]->setToolTip(state.Abilitato ? QString() : Qs(TestoLingua(contesto_, "0130133")));
+    shaIn[at]->Imposta(state.ColoreLampada, state.Spuntato);
+    QPalette palette = lblIn[at]->palette();
+    palette.setColor(QPalette::WindowText, DaBgr(state.ColoreTesto));
+    lblIn[at]->setPalette(palette);
+  }
+  fraFileAssociato->setVisible(codice.fraFileAssociatoVisibile());
+  lblFileAssociato->setText(Qs(codice.lblFileAssociato()));
+  lblFileAssociato->setToolTip(lblFileAssociato->text());
+  lblEtichettaTroppoLunga->setVisible(codice.lblEtichettaTroppoLungaVisibile());
+}
+
+void IngressiLogici::Localizza() {
+  const std::string name = TestoLinguaO(contesto_, "0130178", "Input %1");
+  for (std::size_t i = 0; i < chkIn.size(); ++i) {
+    chkIn[i]->setAccessibleName(Qs(ConValori(name, {std::to_string(i + 1)})));
+  }
+  ImpostaNumero(1, Qs(TestoLingua(contesto_, "0130123")));
+  cmdMp3Preview_Stop->ImpostaScritta(Qs(TestoLingua(contesto_, "0130169")));
+}
+
+}  // namespace kvr5

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QLabel>
+#include <array>
+#include <functional>
+
+#include "core/screens/Coppia.h"
+#include "core/screens/Riquadro.h"
+#include "playerconfig/CodiceScelto.h"
+
+namespace kvr5 {
+
+/// A lamp: outlined, red with a dot while its input is ticked.
+class Lampada : public QWidget {
+ public:
+  Lampada(int numero, QWidget* padre);
+  void Imposta(std::uint32_t coloreBgr, bool accesa);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QColor colore_ = Qt::white;
+  bool accesa_ = false;
+};
+
+/// fraIngressiLogici with fraFileAssociato: the eight inputs as boxes with lamps and names, and the
+/// file of the combination that is ticked. Inputs are counted from 1.
+class IngressiLogici : public Riquadro {
+ public:
+  explicit IngressiLogici(Contesto& contesto, QWidget* padre = nullptr);
+
+  std::array<QCheckBox*, 8> chkIn;
+  std::array<QLabel*, 8> lblIn;
+  std::array<Lampada*, 8> shaIn;
+  QWidget* fraFileAssociato;
+  QLabel* lblFileAssociato;
+  QLabel* lblEtichettaTroppoLunga;
+  Coppia* cmdMp3Preview_Play;
+  Coppia* cmdMp3Preview_Stop;
+  QLabel* lblPreview;
+
+  /// Called for a click on a box: input and new state.
+  std::function<void(int, bool)> SuSpunta;
+  /// Shows what the model tells.
+  void Mostra(const CodiceScelto& codice);
+  void Localizza();
+
+ private:
+  QWidget* CostruisciMorsettiera();
+  QWidget* CostruisciAssociato();
+
+  Contesto& contesto_;
+};
+
+}  // namespace kvr5

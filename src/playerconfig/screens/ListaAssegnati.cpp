@@ -1,0 +1,70 @@
+#include "playerconfig/screens/ListaAssegnati.h"
+
+#include <QVBoxLayout>
+
+#include "core/Lingua.h"
+#include "core/ParoleCopia.h"
+#include "core/screens/Icona.h"
+#include "core/screens/Pagina.h"
+#include "core/screens/Tema.h"
+#include "core/screens/Testo.h"
+
+namespace kvr5 {
+
+ListaAssegnati::ListaAssegnati(Contesto& contesto, QWidget* padre)
+    : Riquadro("fraAssegnati", QStringLiteral("Assignments"), -1, padre), contesto_(contesto) {
+  lstAssegnati = new QListWidget(this);
+  lstAssegnati->setObjectName(QStringLiteral("lstAssegnati"));
+  lstAssegnati->setIconSize({16, 16});
+  lstAssegnati->setTextElideMode(Qt::ElideRight);
+  lstAssegnati->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  lstAssegnati->setMinimumHeight(90);
+  Corpo()->addWidget(lstAssegnati, 1);
+  lblCifre = NuovaEtichetta("lblCifre", {}, -1, this);
+  Veste(*lblCifre, Carattere::Suggerimento, Ruolo::Attenuato);
+  lblCifre->setWordWrap(true);
+  Corpo()->addWidget(lblCifre);
+  const auto choose = [this](const QListWidgetItem* item) {
+    if (SuScelta) SuScelta(item->data(Qt::UserRole).toLongLong());
+  };
+  connect(lstAssegnati, &QListWidget::itemClicked, this, choose);
+  connect(lstAssegnati, &QListWidget::itemActivated, this, choose);
+}
+
+void ListaAssegnati::AggiungiRiga(const ParoleAssegnato& parole, const Assegnato& riga) {
+  const Tema& tema = Tema::Corrente();
+  const std::string mark = SegnoAssegnato(parole, riga);
+  std::string text = std::to_string(riga.Codice) + "   " + riga.Ingressi + "   " + riga.FileName;
+  if (!mark.empty()) text += "\n" + mark;
+  auto* item = new QListWidgetItem(Qs(text), lstAssegnati);
+  item->setData(Qt::UserRole, static_cast<qlonglong>(riga.Codice));
+  QString tip = Qs(PercorsoPerPersone(contesto_, riga.Percorso));
+  if (riga.Mancante) tip.prepend(Qs(parole.EraQui + " "));
+  if (riga.StessoFile) tip += "\n" + Qs(parole.AltroIngresso);
+  item->setToolTip(tip);
+  if (mark.empty()) return;
+  item->setIcon(IconaDi(riga.Mancante ? QStringLiteral("mancante") : QStringLiteral("avviso"),
+                        riga.Mancante ? tema.Errore : tema.Avviso));
+  item->setForeground(riga.Mancante ? tema.Errore : tema.Avviso);
+}
+
+void ListaAssegnati::Mostra(const ElencoAssegnati& elenco) {
+  lstAssegnati->clear();
+  const ParoleAssegnato words(contesto_);
+  for (const Assegnato& row : elenco.Righe) AggiungiRiga(words, row);
+  lblCifre->setText(elenco.Righe.empty() ? Qs(TestoLingua(contesto_, "0130127"))
+                                         : Qs(CifreAssegnati(contesto_, elenco)));
+}
+
+void ListaAssegnati::MostraSenzaTabella() {
+  lstAssegnati->clear();
+  lblCifre->setText(Qs(TestoLingua(contesto_, "0130132")));
+  Veste(*lblCifre, Carattere::Suggerimento, Ruolo::Avviso);
+}
+
+void ListaAssegnati::Localizza() {
+  ImpostaTitolo(Qs(TestoLinguaO(contesto_, "0130126", "Assignments")));
+  lstAssegnati->setAccessibleName(Titolo());
+}
+
+}  // namespace kvr5

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QLabel>
+#include <QListWidget>
+#include <functional>
+
+#include "core/screens/Riquadro.h"
+#include "playerconfig/Assegnati.h"
+
+namespace kvr5 {
+
+/// All combinations of inputs that have a file, what is wrong with any of them, and their figures.
+class ListaAssegnati : public Riquadro {
+ public:
+  explicit ListaAssegnati(Contesto& contesto, QWidget* padre = nullptr);
+
+  QListWidget* lstAssegnati;
+  QLabel* lblCifre;
+
+  void Mostra(const ElencoAssegnati& elenco);
+  /// Where the project lacks its table: nothing can be kept.
+  void MostraSenzaTabella();
+  void Localizza();
+  /// Called for a click on a row, with its code.
+  std::function<void(std::int64_t)> SuScelta;
+
+ private:
+  void AggiungiRiga(const ParoleAssegnato& parole, const Assegnato& riga);
+
+  Contesto& contesto_;
+};
+
+}  // namespace kvr5

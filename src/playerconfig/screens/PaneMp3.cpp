@@ -1,0 +1,118 @@
+#include "playerconfig/screens/PaneMp3.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QStandardItemModel>
+#include <QVBoxLayout>
+
+#include "core/Lingua.h"
+#include "core/ParoleCopia.h"
+#include "core/screens/LocalizzaForm.h"
+#include "core/screens/Pagina.h"
+#include "core/screens/Tema.h"
+#include "core/screens/Testo.h"
+
+namespace kvr5 {
+
+PaneMp3::PaneMp3(Contesto& contesto, QWidget* padre)
+    : Riquadro("fraFileName", {}, -1, padre), contesto_(contesto) {
+  Costruisci();
+  connect(cmbFileMp3, &QComboBox::activated, this, [this] { Clic(); });
+  connect(picDisk, &QAbstractButton::clicked, this, [this] {
+    if (SuSfoglia) SuSfoglia();
+  });
+  DirDirectoryMp3->SuCambio = [this] {
+    const QString folder = Qs(PercorsoPerPersone(contesto_, DirDirectoryMp3->Percorso()));
+    lblPercorso->setText(lblPercorso->fontMetrics().elidedText(folder, Qt::ElideMiddle, 260));
+    lblPercorso->setToolTip(folder);
+    RiempiElencoMp3();
+  };
+}
+
+void PaneMp3::Costruisci() {
+  lblfraFileName = NuovaEtichetta("lblfraFileName", QStringLiteral("FileName"), 22, this);
+  Veste(*lblfraFileName, Carattere::Riquadro);
+  Testata()->insertWidget(0, lblfraFileName);
+  picDisk = new Coppia("picDisk", "", {}, "cartella", -1, this);
+  picDisk->ImpostaGenere(Coppia::Genere::Quieto);
+  lblMp3_Dir = NuovaEtichetta("lblMp3_Dir", QStringLiteral("MP3 Directory"), 29, this);
+  lblMp3_Dir->installEventFilter(this);
+  lblPercorso = NuovaEtichetta("lblPercorso", {}, -1, this);
+  Veste(*lblPercorso, Carattere::Suggerimento, Ruolo::Attenuato);
+  auto* words = new QVBoxLayout();
+  words->setSpacing(0);
+  words->addWidget(lblMp3_Dir);
+  words->addWidget(lblPercorso);
+  auto* top = new QHBoxLayout();
+  top->addWidget(picDisk);
+  top->addLayout(words, 1);
+  Corpo()->addLayout(top);
+  DirDirectoryMp3 = new ElencoCartelle(contesto_, "DirDirectoryMp3", this);
+  DirDirectoryMp3->setMinimumHeight(84);
+  Corpo()->addWidget(DirDirectoryMp3, 1);
+  cmbFileMp3 = new QComboBox(this);
+  cmbFileMp3->setObjectName(QStringLiteral("cmbFileMp3"));
+  // The width of 5,000 names isn't measured.
+  cmbFileMp3->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  cmbFileMp3->setMinimumContentsLength(12);
+  Corpo()->addWidget(cmbFileMp3);
+  cmdPlayMp3 = new Coppia("cmdPlayMp3", "", {}, "ascolta", -1, this);
+  cmdStopMp3 = new Coppia("cmdStopMp3", "", {}, "ferma", -1, this);
+  cmdOkFileMp3 =
+      new Coppia("cmdOkFileMp3", "lblOkFileMp3", QStringLiteral("OK"), "fatto", 31, this);
+  QSizePolicy policy = cmdOkFileMp3->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  cmdOkFileMp3->setSizePolicy(policy);
+  Corpo()->addLayout(Riga({cmdPlayMp3, cmdStopMp3, nullptr, cmdOkFileMp3}));
+}
+
+void PaneMp3::RiempiElencoMp3() {
+  elenco_ = kvr5::RiempiElencoMp3(DirDirectoryMp3->Voci());
+  auto* model = new QStandardItemModel(static_cast<int>(elenco_.Voci.size()), 1, cmbFileMp3);
+  for (std::size_t i = 0; i < elenco_.Voci.size(); ++i) {
+    const VoceMp3& entry = elenco_.Voci[i];
+    auto* item = new QStandardItem(Qs(entry.Nome));
+    if (entry.Difetto != NameFault::None) {
+      item->setEnabled(false);
+      item->setToolTip(Qs(ParoleDifetto(contesto_, entry.Difetto)));
+    }
+    model->setItem(static_cast<int>(i), item);
+  }
+  cmbFileMp3->setModel(model);  // the one before belonged to the box and goes with it
+  cmbFileMp3->setCurrentIndex(static_cast<int>(elenco_.Scelto));
+  Clic();
+}
+
+std::string PaneMp3::Scelto() const {
+  const auto index = static_cast<std::size_t>(std::max(0, cmbFileMp3->currentIndex()));
+  return index < elenco_.Voci.size() ? elenco_.Voci[index].Nome : std::string(" ");
+}
+
+void PaneMp3::Scegli(const std::string& nome) {
+  cmbFileMp3->setCurrentIndex(0);
+  Clic();
+  const auto index = elenco_.Indice(nome);
+  if (!index) return;
+  cmbFileMp3->setCurrentIndex(static_cast<int>(*index));
+  Clic();
+}
+
+bool PaneMp3::eventFilter(QObject* object, QEvent* event) {
+  if (object == lblMp3_Dir && event->type() == QEvent::MouseButtonDblClick && SuSfoglia) {
+    SuSfoglia();
+    return true;
+  }
+  return Riquadro::eventFilter(object, event);
+}
+
+void PaneMp3::Localizza() {
+  ImpostaNumero(2, Qs(TestoLingua(contesto_, "0130124")));
+  picDisk->ImpostaScritta(Qs(TestoLingua(contesto_, "0130171")));
+  cmdPlayMp3->ImpostaScritta(Qs(TestoLingua(contesto_, "0130168")));
+  cmdStopMp3->ImpostaScritta(Qs(TestoLingua(contesto_, "0130169")));
+  cmdOkFileMp3->setToolTip(Qs(TestoLingua(contesto_, "0130136")));
+  cmbFileMp3->setAccessibleName(Qs(TestoLingua(contesto_, "0130179")));
+  DirDirectoryMp3->setAccessibleName(Qs(TestoLingua(contesto_, "0130180")));
+}
+
+}  // namespace kvr5

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QComboBox>
+#include <QLabel>
+#include <functional>
+#include <string>
+
+#include "core/screens/Coppia.h"
+#include "core/screens/ElencoCartelle.h"
+#include "core/screens/Riquadro.h"
+#include "playerconfig/ElencoMp3.h"
+
+namespace kvr5 {
+
+/// fraFileName: the folder with the MP3 files, the file to assign, and its confirm button.
+class PaneMp3 : public Riquadro {
+ public:
+  explicit PaneMp3(Contesto& contesto, QWidget* padre = nullptr);
+
+  QLabel* lblfraFileName;
+  Coppia* picDisk;
+  QLabel* lblMp3_Dir;
+  QLabel* lblPercorso;  ///< the folder, as a person reads it
+  ElencoCartelle* DirDirectoryMp3;
+  QComboBox* cmbFileMp3;
+  Coppia* cmdPlayMp3;
+  Coppia* cmdStopMp3;
+  Coppia* cmdOkFileMp3;
+
+  /// Fills cmbFileMp3 from the folder; the selection is that of a fresh list.
+  void RiempiElencoMp3();
+  /// The selected item; " " for no file.
+  std::string Scelto() const;
+  /// Sets cmbFileMp3 to " " and then to this file, which stays at " " where the list lacks it.
+  void Scegli(const std::string& nome);
+  void Localizza();
+
+  /// Called for every choice of an item, by the user or by code, the same one too.
+  std::function<void()> SuScelta;
+  /// Called for a double click on the label of the folder, or its picture.
+  std::function<void()> SuSfoglia;
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
+
+ private:
+  void Costruisci();
+  void Clic() const {
+    if (SuScelta) SuScelta();
+  }
+
+  Contesto& contesto_;
+  ElencoMp3 elenco_;
+};
+
+}  // namespace kvr5

@@ -1,0 +1,261 @@
+#include "playerconfig/screens/frmPlayerConfig.h"
+
+#include "core/Aiuti.h"
+#include "core/Lingua.h"
+#include "core/screens/LocalizzaForm.h"
+#include "core/screens/Tema.h"
+#include "core/screens/Testo.h"
+#include "mp3/Accettazione.h"
+#include "mp3/EtichetteMp3.h"
+#include "mp3/ParoleRifiuto.h"
+#include "platform/FileOps.h"
+#include "playerconfig/CartellaMp3.h"
+#include "playerconfig/ModoDelPlayer.h"
+#include "playerconfig/RientroDaScheda.h"
+#include "projects/Descrittore.h"
+
+namespace kvr5 {
+namespace {
+
+constexpr std::int16_t kForm = 4;
+constexpr std::int16_t kFromCard = 2;
+
+}  // namespace
+
+frmPlayerConfig::frmPlayerConfig(Ambiente& ambiente, ServiziHub& servizi)
+    : Form(ambiente, "frmPlayerConfig"),
+      servizi_(servizi),
+      ingressi_(ambiente.C),
+      lettore_(ambiente.C.Files) {
+  setWindowTitle(QStringLiteral("KVR5"));
+  resize(1200, 720);
+  Costruisci();
+  Collega();
+  CollegaComandi();
+}
+
+void frmPlayerConfig::AlCaricamento() {
+  auto& state = C().Stato;
+  C().Messaggi.ImpostaPuntatore(Puntatore::Attesa);
+  Localizza();
+  state.SalvaMp3Ingressi = true;
+  fraOutputLevel->AggiornaTutti();
+  layout_ = LayoutDelHub(state.PlayerType, state.PlayerMode, state.UsaPlayerEsterno);
+  ApriIngressi();
+  if (ApreDaFlash == kFromCard) RientroDaScheda(C(), ingressi_);
+  const std::string folder = CartellaIniziale(C(), ApreDaFlash);
+  fraFileInfo->tmrInfoMp3.start();
+  LeggiControlli();
+  Opzioni->ImpostaAnalyzer(state.Analyzer == 1);
+  state.FileReport = AggiungiBarra(state.CartellaProgetto) + state.ProjectName + ".htm";
+  fraFileName->DirDirectoryMp3->ImpostaPercorso(folder);
+  Disponi();
+  MostraModo();
+  constexpr std::int16_t kKvr5 = 4;
+  if (state.PlayerType == kKvr5) state.Usa485 = LeggiUse485(C());
+  MostraCodice();
+  AggiornaElenco();
+  modifiche_.Rileggi(C());
+  AggiornaNonSalvato();
+  DisabilitaFuturi();
+  RiempiAltro();
+  guardia_.start();
+  (layout_.fraIngressiLogici ? static_cast<QWidget*>(fraIngressiLogici->chkIn[0])
+                             : fraOutputLevel->sliVolume)
+      ->setFocus();
+  C().Messaggi.ImpostaPuntatore(Puntatore::Normale);
+}
+
+void frmPlayerConfig::Localizza() {
+  LocalizzaForm(C(), kForm, *this);
+  setWindowTitle(QStringLiteral("KVR5 - ") + Qs(TestoLingua(C(), "0040000")) +
+                 QStringLiteral(" - ") + Qs(C().Stato.ProjectName));
+  fraFileName->lblfraFileName->setText(fraFileName->lblfraFileName->text() + QStringLiteral(" - "));
+  lblProgetto->setText(Qs(C().Stato.ProjectName));
+  lblNonSalvato->setText(Qs(TestoLinguaO(C(), "0130120", "Settings unsaved")));
+  lblNonSalvato->setToolTip(Qs(TestoLingua(C(), "0130121")));
+  fraOutputLevel->Localizza();
+  Opzioni->Localizza();
+  fraIngressiLogici->Localizza();
+  Assegnazioni->Localizza();
+  fraFileName->Localizza();
+  Scheda->Localizza();
+  Barra->Localizza();
+  Scheda->MostraStato(servizi_.FattiDellaScheda());
+}
+
+void frmPlayerConfig::ApriIngressi() {
+  codice_.emplace(C(), ingressi_, Std(fraFileName->lblfraFileName->text()));
+  if (!TabellaIngressi::SenzaIngressi(C().Stato.PlayerType, C().Stato.PlayerMode)) {
+    ingressi_.Apri();
+  }
+}
+
+void frmPlayerConfig::LeggiControlli() {
+  controlli_.Leggi(C());
+  fraOutputLevel->Mostra(controlli_);
+  Opzioni->Mostra(controlli_);
+  letti_ = true;
+}
+
+void frmPlayerConfig::MostraModo() {
+  lblTipoPlayer->setText(Qs(C().Stato.PlayerConfigDesc));
+  const EtichetteModo mode =
+      EtichetteDelModo(C().Stato.PlayerConfigDesc, TestoLingua(C(), "0040047"));
+  lblModoPanel->setText(Qs(mode.lblModoPanel));
+  lblModoPanelBig->setText(Qs(mode.lblModoPanelBig));
+  lblModoOstrel->setText(Qs(mode.lblModoOstrel));
+  lblModoOstrelBig->setText(Qs(mode.lblModoOstrelBig));
+  lblModoZub->setText(Qs(mode.lblModoZub));
+  lblModoZubBig->setText(Qs(mode.lblModoZubBig));
+}
+
+void frmPlayerConfig::AllAttivazione() {
+  if (!codice_) return;
+  const Impegno stays(*this);
+  const bool changed = codice_->AbilitaIngressiRs485();
+  fraIngressiLogici->Mostra(*codice_);
+  if (changed) {
+    MostraCodice();
+    SceltoFile();
+  }
+}
+
+void frmPlayerConfig::Spunta(int ingresso, bool spuntato) {
+  const Impegno stays(*this);
+  codice_->Spunta(ingresso, spuntato);
+  MostraCodice();
+  SceltoFile();
+}
+
+void frmPlayerConfig::MostraCodice() {
+  fraIngressiLogici->Mostra(*codice_);
+  fraFileName->lblfraFileName->setText(Qs(codice_->lblfraFileName()));
+  if (const auto& file = codice_->DaScegliere()) fraFileName->Scegli(*file);
+}
+
+void frmPlayerConfig::AggiornaElenco() {
+  if (!ingressi_.Aperta()) return Assegnazioni->MostraSenzaTabella();
+  Assegnazioni->Mostra(Assegnati(C(), ingressi_.Righe()));
+}
+
+void frmPlayerConfig::SceltoFile() {
+  const Impegno stays(*this);
+  const bool keyboard = fraFileName->cmdOkFileMp3->hasFocus();
+  fraFileName->cmdOkFileMp3->hide();
+  ValutaScelta();
+  // What was hidden has lost the keyboard; it must not fall on a button further on.
+  if (!keyboard) return;
+  (fraFileName->cmdOkFileMp3->isVisible() ? static_cast<QWidget*>(fraFileName->cmdOkFileMp3)
+                                          : fraFileName->cmbFileMp3)
+      ->setFocus();
+}
+
+void frmPlayerConfig::ValutaScelta() {
+  const std::string item = fraFileName->Scelto();
+  if (Rifila(item).empty()) {
+    const PannelloMp3 panel = PulisciInfoMp3();
+    fraFileInfo->Mostra({}, {}, {}, {});
+    fraFileInfo->MostraAvviso(panel.lblBadFileType, {});
+    fraFileName->cmdOkFileMp3->setVisible(codice_ && codice_->OkPerNessunFile());
+    return;
+  }
+  if (!FileExists(C().Files, AggiungiBarra(fraFileName->DirDirectoryMp3->Percorso()) + item))
+    return;
+  fraFileInfo->tmrInfoMp3.stop();
+  MostraInfoMp3();
+  fraFileInfo->tmrInfoMp3.start();
+}
+
+void frmPlayerConfig::MostraInfoMp3() {
+  if (Rifila(fraFileName->Scelto()).empty()) return;  // no file is picked
+  fraFileInfo->Mostra({}, {}, {}, {});
+  fraFileInfo->MostraAvviso(false, {});
+  if (isVisible()) C().Messaggi.LasciaCorrere();
+  // Another one may have been picked while events ran: that is the one to judge.
+  const std::string item = fraFileName->Scelto();
+  if (Rifila(item).empty()) return ValutaScelta();
+  const std::string path = AggiungiBarra(fraFileName->DirDirectoryMp3->Percorso()) + item;
+  const InfoMp3 info = lettore_.LeggiInfoMp3(path);
+  const auto file = C().Files.Info(path);
+  const std::uint64_t length = file ? file.Value().Size : 0;
+  const PannelloMp3 panel = kvr5::MostraInfoMp3(SchermoMp3::Ingressi, info, length, C().Luogo);
+  const EtichetteMp3& labels = panel.Etichette;
+  fraFileInfo->Mostra(Qs(labels.lblVersioneMpeg), Qs(labels.lblBitrate), Qs(labels.lblFreq),
+                      Qs(labels.lblDurata));
+  fraFileInfo->MostraAvviso(
+      panel.lblBadFileType,
+      Qs(ParoleRifiuto(C(), MotivoPerIngressi(info, lettore_.Ricerca()), info)));
+  const bool assignable = !panel.lblBadFileType && codice_ && codice_->Codice() >= 1;
+  fraFileName->cmdOkFileMp3->setVisible(assignable);
+  if (assignable) fraFileName->cmdOkFileMp3->setEnabled(true);
+}
+
+void frmPlayerConfig::ConfermaFile() {
+  const Impegno stays(*this);
+  codice_->Conferma(fraFileName->Scelto(), fraFileName->DirDirectoryMp3->Percorso());
+  MostraCodice();
+  AggiornaElenco();
+}
+
+void frmPlayerConfig::SfogliaMp3() {
+  const Impegno stays(*this);
+  const std::string chosen = C().Finestre.SfogliaCartella(TestoLingua(C(), "50014"),
+                                                          fraFileName->DirDirectoryMp3->Percorso());
+  const auto folder = ScegliCartella(C(), chosen);
+  if (folder) fraFileName->DirDirectoryMp3->ImpostaPercorso(*folder);
+}
+
+void frmPlayerConfig::AggiornaPercorsoMemoryCard() {
+  Carica();
+  Scheda->Mostra(Qs(TestoLingua(C(), "0040023") + ": " + C().Stato.PercorsoMemoryCard),
+                 servizi_.FattiDellaScheda());
+}
+
+void frmPlayerConfig::AggiornaNonSalvato() {
+  fraOutputLevel->Raccogli(controlli_);
+  Opzioni->Raccogli(controlli_);
+  const bool unsaved = modifiche_.DaSalvare(controlli_);
+  lblNonSalvato->setVisible(unsaved);
+  Barra->picSave->ImpostaGenere(unsaved ? Coppia::Genere::Primario : Coppia::Genere::Normale);
+  Barra->picRecordFlash->ImpostaGenere(unsaved ? Coppia::Genere::Normale
+                                               : Coppia::Genere::Primario);
+}
+
+void frmPlayerConfig::Registra() {
+  if (lavora_) return;         // events run during a recording, this button among them
+  const Impegno stays(*this);  // a close that is asked for meanwhile comes at the end
+  lavora_ = true;
+  servizi_.RegistraProgetto(ingressi_);
+  lavora_ = false;
+  show();
+  setEnabled(true);
+  Scheda->MostraStato(servizi_.FattiDellaScheda());
+}
+
+bool frmPlayerConfig::PuoChiudere(Causa /*causa*/) {
+  const std::string text = TestoLingua(C(), "0040018") + "\r\n" + TestoLingua(C(), "0040019") +
+                           "\r\n" + TestoLingua(C(), "0040020") + "\r\n" +
+                           TestoLingua(C(), "0040021");
+  const Risposta answer =
+      C().Finestre.MostraMessaggio({TestoLingua(C(), "0040017"), text, Icona::Domanda,
+                                    Pulsanti::SiNoAnnulla, Risposta::Annulla});
+  if (answer == Risposta::Annulla) return false;
+  ingressi_.Chiudi();
+  finePrograma_ = answer == Risposta::No;
+  return true;
+}
+
+void frmPlayerConfig::AlloScarico() {
+  guardia_.stop();
+  fraFileInfo->tmrInfoMp3.stop();
+  if (finePrograma_) {
+    ambiente_.Schermi.TerminaProgramma();
+    return;
+  }
+  hide();
+  C().Stato.PlayerType = 1;
+  ambiente_.Schermi.Mostra(Schermata::Menu);
+}
+
+}  // namespace kvr5

@@ -1,0 +1,98 @@
+#pragma once
+
+#include <QLabel>
+#include <QTimer>
+
+#include "core/screens/Form.h"
+#include "core/screens/PannelloInfo.h"
+#include "mp3/modMp3Infos.h"
+#include "playerconfig/CodiceScelto.h"
+#include "playerconfig/LayoutHub.h"
+#include "playerconfig/ModificheHub.h"
+#include "playerconfig/screens/Comandi.h"
+#include "playerconfig/screens/IngressiLogici.h"
+#include "playerconfig/screens/ListaAssegnati.h"
+#include "playerconfig/screens/Livelli.h"
+#include "playerconfig/screens/OpzioniIngressi.h"
+#include "playerconfig/screens/PaneMp3.h"
+#include "playerconfig/screens/RigaScheda.h"
+#include "playerconfig/screens/ServiziHub.h"
+
+namespace kvr5 {
+
+/// The hub of an open project: its levels, options and inputs, and the way to everything else.
+class frmPlayerConfig : public Form {
+ public:
+  frmPlayerConfig(Ambiente& ambiente, ServiziHub& servizi);
+
+  /// 0 the project was just made, 1 it came from the list or a folder, 2 from a card.
+  std::int16_t ApreDaFlash = 0;
+  /// What frmSalva answered.
+  bool AnnullaSalvataggio = false;
+
+  /// Shows the chosen card in lblPathMemoryCard.
+  void AggiornaPercorsoMemoryCard();
+
+  QLabel* lblTipoPlayer;
+  QLabel* lblProgetto;
+  QLabel* lblNonSalvato;
+  Coppia* picHelp;
+  RigaScheda* Scheda;
+  Livelli* fraOutputLevel;
+  OpzioniIngressi* Opzioni;
+  IngressiLogici* fraIngressiLogici;
+  ListaAssegnati* Assegnazioni;
+  PaneMp3* fraFileName;
+  PannelloInfo* fraFileInfo;
+  QWidget* picPanel;
+  QLabel *lblModoPanel, *lblModoPanelBig, *lblModoZub, *lblModoZubBig, *lblModoOstrel,
+      *lblModoOstrelBig;
+  Comandi* Barra;
+
+ protected:
+  void AlCaricamento() override;
+  void AllAttivazione() override;
+  bool PuoChiudere(Causa causa) override;
+  void AlloScarico() override;
+
+ private:
+  void Costruisci();
+  QLayout* CostruisciTestata();
+  QWidget* CostruisciCorpo();
+  QWidget* CostruisciPannello();
+  void CostruisciNascosti();
+  void Collega();
+  void CollegaComandi();
+  void Localizza();
+  void ApriIngressi();
+  void LeggiControlli();
+  void Disponi();
+  void MostraModo();
+  void Spunta(int ingresso, bool spuntato);
+  void MostraCodice();
+  void AggiornaElenco();
+  void SceltoFile();
+  void ValutaScelta();
+  void MostraInfoMp3();
+  void ConfermaFile();
+  void SfogliaMp3();
+  void Registra();
+  void AggiornaNonSalvato();
+  void DisabilitaFuturi();
+  void RiempiAltro();
+
+  ServiziHub& servizi_;
+  TabellaIngressi ingressi_;
+  std::optional<CodiceScelto> codice_;
+  ControlliHub controlli_;
+  ModificheHub modifiche_;
+  modMp3Infos lettore_;
+  LayoutHub layout_;
+  std::array<QWidget*, 2> colonne_{};  ///< those of the inputs and of their files
+  bool letti_ = false;                 ///< the controls show what Config.txt holds
+  QTimer guardia_;                     ///< looks at the card
+  bool lavora_ = false;                ///< a recording is under way
+  bool finePrograma_ = false;
+};
+
+}  // namespace kvr5

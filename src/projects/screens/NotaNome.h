@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QLabel>
+#include <string_view>
+
+namespace kvr5 {
+
+/// True when a project's name holds one of the eight forbidden characters.
+bool HaCaratteriVietati(std::string_view nome);
+
+/// Has the note about forbidden characters warn, in colour and weight, while the name holds one:
+/// the button then does nothing and says nothing.
+void VestiNota(QLabel& nota, std::string_view nome);
+
+}  // namespace kvr5

@@ -1,0 +1,199 @@
+#include "projects/screens/frmCaricaProgetto.h"
+
+#include <QHeaderView>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+#include "core/Aiuti.h"
+#include "core/Lingua.h"
+#include "core/screens/Avvisi.h"
+#include "core/screens/LocalizzaForm.h"
+#include "core/screens/Pagina.h"
+#include "core/screens/Tema.h"
+#include "core/screens/Testo.h"
+#include "platform/FileOps.h"
+#include "projects/ApriProgetto.h"
+
+namespace kvr5 {
+namespace {
+
+constexpr std::int16_t kForm = 8;
+constexpr std::int16_t kFromDisk = 1;
+
+}  // namespace
+
+frmCaricaProgetto::frmCaricaProgetto(Ambiente& ambiente)
+    : Form(ambiente, "frmCaricaProgetto"), lista_(ambiente.C) {
+  setWindowTitle(QStringLiteral("LoadProject"));
+  resize(880, 560);
+  Costruisci();
+  Collega();
+}
+
+void frmCaricaProgetto::Costruisci() {
+  auto* page = NuovaPagina(*this);
+  lblPrjInDefaultDir =
+      NuovaEtichetta("lblPrjInDefaultDir", QStringLiteral("Projects in default dir"), 1, this);
+  Veste(*lblPrjInDefaultDir, Carattere::Schermata);
+  txtCerca = new QLineEdit(this);
+  txtCerca->setObjectName(QStringLiteral("txtCerca"));
+  txtCerca->setFixedWidth(260);
+  txtCerca->setClearButtonEnabled(true);
+  picHelp = NuovoAiuto(this);
+  page->addLayout(Riga({lblPrjInDefaultDir, nullptr, txtCerca, picHelp}));
+  CostruisciElenco();
+  page->addWidget(lstProgetti, 1);
+  lblElencoVuoto = TestoLungo("lblElencoVuoto", {}, this);
+  Veste(*lblElencoVuoto, Carattere::Corpo, Ruolo::Attenuato);
+  lblElencoVuoto->setAlignment(Qt::AlignCenter);
+  page->addWidget(lblElencoVuoto, 1);
+  picindietro =
+      new Coppia("picindietro", "lblIndietro", QStringLiteral("Back"), "indietro", 3, this);
+  picLoad = new Coppia("picLoad", "lblCaricaDaDisco", QStringLiteral("LoadFromDisk"), "cartella", 4,
+                       this);
+  picLoadFlash = new Coppia("picLoadFlash", "lblCaricaDaFlash", QStringLiteral("LoadFromFlash"),
+                            "scheda-leggi", 5, this);
+  picOpen =
+      new Coppia("picOpen", "lblLoadSelected", QStringLiteral("LoadFromDisk"), "apri", 2, this);
+  picOpen->ImpostaGenere(Coppia::Genere::Primario);
+  lblIndietro = picindietro->Etichetta();
+  lblCaricaDaDisco = picLoad->Etichetta();
+  lblCaricaDaFlash = picLoadFlash->Etichetta();
+  lblLoadSelected = picOpen->Etichetta();
+  page->addLayout(Riga({picindietro, nullptr, picLoad, picLoadFlash, picOpen}));
+  OrdineTab({txtCerca, lstProgetti, picindietro, picLoad, picLoadFlash, picOpen, picHelp});
+}
+
+void frmCaricaProgetto::CostruisciElenco() {
+  lstProgetti = new QTableView(this);
+  lstProgetti->setObjectName(QStringLiteral("lstProgetti"));
+  lstProgetti->setModel(&lista_);
+  lstProgetti->setSelectionBehavior(QAbstractItemView::SelectRows);
+  lstProgetti->setSelectionMode(QAbstractItemView::SingleSelection);
+  lstProgetti->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  lstProgetti->setShowGrid(false);
+  lstProgetti->setTabKeyNavigation(false);
+  lstProgetti->setWordWrap(false);
+  lstProgetti->verticalHeader()->hide();
+  constexpr int kRow = 36;
+  lstProgetti->verticalHeader()->setDefaultSectionSize(kRow);
+  auto* header = lstProgetti->horizontalHeader();
+  header->setHighlightSections(false);
+  header->setSectionResizeMode(ListaProgetti::Nome, QHeaderView::Stretch);
+  header->resizeSection(ListaProgetti::Player, 220);
+  header->resizeSection(ListaProgetti::Modifica, 170);
+}
+
+void frmCaricaProgetto::Collega() {
+  connect(picOpen, &QAbstractButton::clicked, this, [this] { ApriScelto(); });
+  connect(lstProgetti, &QTableView::doubleClicked, this, [this] { ApriScelto(); });
+  connect(picLoad, &QAbstractButton::clicked, this, [this] { ApriAltraCartella(); });
+  connect(picindietro, &QAbstractButton::clicked, this, [this] { Indietro(); });
+  connect(picHelp, &QAbstractButton::clicked, this, [this] { Aiuto(); });
+  connect(txtCerca, &QLineEdit::textChanged, this, [this] { Cerca(0); });
+  connect(txtCerca, &QLineEdit::returnPressed, this,
+          [this] { Cerca(static_cast<std::size_t>(lstProgetti->currentIndex().row() + 1)); });
+  const auto* find = new QShortcut(QKeySequence::Find, this);
+  connect(find, &QShortcut::activated, this, [this] {
+    txtCerca->setFocus();
+    txtCerca->selectAll();
+  });
+  for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+    auto* open = new QShortcut(QKeySequence(key), lstProgetti);
+    open->setContext(Qt::WidgetShortcut);
+    open->setAutoRepeat(false);
+    connect(open, &QShortcut::activated, this, [this] { ApriScelto(); });
+  }
+  SuTasto(Qt::Key_Escape, [this] { picindietro->click(); });
+  SuTasto(Qt::Key_F1, [this] { Aiuto(); });
+}
+
+void frmCaricaProgetto::AlCaricamento() {
+  C().Messaggi.ImpostaPuntatore(Puntatore::Attesa);
+  LocalizzaForm(C(), kForm, *this);
+  lista_.Carica();
+  const bool empty = lista_.rowCount() == 0;
+  lstProgetti->setVisible(!empty);
+  txtCerca->setVisible(!empty);
+  picOpen->setEnabled(!empty);
+  lblElencoVuoto->setVisible(empty);
+  lblElencoVuoto->setText(Qs(TestoLingua(C(), "0130110")));
+  lstProgetti->selectRow(0);
+  txtCerca->setPlaceholderText(Qs(TestoLingua(C(), "0130111")));
+  txtCerca->setAccessibleName(txtCerca->placeholderText());
+  txtCerca->setToolTip(Qs(TestoLingua(C(), "0130112")));
+  lstProgetti->setAccessibleName(lblPrjInDefaultDir->text());
+  picLoad->setToolTip(Qs(TestoLingua(C(), "0130115")));
+  picLoadFlash->setToolTip(Qs(TestoLingua(C(), "0130114")));
+  picLoadFlash->setEnabled(false);  // reading a card back comes with its own screen
+  CartellaScelta.clear();
+  C().Messaggi.ImpostaPuntatore(Puntatore::Normale);
+  (empty ? static_cast<QWidget*>(picLoad) : lstProgetti)->setFocus();
+}
+
+void frmCaricaProgetto::Cerca(std::size_t da) {
+  const std::string text = Std(txtCerca->text());
+  const auto row = lista_.Righe().Cerca(text, da);
+  if (row) lstProgetti->selectRow(static_cast<int>(*row));
+  const bool nothing = !row && !Rifila(text).empty();
+  QPalette palette = lstProgetti->palette();
+  palette.setColor(QPalette::Text, nothing ? Tema::Corrente().Errore : Tema::Corrente().Testo);
+  txtCerca->setPalette(palette);
+  txtCerca->setAccessibleDescription(nothing ? Qs(TestoLingua(C(), "0130113")) : QString());
+}
+
+void frmCaricaProgetto::ApriScelto() {
+  const auto row = lstProgetti->currentIndex().row();
+  if (row < 0 || static_cast<std::size_t>(row) >= lista_.Righe().Quante()) return;
+  const std::string& name = lista_.Righe().Nome(static_cast<std::size_t>(row));
+  if (Rifila(name).empty()) return;
+  C().Messaggi.ImpostaPuntatore(Puntatore::Attesa);
+  CartellaScelta = AggiungiBarra(C().Stato.CartellaProgetti) + name;
+  ModoScelto = kFromDisk;
+  ApriProgetto();
+}
+
+void frmCaricaProgetto::ApriAltraCartella() {
+  {
+    const Impegno stays(*this);
+    CartellaScelta = C().Finestre.SfogliaCartella(TestoLingua(C(), "0020004"), {});
+    C().Messaggi.LasciaCorrere();
+  }
+  if (Rifila(CartellaScelta).empty() || !FolderExists(C().Files, CartellaScelta)) return;
+  ModoScelto = kFromDisk;
+  ApriProgetto();
+}
+
+void frmCaricaProgetto::ApriProgetto() {
+  if (apre_) return;  // the hub's load lets events run, a second press among them
+  apre_ = true;
+  if (Apre()) {
+    FormChiamante = Schermata::Nessuna;  // what comes next is not where this screen came from
+    Scarica();
+  }
+  apre_ = false;
+}
+
+bool frmCaricaProgetto::Apre() {
+  const Impegno stays(*this);
+  const EsitoApertura outcome = kvr5::ApriProgetto(C(), CartellaScelta);
+  if (outcome == EsitoApertura::NessunaCartella) C().Messaggi.ImpostaPuntatore(Puntatore::Normale);
+  if (outcome != EsitoApertura::Aperto) return false;
+  ambiente_.Schermi.ApriConfigurazione(ModoScelto);
+  C().Messaggi.ImpostaPuntatore(Puntatore::Normale);
+  return true;
+}
+
+void frmCaricaProgetto::Indietro() {
+  CartellaScelta.clear();
+  Scarica();
+}
+
+void frmCaricaProgetto::AlloScarico() {
+  hide();
+  ambiente_.Schermi.Mostra(FormChiamante);
+  C().Messaggi.LasciaCorrere();
+  FormChiamante = Schermata::Nessuna;
+}
+
+}  // namespace kvr5

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QTableView>
+#include <string>
+
+#include "core/Schermata.h"
+#include "core/screens/Coppia.h"
+#include "core/screens/Form.h"
+#include "projects/screens/ListaProgetti.h"
+
+namespace kvr5 {
+
+/// The list of the projects, and the ways to those that lie elsewhere.
+class frmCaricaProgetto : public Form {
+ public:
+  explicit frmCaricaProgetto(Ambiente& ambiente);
+
+  /// The screen that is shown when this one goes back.
+  Schermata FormChiamante = Schermata::Nessuna;
+  /// The folder to open; empty when none.
+  std::string CartellaScelta;
+  /// 1 from the disk, 2 from a card.
+  std::int16_t ModoScelto = 0;
+
+  QLabel* lblPrjInDefaultDir;
+  QLineEdit* txtCerca;
+  QTableView* lstProgetti;
+  QLabel* lblElencoVuoto;
+  Coppia* picOpen;
+  QLabel* lblLoadSelected;
+  Coppia* picindietro;
+  QLabel* lblIndietro;
+  Coppia* picLoad;
+  QLabel* lblCaricaDaDisco;
+  Coppia* picLoadFlash;
+  QLabel* lblCaricaDaFlash;
+  Coppia* picHelp;
+
+ protected:
+  void AlCaricamento() override;
+  void AlloScarico() override;
+
+ private:
+  void Costruisci();
+  void CostruisciElenco();
+  void Collega();
+  void ApriScelto();
+  void ApriAltraCartella();
+  void ApriProgetto();
+  /// True when the hub stands.
+  bool Apre();
+  void Cerca(std::size_t da);
+  void Indietro();
+
+  ListaProgetti lista_;
+  bool apre_ = false;
+};
+
+}  // namespace kvr5

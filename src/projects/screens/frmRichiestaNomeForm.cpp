@@ -1,0 +1,94 @@
+#include "projects/screens/frmRichiestaNomeForm.h"
+
+#include <QVBoxLayout>
+
+#include "core/Aiuti.h"
+#include "core/Lingua.h"
+#include "core/screens/Avvisi.h"
+#include "core/screens/LocalizzaForm.h"
+#include "core/screens/Pagina.h"
+#include "core/screens/Tema.h"
+#include "core/screens/Testo.h"
+#include "projects/NuovoProgetto.h"
+#include "projects/screens/NotaNome.h"
+
+namespace kvr5 {
+namespace {
+
+constexpr std::int16_t kForm = 3;
+
+}  // namespace
+
+frmRichiestaNomeForm::frmRichiestaNomeForm(Ambiente& ambiente)
+    : Form(ambiente, "frmRichiestaNomeForm") {
+  resize(560, 260);
+  auto* page = NuovaPagina(*this);
+  lblDigitareNomeProgetto =
+      NuovaEtichetta("lblDigitareNomeProgetto", QStringLiteral("Write Project Name"), 1, this);
+  Veste(*lblDigitareNomeProgetto, Carattere::Schermata);
+  picHelp = NuovoAiuto(this);
+  page->addLayout(Riga({lblDigitareNomeProgetto, nullptr, picHelp}));
+  txtNomeProgetto = new QLineEdit(this);
+  txtNomeProgetto->setObjectName(QStringLiteral("txtNomeProgetto"));
+  lblDigitareNomeProgetto->setBuddy(txtNomeProgetto);
+  page->addWidget(txtNomeProgetto);
+  lblNota = TestoLungo("lblNota", QStringLiteral("Note"), this);
+  page->addWidget(lblNota);
+  page->addStretch(1);
+  picGoBack = new Coppia("picGoBack", "lblIndietro", QStringLiteral("back"), "indietro", 4, this);
+  picGoOn = new Coppia("picGoOn", "lblOn", QStringLiteral("on"), "fatto", 3, this);
+  picGoOn->ImpostaGenere(Coppia::Genere::Primario);
+  lblIndietro = picGoBack->Etichetta();
+  lblOn = picGoOn->Etichetta();
+  page->addLayout(Riga({picGoBack, nullptr, picGoOn}));
+  OrdineTab({txtNomeProgetto, picGoBack, picGoOn, picHelp});
+
+  connect(txtNomeProgetto, &QLineEdit::textChanged, this,
+          [this](const QString& name) { VestiNota(*lblNota, Std(name)); });
+  connect(txtNomeProgetto, &QLineEdit::returnPressed, this, [this] {
+    if (!Rifila(Std(txtNomeProgetto->text())).empty()) picGoOn->click();
+  });
+  connect(picGoOn, &QAbstractButton::clicked, this, [this] { Avanti(); });
+  connect(picGoBack, &QAbstractButton::clicked, this, [this] { Scarica(); });
+  connect(picHelp, &QAbstractButton::clicked, this, [this] { Aiuto(); });
+  SuTasto(Qt::Key_Escape, [this] { picGoBack->click(); });
+  SuTasto(Qt::Key_F1, [this] { Aiuto(); });
+}
+
+void frmRichiestaNomeForm::AlCaricamento() {
+  C().Messaggi.ImpostaPuntatore(Puntatore::Attesa);
+  txtNomeProgetto->setText(Qs(C().Stato.ProjectName));
+  LocalizzaForm(C(), kForm, *this);
+  lblNota->setText(QsRighe(NotaCaratteriVietati(C(), "\r\n")));
+  txtNomeProgetto->setPlaceholderText(Qs(TestoLingua(C(), "0130106")));
+  VestiNota(*lblNota, C().Stato.ProjectName);
+  C().Messaggi.ImpostaPuntatore(Puntatore::Normale);
+  txtNomeProgetto->setFocus();
+}
+
+void frmRichiestaNomeForm::Avanti() {
+  const EsitoNuovo outcome = PreparaCartella(C(), Std(txtNomeProgetto->text()), SoloNome);
+  if (outcome == EsitoNuovo::NomeVuoto) txtNomeProgetto->setFocus();
+  if (outcome == EsitoNuovo::Creato) {
+    RiempiCartella(C());
+    FormSuccessivo = Schermata::Configurazione;
+    C().Messaggi.ImpostaPuntatore(Puntatore::Normale);
+  }
+  if (outcome == EsitoNuovo::Creato || outcome == EsitoNuovo::SoloNome) Scarica();
+}
+
+bool frmRichiestaNomeForm::PuoChiudere(Causa causa) {
+  if (causa == Causa::Utente && FormSuccessivo != Schermata::ElencoProgetti) {
+    FormSuccessivo = Schermata::Menu;
+  }
+  return true;
+}
+
+void frmRichiestaNomeForm::AlloScarico() {
+  hide();
+  C().Messaggi.LasciaCorrere();
+  ambiente_.Schermi.Mostra(FormSuccessivo);
+  C().Messaggi.LasciaCorrere();
+}
+
+}  // namespace kvr5

@@ -1,0 +1,37 @@
+#include <QFileDialog>
+
+#include "core/screens/FinestreQt.h"
+#include "core/screens/Testo.h"
+#include "support/screens/ProvaForm.h"
+
+namespace kvr5 {
+namespace {
+
+using namespace test;
+
+class Cartelle : public testing::Test {
+ protected:
+  BancoSchermi b;
+};
+
+TEST_F(Cartelle, AChosenFolderComesInTheSystemsForm) {
+  const Pilota<QFileDialog> pilot([this](QFileDialog& chooser) {
+    EXPECT_EQ(chooser.windowTitle(), "Pick one");
+    EXPECT_EQ(Std(chooser.directory().absolutePath()), b.Cartella.Host().string());
+    ScegliCartella(chooser, (b.Cartella.Host() / "card").string());
+  });
+  EXPECT_EQ(b.C.Finestre.SfogliaCartella("Pick one", b.Percorso("")), b.Percorso("card"));
+}
+
+TEST_F(Cartelle, ACancelGivesTheEmptyText) {
+  const Pilota<QFileDialog> pilot([](QFileDialog& chooser) { Tasto(chooser, Qt::Key_Escape); });
+  EXPECT_EQ(b.C.Finestre.SfogliaCartella("Pick one", {}), "");
+}
+
+TEST_F(Cartelle, AStartThatIsGoneIsNoHindrance) {
+  const Pilota<QFileDialog> pilot([](QFileDialog& chooser) { chooser.close(); });
+  EXPECT_EQ(b.C.Finestre.SfogliaCartella("Pick one", b.Percorso("gone")), "");
+}
+
+}  // namespace
+}  // namespace kvr5

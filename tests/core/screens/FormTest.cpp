@@ -1,0 +1,220 @@
+#include <QTest>
+#include <functional>
+
+#include "core/screens/Form.h"
+#include "support/screens/ProvaForm.h"
+
+namespace kvr5 {
+namespace {
+
+using namespace test;
+
+class FormDiProva : public Form {
+ public:
+  explicit FormDiProva(Ambiente& ambiente) : Form(ambiente, "frmProva") {}
+
+  int Membro = 7;
+  static inline int Caricamenti = 0;
+  static inline int Scarichi = 0;
+  static inline int Attivazioni = 0;
+  static inline std::vector<Causa> Cause;
+  static inline std::function<void()> NelCaricamento;
+  static inline std::function<void()> NelloScarico;
+  bool Rifiuta = false;
+  /// Closes itself in the middle of a handler that lets events run; true while it was still there.
+  bool ChiudiNelMezzo() {
+    const Impegno stays(*this);
+    close();
+    QCoreApplication::processEvents();
+    return Caricata();
+  }
+
+ protected:
+  void AlCaricamento() override {
+    ++Caricamenti;
+    if (NelCaricamento) NelCaricamento();
+  }
+  void AllAttivazione() override { ++Attivazioni; }
+  bool PuoChiudere(Causa causa) override {
+    Cause.push_back(causa);
+    return !Rifiuta;
+  }
+  void AlloScarico() override {
+    ++Scarichi;
+    if (NelloScarico) NelloScarico();
+  }
+};
+
+class VitaDiUnaForm : public ProvaForm<FormDiProva> {
+ protected:
+  VitaDiUnaForm() {
+    FormDiProva::Caricamenti = FormDiProva::Scarichi = FormDiProva::Attivazioni = 0;
+    FormDiProva::Cause.clear();
+    FormDiProva::NelCaricamento = {};
+    FormDiProva::NelloScarico = {};
+  }
+};
+
+TEST_F(VitaDiUnaForm, SettingAPlainMemberDoesNotLoad) {
+  forma->Membro = 3;
+  EXPECT_FALSE(forma.Caricata());
+  EXPECT_EQ(FormDiProva::Caricamenti, 0);
+  EXPECT_EQ(b.Vita.Quante(), 0);
+}
+
+TEST_F(VitaDiUnaForm, TheFirstShowLoadsAndLaterOnesDoNot) {
+  forma->Membro = 3;
+  Apri();
+  EXPECT_EQ(FormDiProva::Caricamenti, 1);
+  EXPECT_EQ(forma->Membro, 3);
+  forma->Mostra();
+  EXPECT_EQ(FormDiProva::Caricamenti, 1);
+  EXPECT_EQ(b.Vita.Quante(), 1);
+}
+
+TEST_F(VitaDiUnaForm, AskedToLoadItLoadsOnceAndStaysUnseen) {
+  forma->Carica();
+  forma->Carica();
+  EXPECT_EQ(FormDiProva::Caricamenti, 1);
+  EXPECT_FALSE(forma->isVisible());
+  Apri();
+  EXPECT_EQ(FormDiProva::Caricamenti, 1);
+}
+
+TEST_F(VitaDiUnaForm, HiddenItStaysLoadedAndIsShownWithoutALoad) {
+  Apri().Membro = 9;
+  forma->Nascondi();
+  EXPECT_TRUE(forma.Caricata());
+  EXPECT_EQ(b.Vita.Quante(), 1);
+  EXPECT_EQ(Apri().Membro, 9);
+  EXPECT_EQ(FormDiProva::Caricamenti, 1);
+  EXPECT_EQ(FormDiProva::Scarichi, 0);
+}
+
+TEST_F(VitaDiUnaForm, UnloadedItIsMadeAfreshWithItsInitialMembers) {
+  Apri().Membro = 9;
+  const QPointer<FormDiProva> old = &*forma;
+  forma->Scarica();
+  EXPECT_FALSE(forma.Caricata());
+  EXPECT_FALSE(old->isVisible());
+  EXPECT_EQ(forma->Membro, 7);
+  EXPECT_EQ(FormDiProva::Caricamenti, 1) << "the next one isn't loaded by being looked at";
+  Apri();
+  EXPECT_EQ(FormDiProva::Caricamenti, 2);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return old.isNull(); })) << "the old one is deleted";
+}
+
+TEST_F(VitaDiUnaForm, UnloadingAFormThatIsNotLoadedDoesNothing) {
+  forma.Scarica();
+  forma->Scarica();
+  EXPECT_EQ(FormDiProva::Scarichi, 0);
+  EXPECT_TRUE(FormDiProva::Cause.empty());
+  EXPECT_EQ(b.UltimeScaricate, 0);
+}
+
+TEST_F(VitaDiUnaForm, TheWindowsOwnButtonAsksAsTheUser) {
+  Apri().close();
+  EXPECT_EQ(FormDiProva::Cause, std::vector{Form::Causa::Utente});
+  EXPECT_EQ(FormDiProva::Scarichi, 1);
+  EXPECT_FALSE(forma.Caricata());
+}
+
+TEST_F(VitaDiUnaForm, UnloadedByCodeItIsAskedAsSuch) {
+  Apri().Scarica();
+  EXPECT_EQ(FormDiProva::Cause, std::vector{Form::Causa::Codice});
+}
+
+TEST_F(VitaDiUnaForm, ARefusalKeepsItOnTheScreen) {
+  Apri().Rifiuta = true;
+  forma->close();
+  forma->Scarica();
+  EXPECT_EQ(FormDiProva::Cause.size(), 2U);
+  EXPECT_TRUE(forma->isVisible());
+  EXPECT_TRUE(forma.Caricata());
+  EXPECT_EQ(FormDiProva::Scarichi, 0);
+}
+
+TEST_F(VitaDiUnaForm, ClosedOnceMoreWhileItsUnloadLetsEventsRunItIsUnloadedOnce) {
+  FormDiProva& form = Apri();
+  FormDiProva::NelloScarico = [&form] {
+    form.Scarica();
+    form.close();
+    QCoreApplication::processEvents();
+  };
+  form.Scarica();
+  EXPECT_EQ(FormDiProva::Scarichi, 1);
+  EXPECT_EQ(b.Vita.Quante(), 0);
+  EXPECT_EQ(b.UltimeScaricate, 1);
+}
+
+TEST_F(VitaDiUnaForm, ClosedUnderAHandlerThatLetsEventsRunItGoesWhenThatHasEnded) {
+  FormDiProva& form = Apri();
+  EXPECT_TRUE(form.ChiudiNelMezzo());
+  EXPECT_EQ(FormDiProva::Scarichi, 0);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !forma.Caricata(); }));
+  EXPECT_EQ(FormDiProva::Scarichi, 1);
+  EXPECT_EQ(FormDiProva::Cause, std::vector{Form::Causa::Utente});
+}
+
+TEST_F(VitaDiUnaForm, ModalTheCallerWaitsUntilItIsUnloaded) {
+  const Pilota<FormDiProva> pilot([](FormDiProva& form) {
+    EXPECT_TRUE(form.isModal());
+    form.close();
+  });
+  forma->MostraModale();
+  EXPECT_EQ(FormDiProva::Scarichi, 1);
+}
+
+TEST_F(VitaDiUnaForm, ModalTheCallerWaitsUntilItIsHidden) {
+  const Pilota<FormDiProva> pilot([](FormDiProva& form) { form.Nascondi(); });
+  forma->MostraModale();
+  EXPECT_TRUE(forma.Caricata());
+}
+
+TEST_F(VitaDiUnaForm, ModalOverAnotherFormItKeepsClicksFromThatOne) {
+  FormDiProva below(b.A);
+  below.Mostra();
+  ASSERT_TRUE(Pronta(below));
+  const Pilota<FormDiProva> pilot([&](FormDiProva& form) {
+    EXPECT_NE(&form, &below);
+    form.close();
+  });
+  forma->MostraModale();
+  EXPECT_TRUE(below.isVisible());
+  EXPECT_EQ(b.Vita.Quante(), 1);
+}
+
+TEST_F(VitaDiUnaForm, SentAwayByItsOwnLoadItIsNeverShown) {
+  FormDiProva::NelCaricamento = [this] { forma->Scarica(); };
+  FormDiProva& form = *forma;
+  form.Mostra();
+  EXPECT_FALSE(form.isVisible());
+  EXPECT_FALSE(forma.Caricata());
+  form.MostraModale();  // returns at once
+  EXPECT_EQ(FormDiProva::Caricamenti, 1);
+}
+
+TEST_F(VitaDiUnaForm, ComingToTheFrontItIsActivated) {
+  Apri();
+  EXPECT_EQ(FormDiProva::Attivazioni, 1);
+  QWidget other;
+  other.show();
+  other.activateWindow();
+  ASSERT_TRUE(Pronta(other));
+  forma->activateWindow();
+  ASSERT_TRUE(Pronta(*forma));
+  EXPECT_EQ(FormDiProva::Attivazioni, 2);
+}
+
+TEST_F(VitaDiUnaForm, TheProcessEndsWithTheLastLoadedFormHiddenOnesIncluded) {
+  FormDiProva second(b.A);
+  second.Carica();
+  Apri();
+  forma->Scarica();
+  EXPECT_EQ(b.UltimeScaricate, 0) << "one is loaded still, unseen";
+  second.Scarica();
+  EXPECT_EQ(b.UltimeScaricate, 1);
+}
+
+}  // namespace
+}  // namespace kvr5

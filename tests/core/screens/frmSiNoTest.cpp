@@ -1,0 +1,158 @@
+#include <QLineEdit>
+
+#include "core/screens/FinestreQt.h"
+#include "core/screens/Testo.h"
+#include "core/screens/frmSiNo.h"
+#include "support/screens/ProvaForm.h"
+
+namespace kvr5 {
+namespace {
+
+using namespace test;
+
+/// The box as the logic opens it.
+class SiNo : public testing::Test {
+ protected:
+  std::uint8_t Chiedi(const std::function<void(frmSiNo&)>& user,
+                      std::optional<std::string> onlyOk = {}, const std::string& note = "Sure?") {
+    const Pilota<frmSiNo> pilot([&](frmSiNo& box) {
+      EXPECT_TRUE(Pronta(box));
+      user(box);
+    });
+    return b.C.Finestre.MostraSiNo({"Title", note, std::move(onlyOk), {}});
+  }
+
+  BancoSchermi b;
+};
+
+TEST_F(SiNo, YesIsOneAndNoIsTwo) {
+  EXPECT_EQ(Chiedi([](frmSiNo& box) { Clicca(box, "cmdSi"); }), 1);
+  EXPECT_EQ(b.C.Stato.RispostaSiNo, 1);
+  EXPECT_EQ(Chiedi([](frmSiNo& box) { Clicca(box, "cmdNo"); }), 2);
+  EXPECT_EQ(b.C.Stato.RispostaSiNo, 2);
+}
+
+TEST_F(SiNo, LabelsAndPicturesAnswerAsTheirButtons) {
+  EXPECT_EQ(Chiedi([](frmSiNo& box) { Clicca(box, "lblYes"); }), 1);
+  EXPECT_EQ(Chiedi([](frmSiNo& box) { Clicca(box, "picSi"); }), 1);
+  EXPECT_EQ(Chiedi([](frmSiNo& box) { Clicca(box, "lblNo"); }), 2);
+  EXPECT_EQ(Chiedi([](frmSiNo& box) { Clicca(box, "picCancel"); }), 2);
+}
+
+TEST_F(SiNo, ShowsItsTitleItsQuestionAndTheLanguagesAnswers) {
+  Chiedi(
+      [](frmSiNo& box) {
+        EXPECT_EQ(box.windowTitle(), "Title");
+        EXPECT_EQ(Scritta(box, "lblNota"), "First line\nsecond line");
+        EXPECT_EQ(Scritta(box, "lblYes"), "Yes");
+        EXPECT_EQ(Scritta(box, "lblNo"), "No");
+        box.close();
+      },
+      {}, "First line\r\nsecond line");
+}
+
+TEST_F(SiNo, ClosedByTheWindowsOwnButtonTheAnswerStaysClear) {
+  b.C.Stato.RispostaSiNo = 1;
+  EXPECT_EQ(Chiedi([](frmSiNo& box) { box.close(); }), 0);
+  EXPECT_EQ(b.C.Stato.RispostaSiNo, 0);
+}
+
+TEST_F(SiNo, EscActsAsTheWindowsOwnButton) {
+  EXPECT_EQ(Chiedi([](frmSiNo& box) { Tasto(box, Qt::Key_Escape); }), 0);
+}
+
+TEST_F(SiNo, WithTwoButtonsEnterDoesNothingWhereverTheFocusIs) {
+  EXPECT_EQ(Chiedi([](frmSiNo& box) {
+              for (QWidget* control :
+                   {static_cast<QWidget*>(box.cmdSi), static_cast<QWidget*>(box.cmdNo)}) {
+                control->setFocus();
+                Tasto(box, Qt::Key_Return);
+                Tasto(box, Qt::Key_Enter);
+                EXPECT_TRUE(box.isVisible());
+              }
+              Clicca(box, "cmdNo");
+            }),
+            2);
+}
+
+TEST_F(SiNo, AClickOnTheQuestionDoesNothing) {
+  EXPECT_EQ(Chiedi([](frmSiNo& box) {
+              Clicca(box, "lblNota");
+              EXPECT_TRUE(box.isVisible());
+              Clicca(box, "cmdSi");
+            }),
+            1);
+}
+
+TEST_F(SiNo, ANoticeHasOneButtonWithTheTextPassedAndEnterAnswersOne) {
+  EXPECT_EQ(Chiedi(
+                [](frmSiNo& box) {
+                  EXPECT_FALSE(box.cmdNo->isVisible());
+                  EXPECT_EQ(Scritta(box, "lblYes"), "Understood");
+                  Tasto(box, Qt::Key_Return);
+                },
+                "Understood"),
+            1);
+}
+
+TEST_F(SiNo, TheButtonOfANoticeStandsInTheMiddle) {
+  Chiedi(
+      [](frmSiNo& box) {
+        const int middle = box.cmdSi->geometry().center().x();
+        EXPECT_NEAR(middle, box.rect().center().x(), 2);
+        box.close();
+      },
+      "OK");
+}
+
+TEST_F(SiNo, AfterANoticeAQuestionHasBothButtonsAgain) {
+  Chiedi([](frmSiNo& box) { Clicca(box, "cmdSi"); }, "OK");
+  EXPECT_EQ(Chiedi([](frmSiNo& box) {
+              EXPECT_TRUE(box.cmdNo->isVisible());
+              EXPECT_EQ(Scritta(box, "lblYes"), "Yes");
+              Clicca(box, "cmdNo");
+            }),
+            2);
+}
+
+TEST_F(SiNo, ALongTextShowsWhole) {
+  std::string note;
+  for (int i = 0; i < 60; ++i) note += "Quite a few words of a question. ";
+  Chiedi(
+      [](frmSiNo& box) {
+        const int needed = box.lblNota->heightForWidth(box.lblNota->width());
+        EXPECT_GE(box.lblNota->height(), needed);
+        EXPECT_TRUE(box.rect().contains(box.cmdSi->geometry()));
+        box.close();
+      },
+      {}, note);
+}
+
+TEST_F(SiNo, AColourOfTheLogicIsTheQuestionsOwn) {
+  const Pilota<frmSiNo> pilot([](frmSiNo& box) {
+    EXPECT_EQ(box.lblNota->palette().color(QPalette::WindowText), QColor(255, 128, 0));
+    box.close();
+  });
+  b.C.Finestre.MostraSiNo({"Title", "Note", {}, 33023});
+}
+
+TEST_F(SiNo, ItsLoadTakesTheBusyPointerOffForTheCallerToo) {
+  b.C.Messaggi.ImpostaPuntatore(Puntatore::Attesa);
+  Chiedi([](frmSiNo& box) {
+    EXPECT_FALSE(PuntatoreOccupato());
+    box.close();
+  });
+  EXPECT_FALSE(PuntatoreOccupato());
+}
+
+TEST_F(SiNo, ReimpostaChangesNothing) {
+  Chiedi([](frmSiNo& box) {
+    box.Reimposta();
+    EXPECT_EQ(Scritta(box, "lblNota"), "Sure?");
+    EXPECT_TRUE(box.cmdNo->isVisible());
+    box.close();
+  });
+}
+
+}  // namespace
+}  // namespace kvr5

@@ -1,0 +1,183 @@
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QPointer>
+#include <QTest>
+#include <map>
+
+#include "core/screens/frmSiNo.h"
+#include "flashcard/screens/frmSelectFlash.h"
+#include "support/screens/BancoSchermi.h"
+#include "support/screens/Mano.h"
+#include "support/screens/Pilota.h"
+
+// The dialog that says which drive is the card.
+
+namespace kvr5 {
+namespace {
+
+using test::Pilota;
+
+/// Drives of a test: each entry with its type and what listing its root fails with.
+class DriveFinti : public SorgenteDrive {
+ public:
+  void Aggiungi(const std::string& voce, std::uint32_t tipo = tipo_drive::Rimovibile,
+                int errore = 0) {
+    voci_.push_back(voce);
+    tipi_[voce.substr(0, 2) + "\\"] = tipo;
+    errori_[voce.substr(0, 2) + "\\"] = errore;
+  }
+  std::vector<std::string> Voci() override { return voci_; }
+  std::uint32_t Tipo(const std::string& radice) override { return tipi_.at(radice); }
+  Error Elenca(const std::string& radice) override {
+    const int error = errori_.at(radice);
+    return error == 0 ? Error() : Error(error);
+  }
+  std::optional<Drive> Fatti(const std::string& radice) override {
+    Drive drive;
+    drive.Letter = radice[0];
+    drive.Label = std::string("CARD-") + radice[0];
+    return drive;
+  }
+
+ private:
+  std::vector<std::string> voci_;
+  std::map<std::string, std::uint32_t> tipi_;
+  std::map<std::string, int> errori_;
+};
+
+class SelectFlash : public testing::Test {
+ protected:
+  ~SelectFlash() override { delete form; }
+  /// Shows the dialog; `use` works on it while it waits.
+  void Show(std::function<void(frmSelectFlash&)> use) {
+    form = new frmSelectFlash(b.A, drives);
+    form->FormChiamante = Schermata::Configurazione;
+    const Pilota<frmSelectFlash> user(std::move(use));
+    form->MostraModale();
+  }
+  /// Shows the dialog that finds no card, and takes its notice.
+  void ShowWithoutCard() {
+    form = new frmSelectFlash(b.A, drives);
+    form->FormChiamante = Schermata::Configurazione;
+    const Pilota<frmSiNo> notice([](frmSiNo& box) {
+      EXPECT_EQ(box.windowTitle().toStdString(), "No memory card");
+      EXPECT_EQ(box.lblNota->text().toStdString(),
+                "No memory card was found. Put it into the reader, wait a moment, then repeat.");
+      EXPECT_FALSE(box.cmdNo->isVisible());
+      EXPECT_EQ(box.lblYes->text().toStdString(), "OK");
+      test::Clicca(*box.cmdSi);
+    });
+    form->MostraModale();
+    EXPECT_TRUE(form == nullptr || form->Scaricata());
+    EXPECT_EQ(b.Schermi.Mostrate, std::vector{Schermata::Configurazione});
+  }
+  static std::string Items(frmSelectFlash& dialog) {
+    std::string all;
+    for (int i = 0; i < dialog.cmdFlash->count(); ++i) {
+      all += dialog.cmdFlash->itemText(i).toStdString();
+    }
+    return all;
+  }
+
+  test::BancoSchermi b;
+  DriveFinti drives;
+  QPointer<frmSelectFlash> form;
+};
+
+TEST_F(SelectFlash, WithoutAnyDriveSaysSoAndGoes) {
+  ShowWithoutCard();
+}
+
+TEST_F(SelectFlash, WithFixedDisksAndAFloppyOnlySaysSoAndGoes) {
+  drives.Aggiungi("a:");
+  drives.Aggiungi("c: [SYSTEM]", 3);
+  b.C.Stato.SelezioneFlashAnnullata = true;
+  b.C.Stato.PercorsoMemoryCard = "F:\\";
+  ShowWithoutCard();
+  EXPECT_FALSE(b.C.Stato.SelezioneFlashAnnullata);
+  EXPECT_EQ(b.C.Stato.PercorsoMemoryCard, "F:\\") << "the card from before stays";
+}
+
+TEST_F(SelectFlash, OffersReadersWithACardAndNeverAFloppyLetter) {
+  drives.Aggiungi("b:");
+  drives.Aggiungi("e:", tipo_drive::Rimovibile, errors::BadFileName);
+  drives.Aggiungi("f: [SHOP]");
+  drives.Aggiungi("g:", tipo_drive::Rimovibile, errors::DeviceIo);
+  Show([](frmSelectFlash& dialog) {
+    EXPECT_EQ(Items(dialog), "F:\\G:\\");
+    EXPECT_EQ(dialog.cmdFlash->currentIndex(), 0);
+    EXPECT_NE(dialog.lblFatti->text().indexOf(QStringLiteral("CARD-F")), -1);
+    test::Clicca(dialog, "picCancel");
+  });
+}
+
+TEST_F(SelectFlash, OkTakesTheSelectedCardAndHasItShown) {
+  drives.Aggiungi("e:");
+  drives.Aggiungi("f:");
+  Show([](frmSelectFlash& dialog) {
+    QTest::keyClick(dialog.cmdFlash, Qt::Key_Down);
+    EXPECT_NE(dialog.lblFatti->text().indexOf(QStringLiteral("CARD-F")), -1) << "its facts follow";
+    test::Clicca(dialog, "picOk");
+  });
+  EXPECT_EQ(b.C.Stato.PercorsoMemoryCard, "F:\\");
+  EXPECT_FALSE(b.C.Stato.SelezioneFlashAnnullata);
+  EXPECT_EQ(b.Schermi.PercorsiAggiornati, 1);
+  EXPECT_EQ(b.Schermi.Mostrate, std::vector{Schermata::Configurazione});
+}
+
+TEST_F(SelectFlash, ForAnotherScreenNoLabelIsRefreshed) {
+  drives.Aggiungi("e:");
+  Show([](frmSelectFlash& dialog) {
+    dialog.FormChiamante = Schermata::ElencoProgetti;
+    test::Clicca(dialog, "picOk");
+  });
+  EXPECT_EQ(b.C.Stato.PercorsoMemoryCard, "E:\\");
+  EXPECT_EQ(b.Schermi.PercorsiAggiornati, 0);
+  EXPECT_EQ(b.Schermi.Mostrate, std::vector{Schermata::ElencoProgetti});
+}
+
+TEST_F(SelectFlash, CancelKeepsTheOldCardAndRaisesTheFlag) {
+  drives.Aggiungi("e:");
+  b.C.Stato.PercorsoMemoryCard = "F:\\";
+  Show([](frmSelectFlash& dialog) { test::Clicca(dialog, "picCancel"); });
+  EXPECT_EQ(b.C.Stato.PercorsoMemoryCard, "F:\\");
+  EXPECT_TRUE(b.C.Stato.SelezioneFlashAnnullata);
+  EXPECT_EQ(b.Schermi.Mostrate, std::vector{Schermata::Configurazione});
+}
+
+TEST_F(SelectFlash, EscCancelsAndTheWindowsOwnButtonLeavesBothAsTheyAre) {
+  drives.Aggiungi("e:");
+  b.C.Stato.PercorsoMemoryCard = "F:\\";
+  Show([](frmSelectFlash& dialog) { test::Tasto(dialog, Qt::Key_Escape); });
+  EXPECT_EQ(b.C.Stato.PercorsoMemoryCard, "F:\\");
+  EXPECT_TRUE(b.C.Stato.SelezioneFlashAnnullata);
+  Show([](frmSelectFlash& dialog) { dialog.close(); });
+  EXPECT_EQ(b.C.Stato.PercorsoMemoryCard, "F:\\");
+  EXPECT_FALSE(b.C.Stato.SelezioneFlashAnnullata);
+  EXPECT_EQ(b.Schermi.Mostrate.size(), 2U) << "the caller comes back each time";
+}
+
+TEST_F(SelectFlash, ExploreOpensTheCardAndStays) {
+  drives.Aggiungi("e:");
+  Show([this](frmSelectFlash& dialog) {
+    test::Clicca(dialog, "picOpen");
+    EXPECT_EQ(b.Documenti.Aperti, std::vector<std::string>{"E:\\"});
+    EXPECT_TRUE(dialog.isVisible());
+    test::Clicca(dialog, "picCancel");
+  });
+}
+
+TEST_F(SelectFlash, F1OpensTheHelp) {
+  drives.Aggiungi("e:");
+  Show([this](frmSelectFlash& dialog) {
+    test::Tasto(dialog, Qt::Key_F1);
+    EXPECT_FALSE(test::PuntatoreOccupato());
+    test::Clicca(dialog, "picCancel");
+  });
+  ASSERT_EQ(b.Documenti.Aperti.size(), 1U);
+  EXPECT_TRUE(b.Documenti.Aperti[0].starts_with(b.Percorso("program/Help") + "\\"));
+}
+
+}  // namespace
+}  // namespace kvr5

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QFileDialog>
+#include <QPointer>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "core/screens/RiquadroMessaggio.h"
+#include "core/screens/frmSiNo.h"
+#include "playerconfig/screens/frmPlayerConfig.h"
+#include "support/screens/BancoSchermi.h"
+#include "support/screens/Mano.h"
+#include "support/screens/Pilota.h"
+
+class QListWidget;
+
+namespace kvr5::test {
+
+/// What the hub has done by others, in a test: a recording that is only counted, a card that is
+/// there as the test says.
+class ServiziFinti : public ServiziHub {
+ public:
+  void RegistraProgetto(TabellaIngressi& /*ingressi*/) override {
+    ++Registrazioni;
+    if (SuRegistra) SuRegistra();
+  }
+  std::optional<Drive> FattiDellaScheda() override { return Scheda; }
+
+  int Registrazioni = 0;
+  std::function<void()> SuRegistra;
+  std::optional<Drive> Scheda;
+};
+
+/// The hub of a project named Hall.
+class Hub : public testing::Test {
+ protected:
+  ~Hub() override { Chiudi(); }
+
+  /// Makes the project by its model's own rules.
+  void Progetto(std::int16_t playerType, std::int16_t playerMode, std::int16_t playerConfig = 0) {
+    b.CreaProgetto("Hall", playerType, playerMode, playerConfig);
+  }
+  /// Sets a key of the project's device file.
+  void Parametro(const std::string& key, const std::string& value);
+  /// Has this folder of the bench be the one that was used last.
+  void UltimaCartella(const std::string& name);
+  std::string Config() const { return b.Cartella.Read("program/Projects/Hall/Config.txt"); }
+
+  /// Opens the hub: 0 new, 1 from the list, 2 from a card.
+  void Apri(std::int16_t apreDaFlash = 1);
+  /// Drops the hub without its question.
+  void Chiudi();
+
+  template <class T>
+  T& Trova(const std::string& name) {
+    return Controllo<T>(*hub, name.c_str());
+  }
+  std::string Testo(const char* label) { return Scritta(*hub, label); }
+  bool SiVede(const char* name) { return Trova<QWidget>(name).isVisible(); }
+  void Clic(const char* name) { Clicca(*hub, name); }
+  /// A click on the box of an input.
+  void Spunta(int ingresso) { Clic(("chkIn_" + std::to_string(ingresso)).c_str()); }
+  /// Goes to this entry of cmbFileMp3 with the arrow keys.
+  void ScegliFile(const std::string& name);
+  /// A click on a row of a list, which is brought into view before.
+  static void ClicRiga(QListWidget& list, int row);
+
+  /// The row of a code as another program reads it: "FileName|FilePath|Alias|NPlaylist"; "" for a
+  /// free code.
+  std::string Riga(int code);
+  /// How many rows the table has.
+  int Righe();
+
+  BancoSchermi b;
+  ServiziFinti servizi;
+  QPointer<frmPlayerConfig> hub;
+};
+
+/// Sees the title and the text of a box before it is answered.
+using Vede = std::function<void(const QString&, const QString&)>;
+
+/// Presses a button of the next plain message box: "cmdYes", "cmdNo", "cmdCancel".
+Pilota<RiquadroMessaggio> RispondiMessaggio(const char* pulsante, Vede vede = {});
+/// Presses a key on the next plain message box.
+Pilota<RiquadroMessaggio> RispondiMessaggioConTasto(Qt::Key tasto);
+/// Presses the only button of the next notice.
+Pilota<frmSiNo> RispondiSoloOk(Vede vede = {});
+/// Chooses a folder of the host in the next folder browser.
+Pilota<QFileDialog> RispondiCartella(const std::string& cartella);
+
+}  // namespace kvr5::test

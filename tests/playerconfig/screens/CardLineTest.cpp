@@ -1,0 +1,133 @@
+#include <gtest/gtest.h>
+
+#include <QTest>
+
+#include "playerconfig/screens/BancoHub.h"
+
+// The line of the chosen card, and the sign that settings are unsaved.
+
+namespace kvr5 {
+namespace {
+
+class CardLine : public test::Hub {
+ protected:
+  void Open(const char* root) {
+    Progetto(4, 1);
+    b.C.Stato.PercorsoMemoryCard = root;
+    Apri();
+  }
+  static Drive Card() {
+    Drive drive;
+    drive.Letter = 'E';
+    drive.Label = "SHOP";
+    drive.Size = 2000000000;
+    return drive;
+  }
+};
+
+TEST_F(CardLine, WithoutACardSaysThatNoneIsChosen) {
+  Open("");
+  EXPECT_EQ(Testo("lblPathMemoryCard"), "Memory card: none chosen");
+  EXPECT_EQ(Testo("lblStatoScheda"), "");
+}
+
+TEST_F(CardLine, ShowsTheCardsStateFromTheLoadAndItsPathOnceItIsChosen) {
+  servizi.Scheda = Card();
+  Open("E:\\");
+  EXPECT_EQ(Testo("lblPathMemoryCard"), "Memory card: none chosen");
+  EXPECT_EQ(Testo("lblStatoScheda"), "ready, SHOP 1.9 GB") << "where a recording would go";
+  hub->AggiornaPercorsoMemoryCard();
+  EXPECT_EQ(Testo("lblPathMemoryCard"), "Memory card: E:\\");
+  EXPECT_EQ(Testo("lblStatoScheda"), "ready, SHOP 1.9 GB");
+}
+
+TEST_F(CardLine, ACardThatIsLockedOrGoneSaysSo) {
+  servizi.Scheda = Card();
+  servizi.Scheda->ReadOnly = true;
+  Open("E:\\");
+  EXPECT_TRUE(Testo("lblStatoScheda").starts_with("locked: open its lock"))
+      << Testo("lblStatoScheda");
+  servizi.Scheda->HasMedium = false;
+  hub->AggiornaPercorsoMemoryCard();
+  EXPECT_EQ(Testo("lblStatoScheda"), "taken out: put it back in");
+  servizi.Scheda.reset();
+  hub->AggiornaPercorsoMemoryCard();
+  EXPECT_EQ(Testo("lblStatoScheda"), "taken out: put it back in");
+}
+
+TEST_F(CardLine, FollowsTheCardWhileItIsTakenOutAndPutBack) {
+  servizi.Scheda = Card();
+  Open("E:\\");
+  servizi.Scheda.reset();
+  EXPECT_TRUE(
+      QTest::qWaitFor([this] { return Testo("lblStatoScheda") == "taken out: put it back in"; }));
+  servizi.Scheda = Card();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Testo("lblStatoScheda") == "ready, SHOP 1.9 GB"; }));
+}
+
+TEST_F(CardLine, ADoubleClickEnterAndTheButtonLetACardBeChosen) {
+  Open("");
+  QTest::mouseDClick(&Trova<QWidget>("lblPathMemoryCard"), Qt::LeftButton);
+  QTest::keyClick(&Trova<QWidget>("lblPathMemoryCard"), Qt::Key_Return);
+  Clic("cmdScegliScheda");
+  EXPECT_EQ(b.Schermi.SchedePer, std::vector(3, Schermata::Configurazione));
+}
+
+TEST_F(CardLine, AChosenCardIsShownAtOnce) {
+  Open("");
+  b.C.Stato.PercorsoMemoryCard = "E:\\";
+  servizi.Scheda = Card();
+  hub->AggiornaPercorsoMemoryCard();
+  EXPECT_EQ(Testo("lblPathMemoryCard"), "Memory card: E:\\");
+  EXPECT_EQ(Testo("lblStatoScheda"), "ready, SHOP 1.9 GB");
+}
+
+class UnsavedSign : public test::Hub {
+ protected:
+  bool Shown() { return SiVede("lblNonSalvato"); }
+  void Key(const char* control, Qt::Key key) { QTest::keyClick(&Trova<QWidget>(control), key); }
+};
+
+TEST_F(UnsavedSign, AFreshProjectHasNone) {
+  Progetto(4, 1);
+  Apri();
+  EXPECT_FALSE(Shown());
+}
+
+TEST_F(UnsavedSign, ComesWithAChangeAndGoesWhenItIsTakenBack) {
+  Progetto(4, 1);
+  Apri();
+  Key("sliVolume", Qt::Key_Up);
+  EXPECT_TRUE(Shown());
+  Key("sliVolume", Qt::Key_Down);
+  EXPECT_FALSE(Shown());
+  Clic("optMICP_ContinuosPlay");
+  EXPECT_TRUE(Shown());
+  Clic("optMICP_Zero");
+  EXPECT_FALSE(Shown());
+  Clic("u_dTPCM_su");
+  EXPECT_TRUE(Shown());
+  Clic("optTPCM_Off");
+  EXPECT_FALSE(Shown());
+}
+
+TEST_F(UnsavedSign, AFileThatASaveWouldChangeRaisesItAtOnce) {
+  Progetto(4, 1);
+  Parametro("MIRS", "0");
+  Apri();
+  EXPECT_TRUE(Shown());
+}
+
+TEST_F(UnsavedSign, AssignmentsAreKeptAtOnceAndRaiseNone) {
+  Progetto(4, 1);
+  b.ScriviMp3("music/a.mp3");
+  UltimaCartella("music");
+  Apri(0);
+  Spunta(1);
+  ScegliFile("a.mp3");
+  Clic("cmdOkFileMp3");
+  EXPECT_FALSE(Shown());
+}
+
+}  // namespace
+}  // namespace kvr5

@@ -1,0 +1,172 @@
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QTest>
+#include <QTimer>
+
+#include "playerconfig/screens/BancoHub.h"
+
+// The panel about the picked file, and which file can be confirmed.
+
+namespace kvr5 {
+namespace {
+
+class FileInfo : public test::Hub {
+ protected:
+  void SetUp() override {
+    Progetto(4, 1);
+    UltimaCartella("music");
+  }
+  /// Frames of these header bytes, each of this size.
+  void Scrivi(const std::string& name, const std::string& header, std::size_t size,
+              int frames = 40) {
+    std::string bytes;
+    for (int i = 0; i < frames; ++i) {
+      std::string frame = header;
+      frame.resize(size, 'U');
+      bytes += frame;
+    }
+    b.Cartella.Write("music/" + name, bytes);
+  }
+  bool Ok() { return SiVede("cmdOkFileMp3"); }
+  bool Refused() { return SiVede("lblBadFileType"); }
+  std::string Figures() {
+    return Testo("lblVersioneMpeg") + "|" + Testo("lblBitrate") + "|" + Testo("lblFreq");
+  }
+  QTimer& Timer() { return hub->fraFileInfo->tmrInfoMp3; }
+};
+
+constexpr const char* kNoFigures = "||";
+
+TEST_F(FileInfo, AGoodFileShowsItsFiguresAndCanBeConfirmed) {
+  b.ScriviMp3("music/a.mp3", 0, 100);
+  Apri(0);
+  Spunta(1);
+  ScegliFile("a.mp3");
+  EXPECT_EQ(Figures(), "MPEG 1 Layer 3|Bitrate: 128kbit (CBR)|44100 - 2 Ch (Joint Stereo)");
+  EXPECT_TRUE(Testo("lblDurata").ends_with("  41 Kb")) << Testo("lblDurata");
+  EXPECT_FALSE(Refused());
+  EXPECT_TRUE(Ok());
+  EXPECT_TRUE(Trova<QWidget>("cmdOkFileMp3").isEnabled());
+}
+
+TEST_F(FileInfo, TheFirstFileOfTheFolderIsToldFromTheStart) {
+  b.ScriviMp3("music/a.mp3");
+  Apri(0);
+  EXPECT_EQ(Testo("lblVersioneMpeg"), "MPEG 1 Layer 3");
+  EXPECT_FALSE(Ok()) << "nothing is ticked";
+  Spunta(1);
+  EXPECT_TRUE(Ok()) << "the tick asks anew";
+}
+
+TEST_F(FileInfo, WhatIsNoLayer3IsRefusedWithoutFigures) {
+  b.Cartella.Write("music/a.mp3", std::string(5000, 'x'));
+  b.Cartella.Write("music/b.mp3", "");
+  Scrivi("c.mp3", "\xFF\xFD\x80\x64", 417);
+  Apri(0);
+  Spunta(1);
+  for (const char* name : {"a.mp3", "b.mp3", "c.mp3"}) {
+    ScegliFile(name);
+    EXPECT_EQ(Figures(), kNoFigures) << name;
+    EXPECT_TRUE(Refused()) << name;
+    EXPECT_FALSE(Ok()) << name;
+  }
+  EXPECT_EQ(Testo("lblBadFileType"),
+            "The player can't play this file. It takes MPEG 1 Layer 3, 60 to 320 kbit/s, 32,000 "
+            "or 44,100 Hz.");
+}
+
+TEST_F(FileInfo, AnotherVersionIsRefusedWithItsFigures) {
+  Scrivi("a.mp3", "\xFF\xF3\x80\xC4", 208);
+  Apri(0);
+  Spunta(1);
+  ScegliFile("a.mp3");
+  EXPECT_EQ(Figures().substr(0, 15), "MPEG 2 Layer 3|");
+  EXPECT_NE(Testo("lblFreq").find("22050"), std::string::npos);
+  EXPECT_TRUE(Refused());
+  EXPECT_FALSE(Ok());
+}
+
+TEST_F(FileInfo, BitRateAndSampleRateOutOfRangeAreRefusedWithTheirFigures) {
+  Scrivi("a.mp3", "\xFF\xFB\x40\x64", 182);   // 56 kbit/s
+  Scrivi("b.mp3", "\xFF\xFB\x94\x64", 384);   // 48,000 Hz
+  Scrivi("c.mp3", "\xFF\xFB\x50\x64", 208);   // 64 kbit/s
+  Scrivi("d.mp3", "\xFF\xFB\xE0\x64", 1044);  // 320 kbit/s
+  Apri(0);
+  Spunta(1);
+  ScegliFile("a.mp3");
+  EXPECT_EQ(Testo("lblBitrate"), "Bitrate: 56kbit (CBR)");
+  EXPECT_TRUE(Refused());
+  EXPECT_FALSE(Ok());
+  ScegliFile("b.mp3");
+  EXPECT_EQ(Testo("lblFreq").substr(0, 5), "48000");
+  EXPECT_TRUE(Refused());
+  EXPECT_FALSE(Ok());
+  for (const char* good : {"c.mp3", "d.mp3"}) {
+    ScegliFile(good);
+    EXPECT_FALSE(Refused()) << good;
+    EXPECT_TRUE(Ok()) << good;
+  }
+}
+
+TEST_F(FileInfo, TheReasonOfARefusalIsItsToolTip) {
+  Scrivi("a.mp3", "\xFF\xFB\x94\x64", 384);
+  Apri(0);
+  ScegliFile("a.mp3");
+  EXPECT_NE(Trova<QWidget>("lblBadFileType").toolTip(), QString());
+}
+
+TEST_F(FileInfo, TheBlankLineClearsThePanel) {
+  Scrivi("a.mp3", "\xFF\xFB\x94\x64", 384);
+  Apri(0);
+  ScegliFile("a.mp3");
+  ASSERT_TRUE(Refused());
+  ScegliFile(" ");
+  EXPECT_EQ(Figures(), kNoFigures);
+  EXPECT_FALSE(Refused());
+}
+
+TEST_F(FileInfo, IsReadOnceMoreHalfASecondAfterTheLastPick) {
+  b.ScriviMp3("music/a.mp3");
+  b.ScriviMp3("music/b.mp3");
+  Apri(0);
+  Spunta(1);
+  ScegliFile("a.mp3");
+  ScegliFile("b.mp3");
+  ASSERT_TRUE(Timer().isActive());
+  EXPECT_TRUE(Timer().isSingleShot());
+  EXPECT_EQ(Timer().interval(), 500);
+  b.Cartella.Write("music/b.mp3", "not music any more");
+  EXPECT_TRUE(Ok());
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Refused(); }));
+  EXPECT_FALSE(Ok());
+  EXPECT_FALSE(Timer().isActive());
+}
+
+TEST_F(FileInfo, AFileThatVanishesBeforeTheTickIsRefused) {
+  b.ScriviMp3("music/a.mp3");
+  Apri(0);
+  Spunta(1);
+  ScegliFile("a.mp3");
+  std::filesystem::remove(b.Cartella.Host() / "music" / "a.mp3");
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Refused(); }));
+  EXPECT_EQ(Figures(), kNoFigures);
+  EXPECT_FALSE(Ok());
+}
+
+TEST_F(FileInfo, APickThatComesWhileEventsRunIsTheOneThatIsJudged) {
+  b.ScriviMp3("music/a.mp3");
+  b.Cartella.Write("music/b.mp3", "no music");
+  Apri(0);
+  Spunta(1);
+  auto& files = Trova<QComboBox>("cmbFileMp3");
+  ScegliFile(" ");
+  QTimer::singleShot(0, &files, [&files] { QTest::keyClick(&files, Qt::Key_Down); });
+  QTest::keyClick(&files, Qt::Key_Down);  // a.mp3, and b.mp3 within its events
+  ASSERT_EQ(files.currentText(), QStringLiteral("b.mp3"));
+  EXPECT_TRUE(Refused());
+  EXPECT_FALSE(Ok()) << "b.mp3 would be assigned";
+}
+
+}  // namespace
+}  // namespace kvr5

@@ -1,0 +1,268 @@
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QListWidget>
+#include <QTest>
+
+#include "playerconfig/screens/BancoHub.h"
+
+// Ticking inputs, and giving their combination a file.
+
+namespace kvr5 {
+namespace {
+
+class Inputs : public test::Hub {
+ protected:
+  void SetUp() override {
+    Progetto(4, 1);
+    for (const char* name : {"a.mp3", "b.mp3", "L'été.mp3"}) {
+      b.ScriviMp3(std::string("music/") + name, name[0]);
+    }
+    UltimaCartella("music");
+  }
+  void Conferma() { Clic("cmdOkFileMp3"); }
+  QColor Lamp(int number) {
+    QWidget& lamp = Trova<QWidget>("shaIn_" + std::to_string(number));
+    return lamp.grab().toImage().pixelColor(5, 9);
+  }
+  std::string Music() const { return b.Percorso("music") + "\\"; }
+};
+
+TEST_F(Inputs, TheTickedOnesNameTheFileOnTheCard) {
+  Apri(0);
+  EXPECT_EQ(Testo("lblfraFileName"), "File on the card - ");
+  Spunta(1);
+  EXPECT_EQ(Testo("lblfraFileName"), "File on the card - 1.mp3");
+  Spunta(3);
+  EXPECT_EQ(Testo("lblfraFileName"), "File on the card - 5.mp3");
+  for (const int input : {2, 4, 5, 6, 7, 8}) Spunta(input);
+  EXPECT_EQ(Testo("lblfraFileName"), "File on the card - 255.mp3");
+  for (int input = 1; input <= 8; ++input) Spunta(input);
+  EXPECT_EQ(Testo("lblfraFileName"), "File on the card - ");
+}
+
+TEST_F(Inputs, ATickLightsItsLamp) {
+  Apri(0);
+  EXPECT_EQ(Lamp(8), QColor(Qt::white));
+  Spunta(8);
+  EXPECT_EQ(Lamp(8), QColor(Qt::red));
+  EXPECT_EQ(Lamp(7), QColor(Qt::white));
+  Spunta(8);
+  EXPECT_EQ(Lamp(8), QColor(Qt::white));
+}
+
+TEST_F(Inputs, AreTickedByTheKeyboardToo) {
+  Apri(0);
+  QTest::keyClick(&Trova<QCheckBox>("chkIn_2"), Qt::Key_Space);
+  EXPECT_EQ(Testo("lblfraFileName"), "File on the card - 2.mp3");
+}
+
+TEST_F(Inputs, AConfirmedFileIsRememberedWhereItIs) {
+  Apri(0);
+  Spunta(1);
+  Spunta(3);
+  EXPECT_EQ(Testo("lblFileAssociato"), "Plays: ") << "no file yet";
+  EXPECT_FALSE(SiVede("fraFileAssociato"));
+  ScegliFile("L'été.mp3");
+  Conferma();
+  EXPECT_EQ(Riga(5), "L'été.mp3|" + Music() + "|5.mp3|1");
+  EXPECT_EQ(Testo("lblFileAssociato"), "Plays: L'été.mp3");
+  EXPECT_TRUE(SiVede("fraFileAssociato"));
+  EXPECT_FALSE(b.Cartella.Exists("program/Projects/Hall/5.mp3")) << "nothing is copied yet";
+  auto& list = Trova<QListWidget>("lstAssegnati");
+  ASSERT_EQ(list.count(), 1);
+  EXPECT_EQ(list.item(0)->text().toStdString(), "5   IN1+IN3   L'été.mp3");
+}
+
+TEST_F(Inputs, ASecondFileTakesThePlaceOfTheFirst) {
+  Apri(0);
+  Spunta(2);
+  ScegliFile("a.mp3");
+  Conferma();
+  ScegliFile("b.mp3");
+  Conferma();
+  EXPECT_EQ(Riga(2), "b.mp3|" + Music() + "|2.mp3|1");
+  EXPECT_EQ(Righe(), 1);
+  EXPECT_EQ(Trova<QListWidget>("lstAssegnati").count(), 1);
+}
+
+TEST_F(Inputs, TheBlankLineTakesTheAssignmentAway) {
+  b.AggiungiRiga("inputcfg.mdb", 1, 2, "a.mp3", Music(), "2.mp3");
+  b.AggiungiRiga("inputcfg.mdb", 1, 3, "b.mp3", Music(), "3.mp3");
+  Apri(0);
+  Spunta(2);
+  EXPECT_TRUE(SiVede("fraFileAssociato"));
+  ScegliFile(" ");
+  EXPECT_TRUE(SiVede("cmdOkFileMp3"));
+  Conferma();
+  EXPECT_EQ(Riga(2), "");
+  EXPECT_EQ(Righe(), 1) << "the others stay";
+  EXPECT_FALSE(SiVede("fraFileAssociato"));
+  EXPECT_EQ(Trova<QListWidget>("lstAssegnati").count(), 1);
+}
+
+TEST_F(Inputs, TheBlankLineOfAFreeCombinationChangesNothing) {
+  b.AggiungiRiga("inputcfg.mdb", 1, 3, "b.mp3", Music(), "3.mp3");
+  Apri(0);
+  Spunta(1);
+  ScegliFile(" ");
+  Conferma();
+  EXPECT_EQ(Righe(), 1);
+  EXPECT_EQ(Riga(3), "b.mp3|" + Music() + "|3.mp3|1");
+}
+
+TEST_F(Inputs, WithoutATickNothingCanBeConfirmed) {
+  Apri(0);
+  ScegliFile("a.mp3");
+  EXPECT_FALSE(SiVede("cmdOkFileMp3"));
+  ScegliFile(" ");
+  EXPECT_FALSE(SiVede("cmdOkFileMp3"));
+}
+
+TEST_F(Inputs, AnAssignedCombinationBringsItsFileIntoTheList) {
+  b.AggiungiRiga("inputcfg.mdb", 1, 3, "b.mp3", Music(), "3.mp3");
+  b.AggiungiRiga("inputcfg.mdb", 1, 4, "elsewhere.mp3", "C:\\Other\\", "4.mp3");
+  Apri(0);
+  Spunta(1);
+  Spunta(2);
+  auto& files = Trova<QComboBox>("cmbFileMp3");
+  EXPECT_EQ(files.currentText(), QStringLiteral("b.mp3"));
+  EXPECT_EQ(Testo("lblVersioneMpeg"), "MPEG 1 Layer 3") << "and its figures";
+  Spunta(1);
+  Spunta(2);
+  Spunta(3);
+  EXPECT_EQ(files.currentText(), QStringLiteral(" ")) << "this folder lacks the file";
+  EXPECT_EQ(Testo("lblFileAssociato"), "Plays: elsewhere.mp3");
+}
+
+TEST_F(Inputs, ALongNameIsCutAndTheWholeOfItIsTheToolTip) {
+  const std::string shorter(32 - 4, 'n');  // 38 characters with what stands in front
+  b.AggiungiRiga("inputcfg.mdb", 1, 1, shorter + ".mp3", Music(), "1.mp3");
+  b.AggiungiRiga("inputcfg.mdb", 1, 2, shorter + "n.mp3", Music(), "2.mp3");
+  Apri(0);
+  Spunta(1);
+  ASSERT_EQ(Testo("lblFileAssociato").size(), 7U + 32U);
+  Spunta(1);
+  Spunta(2);
+  EXPECT_TRUE(SiVede("lblEtichettaTroppoLunga"));
+  EXPECT_EQ(Trova<QWidget>("lblFileAssociato").toolTip().toStdString(),
+            "Plays: " + shorter + "n.mp3");
+}
+
+TEST_F(Inputs, AClickOnAnAssignmentTicksItsInputs) {
+  b.AggiungiRiga("inputcfg.mdb", 1, 5, "a.mp3", Music(), "5.mp3");
+  b.AggiungiRiga("inputcfg.mdb", 1, 192, "b.mp3", Music(), "192.mp3");
+  Apri(0);
+  Spunta(2);
+  ClicRiga(Trova<QListWidget>("lstAssegnati"), 1);
+  for (int input = 1; input <= 8; ++input) {
+    EXPECT_EQ(Trova<QCheckBox>("chkIn_" + std::to_string(input)).isChecked(), input > 6);
+  }
+  EXPECT_EQ(Testo("lblfraFileName"), "File on the card - 192.mp3");
+  EXPECT_EQ(Testo("lblFileAssociato"), "Plays: b.mp3");
+  EXPECT_EQ(Trova<QComboBox>("cmbFileMp3").currentText(), QStringLiteral("b.mp3"));
+  EXPECT_EQ(Lamp(8), QColor(Qt::red));
+  EXPECT_EQ(Lamp(2), QColor(Qt::white));
+}
+
+TEST_F(Inputs, AnAssignmentWhoseFileIsGoneIsMarked) {
+  b.AggiungiRiga("inputcfg.mdb", 1, 5, "gone.mp3", Music(), "5.mp3");
+  b.AggiungiRiga("inputcfg.mdb", 1, 6, "a.mp3", Music(), "6.mp3");
+  Apri(0);
+  auto& list = Trova<QListWidget>("lstAssegnati");
+  EXPECT_EQ(list.item(0)->text().toStdString(), "5   IN1+IN3   gone.mp3\nmissing");
+  EXPECT_FALSE(list.item(0)->icon().isNull());
+  EXPECT_EQ(list.item(1)->text().toStdString(), "6   IN2+IN3   a.mp3");
+  EXPECT_EQ(Testo("lblCifre"), "2 files, 1 missing");
+}
+
+TEST_F(Inputs, AllCombinationsHaveAFileEach) {
+  for (int code = 255; code >= 1; --code) {
+    b.AggiungiRiga("inputcfg.mdb", 1, code, "a.mp3", Music(), std::to_string(code) + ".mp3");
+  }
+  Apri(0);
+  auto& list = Trova<QListWidget>("lstAssegnati");
+  ASSERT_EQ(list.count(), 255);
+  EXPECT_EQ(list.item(0)->text().left(10).toStdString(), "1   IN1   ");
+  ClicRiga(list, 254);
+  EXPECT_EQ(Testo("lblfraFileName"), "File on the card - 255.mp3");
+  ScegliFile("b.mp3");
+  Conferma();
+  EXPECT_EQ(Riga(255), "b.mp3|" + Music() + "|255.mp3|1");
+  EXPECT_EQ(Righe(), 255);
+}
+
+TEST_F(Inputs, AFolderThatVanishesBetweenTwoClicksLeavesNothingToConfirm) {
+  Apri(0);
+  Spunta(1);
+  ScegliFile("a.mp3");
+  EXPECT_TRUE(SiVede("cmdOkFileMp3"));
+  std::filesystem::remove_all(b.Cartella.Host() / "music");
+  ScegliFile("b.mp3");
+  EXPECT_FALSE(SiVede("cmdOkFileMp3"));
+  EXPECT_EQ(Righe(), 0);
+}
+
+TEST_F(Inputs, AFileThatNoPathCanHoldIsShownButCannotBePicked) {
+  b.ScriviMp3("music/a|1.mp3");
+  Apri(0);
+  auto& files = Trova<QComboBox>("cmbFileMp3");
+  const int at = files.findText(QStringLiteral("a|1.mp3"));
+  ASSERT_GE(at, 0);
+  EXPECT_FALSE(files.model()->flags(files.model()->index(at, 0)) & Qt::ItemIsEnabled);
+  EXPECT_NE(files.itemData(at, Qt::ToolTipRole).toString(), QString());
+}
+
+TEST_F(Inputs, AnotherFolderBringsItsFiles) {
+  b.ScriviMp3("music/more/c.mp3");
+  b.Cartella.Write("music/more/notes.txt", "x");
+  Apri(0);
+  auto& folders = Trova<QListWidget>("DirDirectoryMp3");
+  ASSERT_EQ(folders.item(1)->text(), QStringLiteral("more"));
+  folders.setCurrentRow(1);
+  QTest::keyClick(&folders, Qt::Key_Return);
+  auto& files = Trova<QComboBox>("cmbFileMp3");
+  ASSERT_EQ(files.count(), 2);
+  EXPECT_EQ(files.itemText(0), QStringLiteral(" "));
+  EXPECT_EQ(files.currentText(), QStringLiteral("c.mp3")) << "the first file is picked";
+  QTest::keyClick(&folders, Qt::Key_Backspace);
+  EXPECT_EQ(files.count(), 4);
+}
+
+TEST_F(Inputs, AFolderThatIsGoneIsNotEntered) {
+  std::filesystem::create_directories(b.Cartella.Host() / "music" / "more");
+  Apri(0);
+  std::filesystem::remove(b.Cartella.Host() / "music" / "more");
+  auto& folders = Trova<QListWidget>("DirDirectoryMp3");
+  folders.setCurrentRow(1);
+  QTest::keyClick(&folders, Qt::Key_Return);
+  EXPECT_EQ(Trova<QComboBox>("cmbFileMp3").count(), 4);
+}
+
+TEST_F(Inputs, WithoutADatabaseNothingIsKeptAndTheLogSaysWhy) {
+  std::filesystem::remove(b.Cartella.Host() / "program/Projects/Hall/inputcfg.mdb");
+  Apri(0);
+  Spunta(1);
+  ScegliFile("a.mp3");
+  Conferma();
+  ScegliFile(" ");
+  Conferma();
+  EXPECT_EQ(Trova<QListWidget>("lstAssegnati").count(), 0);
+  EXPECT_FALSE(b.Cartella.Exists("program/Projects/Hall/inputcfg.mdb"));
+  EXPECT_NE(b.Cartella.Read("program/Logs/20061020.log").find("File: a.mp3"), std::string::npos);
+}
+
+TEST_F(Inputs, ADamagedDatabaseIsNoMoreThanAnEmptyOne) {
+  b.Cartella.Write("program/Projects/Hall/inputcfg.mdb", std::string(9000, '\x5A'));
+  Apri(0);
+  Spunta(1);
+  ScegliFile("a.mp3");
+  Conferma();
+  EXPECT_EQ(Trova<QListWidget>("lstAssegnati").count(), 0);
+  EXPECT_TRUE(hub->isVisible());
+  EXPECT_EQ(b.Cartella.Read("program/Projects/Hall/inputcfg.mdb"), std::string(9000, '\x5A'));
+}
+
+}  // namespace
+}  // namespace kvr5

@@ -1,0 +1,40 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QTimer>
+#include <cstdio>
+
+#include "core/screens/Tema.h"
+
+namespace {
+
+/// The platform without a display complains of each window; the rest is worth reading.
+void Print(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& text) {
+  if (!text.startsWith(QLatin1String("This plugin does not support"))) {
+    std::fprintf(stderr, "%s\n", qPrintable(text));
+  }
+}
+
+/// A program that ended in one test has told the event loop to end; without this no box of the next
+/// test would wait.
+class LoopAfresh : public testing::EmptyTestEventListener {
+  void OnTestStart(const testing::TestInfo& /*test*/) override {
+    QTimer::singleShot(0, [] { QCoreApplication::exit(); });
+    QApplication::exec();
+  }
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  testing::InitGoogleTest(&argc, argv);
+  qInstallMessageHandler(Print);
+  // Listing the tests needs no display either.
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+  QApplication application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  kvr5::ApplicaTema(application, false);
+  testing::UnitTest::GetInstance()->listeners().Append(new LoopAfresh);
+  return RUN_ALL_TESTS();
+}
