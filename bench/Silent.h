@@ -40,6 +40,10 @@ class Silent : public Dialoghi,
  public:
   Risposta MostraMessaggio(const Messaggio& /*messaggio*/) override { return Risposta::Ok; }
   std::uint8_t MostraSiNo(const BoxSiNo& /*box*/) override { return 1; }
+  std::string SfogliaCartella(const std::string& /*titolo*/,
+                              const std::string& /*inizio*/) override {
+    return {};
+  }
   void LasciaCorrere() override {}
   void ImpostaPuntatore(Puntatore /*puntatore*/) override {}
   bool Progress(const CopyState& /*state*/) override { return true; }
