@@ -33,7 +33,6 @@ std::string MinutesAndSeconds(qint64 seconds) {
 RiquadroCopia::RiquadroCopia(Contesto& contesto, QWidget* padre)
     : QDialog(padre), contesto_(contesto) {
   setObjectName(QStringLiteral("FinestraCopia"));
-  setWindowModality(Qt::ApplicationModal);
   setWindowTitle(Qs(TestoLinguaO(contesto, "0130001", "Copying files")));
   setMinimumWidth(kWidth);
   auto* page = NuovaPagina(*this);

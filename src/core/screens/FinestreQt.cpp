@@ -25,11 +25,22 @@ class PlainPointer {
   bool busy_;
 };
 
+/// What a box stands before: the active window, or the last one that is shown while another program
+/// is at work.
+QWidget* Owner() {
+  if (QWidget* active = QApplication::activeWindow()) return active;
+  QWidget* last = nullptr;
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->isVisible() && dynamic_cast<Form*>(window) != nullptr) last = window;
+  }
+  return last;
+}
+
 }  // namespace
 
 Risposta FinestreQt::MostraMessaggio(const Messaggio& messaggio) {
   const PlainPointer pointer;
-  RiquadroMessaggio box(ambiente_->C, messaggio, QApplication::activeWindow());
+  RiquadroMessaggio box(ambiente_->C, messaggio, Owner());
   box.exec();
   return box.Esito();
 }
@@ -52,8 +63,7 @@ std::string FinestreQt::SfogliaCartella(const std::string& titolo, const std::st
   const PlainPointer pointer;
   const FileSystem& files = ambiente_->C.Files;
   const QString start = inizio.empty() ? QString() : Qs(files.HostPath(inizio));
-  const QString chosen =
-      QFileDialog::getExistingDirectory(QApplication::activeWindow(), Qs(titolo), start);
+  const QString chosen = QFileDialog::getExistingDirectory(Owner(), Qs(titolo), start);
   if (chosen.isEmpty()) return {};
   const auto path = files.SystemPath(Std(chosen));
   return path ? path.Value() : std::string();

@@ -49,12 +49,13 @@ frmProgress::frmProgress(Ambiente& ambiente, ProgressoQt& progresso)
   lblOperazione = NuovaEtichetta("lblOperazione", QStringLiteral("Operat"), -1, this);
   lblPerc = NuovaEtichetta("lblPerc", {}, -1, this);
   page->addLayout(Riga({lblOperazione, nullptr, lblPerc}));
-  picCont = new QWidget(this);
+  picCont = new kvr5::Barra(this);  // the trough
   picCont->setObjectName(QStringLiteral("picCont"));
   picCont->setFixedSize(FinestraProgresso::PixelPieni, kBarHeight);
-  picBar = new Barra(picCont);
+  picBar = new kvr5::Barra(picCont);
   picBar->setObjectName(QStringLiteral("picBar"));
-  picBar->setGeometry(0, 0, FinestraProgresso::PixelPieni, kBarHeight);
+  picBar->ImpostaParte(1);  // its own width is the part
+  picBar->setGeometry(0, 0, 0, kBarHeight);
   page->addWidget(picCont);
   page->addStretch(1);
   lblNumFile = NuovaEtichetta("lblNumFile", QStringLiteral("1/1"), -1, this);
@@ -88,8 +89,8 @@ void frmProgress::Disegna() {
   Veste(*lblOperazione, Carattere::Riquadro,
         progresso_.TestoAcceso() ? Ruolo::Testo : Ruolo::Attenuato);
   lblPerc->setText(Qs(progresso_.TestoPercento()));
-  picBar->ImpostaParte(static_cast<double>(progresso_.PixelBarra()) /
-                       FinestraProgresso::PixelPieni);
+  picBar->resize(progresso_.PixelBarra(), picBar->height());
+  picBar->setAccessibleDescription(Qs(progresso_.TestoPercento()));
   lblNumFile->setText(Qs(progresso_.TestoNumFile()));
   lblNumFile->setVisible(progresso_.NumFileVisibile());
   lblFase->setVisible(!progresso_.NumFileVisibile());

@@ -8,6 +8,7 @@
 
 #include "core/Lingua.h"
 #include "core/screens/Avvisi.h"
+#include "core/screens/EtichettaElisa.h"
 #include "core/screens/Icona.h"
 #include "core/screens/LocalizzaForm.h"
 #include "core/screens/Pagina.h"
@@ -84,9 +85,8 @@ QLayout* frmPlayerConfig::CostruisciTestata() {
   head->setSpacing(2);
   lblTipoPlayer = NuovaEtichetta("lblTipoPlayer", QStringLiteral("Player"), -1, this);
   Veste(*lblTipoPlayer, Carattere::Corpo, Ruolo::Attenuato);
-  lblProgetto = NuovaEtichetta("lblProgetto", {}, -1, this);
+  lblProgetto = new EtichettaElisa("lblProgetto", this, Qt::ElideMiddle);
   Veste(*lblProgetto, Carattere::Progetto);
-  lblProgetto->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   lblNonSalvato = NuovaEtichetta("lblNonSalvato", {}, -1, this);
   Veste(*lblNonSalvato, Carattere::Riquadro, Ruolo::Avviso);
   QPalette palette = lblNonSalvato->palette();
@@ -168,16 +168,7 @@ void frmPlayerConfig::CostruisciNascosti() {
                            "picVeskadroSmall"}) {
     hidden(name, "", -1);
   }
-  struct Caption {
-    const char* Name;
-    const char* Text;
-    int Tag;
-  };
-  for (const auto& each : {Caption{"fra232", "RS232", 103}, Caption{"fra232bis", "RS232", 103},
-                           Caption{"fra485", "485", 105}, Caption{"fra485bis", "485", 105},
-                           Caption{"fraCopiaFilesFlash", "Manual File Copy", 107}}) {
-    hidden(each.Name, each.Text, each.Tag);
-  }
+  Seriali = new CollegamentiSeriali(this);
 }
 
 void frmPlayerConfig::Disponi() {

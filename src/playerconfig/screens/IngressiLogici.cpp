@@ -9,6 +9,7 @@
 #include "core/Lingua.h"
 #include "core/Parole.h"
 #include "core/screens/Avvisi.h"
+#include "core/screens/EtichettaElisa.h"
 #include "core/screens/LocalizzaForm.h"
 #include "core/screens/Pagina.h"
 #include "core/screens/Tema.h"
@@ -74,6 +75,7 @@ QWidget* IngressiLogici::CostruisciMorsettiera() {
     chkIn[at]->setObjectName(Numbered("chkIn", number));
     lblIn[at] = NuovaEtichetta("", QStringLiteral("IN%1").arg(number), -1, strip);
     lblIn[at]->setObjectName(Numbered("lblIn", number));
+    lblIn[at]->setBuddy(chkIn[at]);
     lblIn[at]->setFont(FontDi(Carattere::Suggerimento));
     grid->addWidget(shaIn[at], 0, i, Qt::AlignHCenter);
     grid->addWidget(chkIn[at], 1, i, Qt::AlignHCenter);
@@ -94,8 +96,7 @@ QWidget* IngressiLogici::CostruisciAssociato() {
   fraFileAssociato->setSizePolicy(policy);
   auto* line = new QHBoxLayout(fraFileAssociato);
   line->setContentsMargins(0, 0, 0, 0);
-  lblFileAssociato = NuovaEtichetta("lblFileAssociato", {}, -1, fraFileAssociato);
-  lblFileAssociato->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  lblFileAssociato = new EtichettaElisa("lblFileAssociato", fraFileAssociato, Qt::ElideMiddle);
   lblEtichettaTroppoLunga =
       NuovaEtichetta("lblEtichettaTroppoLunga", QStringLiteral("..."), -1, fraFileAssociato);
   cmdMp3Preview_Play = new Coppia("cmdMp3Preview_Play", "lblPreview", QStringLiteral("Preview"),

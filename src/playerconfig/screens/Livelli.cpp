@@ -7,6 +7,7 @@
 #include "core/Lingua.h"
 #include "core/screens/Avvisi.h"
 #include "core/screens/Pagina.h"
+#include "core/screens/SenzaRotella.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
 #include "playerconfig/Scale.h"
@@ -79,6 +80,7 @@ QSlider* Livelli::NuovoCursore(const char* nome, int iniziale) {
   slider->setPageStep(kPage);
   slider->setValue(iniziale);
   slider->setMinimumHeight(96);
+  SenzaRotella(*slider);
   return slider;
 }
 

@@ -255,7 +255,21 @@ void OpzioniIngressi::Disponi(const LayoutHub& layout) {
   fraFADE->setVisible(layout.fraFADE);
 }
 
+void OpzioniIngressi::NominaScelte() {
+  // Each choice is read out with the words of its row: "Off" alone says nothing.
+  for (QWidget* row : {fraIMOD, fraMICP, fraMirs, fraTPCM, fraMonitor, fraMPLL, fraAnalyzer}) {
+    const QString words = row->findChild<QLabel*>()->text();
+    for (Segmento* option : row->findChildren<Segmento*>()) {
+      option->setAccessibleName(words + QStringLiteral(": ") + option->text());
+    }
+  }
+  for (Coppia* button : {cmdConfigureExtra, picConfiguraFade}) {
+    button->setAccessibleName(button->parentWidget()->findChild<QLabel*>()->text());
+  }
+}
+
 void OpzioniIngressi::Localizza() {
+  NominaScelte();
   lstTPCM->setToolTip(Qs(TestoLingua(contesto_, "0130182")));
   lstTPCM->setAccessibleName(lstTPCM->toolTip());
   picConfiguraFade->setToolTip(Qs(TestoLingua(contesto_, "0130172")));

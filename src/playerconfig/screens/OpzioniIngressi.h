@@ -61,6 +61,7 @@ class OpzioniIngressi : public QWidget {
   void CostruisciAltre();
   void Collega();
   void MostraTpcm();
+  void NominaScelte();
   void Cambiato() const {
     if (SuCambio) SuCambio();
   }

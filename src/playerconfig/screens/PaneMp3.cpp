@@ -9,6 +9,7 @@
 #include "core/ParoleCopia.h"
 #include "core/screens/LocalizzaForm.h"
 #include "core/screens/Pagina.h"
+#include "core/screens/SenzaRotella.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
 
@@ -55,6 +56,8 @@ void PaneMp3::Costruisci() {
   // The width of 5,000 names isn't measured.
   cmbFileMp3->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   cmbFileMp3->setMinimumContentsLength(12);
+  SenzaRotella(*cmbFileMp3);
+  lblMp3_Dir->setBuddy(DirDirectoryMp3);
   Corpo()->addWidget(cmbFileMp3);
   cmdPlayMp3 = new Coppia("cmdPlayMp3", "", {}, "ascolta", -1, this);
   cmdStopMp3 = new Coppia("cmdStopMp3", "", {}, "ferma", -1, this);

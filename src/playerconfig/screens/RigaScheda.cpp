@@ -6,6 +6,7 @@
 #include "core/Lingua.h"
 #include "core/Parole.h"
 #include "core/screens/Avvisi.h"
+#include "core/screens/EtichettaElisa.h"
 #include "core/screens/Icona.h"
 #include "core/screens/LocalizzaForm.h"
 #include "core/screens/Pagina.h"
@@ -39,10 +40,9 @@ RigaScheda::RigaScheda(Contesto& contesto, QWidget* padre) : QWidget(padre), con
   segno_ = SegnoDi("scheda", Tema::Corrente().Attenuato, kSign, this);
   lblPathMemoryCard = NuovaEtichetta("lblPathMemoryCard",
                                      QStringLiteral("Memory Card Path not selected"), 45, this);
-  lblPathMemoryCard->setFocusPolicy(Qt::StrongFocus);
+  lblPathMemoryCard->setFocusPolicy(Qt::ClickFocus);  // by Tab the button beside it is reached
   lblPathMemoryCard->installEventFilter(this);
-  lblStato = NuovaEtichetta("lblStatoScheda", {}, -1, this);
-  lblStato->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  lblStato = new EtichettaElisa("lblStatoScheda", this);
   cmdScegli = new Coppia("cmdScegliScheda", "lblScegliScheda", QStringLiteral("Choose..."),
                          "scheda", -1, this);
   cmdScegli->ImpostaGenere(Coppia::Genere::Quieto);

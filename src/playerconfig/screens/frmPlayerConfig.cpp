@@ -81,6 +81,7 @@ void frmPlayerConfig::Localizza() {
   fraFileName->Localizza();
   Scheda->Localizza();
   Barra->Localizza();
+  Seriali->SegueScritte();
   Scheda->MostraStato(servizi_.FattiDellaScheda());
 }
 

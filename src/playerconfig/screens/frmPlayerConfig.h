@@ -9,6 +9,7 @@
 #include "playerconfig/CodiceScelto.h"
 #include "playerconfig/LayoutHub.h"
 #include "playerconfig/ModificheHub.h"
+#include "playerconfig/screens/CollegamentiSeriali.h"
 #include "playerconfig/screens/Comandi.h"
 #include "playerconfig/screens/IngressiLogici.h"
 #include "playerconfig/screens/ListaAssegnati.h"
@@ -47,6 +48,7 @@ class frmPlayerConfig : public Form {
   QWidget* picPanel;
   QLabel *lblModoPanel, *lblModoPanelBig, *lblModoZub, *lblModoZubBig, *lblModoOstrel,
       *lblModoOstrelBig;
+  CollegamentiSeriali* Seriali;
   Comandi* Barra;
 
  protected:

@@ -139,11 +139,14 @@ void frmCaricaProgetto::Cerca(std::size_t da) {
   QPalette palette = lstProgetti->palette();
   palette.setColor(QPalette::Text, nothing ? Tema::Corrente().Errore : Tema::Corrente().Testo);
   txtCerca->setPalette(palette);
-  txtCerca->setAccessibleDescription(nothing ? Qs(TestoLingua(C(), "0130113")) : QString());
+  const QString words = nothing ? Qs(TestoLingua(C(), "0130113")) : QString();
+  txtCerca->setAccessibleDescription(words);
+  txtCerca->setToolTip(nothing ? words : Qs(TestoLingua(C(), "0130112")));
 }
 
 void frmCaricaProgetto::ApriScelto() {
   const auto row = lstProgetti->currentIndex().row();
+  if (!lstProgetti->selectionModel()->hasSelection()) return;
   if (row < 0 || static_cast<std::size_t>(row) >= lista_.Righe().Quante()) return;
   const std::string& name = lista_.Righe().Nome(static_cast<std::size_t>(row));
   if (Rifila(name).empty()) return;

@@ -43,8 +43,11 @@ frmRichiestaNomeForm::frmRichiestaNomeForm(Ambiente& ambiente)
   page->addLayout(Riga({picGoBack, nullptr, picGoOn}));
   OrdineTab({txtNomeProgetto, picGoBack, picGoOn, picHelp});
 
-  connect(txtNomeProgetto, &QLineEdit::textChanged, this,
-          [this](const QString& name) { VestiNota(*lblNota, Std(name)); });
+  connect(txtNomeProgetto, &QLineEdit::textChanged, this, [this](const QString& name) {
+    VestiNota(*lblNota, Std(name));
+    txtNomeProgetto->setAccessibleDescription(
+        HaCaratteriVietati(Std(name)) ? Qs(TestoLingua(C(), "0130108")) : QString());
+  });
   connect(txtNomeProgetto, &QLineEdit::returnPressed, this, [this] {
     if (!Rifila(Std(txtNomeProgetto->text())).empty()) picGoOn->click();
   });

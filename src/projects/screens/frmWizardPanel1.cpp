@@ -141,6 +141,9 @@ void frmWizardPanel1::Localizza() {
   cmbPlaylist->setAccessibleName(Qs(TestoLingua(C(), "0130105")));
   for (std::size_t i = 0; i < kHints.size(); ++i) {
     suggerimenti_[i]->setText(Qs(TestoLingua(C(), kHints[i])));
+    tipi_.buttons()
+        .at(static_cast<qsizetype>(i))
+        ->setAccessibleDescription(suggerimenti_[i]->text());
   }
   CambiaNome();
 }
