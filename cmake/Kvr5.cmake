@@ -32,6 +32,28 @@ if(KVR5_SANITIZE)
   target_link_options(kvr5_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+# Precompiled headers: what nearly every source of a kind includes is read once a build. Sources name
+# all that they use none the less; the release build, which does without, keeps them honest.
+option(KVR5_PRECOMPILE "Read common headers once a build, not once a source" OFF)
+
+# kvr5_share_headers(<kind> HEADERS <header>... LINK <target>...): the headers of a kind of target.
+function(kvr5_share_headers kind)
+  cmake_parse_arguments(ARG "" "" "HEADERS;LINK" ${ARGN})
+  if(KVR5_PRECOMPILE)
+    file(CONFIGURE OUTPUT "${PROJECT_BINARY_DIR}/headers/${kind}.cpp" CONTENT "")
+    add_library(kvr5_headers_${kind} OBJECT "${PROJECT_BINARY_DIR}/headers/${kind}.cpp")
+    target_link_libraries(kvr5_headers_${kind} PRIVATE ${ARG_LINK} kvr5_options)
+    target_precompile_headers(kvr5_headers_${kind} PRIVATE ${ARG_HEADERS})
+  endif()
+endfunction()
+
+# kvr5_take_headers(<target> <kind>)
+function(kvr5_take_headers target kind)
+  if(KVR5_PRECOMPILE)
+    target_precompile_headers(${target} REUSE_FROM kvr5_headers_${kind})
+  endif()
+endfunction()
+
 # kvr5_add_library(<name> [DEPENDS <subsystem>...] [LINK <target>...])
 # The library kvr5_<name> of all sources of the current folder; headers are included as
 # "<name>/Header.h". Only the subsystems named under DEPENDS may be included.
@@ -58,6 +80,7 @@ function(kvr5_add_test name)
     ${ARG_LINK} kvr5_test_support GTest::gtest GTest::gmock kvr5_options)
   target_compile_definitions(test_${name} PRIVATE
     KVR5_TEST_DATA="${CMAKE_CURRENT_SOURCE_DIR}/data")
+  kvr5_take_headers(test_${name} tests)
   include(GoogleTest)
   gtest_discover_tests(test_${name} TEST_PREFIX "${name}/" DISCOVERY_MODE PRE_TEST
     PROPERTIES TIMEOUT 300)
@@ -77,6 +100,7 @@ function(kvr5_add_screens name)
   target_include_directories(kvr5_${name}_screens SYSTEM PRIVATE ${Qt6Widgets_INCLUDE_DIRS})
   target_link_libraries(kvr5_${name}_screens PUBLIC kvr5_${name} ${ARG_DEPENDS} Qt6::Widgets
     PRIVATE kvr5_options)
+  kvr5_take_headers(kvr5_${name}_screens screens)
 endfunction()
 
 # kvr5_add_screen_test(<name> LINK <target>...)
@@ -91,6 +115,7 @@ function(kvr5_add_screen_test name)
   target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
   target_link_libraries(${target} PRIVATE
     ${ARG_LINK} kvr5_test_screens GTest::gtest GTest::gmock Qt6::Test kvr5_options)
+  kvr5_take_headers(${target} screen_tests)
   include(GoogleTest)
   gtest_discover_tests(${target} TEST_PREFIX "${name}/screens/" DISCOVERY_MODE PRE_TEST
     PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 120)
