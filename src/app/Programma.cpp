@@ -31,6 +31,7 @@ Programma::Programma(const std::string& cartella, Processo& processo)
   if (folder) contesto_.CartellaProgramma = folder.Value();
   finestre_.Collega(ambiente_);
   copia_.Collega(contesto_);
+  QCoreApplication::installTranslator(&testi_);
   drives_.List();  // letters are bound before any path is looked at
 }
 

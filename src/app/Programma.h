@@ -10,6 +10,7 @@
 #include "core/screens/FinestraCopia.h"
 #include "core/screens/FinestreQt.h"
 #include "core/screens/Navigazione.h"
+#include "core/screens/TestiQt.h"
 #include "core/screens/frmConfig.h"
 #include "core/screens/frmMain.h"
 #include "core/screens/frmSplash.h"
@@ -63,6 +64,7 @@ class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
   OrologioDiSistema ora_;
   Contesto contesto_;
   EsecutoreQt documenti_{contesto_};
+  TestiQt testi_{contesto_};
   VitaForme vita_;
   Ambiente ambiente_;
   std::unique_ptr<VolumeSource> volumi_ = HostVolumes();

@@ -1,5 +1,7 @@
 #include "core/Avvio.h"
 
+#include <algorithm>
+
 #include "core/Impostazioni.h"
 #include "core/Lingua.h"
 #include "core/Registro.h"
@@ -22,6 +24,11 @@ void AssicuraCartellaProgetti(Contesto& contesto) {
   contesto.Errore.Clear();
   const auto& folder = contesto.Stato.CartellaProgetti;
   if (!FolderExists(contesto.Files, folder)) Ignora(contesto.Files.CreateFolder(folder));
+}
+
+bool HaCartelleDiProgetti(const Contesto& contesto) {
+  const auto entries = contesto.Files.List(contesto.Stato.CartellaProgetti);
+  return entries && std::ranges::any_of(entries.Value(), &FileInfo::IsFolder);
 }
 
 }  // namespace kvr5

@@ -15,4 +15,7 @@ void AvviaConLingua(Contesto& contesto);
 /// with an empty project list.
 void AssicuraCartellaProgetti(Contesto& contesto);
 
+/// True when the projects folder holds a folder, as that of a project is.
+bool HaCartelleDiProgetti(const Contesto& contesto);
+
 }  // namespace kvr5

@@ -79,4 +79,10 @@ std::string QuandoInParole(Contesto& contesto, std::int64_t secondi) {
   return Format(then, "%Y-%m-%d");
 }
 
+std::string Contati(Contesto& contesto, std::size_t quanti, const ParolaContata& parola) {
+  const std::string word = quanti == 1 ? TestoLinguaO(contesto, parola.ChiaveUno, parola.Uno)
+                                       : TestoLinguaO(contesto, parola.ChiaveMolti, parola.Molti);
+  return std::to_string(quanti) + " " + word;
+}
+
 }  // namespace kvr5

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <initializer_list>
 #include <string>
@@ -25,5 +26,15 @@ std::string QuantitaInParole(std::uint64_t byte, const Locale& locale);
 /// A moment (seconds since 1970-01-01 UTC) as a person reads it here and now: "today 14:32",
 /// "yesterday 09:10", else the date alone, "2019-03-04".
 std::string QuandoInParole(Contesto& contesto, std::int64_t secondi);
+
+/// "1 file", "2 files": a number and the word that goes with it, each by its key and the word that
+/// stands in where the language has none.
+struct ParolaContata {
+  const char* ChiaveUno;
+  const char* Uno;
+  const char* ChiaveMolti;
+  const char* Molti;
+};
+std::string Contati(Contesto& contesto, std::size_t quanti, const ParolaContata& parola);
 
 }  // namespace kvr5

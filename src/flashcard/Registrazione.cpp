@@ -114,12 +114,14 @@ bool Recording::CardIsWritable() {
     error.Record(file.Value()->Write("test\r\n"));
     error.Record(file.Value()->Close());
   }
+  // What the user does while events run has errors of its own.
+  const bool written = !error;
   context_.Messaggi.LasciaCorrere();
   if (file) {
     Ignora(context_.Files.Delete(path));  // also where writing failed: no stray is left
     context_.Messaggi.LasciaCorrere();
   }
-  return !error;
+  return written;
 }
 
 void Recording::Begin() {

@@ -4,10 +4,12 @@
 
 #include "core/Aiuti.h"
 #include "core/Lingua.h"
+#include "core/Parole.h"
 #include "platform/FileOps.h"
 #include "platform/Fold.h"
 #include "playerconfig/CodiceIngressi.h"
 #include "playerconfig/NomiCartella.h"
+#include "playerconfig/ParoleConto.h"
 #include "projects/CartellaProgetto.h"
 
 namespace kvr5 {
@@ -27,7 +29,7 @@ class Collecting {
     const bool copied = !alias.empty() && project_.Contiene(alias);
     const bool missing = !copied && (name.empty() || !FileExists(context_.Files, path));
     const std::int64_t code = row.Pos.value_or(0);
-    list_.Righe.push_back({code, NomeIngressi(code), name, path, missing, false});
+    list_.Righe.push_back({code, NomeIngressi(code), name, path, missing, false, OfTheLink(code)});
     if (missing) ++list_.Mancanti;
     if (copied) {
       Note(FileDelProgetto(context_, alias));
@@ -39,6 +41,13 @@ class Collecting {
   ElencoAssegnati Take() { return std::move(list_); }
 
  private:
+  bool OfTheLink(std::int64_t code) const {
+    constexpr std::int64_t kIn5And6 = 0x30;
+    constexpr std::int16_t kKvr5 = 4;
+    const auto& state = context_.Stato;
+    return state.PlayerType == kKvr5 && state.Usa485 && (code & kIn5And6) != 0;
+  }
+
   struct Listed {
     std::string Source;  // folded
     std::size_t Row;
@@ -65,13 +74,6 @@ class Collecting {
   std::vector<Listed> listed_;
 };
 
-std::string Counted(Contesto& context, std::size_t count, const char* oneKey, const char* one,
-                    const char* manyKey, const char* many) {
-  const std::string word =
-      count == 1 ? TestoLinguaO(context, oneKey, one) : TestoLinguaO(context, manyKey, many);
-  return std::to_string(count) + " " + word;
-}
-
 }  // namespace
 
 ElencoAssegnati Assegnati(const Contesto& contesto, const std::vector<RigaIngresso>& righe) {
@@ -82,11 +84,8 @@ ElencoAssegnati Assegnati(const Contesto& contesto, const std::vector<RigaIngres
 
 std::string CifreAssegnati(Contesto& contesto, const ElencoAssegnati& elenco) {
   std::string figures =
-      Counted(contesto, elenco.Righe.size(), "0040060", "file", "0040061", "files");
-  if (elenco.Mancanti > 0) {
-    figures +=
-        ", " + Counted(contesto, elenco.Mancanti, "0040062", "missing", "0040063", "missing");
-  }
+      Contati(contesto, elenco.Righe.size(), {"0040060", "file", "0040061", "files"});
+  if (elenco.Mancanti > 0) figures += ", " + ParoleMancanti(contesto, elenco.Mancanti);
   return figures;
 }
 
@@ -94,14 +93,19 @@ ParoleAssegnato::ParoleAssegnato(Contesto& contesto)
     : Mancante(TestoLinguaO(contesto, "0040062", "missing")),
       StessoFile(TestoLinguaO(contesto, "0040064", "same file: recording will stop")),
       EraQui(TestoLinguaO(contesto, "0130129", "It was here:")),
-      AltroIngresso(TestoLingua(contesto, "0130131")) {}
+      AltroIngresso(TestoLingua(contesto, "0130131")),
+      Collegamento(TestoLinguaO(contesto, "0130133", "in use by the RS-485 link")),
+      LiberaCollegamento(TestoLingua(contesto, "0130232")) {}
 
 std::string SegnoAssegnato(const ParoleAssegnato& parole, const Assegnato& riga) {
   std::string mark;
-  if (riga.Mancante) mark = parole.Mancante;
-  if (!riga.StessoFile) return mark;
-  if (!mark.empty()) mark += ", ";
-  return mark + parole.StessoFile;
+  const auto add = [&mark](bool holds, const std::string& words) {
+    if (holds) mark += (mark.empty() ? "" : ", ") + words;
+  };
+  add(riga.Mancante, parole.Mancante);
+  add(riga.StessoFile, parole.StessoFile);
+  add(riga.DelCollegamento, parole.Collegamento);
+  return mark;
 }
 
 std::string SegnoAssegnato(Contesto& contesto, const Assegnato& riga) {

@@ -15,9 +15,10 @@ struct Assegnato {
   std::int64_t Codice = 0;  ///< 1 to 255; any other number, which no click makes, from elsewhere
   std::string Ingressi;     ///< "IN1+IN3"; digits where the number is no code
   std::string FileName;
-  std::string Percorso;     ///< of the source, system form
-  bool Mancante = false;    ///< neither the source nor its copy "5.mp3" in the project exists
-  bool StessoFile = false;  ///< shares its source with another row: a recording will stop
+  std::string Percorso;          ///< of the source, system form
+  bool Mancante = false;         ///< neither the source nor its copy "5.mp3" in the project exists
+  bool StessoFile = false;       ///< shares its source with another row: a recording will stop
+  bool DelCollegamento = false;  ///< takes IN5 or IN6, which the RS-485 link has: can't be ticked
   bool operator==(const Assegnato&) const = default;
 };
 
@@ -41,11 +42,14 @@ struct ParoleAssegnato {
   explicit ParoleAssegnato(Contesto& contesto);
   std::string Mancante;
   std::string StessoFile;
-  std::string EraQui;         ///< before the path of a missing file
-  std::string AltroIngresso;  ///< what to do about a file that two inputs use
+  std::string EraQui;              ///< before the path of a missing file
+  std::string AltroIngresso;       ///< what to do about a file that two inputs use
+  std::string Collegamento;        ///< for a combination whose inputs the RS-485 link has
+  std::string LiberaCollegamento;  ///< what to do about it
 };
 
-/// What a row is marked with: "missing", "same file: recording will stop", both, or "".
+/// What a row is marked with: "missing", "same file: recording will stop", "in use by the RS-485
+/// link", several of them divided by ", ", or "".
 std::string SegnoAssegnato(const ParoleAssegnato& parole, const Assegnato& riga);
 std::string SegnoAssegnato(Contesto& contesto, const Assegnato& riga);
 

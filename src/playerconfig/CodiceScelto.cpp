@@ -65,12 +65,18 @@ void CodiceScelto::Spunta(int numero, bool spuntato) {
   DopoLaSpunta();
 }
 
-void CodiceScelto::Scegli(std::int64_t codice) {
-  if (codice < 0 || codice > 255) return;
+bool CodiceScelto::Scegli(std::int64_t codice) {
+  if (codice < 0 || codice > 255) return false;
+  const auto wanted = [codice](std::size_t i) { return (codice >> i & 1) != 0; };
   for (std::size_t i = 0; i < ingressi_.size(); ++i) {
-    if (ingressi_[i].Abilitato) Imposta(i, (codice >> i & 1) != 0);
+    // Without one of its boxes another combination would be ticked, and its file be lost.
+    if (wanted(i) && !ingressi_[i].Abilitato) return false;
+  }
+  for (std::size_t i = 0; i < ingressi_.size(); ++i) {
+    if (ingressi_[i].Abilitato) Imposta(i, wanted(i));
   }
   DopoLaSpunta();
+  return true;
 }
 
 bool CodiceScelto::AbilitaIngressiRs485() {

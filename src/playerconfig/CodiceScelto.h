@@ -37,9 +37,9 @@ class CodiceScelto {
   /// A click on chkIn that leaves it in this state. The caller stops a preview before and refreshes
   /// the panel of file information behind it. A box that is disabled can't be clicked.
   void Spunta(int numero, bool spuntato);
-  /// Ticks the boxes of a code as clicks would, such as for a row of lstAssegnati; a number
-  /// that is no code (0 to 255) does nothing.
-  void Scegli(std::int64_t codice);
+  /// Ticks the boxes of a code as clicks would, such as for a row of lstAssegnati. False, and
+  /// nothing is done, for a number that is no code (0 to 255) and for one with a disabled box.
+  bool Scegli(std::int64_t codice);
   /// Each time the hub is activated: on model 4 the inputs IN5 and IN6 belong to an RS-485 link
   /// where there is one, and are unticked as by a click. True when one was, so that the caller
   /// refreshes what a click refreshes. Does nothing on other models.

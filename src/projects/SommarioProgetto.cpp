@@ -13,21 +13,20 @@
 namespace kvr5 {
 namespace {
 
-bool IsMissing(const Contesto& context, const RigaProgetto& row) {
-  if (FileExists(context.Files, AggiungiBarra(row.FilePath) + row.FileName)) return false;
-  return row.Alias.empty() || !FileExists(context.Files, FileDelProgetto(context, row.Alias));
+std::optional<std::uint64_t> SizeOf(const FileSystem& files, const std::string& path) {
+  if (!FileExists(files, path)) return {};
+  const auto info = files.Info(path);
+  return info ? std::optional(info.Value().Size) : std::nullopt;
 }
 
-RigaProgetto ReadRow(const Contesto& context, const std::string& database, const Recordset& rows) {
-  RigaProgetto row{database,
-                   rows.Number("NPlaylist"),
-                   rows.Number("Pos"),
-                   rows.Text("Alias"),
-                   rows.Text("FilePath"),
-                   rows.Text("FileName"),
-                   false};
-  row.Mancante = IsMissing(context, row);
-  return row;
+RigaProgetto ReadRow(const std::string& database, const Recordset& rows) {
+  return {database,
+          rows.Number("NPlaylist"),
+          rows.Number("Pos"),
+          rows.Text("Alias"),
+          rows.Text("FilePath"),
+          rows.Text("FileName"),
+          false};
 }
 
 /// Reads the lists of the open project's databases.
@@ -53,7 +52,7 @@ class Reader {
     if (Error error = connection.Open(FileDelProgetto(context_, database))) return error;
     if (Error error = rows.Open(connection, query)) return error;
     Error walked = WalkRows(rows, [&] {
-      result.push_back(ReadRow(context_, database, rows));
+      result.push_back(ReadRow(database, rows));
       return true;
     });
     if (walked || head == nullptr) return walked;
@@ -83,7 +82,21 @@ std::vector<std::string> SommarioProgetto::FileMancanti() const {
   return paths;
 }
 
+std::optional<std::uint64_t> GrandezzaFile(const Contesto& contesto, const RigaProgetto& riga) {
+  const auto source = SizeOf(contesto.Files, AggiungiBarra(riga.FilePath) + riga.FileName);
+  if (source || riga.Alias.empty()) return source;
+  return SizeOf(contesto.Files, FileDelProgetto(contesto, riga.Alias));
+}
+
 SommarioProgetto LeggiSommario(Contesto& contesto) {
+  SommarioProgetto summary = LeggiRigheProgetto(contesto);
+  for (auto* list : {&summary.Ingressi, &summary.Brani, &summary.Spot}) {
+    for (auto& row : *list) row.Mancante = !GrandezzaFile(contesto, row);
+  }
+  return summary;
+}
+
+SommarioProgetto LeggiRigheProgetto(Contesto& contesto) {
   SommarioProgetto summary;
   Reader reader(contesto, summary);
   summary.Ingressi = reader.ReadList("inputcfg.mdb", "SELECT * FROM [List] ORDER BY [Pos] ASC");

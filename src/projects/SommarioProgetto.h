@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -32,7 +34,14 @@ struct SommarioProgetto {
   std::vector<std::string> FileMancanti() const;
 };
 
-/// Reads the databases of the open project.
+/// Reads the databases of the open project and looks for every file.
 SommarioProgetto LeggiSommario(Contesto& contesto);
+
+/// Reads the rows alone: no file is looked for, none is missing.
+SommarioProgetto LeggiRigheProgetto(Contesto& contesto);
+
+/// The bytes of a row's source, else of its alias copy in the project; nothing where neither
+/// exists: the file is missing.
+std::optional<std::uint64_t> GrandezzaFile(const Contesto& contesto, const RigaProgetto& riga);
 
 }  // namespace kvr5

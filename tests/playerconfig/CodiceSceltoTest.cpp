@@ -151,8 +151,10 @@ TEST_F(ChosenCode, TheLinkTakesInputs5And6) {
     EXPECT_EQ(chosen.Ingresso(input).ColoreLampada, 0xFFFFFFU);
     chosen.Spunta(input, true);
   }
-  chosen.Scegli(255);
-  EXPECT_EQ(chosen.Codice(), 255 - 48) << "a disabled box can't be clicked";
+  EXPECT_FALSE(chosen.Scegli(255)) << "the file of another combination would be the one to change";
+  EXPECT_EQ(chosen.Codice(), 1);
+  EXPECT_TRUE(chosen.Scegli(255 - 48));
+  EXPECT_EQ(chosen.Codice(), 255 - 48);
   EXPECT_FALSE(chosen.AbilitaIngressiRs485()) << "nothing was ticked there";
   EXPECT_TRUE(chosen.Ingresso(4).Abilitato);
   EXPECT_EQ(chosen.Ingresso(4).ColoreTesto, 0U);

@@ -3,6 +3,8 @@
 #include <QLabel>
 #include <cstdint>
 
+#include "core/screens/Tema.h"
+
 namespace kvr5 {
 
 /// The drawing of a sign in its colour, as a label of its own.
@@ -10,6 +12,23 @@ QLabel* SegnoDi(const char* icona, const QColor& colore, int lato, QWidget* padr
 
 /// A text of several lines that shows whole, however long, and can be selected with the keyboard.
 QLabel* TestoLungo(const char* nome, const QString& testo, QWidget* padre);
+
+/// Words of warning: a triangle before them, the colours of a warning around them. The sign can be
+/// taken off where the same words are a plain note.
+class EtichettaAvviso : public QLabel {
+ public:
+  EtichettaAvviso(const char* nome, const QString& testo, Carattere carattere, QWidget* padre);
+
+  /// Dresses it as a warning, or as a note of body size in muted colour.
+  void ImpostaAvviso(bool avvisa);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  Carattere carattere_;
+  bool avvisa_ = true;
+};
 
 /// Makes a box that is about to be shown as high as its texts need at its width; by itself a window
 /// comes up no higher than two thirds of the screen.

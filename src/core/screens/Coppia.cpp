@@ -53,14 +53,14 @@ void Coppia::ImpostaScritta(const QString& testo) {
 void Coppia::ImpostaGenere(Genere genere) {
   genere_ = genere;
   if (etichetta_ != nullptr) {
-    const bool large = genere == Genere::Carta;
+    const bool large = genere == Genere::Carta || genere == Genere::CartaPrimaria;
     etichetta_->setFont(FontDi(large                        ? Carattere::Schermata
                                : genere == Genere::Primario ? Carattere::Riquadro
                                                             : Carattere::Corpo));
     etichetta_->setAlignment(large ? Qt::AlignHCenter | Qt::AlignTop : Qt::AlignVCenter);
     etichetta_->setWordWrap(large);
   }
-  if (genere == Genere::Carta) setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  if (Carta()) setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   Colora();
   updateGeometry();
   Disponi();
@@ -73,14 +73,14 @@ void Coppia::ImpostaIcona(const char* icona) {
 }
 
 int Coppia::LatoIcona() const {
-  return genere_ == Genere::Carta ? kCardIcon : kIcon;
+  return Carta() ? kCardIcon : kIcon;
 }
 
 QSize Coppia::sizeHint() const {
   const int height = (genere_ == Genere::Primario ? spazi::kPrimario : spazi::kPulsante);
   if (etichetta_ == nullptr) return {height, height};
   const QSize text = etichetta_->sizeHint();
-  if (genere_ == Genere::Carta) {
+  if (Carta()) {
     return {220, kCardIcon + spazi::kMedio + text.height() + 2 * spazi::kLargo};
   }
   return {2 * kPadding + kIcon + spazi::kStretto + text.width(), height};
@@ -88,12 +88,13 @@ QSize Coppia::sizeHint() const {
 
 QRect Coppia::PostoIcona() const {
   const int side = LatoIcona();
-  if (genere_ == Genere::Carta) {
+  if (Carta()) {
     const int text = etichetta_->heightForWidth(width() - 2 * spazi::kLargo);
     const int top = (height() - side - spazi::kMedio - text) / 2;
     return {(width() - side) / 2, top, side, side};
   }
-  if (etichetta_ == nullptr) return {(width() - side) / 2, (height() - side) / 2, side, side};
+  const bool alone = etichetta_ == nullptr || etichetta_->isHidden();
+  if (alone) return {(width() - side) / 2, (height() - side) / 2, side, side};
   const int content = side + spazi::kStretto + etichetta_->sizeHint().width();
   return {std::max(kPadding, (width() - content) / 2), (height() - side) / 2, side, side};
 }
@@ -101,7 +102,7 @@ QRect Coppia::PostoIcona() const {
 void Coppia::Disponi() {
   if (etichetta_ == nullptr) return;
   const QRect icon = PostoIcona();
-  if (genere_ == Genere::Carta) {
+  if (Carta()) {
     const int wide = width() - 2 * spazi::kLargo;
     etichetta_->setGeometry(spazi::kLargo, icon.bottom() + 1 + spazi::kMedio, wide,
                             etichetta_->heightForWidth(wide));
@@ -114,7 +115,7 @@ void Coppia::Disponi() {
 QColor Coppia::ColoreTesto() const {
   const Tema& tema = Tema::Corrente();
   if (!isEnabled()) return tema.Disabilitato;
-  if (genere_ == Genere::Primario) return tema.SuPrimario;
+  if (genere_ == Genere::Primario || genere_ == Genere::CartaPrimaria) return tema.SuPrimario;
   return genere_ == Genere::Pericolo ? tema.Errore : tema.Testo;
 }
 

@@ -12,11 +12,12 @@ namespace kvr5 {
 class Coppia : public QAbstractButton {
  public:
   enum class Genere {
-    Normale,   ///< outlined
-    Primario,  ///< filled: the one thing to do on a screen
-    Quieto,    ///< no frame until the pointer is over it
-    Pericolo,  ///< outlined in the colour of errors
-    Carta,     ///< large, picture above its text
+    Normale,        ///< outlined
+    Primario,       ///< filled: the one thing to do on a screen
+    Quieto,         ///< no frame until the pointer is over it
+    Pericolo,       ///< outlined in the colour of errors
+    Carta,          ///< large, picture above its text
+    CartaPrimaria,  ///< the same, filled
   };
 
   /// `nomeLbl` may be empty: a picture without a label. `tag` below 0: the label isn't translated.
@@ -41,6 +42,7 @@ class Coppia : public QAbstractButton {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  bool Carta() const { return genere_ == Genere::Carta || genere_ == Genere::CartaPrimaria; }
   void Disponi();
   void Colora();
   QColor ColoreTesto() const;

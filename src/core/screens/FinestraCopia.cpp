@@ -1,12 +1,12 @@
 #include "core/screens/FinestraCopia.h"
 
-#include <QApplication>
 #include <QLabel>
 #include <QVBoxLayout>
 
 #include "core/Lingua.h"
 #include "core/Parole.h"
 #include "core/ParoleCopia.h"
+#include "core/screens/Davanti.h"
 #include "core/screens/Pagina.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
@@ -30,8 +30,7 @@ std::string MinutesAndSeconds(qint64 seconds) {
 
 }  // namespace
 
-RiquadroCopia::RiquadroCopia(Contesto& contesto, QWidget* padre)
-    : QDialog(padre), contesto_(contesto) {
+RiquadroCopia::RiquadroCopia(Contesto& contesto) : contesto_(contesto) {
   setObjectName(QStringLiteral("FinestraCopia"));
   setWindowTitle(Qs(TestoLinguaO(contesto, "0130001", "Copying files")));
   setMinimumWidth(kWidth);
@@ -94,7 +93,8 @@ void FinestraCopia::Begin() {
 bool FinestraCopia::Progress(const CopyState& state) {
   if (!inizio_.isValid()) inizio_.start();
   if (!riquadro_ && inizio_.elapsed() >= kPatience) {
-    riquadro_ = std::make_unique<RiquadroCopia>(*contesto_, QApplication::activeWindow());
+    riquadro_ = std::make_unique<RiquadroCopia>(*contesto_);
+    MettiDavanti(*riquadro_, FinestraSotto());
   }
   if (riquadro_) riquadro_->Aggiorna(state, inizio_.elapsed());
   contesto_->Messaggi.LasciaCorrere();

@@ -16,7 +16,7 @@ namespace kvr5 {
 /// the cancel.
 class RiquadroCopia : public QDialog {
  public:
-  RiquadroCopia(Contesto& contesto, QWidget* padre);
+  explicit RiquadroCopia(Contesto& contesto);
   /// `millisecondi`: since the copy began.
   void Aggiorna(const CopyState& stato, qint64 millisecondi);
   bool Annullato() const { return annullato_; }

@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QFileDialog>
 
+#include "core/Lingua.h"
+#include "core/screens/Davanti.h"
 #include "core/screens/RiquadroMessaggio.h"
 #include "core/screens/Testo.h"
 
@@ -25,22 +27,12 @@ class PlainPointer {
   bool busy_;
 };
 
-/// What a box stands before: the active window, or the last one that is shown while another program
-/// is at work.
-QWidget* Owner() {
-  if (QWidget* active = QApplication::activeWindow()) return active;
-  QWidget* last = nullptr;
-  for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (window->isVisible() && dynamic_cast<Form*>(window) != nullptr) last = window;
-  }
-  return last;
-}
-
 }  // namespace
 
 Risposta FinestreQt::MostraMessaggio(const Messaggio& messaggio) {
   const PlainPointer pointer;
-  RiquadroMessaggio box(ambiente_->C, messaggio, Owner());
+  RiquadroMessaggio box(ambiente_->C, messaggio);
+  MettiDavanti(box, FinestraSotto());
   box.exec();
   return box.Esito();
 }
@@ -63,10 +55,21 @@ std::string FinestreQt::SfogliaCartella(const std::string& titolo, const std::st
   const PlainPointer pointer;
   const FileSystem& files = ambiente_->C.Files;
   const QString start = inizio.empty() ? QString() : Qs(files.HostPath(inizio));
-  const QString chosen = QFileDialog::getExistingDirectory(Owner(), Qs(titolo), start);
-  if (chosen.isEmpty()) return {};
-  const auto path = files.SystemPath(Std(chosen));
-  return path ? path.Value() : std::string();
+  QFileDialog box(nullptr, Qs(titolo), start);
+  box.setFileMode(QFileDialog::Directory);
+  box.setOption(QFileDialog::ShowDirsOnly);
+  MettiDavanti(box, FinestraSotto());
+  if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) return {};
+  const auto path = files.SystemPath(Std(box.selectedFiles().first()));
+  if (path) return path.Value();
+  DiciCartellaInadatta();
+  return {};
+}
+
+void FinestreQt::DiciCartellaInadatta() {
+  Contesto& context = ambiente_->C;
+  MostraMessaggio({TestoLingua(context, "0130230"), TestoLingua(context, "0130231"), Icona::Avviso,
+                   Pulsanti::Ok, Risposta::Ok});
 }
 
 }  // namespace kvr5

@@ -19,6 +19,9 @@ class FinestreQt : public Dialoghi {
   std::string SfogliaCartella(const std::string& titolo, const std::string& inizio) override;
 
  private:
+  /// A folder that no path of the system can name: the choice is told, not dropped in silence.
+  void DiciCartellaInadatta();
+
   Ambiente* ambiente_ = nullptr;
   FormPredefinita<frmSiNo> frmSiNo_{[this] { return new frmSiNo(*ambiente_); }};
 };

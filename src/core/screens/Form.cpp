@@ -1,12 +1,11 @@
 #include "core/screens/Form.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QShortcut>
-#include <QWindow>
 #include <utility>
 
 #include "core/Aiuto.h"
+#include "core/screens/Davanti.h"
 
 namespace kvr5 {
 
@@ -27,8 +26,10 @@ void Form::Carica() {
 }
 
 void Form::Mostra() {
+  ++mostrata_;
   Carica();
   if (Scaricata()) return;  // its own load may have sent it away
+  if (!isVisible()) CentraSu(*this, FinestraSotto());
   show();
   raise();
   activateWindow();
@@ -37,13 +38,10 @@ void Form::Mostra() {
 void Form::MostraModale() {
   Carica();
   if (Scaricata()) return;
-  QWidget* before = QApplication::activeWindow();
+  QWidget* before = FinestraSotto();
   setWindowModality(Qt::ApplicationModal);
   setWindowFlag(Qt::Dialog);
-  winId();
-  if (before != nullptr && before != this) {
-    windowHandle()->setTransientParent(before->window()->windowHandle());
-  }
+  MettiDavanti(*this, before);
   show();
   activateWindow();
   QEventLoop loop;
@@ -99,6 +97,11 @@ bool Form::event(QEvent* event) {
   const bool done = QWidget::event(event);
   if (event->type() == QEvent::WindowActivate && Caricata() && isVisible()) AllAttivazione();
   return done;
+}
+
+void Form::hideEvent(QHideEvent* event) {
+  if (!windowFlags().testFlag(Qt::Dialog)) RicordaPosto(*this);
+  QWidget::hideEvent(event);
 }
 
 void Form::closeEvent(QCloseEvent* event) {

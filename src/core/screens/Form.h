@@ -35,6 +35,9 @@ class Form : public QWidget {
   /// Asks the form itself, and unloads it if it doesn't refuse.
   void Scarica() { ChiudiDa(Causa::Codice); }
 
+  /// How many times it was asked to show itself.
+  int Mostrata() const { return mostrata_; }
+
   bool Caricata() const { return stato_ == Stato::Caricata; }
   bool Scaricata() const { return stato_ == Stato::Scaricata; }
 
@@ -67,6 +70,7 @@ class Form : public QWidget {
   Ambiente& ambiente_;
 
   bool event(QEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
 
@@ -80,6 +84,7 @@ class Form : public QWidget {
   Stato stato_ = Stato::Nuova;
   bool chiude_ = false;  ///< from a close that was granted to its end
   int impegni_ = 0;
+  int mostrata_ = 0;
   std::optional<Causa> rinviata_;
   QPointer<QEventLoop> attesa_;
 };

@@ -4,8 +4,8 @@
 #include <QVBoxLayout>
 
 #include "core/screens/Avvisi.h"
+#include "core/screens/EtichettaElisa.h"
 #include "core/screens/LocalizzaForm.h"
-#include "core/screens/Pagina.h"
 #include "core/screens/Tema.h"
 
 namespace kvr5 {
@@ -26,25 +26,27 @@ PannelloInfo::PannelloInfo(const QString& titolo, int tag, int tagAvviso, int mi
   auto* grid = new QGridLayout();
   grid->setHorizontalSpacing(spazi::kMedio);
   grid->setVerticalSpacing(4);
-  lblVersioneMpeg = NuovaEtichetta("lblVersioneMpeg", QStringLiteral("Version"), -1, this);
-  lblBitrate = NuovaEtichetta("lblBitrate", QStringLiteral("Bitrate"), -1, this);
-  lblFreq = NuovaEtichetta("lblFreq", QStringLiteral("Freq/mono"), -1, this);
-  lblDurata = NuovaEtichetta("lblDurata", QStringLiteral("Len"), -1, this);
+  // Figures of any length leave the columns of the screen where they are.
+  const auto figure = [this](const char* name, const QString& caption) {
+    auto* label = new EtichettaElisa(name, this);
+    label->setText(caption);
+    return label;
+  };
+  lblVersioneMpeg = figure("lblVersioneMpeg", QStringLiteral("Version"));
+  lblBitrate = figure("lblBitrate", QStringLiteral("Bitrate"));
+  lblFreq = figure("lblFreq", QStringLiteral("Freq/mono"));
+  lblDurata = figure("lblDurata", QStringLiteral("Len"));
   grid->addWidget(lblVersioneMpeg, 0, 0);
-  grid->addWidget(lblFreq, 0, 1);
-  grid->addWidget(lblBitrate, 1, 0);
-  grid->addWidget(lblDurata, 1, 1);
+  grid->addWidget(lblDurata, 0, 1);
+  grid->addWidget(lblBitrate, 1, 0, 1, 2);
+  grid->addWidget(lblFreq, 2, 0, 1, 2);
   grid->setColumnStretch(0, 1);
   grid->setColumnStretch(1, 1);
   Corpo()->addLayout(grid);
-  lblBadFileType = TestoLungo("lblBadFileType", QStringLiteral("BadFileType"), this);
+  lblBadFileType = new EtichettaAvviso("lblBadFileType", QStringLiteral("BadFileType"),
+                                       Carattere::Suggerimento, this);
   lblBadFileType->setProperty(kTag, tagAvviso);
-  Veste(*lblBadFileType, Carattere::Suggerimento, Ruolo::Avviso);
-  QPalette palette = lblBadFileType->palette();
-  palette.setColor(QPalette::Window, Tema::Corrente().FondoAvviso);
-  lblBadFileType->setPalette(palette);
-  lblBadFileType->setAutoFillBackground(true);
-  lblBadFileType->setMargin(6);
+  lblBadFileType->setWordWrap(true);
   KeepRoom(*lblBadFileType);
   lblBadFileType->hide();
   Corpo()->addWidget(lblBadFileType);

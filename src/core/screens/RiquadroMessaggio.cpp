@@ -62,8 +62,8 @@ Risposta Closed(Pulsanti pulsanti) {
 
 }  // namespace
 
-RiquadroMessaggio::RiquadroMessaggio(Contesto& contesto, const Messaggio& messaggio, QWidget* padre)
-    : QDialog(padre), esito_(Closed(messaggio.Scelte)) {
+RiquadroMessaggio::RiquadroMessaggio(Contesto& contesto, const Messaggio& messaggio)
+    : esito_(Closed(messaggio.Scelte)) {
   setObjectName(QStringLiteral("RiquadroMessaggio"));
   setWindowTitle(Qs(messaggio.Titolo));
   auto* page = new QVBoxLayout(this);

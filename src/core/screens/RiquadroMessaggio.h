@@ -6,10 +6,11 @@
 
 namespace kvr5 {
 
-/// A plain message box: sign, title, text, one to three buttons with the language's captions.
+/// A plain message box: sign, title, text, one to three buttons with the language's captions. It
+/// belongs to no window: the one that it stands before may go.
 class RiquadroMessaggio : public QDialog {
  public:
-  RiquadroMessaggio(Contesto& contesto, const Messaggio& messaggio, QWidget* padre);
+  RiquadroMessaggio(Contesto& contesto, const Messaggio& messaggio);
   /// What was pressed; the window's own button is the cancel, or No where there is none.
   Risposta Esito() const { return esito_; }
 

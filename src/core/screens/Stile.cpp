@@ -167,6 +167,7 @@ void DipingiPulsante(QPainter& pittore, const QRect& dove, const AspettoPulsante
                                              : 0;
   switch (aspetto.Genere) {
     case Coppia::Genere::Primario:
+    case Coppia::Genere::CartaPrimaria:
       if (aspetto.Abilitato) {
         RoundedRect(pittore, dove, {}, Mixed(tema.Primario, tema.SuPrimario, strength * 1.5));
       } else {

@@ -4,6 +4,8 @@
 #include <QKeyEvent>
 #include <QVBoxLayout>
 #include <QVariant>
+#include <algorithm>
+#include <array>
 
 #include "core/Lingua.h"
 #include "core/screens/LocalizzaForm.h"
@@ -74,8 +76,8 @@ void frmConfig::Costruisci() {
   lblEsci = cmdExit->Etichetta();
   lblSave = cmdSave->Etichetta();
   page->addLayout(Riga({cmdExit, nullptr, cmdSave}));
-  OrdineTab({txtProjectDir, cmdSelPrjDir, cmbLanguage, optInternal, optExternal, cmdExit, cmdSave,
-             picHelp});
+  OrdineTab({picHelp, txtProjectDir, cmdSelPrjDir, cmbLanguage, optInternal, optExternal, cmdExit,
+             cmdSave});
 }
 
 void frmConfig::Collega() {
@@ -110,6 +112,13 @@ void frmConfig::AlCaricamento() {
   LocalizzaForm(C(), kForm, *this);
   lblTitolo->setText(windowTitle());
   cmdSelPrjDir->ImpostaScritta(Qs(TestoLingua(C(), "0090005")));
+  // Their own captions aren't translated; the words that explain them are.
+  lblPlayer->setToolTip(Qs(TestoLingua(C(), "0130190")));
+  optInternal->setToolTip(Qs(TestoLingua(C(), "0130191")));
+  optExternal->setToolTip(Qs(TestoLingua(C(), "0130192")));
+  for (QWidget* each : {static_cast<QWidget*>(optInternal), static_cast<QWidget*>(optExternal)}) {
+    each->setAccessibleDescription(each->toolTip());
+  }
   modello_.Carica();
   for (const auto& language : modello_.Lingue()) cmbLanguage->addItem(Qs(language));
   cmbLanguage->setCurrentIndex(modello_.LinguaScelta() ? static_cast<int>(*modello_.LinguaScelta())
@@ -138,6 +147,7 @@ void frmConfig::MostraCartella() {
 void frmConfig::MostraModificato() {
   cmdSave->setEnabled(modello_.Modificato());
   lblSave->setVisible(modello_.Modificato());
+  cmdSave->setToolTip(Qs(TestoLingua(C(), modello_.Modificato() ? "0130193" : "0130194")));
 }
 
 bool frmConfig::PuoChiudere(Causa causa) {
@@ -151,10 +161,12 @@ void frmConfig::AlloScarico() {
 
 bool frmConfig::eventFilter(QObject* object, QEvent* event) {
   if (object == txtProjectDir && event->type() == QEvent::KeyPress) {
+    // The way back, the help, and keys that type nothing by themselves are none of the box's.
+    constexpr std::array kOthers{Qt::Key_Tab,      Qt::Key_Backtab, Qt::Key_F1,    Qt::Key_Shift,
+                                 Qt::Key_Control,  Qt::Key_Alt,     Qt::Key_AltGr, Qt::Key_Meta,
+                                 Qt::Key_CapsLock, Qt::Key_NumLock, Qt::Key_Escape};
     const int key = static_cast<QKeyEvent*>(event)->key();
-    const bool passes = key == Qt::Key_Tab || key == Qt::Key_Backtab || key == Qt::Key_F1 ||
-                        key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt;
-    if (!passes) {
+    if (std::ranges::find(kOthers, key) == kOthers.end()) {
       cmdSelPrjDir->click();
       return true;
     }

@@ -3,10 +3,13 @@
 #include <QPainter>
 
 #include "core/Aiuti.h"
+#include "core/Avvio.h"
+#include "core/Lingua.h"
 #include "core/screens/Icona.h"
 #include "core/screens/LocalizzaForm.h"
 #include "core/screens/Pagina.h"
 #include "core/screens/Tema.h"
+#include "core/screens/Testo.h"
 
 namespace kvr5 {
 namespace {
@@ -60,7 +63,7 @@ frmMain::frmMain(Ambiente& ambiente) : Form(ambiente, "frmMain") {
   lblCaricaDaDisco = picCaricaDaDisco->Etichetta();
   lblConfigurazione = picConfig->Etichetta();
   lblUscita = picEsci->Etichetta();
-  OrdineTab({picNuovoProgetto, picCaricaDaDisco, picConfig, picEsci, picHelp});
+  OrdineTab({picHelp, picNuovoProgetto, picCaricaDaDisco, picConfig, picEsci});
 
   connect(picNuovoProgetto, &QAbstractButton::clicked, this, [this] { NuovoProgetto(); });
   connect(picCaricaDaDisco, &QAbstractButton::clicked, this, [this] {
@@ -79,12 +82,23 @@ frmMain::frmMain(Ambiente& ambiente) : Form(ambiente, "frmMain") {
 void frmMain::AlCaricamento() {
   C().Messaggi.ImpostaPuntatore(Puntatore::Attesa);
   LocalizzaForm(C(), kForm, *this);
+  picNuovoProgetto->setToolTip(Qs(TestoLingua(C(), "0130100")));
+  picCaricaDaDisco->setToolTip(Qs(TestoLingua(C(), "0130101")));
+  Rilievo();
   C().Stato.PlayerType = 0;
   C().Messaggi.ImpostaPuntatore(Puntatore::Normale);
   C().Stato.PercorsoMemoryCard.clear();
 }
 
+void frmMain::Rilievo() {
+  // What is most likely to be wanted: a project to go on with, where there is one.
+  const bool some = HaCartelleDiProgetti(C());
+  picCaricaDaDisco->ImpostaGenere(some ? Coppia::Genere::CartaPrimaria : Coppia::Genere::Carta);
+  picNuovoProgetto->ImpostaGenere(some ? Coppia::Genere::Carta : Coppia::Genere::CartaPrimaria);
+}
+
 void frmMain::AllAttivazione() {
+  Rilievo();
   if (focusWidget() == nullptr) picNuovoProgetto->setFocus();
 }
 
@@ -95,10 +109,12 @@ void frmMain::NuovoProgetto() {
   events.LasciaCorrere();
   C().Stato.PlayerName = NomeModello(4);
   C().Stato.PlayerType = 4;  // the menu makes projects of this model only
+  const int shown = Mostrata();
   ambiente_.Schermi.Mostra(Schermata::Wizard);
   events.ImpostaPuntatore(Puntatore::Normale);
   events.LasciaCorrere();
-  Nascondi();  // stays loaded: the wizard brings it back as it is
+  // Stays loaded: the wizard brings it back as it is. One that was left while events ran has.
+  if (Mostrata() == shown) Nascondi();
 }
 
 }  // namespace kvr5

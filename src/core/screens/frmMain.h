@@ -28,6 +28,8 @@ class frmMain : public Form {
   void AllAttivazione() override;
 
  private:
+  /// Has one of the two cards stand out.
+  void Rilievo();
   void NuovoProgetto();
 };
 

@@ -50,7 +50,7 @@ frmSalva::frmSalva(Ambiente& ambiente) : Form(ambiente, "frmSalva") {
   lblSalva = picSalva->Etichetta();
   page->addLayout(Riga({picGoBack, nullptr, picSalva}));
 
-  OrdineTab({chkSaveMp3Inputs, picGoBack, picSalva, picHelp});
+  OrdineTab({picHelp, chkSaveMp3Inputs, picGoBack, picSalva});
   chkSaveMp3Inputs->setFocus();
   connect(picGoBack, &QAbstractButton::clicked, this, [this] { Finisci(true); });
   connect(picSalva, &QAbstractButton::clicked, this, [this] {

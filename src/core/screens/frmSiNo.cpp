@@ -65,8 +65,8 @@ frmSiNo::frmSiNo(Ambiente& ambiente) : Form(ambiente, "frmSiNo") {
 
 void frmSiNo::AlCaricamento() {
   C().Messaggi.ImpostaPuntatore(Puntatore::Attesa);
-  cmdSi->ImpostaScritta(Qs(TestoLingua(C(), "0050022")));
-  cmdNo->ImpostaScritta(Qs(TestoLingua(C(), "0050021")));
+  cmdSi->ImpostaScritta(Qs(TestoLinguaO(C(), "0050022", "Yes")));
+  cmdNo->ImpostaScritta(Qs(TestoLinguaO(C(), "0050021", "No")));
   C().Messaggi.ImpostaPuntatore(Puntatore::Normale);
   cmdSi->setFocus();
 }
@@ -79,7 +79,7 @@ void frmSiNo::showEvent(QShowEvent* event) {
 void frmSiNo::MostraSoloOk(const std::string& testo) {
   Carica();
   cmdNo->hide();
-  cmdSi->ImpostaScritta(Qs(testo));
+  cmdSi->ImpostaScritta(testo.empty() ? QStringLiteral("OK") : Qs(testo));
   segno_->setPixmap(DisegnoDi(QStringLiteral("informazione"), segno_->size(),
                               Tema::Corrente().Fuoco, devicePixelRatioF()));
 }

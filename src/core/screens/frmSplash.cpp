@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 
 #include "core/Lingua.h"
+#include "core/screens/Davanti.h"
 #include "core/screens/Icona.h"
 #include "core/screens/Pagina.h"
 #include "core/screens/Tema.h"
@@ -35,6 +36,7 @@ frmSplash::frmSplash(Ambiente& ambiente) : Form(ambiente, "frmSplash") {
 void frmSplash::AlCaricamento() {
   lblNomePrj->setText(Qs(TestoLingua(C(), "0020000")));
   lblVersion->setText(lblNomePrj->text() + QStringLiteral(" " KVR5_VERSION));
+  CentraSu(*this, nullptr);
   show();
   C().Messaggi.LasciaCorrere();
 }

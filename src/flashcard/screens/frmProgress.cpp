@@ -48,7 +48,12 @@ frmProgress::frmProgress(Ambiente& ambiente, ProgressoQt& progresso)
   auto* page = NuovaPagina(*this);
   lblOperazione = NuovaEtichetta("lblOperazione", QStringLiteral("Operat"), -1, this);
   lblPerc = NuovaEtichetta("lblPerc", {}, -1, this);
-  page->addLayout(Riga({lblOperazione, nullptr, lblPerc}));
+  lblOperazione->setWordWrap(true);
+  lblOperazione->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  auto* top = Riga({lblOperazione, lblPerc});
+  top->setStretch(0, 1);
+  top->setAlignment(lblPerc, Qt::AlignTop);
+  page->addLayout(top);
   picCont = new kvr5::Barra(this);  // the trough
   picCont->setObjectName(QStringLiteral("picCont"));
   picCont->setFixedSize(FinestraProgresso::PixelPieni, kBarHeight);
@@ -76,6 +81,11 @@ void frmProgress::AlCaricamento() {
   tmrCicla.start();
 }
 
+void frmProgress::AlloScarico() {
+  hide();  // first: the flag of a shown window can't be changed without its coming up once more
+  ImpostaPrimoPiano(*this, false);
+}
+
 bool frmProgress::PuoChiudere(Causa causa) {
   // The operation unloads its window when its work is done; the window's own button only cancels.
   if (causa == Causa::Utente) progresso_.Annulla();
@@ -83,8 +93,7 @@ bool frmProgress::PuoChiudere(Causa causa) {
 }
 
 void frmProgress::Disegna() {
-  lblOperazione->setText(lblOperazione->fontMetrics().elidedText(
-      Qs(progresso_.TestoOperazione()), Qt::ElideRight, FinestraProgresso::PixelPieni - 60));
+  lblOperazione->setText(Qs(progresso_.TestoOperazione()));
   lblOperazione->setToolTip(Qs(progresso_.TestoOperazione()));
   Veste(*lblOperazione, Carattere::Riquadro,
         progresso_.TestoAcceso() ? Ruolo::Testo : Ruolo::Attenuato);

@@ -50,6 +50,7 @@ class frmProgress : public Form {
  protected:
   void AlCaricamento() override;
   bool PuoChiudere(Causa causa) override;
+  void AlloScarico() override;
 
  private:
   ProgressoQt& progresso_;

@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 
 #include "core/Lingua.h"
+#include "core/Parole.h"
 #include "core/screens/Pagina.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
@@ -81,11 +82,16 @@ void Comandi::Localizza() {
   picAltro->ImpostaScritta(Qs(TestoLinguaO(contesto_, "0130150", "More")));
   picVerifica->ImpostaScritta(Qs(TestoLinguaO(contesto_, "0130159", "Verify")));
   picSave->setToolTip(text("0130160"));
-  picRecordFlash->setToolTip(text("0130161"));
   picCancellaFlash->setToolTip(text("0130163"));
   picVerifica->setToolTip(text("0130164"));
   picReport->setToolTip(text("0130165"));
   picEsci->setToolTip(text("0130166"));
+}
+
+void Comandi::ImpostaScheda(const std::string& radice) {
+  picRecordFlash->setToolTip(radice.empty()
+                                 ? Qs(TestoLingua(contesto_, "0130161"))
+                                 : Qs(ConValori(TestoLingua(contesto_, "0130162"), {radice})));
 }
 
 }  // namespace kvr5

@@ -23,6 +23,8 @@ class Comandi : public QWidget {
 
   void Disponi(const LayoutHub& layout);
   void Localizza();
+  /// Names the card that a recording goes to, "" for none, in the button's tool tip.
+  void ImpostaScheda(const std::string& radice);
   QSize minimumSizeHint() const override;
 
  protected:

@@ -1,7 +1,6 @@
 // The controls of the hub and how they lie.
 
 #include <QGridLayout>
-#include <QPainter>
 #include <QScrollArea>
 #include <QVBoxLayout>
 #include <QVariant>
@@ -24,42 +23,6 @@ namespace {
 constexpr int kFileInfoDelay = 500;
 constexpr int kCardWatch = 2000;
 
-/// The drawing of a model.
-class Disegno : public QWidget {
- public:
-  Disegno(const char* name, QWidget* parent) : QWidget(parent) {
-    setObjectName(QLatin1String(name));
-    setMinimumSize(320, 200);
-    setMaximumSize(480, 300);
-  }
-  void ImpostaNome(const QString& picture) {
-    picture_ = picture;
-    update();
-  }
-
- protected:
-  void paintEvent(QPaintEvent* /*event*/) override {
-    QPainter painter(this);
-    DipingiIcona(painter, rect(), picture_, Tema::Corrente().Testo);
-  }
-
- private:
-  QString picture_;
-};
-
-QString PictureOf(std::int16_t playerType) {
-  switch (playerType) {
-    case 1:
-      return QStringLiteral("pannello-veskadro");
-    case 2:
-      return QStringLiteral("pannello-zub");
-    case 3:
-      return QStringLiteral("pannello-ostrel");
-    default:
-      return QStringLiteral("pannello-kvr5");
-  }
-}
-
 }  // namespace
 
 void frmPlayerConfig::Costruisci() {
@@ -78,6 +41,7 @@ void frmPlayerConfig::Costruisci() {
   page->addWidget(Barra);
   CostruisciNascosti();
   guardia_.setInterval(kCardWatch);
+  conta_.setInterval(0);
 }
 
 QLayout* frmPlayerConfig::CostruisciTestata() {
@@ -87,13 +51,7 @@ QLayout* frmPlayerConfig::CostruisciTestata() {
   Veste(*lblTipoPlayer, Carattere::Corpo, Ruolo::Attenuato);
   lblProgetto = new EtichettaElisa("lblProgetto", this, Qt::ElideMiddle);
   Veste(*lblProgetto, Carattere::Progetto);
-  lblNonSalvato = NuovaEtichetta("lblNonSalvato", {}, -1, this);
-  Veste(*lblNonSalvato, Carattere::Riquadro, Ruolo::Avviso);
-  QPalette palette = lblNonSalvato->palette();
-  palette.setColor(QPalette::Window, Tema::Corrente().FondoAvviso);
-  lblNonSalvato->setPalette(palette);
-  lblNonSalvato->setAutoFillBackground(true);
-  lblNonSalvato->setMargin(6);
+  lblNonSalvato = new EtichettaAvviso("lblNonSalvato", {}, Carattere::Riquadro, this);
   lblNonSalvato->hide();
   picHelp = NuovoAiuto(this);
   auto* top = Riga({lblProgetto, lblTipoPlayer, lblNonSalvato, picHelp});
@@ -132,24 +90,12 @@ QWidget* frmPlayerConfig::CostruisciCorpo() {
   right->addWidget(fraFileName, 1);
   right->addWidget(fraFileInfo);
   columns->addWidget(colonne_[1], 4);
-  columns->addWidget(CostruisciPannello(), 8);
+  Pannello = new PannelloModo(body);
+  picPanel = Pannello->picPanel;
+  lblModoPanelBig = Pannello->lblModoPanelBig;
+  columns->addWidget(Pannello, 8);
   for (auto* column : {left, centre, right}) column->setSpacing(spazi::kMedio);
   return body;
-}
-
-QWidget* frmPlayerConfig::CostruisciPannello() {
-  auto* frame = new Riquadro("fraPannello", {}, -1, this);
-  picPanel = new Disegno("picPanel", frame);
-  lblModoPanelBig = NuovaEtichetta("lblModoPanelBig", QStringLiteral("Modalità"), -1, frame);
-  Veste(*lblModoPanelBig, Carattere::Schermata);
-  lblModoPanelBig->setAlignment(Qt::AlignCenter);
-  frame->Corpo()->addStretch();
-  frame->Corpo()->addLayout(Riga({nullptr, picPanel, nullptr}), 4);
-  static_cast<QHBoxLayout*>(frame->Corpo()->itemAt(frame->Corpo()->count() - 1)->layout())
-      ->setStretch(1, 4);
-  frame->Corpo()->addWidget(lblModoPanelBig);
-  frame->Corpo()->addStretch();
-  return frame;
 }
 
 void frmPlayerConfig::CostruisciNascosti() {
@@ -186,10 +132,16 @@ void frmPlayerConfig::Disponi() {
   fraFileName->cmdStopMp3->setVisible(layout_.cmdStopMp3);
   fraIngressiLogici->cmdMp3Preview_Stop->setVisible(layout_.cmdMp3Preview_Stop);
   picPanel->setVisible(layout_.picPanel);
-  picPanel->parentWidget()->setVisible(noInputs);
-  static_cast<Disegno*>(picPanel)->ImpostaNome(PictureOf(C().Stato.PlayerType));
+  Pannello->setVisible(noInputs);
+  Pannello->ImpostaModello(C().Stato.PlayerType);
   picPanel->setAccessibleName(Qs(TestoLingua(C(), "0130181")));
   Barra->Disponi(layout_);
+  constexpr std::int16_t kKvr5 = 4;
+  if (noInputs && C().Stato.PlayerType == kKvr5) {
+    for (Coppia* button : {Barra->picPlaylist, Barra->picPalinsesto}) {
+      if (!button->isHidden()) Pannello->Accogli(button);
+    }
+  }
 }
 
 void frmPlayerConfig::Collega() {
@@ -218,6 +170,7 @@ void frmPlayerConfig::Collega() {
     const Impegno stays(*this);
     ambiente_.Schermi.ScegliScheda(Schermata::Configurazione);
   };
+  connect(&conta_, &QTimer::timeout, this, [this] { Conta(); });
   connect(&guardia_, &QTimer::timeout, this, [this] {
     if (!C().Stato.PercorsoMemoryCard.empty()) Scheda->MostraStato(servizi_.FattiDellaScheda());
   });

@@ -94,8 +94,10 @@ QWidget* IngressiLogici::CostruisciAssociato() {
   QSizePolicy policy = fraFileAssociato->sizePolicy();
   policy.setRetainSizeWhenHidden(true);  // nothing jumps under the pointer
   fraFileAssociato->setSizePolicy(policy);
-  auto* line = new QHBoxLayout(fraFileAssociato);
-  line->setContentsMargins(0, 0, 0, 0);
+  auto* lines = new QVBoxLayout(fraFileAssociato);
+  lines->setContentsMargins(0, 0, 0, 0);
+  lines->setSpacing(spazi::kStretto);
+  auto* words = new QHBoxLayout();
   lblFileAssociato = new EtichettaElisa("lblFileAssociato", fraFileAssociato, Qt::ElideMiddle);
   lblEtichettaTroppoLunga =
       NuovaEtichetta("lblEtichettaTroppoLunga", QStringLiteral("..."), -1, fraFileAssociato);
@@ -103,10 +105,10 @@ QWidget* IngressiLogici::CostruisciAssociato() {
                                   "ascolta", 36, fraFileAssociato);
   cmdMp3Preview_Stop = new Coppia("cmdMp3Preview_Stop", "", {}, "ferma", -1, fraFileAssociato);
   lblPreview = cmdMp3Preview_Play->Etichetta();
-  line->addWidget(lblFileAssociato, 1);
-  line->addWidget(lblEtichettaTroppoLunga);
-  line->addWidget(cmdMp3Preview_Play);
-  line->addWidget(cmdMp3Preview_Stop);
+  words->addWidget(lblFileAssociato, 1);
+  words->addWidget(lblEtichettaTroppoLunga);
+  lines->addLayout(words);
+  lines->addLayout(Riga({cmdMp3Preview_Play, cmdMp3Preview_Stop, nullptr}));
   fraFileAssociato->hide();
   lblEtichettaTroppoLunga->hide();
   return fraFileAssociato;

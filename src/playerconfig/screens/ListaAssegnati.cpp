@@ -1,5 +1,6 @@
 #include "playerconfig/screens/ListaAssegnati.h"
 
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "core/Lingua.h"
@@ -41,6 +42,7 @@ void ListaAssegnati::AggiungiRiga(const ParoleAssegnato& parole, const Assegnato
   QString tip = Qs(PercorsoPerPersone(contesto_, riga.Percorso));
   if (riga.Mancante) tip.prepend(Qs(parole.EraQui + " "));
   if (riga.StessoFile) tip += "\n" + Qs(parole.AltroIngresso);
+  if (riga.DelCollegamento) tip += "\n" + Qs(parole.LiberaCollegamento);
   item->setToolTip(tip);
   if (mark.empty()) return;
   item->setIcon(IconaDi(riga.Mancante ? QStringLiteral("mancante") : QStringLiteral("avviso"),
@@ -49,14 +51,30 @@ void ListaAssegnati::AggiungiRiga(const ParoleAssegnato& parole, const Assegnato
 }
 
 void ListaAssegnati::Mostra(const ElencoAssegnati& elenco) {
+  if (mostrato_ == elenco) return;
+  mostrato_ = elenco;
+  const int top = lstAssegnati->verticalScrollBar()->value();
+  Veste(*lblCifre, Carattere::Suggerimento, Ruolo::Attenuato);
   lstAssegnati->clear();
   const ParoleAssegnato words(contesto_);
   for (const Assegnato& row : elenco.Righe) AggiungiRiga(words, row);
   lblCifre->setText(elenco.Righe.empty() ? Qs(TestoLingua(contesto_, "0130127"))
                                          : Qs(CifreAssegnati(contesto_, elenco)));
+  lstAssegnati->doItemsLayout();
+  lstAssegnati->verticalScrollBar()->setValue(top);
+}
+
+void ListaAssegnati::Evidenzia(std::int64_t codice) {
+  for (int row = 0; row < lstAssegnati->count(); ++row) {
+    if (lstAssegnati->item(row)->data(Qt::UserRole).toLongLong() != codice) continue;
+    lstAssegnati->setCurrentRow(row);
+    return;
+  }
+  lstAssegnati->setCurrentRow(-1);
 }
 
 void ListaAssegnati::MostraSenzaTabella() {
+  mostrato_.reset();
   lstAssegnati->clear();
   lblCifre->setText(Qs(TestoLingua(contesto_, "0130132")));
   Veste(*lblCifre, Carattere::Suggerimento, Ruolo::Avviso);

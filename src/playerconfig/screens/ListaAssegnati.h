@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <functional>
+#include <optional>
 
 #include "core/screens/Riquadro.h"
 #include "playerconfig/Assegnati.h"
@@ -20,6 +21,8 @@ class ListaAssegnati : public Riquadro {
   void Mostra(const ElencoAssegnati& elenco);
   /// Where the project lacks its table: nothing can be kept.
   void MostraSenzaTabella();
+  /// Selects the row of the combination that is ticked; none where it has no row.
+  void Evidenzia(std::int64_t codice);
   void Localizza();
   /// Called for a click on a row, with its code.
   std::function<void(std::int64_t)> SuScelta;
@@ -28,6 +31,7 @@ class ListaAssegnati : public Riquadro {
   void AggiungiRiga(const ParoleAssegnato& parole, const Assegnato& riga);
 
   Contesto& contesto_;
+  std::optional<ElencoAssegnati> mostrato_;
 };
 
 }  // namespace kvr5

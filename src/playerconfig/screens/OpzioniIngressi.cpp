@@ -104,6 +104,7 @@ void OpzioniIngressi::CostruisciTpcm() {
   lstTPCM->setFixedWidth(46);
   lstTPCM->setAlignment(Qt::AlignRight);
   lstTPCM->installEventFilter(this);
+  lstTPCM->setAttribute(Qt::WA_InputMethodEnabled, false);  // digits are typed key by key
   u_dTPCM_su = NewArrow("u_dTPCM_su", "su", choices);
   u_dTPCM_giu = NewArrow("u_dTPCM_giu", "giu", choices);
   auto* arrows = new QVBoxLayout();
@@ -141,9 +142,9 @@ void OpzioniIngressi::CostruisciAltre() {
 }
 
 void OpzioniIngressi::Collega() {
-  connect(optIMOD_ActiveLow, &QRadioButton::toggled, this, [this](bool on) {
-    if (on && !mostra_) AvvisaIngressiBassi(contesto_);
-  });
+  // A click on it tells each time, also where it was on already; the load clicks nothing.
+  connect(optIMOD_ActiveLow, &QRadioButton::clicked, this,
+          [this] { AvvisaIngressiBassi(contesto_); });
   for (Segmento* option : findChildren<Segmento*>()) {
     connect(option, &QRadioButton::toggled, this, [this] {
       if (!mostra_) Cambiato();
@@ -188,9 +189,11 @@ bool OpzioniIngressi::eventFilter(QObject* object, QEvent* event) {
       return true;
     }
     const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
-    // Editing keys and shortcuts aren't characters that are typed.
-    const bool edits = key->key() == Qt::Key_Delete || key->key() == Qt::Key_Escape ||
-                       (key->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0;
+    // Editing keys and shortcuts aren't characters that are typed; with the modifier that types
+    // the third character of a key (Ctrl and Alt at once, or Alt alone) they are.
+    const bool shortcut =
+        (key->modifiers() & Qt::ControlModifier) != 0 && (key->modifiers() & Qt::AltModifier) == 0;
+    const bool edits = key->key() == Qt::Key_Delete || key->key() == Qt::Key_Escape || shortcut;
     const QString text = edits ? QString() : key->text();
     const char32_t character = enter ? U'\r' : text.isEmpty() ? 0 : text.toUcs4().first();
     const bool passes = character == 0 || tpcm_.Tasto(character);

@@ -7,6 +7,7 @@
 
 #include "core/Lingua.h"
 #include "core/ParoleCopia.h"
+#include "core/screens/EtichettaElisa.h"
 #include "core/screens/LocalizzaForm.h"
 #include "core/screens/Pagina.h"
 #include "core/screens/SenzaRotella.h"
@@ -19,12 +20,14 @@ PaneMp3::PaneMp3(Contesto& contesto, QWidget* padre)
     : Riquadro("fraFileName", {}, -1, padre), contesto_(contesto) {
   Costruisci();
   connect(cmbFileMp3, &QComboBox::activated, this, [this] { Clic(); });
+  // A button in the tab order answers to one click and to the keyboard; the label, which looks like
+  // none, waits for the second one.
   connect(picDisk, &QAbstractButton::clicked, this, [this] {
     if (SuSfoglia) SuSfoglia();
   });
   DirDirectoryMp3->SuCambio = [this] {
     const QString folder = Qs(PercorsoPerPersone(contesto_, DirDirectoryMp3->Percorso()));
-    lblPercorso->setText(lblPercorso->fontMetrics().elidedText(folder, Qt::ElideMiddle, 260));
+    lblPercorso->setText(folder);
     lblPercorso->setToolTip(folder);
     RiempiElencoMp3();
   };
@@ -38,7 +41,7 @@ void PaneMp3::Costruisci() {
   picDisk->ImpostaGenere(Coppia::Genere::Quieto);
   lblMp3_Dir = NuovaEtichetta("lblMp3_Dir", QStringLiteral("MP3 Directory"), 29, this);
   lblMp3_Dir->installEventFilter(this);
-  lblPercorso = NuovaEtichetta("lblPercorso", {}, -1, this);
+  lblPercorso = new EtichettaElisa("lblPercorso", this, Qt::ElideMiddle);
   Veste(*lblPercorso, Carattere::Suggerimento, Ruolo::Attenuato);
   auto* words = new QVBoxLayout();
   words->setSpacing(0);
@@ -63,10 +66,19 @@ void PaneMp3::Costruisci() {
   cmdStopMp3 = new Coppia("cmdStopMp3", "", {}, "ferma", -1, this);
   cmdOkFileMp3 =
       new Coppia("cmdOkFileMp3", "lblOkFileMp3", QStringLiteral("OK"), "fatto", 31, this);
-  QSizePolicy policy = cmdOkFileMp3->sizePolicy();
-  policy.setRetainSizeWhenHidden(true);
-  cmdOkFileMp3->setSizePolicy(policy);
-  Corpo()->addLayout(Riga({cmdPlayMp3, cmdStopMp3, nullptr, cmdOkFileMp3}));
+  // The numeral comes and goes with the button that it leads to.
+  numero_ = NumeroDiPasso(3, {}, this);
+  cmdOkFileMp3->installEventFilter(this);
+  for (QWidget* each : {static_cast<QWidget*>(cmdOkFileMp3), static_cast<QWidget*>(numero_)}) {
+    QSizePolicy policy = each->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    each->setSizePolicy(policy);
+  }
+  lblVuota = NuovaEtichetta("lblVuota", {}, -1, this);
+  Veste(*lblVuota, Carattere::Suggerimento, Ruolo::Attenuato);
+  lblVuota->setWordWrap(true);
+  Corpo()->addWidget(lblVuota);
+  Corpo()->addLayout(Riga({cmdPlayMp3, cmdStopMp3, nullptr, numero_, cmdOkFileMp3}));
 }
 
 void PaneMp3::RiempiElencoMp3() {
@@ -83,6 +95,7 @@ void PaneMp3::RiempiElencoMp3() {
   }
   cmbFileMp3->setModel(model);  // the one before belonged to the box and goes with it
   cmbFileMp3->setCurrentIndex(static_cast<int>(elenco_.Scelto));
+  lblVuota->setVisible(elenco_.Voci.size() <= 1);  // the blank item alone
   Clic();
 }
 
@@ -105,6 +118,10 @@ bool PaneMp3::eventFilter(QObject* object, QEvent* event) {
     SuSfoglia();
     return true;
   }
+  if (object == cmdOkFileMp3 &&
+      (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent)) {
+    numero_->setVisible(!cmdOkFileMp3->isHidden());
+  }
   return Riquadro::eventFilter(object, event);
 }
 
@@ -114,6 +131,9 @@ void PaneMp3::Localizza() {
   cmdPlayMp3->ImpostaScritta(Qs(TestoLingua(contesto_, "0130168")));
   cmdStopMp3->ImpostaScritta(Qs(TestoLingua(contesto_, "0130169")));
   cmdOkFileMp3->setToolTip(Qs(TestoLingua(contesto_, "0130136")));
+  numero_->setToolTip(Qs(TestoLingua(contesto_, "0130125")));
+  numero_->setAccessibleName(numero_->toolTip());
+  lblVuota->setText(Qs(TestoLingua(contesto_, "0130138")));
   cmbFileMp3->setAccessibleName(Qs(TestoLingua(contesto_, "0130179")));
   DirDirectoryMp3->setAccessibleName(Qs(TestoLingua(contesto_, "0130180")));
 }

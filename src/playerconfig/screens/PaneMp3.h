@@ -20,6 +20,7 @@ class PaneMp3 : public Riquadro {
   QLabel* lblfraFileName;
   Coppia* picDisk;
   QLabel* lblMp3_Dir;
+  QLabel* lblVuota;     ///< says that the folder holds no file
   QLabel* lblPercorso;  ///< the folder, as a person reads it
   ElencoCartelle* DirDirectoryMp3;
   QComboBox* cmbFileMp3;
@@ -50,6 +51,7 @@ class PaneMp3 : public Riquadro {
   }
 
   Contesto& contesto_;
+  QLabel* numero_;
   ElencoMp3 elenco_;
 };
 

@@ -41,6 +41,7 @@ RigaScheda::RigaScheda(Contesto& contesto, QWidget* padre) : QWidget(padre), con
   lblPathMemoryCard = NuovaEtichetta("lblPathMemoryCard",
                                      QStringLiteral("Memory Card Path not selected"), 45, this);
   lblPathMemoryCard->setFocusPolicy(Qt::ClickFocus);  // by Tab the button beside it is reached
+  Veste(*lblPathMemoryCard, Carattere::Corpo);
   lblPathMemoryCard->installEventFilter(this);
   lblStato = new EtichettaElisa("lblStatoScheda", this);
   cmdScegli = new Coppia("cmdScegliScheda", "lblScegliScheda", QStringLiteral("Choose..."),
@@ -49,6 +50,14 @@ RigaScheda::RigaScheda(Contesto& contesto, QWidget* padre) : QWidget(padre), con
   line->addWidget(segno_);
   line->addWidget(lblPathMemoryCard);
   line->addWidget(lblStato, 1);
+  picSpazio = new Barra(this);
+  picSpazio->setObjectName(QStringLiteral("picSpazio"));
+  picSpazio->setFixedSize(72, 10);
+  lblSpazio = NuovaEtichetta("lblSpazio", {}, -1, this);
+  Veste(*lblSpazio, Carattere::Suggerimento, Ruolo::Attenuato);
+  line->addWidget(picSpazio);
+  line->addWidget(lblSpazio);
+  MostraSpazio();
   line->addWidget(cmdScegli);
   connect(cmdScegli, &QAbstractButton::clicked, this, [this] {
     if (SuScegli) SuScegli();
@@ -61,17 +70,45 @@ void RigaScheda::Mostra(const QString& percorso, const std::optional<Drive>& fat
 }
 
 void RigaScheda::MostraStato(const std::optional<Drive>& fatti) {
-  const CardState state = StateOf(contesto_.Stato.PercorsoMemoryCard, fatti);
+  const std::string& root = contesto_.Stato.PercorsoMemoryCard;
+  const CardState state = StateOf(root, fatti);
   std::string words = TestoLingua(contesto_, state.Key);
+  // A card that was chosen before this project was opened isn't in the label: it is named here.
+  if (!root.empty() && !Std(lblPathMemoryCard->text()).ends_with(root)) words = root + " " + words;
   if (fatti && fatti->HasMedium) {
-    words += ", " + (fatti->Label.empty() ? "" : SuUnaRiga(fatti->Label) + " ") +
-             QuantitaInParole(fatti->Size, contesto_.Luogo);
+    words += ", " + (fatti->Label.empty() ? "" : SuUnaRiga(fatti->Label) + ", ") +
+             QuantitaInParole(fatti->Size, contesto_.Luogo) + ", " +
+             ConValori(TestoLinguaO(contesto_, "0130022", "%1 free"),
+                       {QuantitaInParole(fatti->Free, contesto_.Luogo)});
   }
-  lblStato->setText(contesto_.Stato.PercorsoMemoryCard.empty() ? QString() : Qs(words));
+  lblStato->setText(Qs(words));
   Veste(*lblStato, Carattere::Corpo, state.Role);
+  fatti_ = fatti;
+  MostraSpazio();
   segno_->setPixmap(DisegnoDi(QLatin1String(state.Icon), {kSign, kSign},
                               lblStato->palette().color(QPalette::WindowText),
                               devicePixelRatioF()));
+}
+
+void RigaScheda::ImpostaBisogno(std::uint64_t byte) {
+  bisogno_ = byte;
+  MostraSpazio();
+}
+
+void RigaScheda::MostraSpazio() {
+  const bool shows = bisogno_ > 0 && fatti_ && fatti_->HasMedium;
+  picSpazio->setVisible(shows);
+  lblSpazio->setVisible(shows);
+  if (!shows) return;
+  const auto free = static_cast<double>(fatti_->Free);
+  const auto needed = static_cast<double>(bisogno_);
+  picSpazio->ImpostaParte(needed >= free ? 1.0 : needed / free);
+  lblSpazio->setText(Qs(ConValori(TestoLinguaO(contesto_, "0130148", "%1 of %2"),
+                                  {QuantitaInParole(bisogno_, contesto_.Luogo),
+                                   QuantitaInParole(fatti_->Free, contesto_.Luogo)})));
+  // It advises: what the card already holds of the project isn't needed a second time.
+  Veste(*lblSpazio, Carattere::Suggerimento, needed > free ? Ruolo::Avviso : Ruolo::Attenuato);
+  picSpazio->setAccessibleDescription(lblSpazio->text());
 }
 
 bool RigaScheda::eventFilter(QObject* object, QEvent* event) {
@@ -92,6 +129,10 @@ void RigaScheda::Localizza() {
   cmdScegli->ImpostaScritta(Qs(TestoLinguaO(contesto_, "0130144", "Choose...")));
   cmdScegli->setToolTip(Qs(TestoLingua(contesto_, "0130145")));
   lblPathMemoryCard->setToolTip(cmdScegli->toolTip());
+  for (QWidget* each : {static_cast<QWidget*>(picSpazio), static_cast<QWidget*>(lblSpazio)}) {
+    each->setToolTip(Qs(TestoLingua(contesto_, "0130149")));
+    each->setAccessibleName(each->toolTip());
+  }
 }
 
 }  // namespace kvr5

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "core/Contesto.h"
+#include "core/screens/Barra.h"
 #include "core/screens/Coppia.h"
 #include "platform/Drives.h"
 
@@ -17,11 +18,15 @@ class RigaScheda : public QWidget {
 
   QLabel* lblPathMemoryCard;
   QLabel* lblStato;
+  Barra* picSpazio;  ///< what the project takes of the room that is free
+  QLabel* lblSpazio;
   Coppia* cmdScegli;
 
   /// The path as the form shows it, and what the host tells of the card now.
   void Mostra(const QString& percorso, const std::optional<Drive>& fatti);
   void MostraStato(const std::optional<Drive>& fatti);
+  /// The bytes that the project takes, for the gauge; 0: none is shown.
+  void ImpostaBisogno(std::uint64_t byte);
   void Localizza();
   /// Called for a double click on the line, Enter on it, and the button.
   std::function<void()> SuScegli;
@@ -31,7 +36,11 @@ class RigaScheda : public QWidget {
 
  private:
   Contesto& contesto_;
+  void MostraSpazio();
+
   QLabel* segno_;
+  std::optional<Drive> fatti_;
+  std::uint64_t bisogno_ = 0;
 };
 
 }  // namespace kvr5

@@ -1,5 +1,7 @@
 #include "playerconfig/screens/frmPlayerConfig.h"
 
+#include <utility>
+
 #include "core/Aiuti.h"
 #include "core/Lingua.h"
 #include "core/screens/LocalizzaForm.h"
@@ -19,6 +21,8 @@ namespace {
 
 constexpr std::int16_t kForm = 4;
 constexpr std::int16_t kFromCard = 2;
+constexpr int kTypeRoom = 420;
+constexpr std::size_t kRowsAtOnce = 100;  // a few milliseconds on a slow disk
 
 }  // namespace
 
@@ -26,7 +30,8 @@ frmPlayerConfig::frmPlayerConfig(Ambiente& ambiente, ServiziHub& servizi)
     : Form(ambiente, "frmPlayerConfig"),
       servizi_(servizi),
       ingressi_(ambiente.C),
-      lettore_(ambiente.C.Files) {
+      lettore_(ambiente.C.Files),
+      conto_(ambiente.C) {
   setWindowTitle(QStringLiteral("KVR5"));
   resize(1200, 720);
   Costruisci();
@@ -60,6 +65,7 @@ void frmPlayerConfig::AlCaricamento() {
   DisabilitaFuturi();
   RiempiAltro();
   guardia_.start();
+  CominciaConto();
   (layout_.fraIngressiLogici ? static_cast<QWidget*>(fraIngressiLogici->chkIn[0])
                              : fraOutputLevel->sliVolume)
       ->setFocus();
@@ -83,6 +89,7 @@ void frmPlayerConfig::Localizza() {
   Barra->Localizza();
   Seriali->SegueScritte();
   Scheda->MostraStato(servizi_.FattiDellaScheda());
+  Barra->ImpostaScheda(C().Stato.PercorsoMemoryCard);
 }
 
 void frmPlayerConfig::ApriIngressi() {
@@ -101,6 +108,7 @@ void frmPlayerConfig::LeggiControlli() {
 
 void frmPlayerConfig::MostraModo() {
   lblTipoPlayer->setText(Qs(C().Stato.PlayerConfigDesc));
+  lblTipoPlayer->setMaximumWidth(kTypeRoom);
   const EtichetteModo mode =
       EtichetteDelModo(C().Stato.PlayerConfigDesc, TestoLingua(C(), "0040047"));
   lblModoPanel->setText(Qs(mode.lblModoPanel));
@@ -115,6 +123,7 @@ void frmPlayerConfig::AllAttivazione() {
   if (!codice_) return;
   const Impegno stays(*this);
   const bool changed = codice_->AbilitaIngressiRs485();
+  AggiornaElenco();  // files come and go while another window is in front
   fraIngressiLogici->Mostra(*codice_);
   if (changed) {
     MostraCodice();
@@ -130,14 +139,18 @@ void frmPlayerConfig::Spunta(int ingresso, bool spuntato) {
 }
 
 void frmPlayerConfig::MostraCodice() {
+  daRileggere_ = lavora_ && !ingressi_.Aperta();
   fraIngressiLogici->Mostra(*codice_);
+  Assegnazioni->Evidenzia(codice_->Codice());
   fraFileName->lblfraFileName->setText(Qs(codice_->lblfraFileName()));
   if (const auto& file = codice_->DaScegliere()) fraFileName->Scegli(*file);
 }
 
 void frmPlayerConfig::AggiornaElenco() {
+  if (lavora_ && !ingressi_.Aperta()) return;  // closed for the while that it is copied
   if (!ingressi_.Aperta()) return Assegnazioni->MostraSenzaTabella();
   Assegnazioni->Mostra(Assegnati(C(), ingressi_.Righe()));
+  Assegnazioni->Evidenzia(codice_->Codice());
 }
 
 void frmPlayerConfig::SceltoFile() {
@@ -197,6 +210,26 @@ void frmPlayerConfig::ConfermaFile() {
   codice_->Conferma(fraFileName->Scelto(), fraFileName->DirDirectoryMp3->Percorso());
   MostraCodice();
   AggiornaElenco();
+  CominciaConto();
+}
+
+void frmPlayerConfig::CominciaConto() {
+  // At the next free moment: the window is there first.
+  contoIniziato_ = false;
+  conta_.start();
+}
+
+void frmPlayerConfig::Conta() {
+  if (lavora_) return conta_.stop();  // the disk is the recording's; its end counts anew
+  if (!contoIniziato_) {
+    conto_.Comincia();
+    contoIniziato_ = true;
+  } else if (!conto_.Passo(kRowsAtOnce)) {
+    conta_.stop();
+  }
+  const CifreProgetto& figures = conto_.Cifre();
+  Pannello->Mostra(C(), figures, layout_.picPalinsesto);
+  if (figures.Completo) Scheda->ImpostaBisogno(figures.Byte);
 }
 
 void frmPlayerConfig::SfogliaMp3() {
@@ -211,6 +244,7 @@ void frmPlayerConfig::AggiornaPercorsoMemoryCard() {
   Carica();
   Scheda->Mostra(Qs(TestoLingua(C(), "0040023") + ": " + C().Stato.PercorsoMemoryCard),
                  servizi_.FattiDellaScheda());
+  Barra->ImpostaScheda(C().Stato.PercorsoMemoryCard);
 }
 
 void frmPlayerConfig::AggiornaNonSalvato() {
@@ -231,6 +265,13 @@ void frmPlayerConfig::Registra() {
   lavora_ = false;
   show();
   setEnabled(true);
+  AggiornaElenco();
+  CominciaConto();
+  if (std::exchange(daRileggere_, false)) {
+    codice_->AggiornaIngressoSelezionato();
+    MostraCodice();
+    SceltoFile();
+  }
   Scheda->MostraStato(servizi_.FattiDellaScheda());
 }
 
@@ -249,6 +290,7 @@ bool frmPlayerConfig::PuoChiudere(Causa /*causa*/) {
 
 void frmPlayerConfig::AlloScarico() {
   guardia_.stop();
+  conta_.stop();
   fraFileInfo->tmrInfoMp3.stop();
   if (finePrograma_) {
     ambiente_.Schermi.TerminaProgramma();

@@ -16,6 +16,7 @@
 #include "playerconfig/screens/Livelli.h"
 #include "playerconfig/screens/OpzioniIngressi.h"
 #include "playerconfig/screens/PaneMp3.h"
+#include "playerconfig/screens/PannelloModo.h"
 #include "playerconfig/screens/RigaScheda.h"
 #include "playerconfig/screens/ServiziHub.h"
 
@@ -45,6 +46,7 @@ class frmPlayerConfig : public Form {
   ListaAssegnati* Assegnazioni;
   PaneMp3* fraFileName;
   PannelloInfo* fraFileInfo;
+  PannelloModo* Pannello;
   QWidget* picPanel;
   QLabel *lblModoPanel, *lblModoPanelBig, *lblModoZub, *lblModoZubBig, *lblModoOstrel,
       *lblModoOstrelBig;
@@ -61,7 +63,6 @@ class frmPlayerConfig : public Form {
   void Costruisci();
   QLayout* CostruisciTestata();
   QWidget* CostruisciCorpo();
-  QWidget* CostruisciPannello();
   void CostruisciNascosti();
   void Collega();
   void CollegaComandi();
@@ -80,6 +81,8 @@ class frmPlayerConfig : public Form {
   void SfogliaMp3();
   void Registra();
   void AggiornaNonSalvato();
+  void CominciaConto();
+  void Conta();
   void DisabilitaFuturi();
   void RiempiAltro();
 
@@ -93,7 +96,11 @@ class frmPlayerConfig : public Form {
   std::array<QWidget*, 2> colonne_{};  ///< those of the inputs and of their files
   bool letti_ = false;                 ///< the controls show what Config.txt holds
   QTimer guardia_;                     ///< looks at the card
-  bool lavora_ = false;                ///< a recording is under way
+  ContoProgetto conto_;
+  bool contoIniziato_ = false;
+  QTimer conta_;              ///< counts a little whenever nothing else is to be done
+  bool lavora_ = false;       ///< a recording is under way
+  bool daRileggere_ = false;  ///< a code was ticked while the table was closed for it
   bool finePrograma_ = false;
 };
 

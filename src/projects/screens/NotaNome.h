@@ -1,7 +1,8 @@
 #pragma once
 
-#include <QLabel>
 #include <string_view>
+
+#include "core/screens/Avvisi.h"
 
 namespace kvr5 {
 
@@ -10,6 +11,6 @@ bool HaCaratteriVietati(std::string_view nome);
 
 /// Has the note about forbidden characters warn, in colour and weight, while the name holds one:
 /// the button then does nothing and says nothing.
-void VestiNota(QLabel& nota, std::string_view nome);
+void VestiNota(EtichettaAvviso& nota, std::string_view nome);
 
 }  // namespace kvr5

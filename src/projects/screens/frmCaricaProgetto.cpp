@@ -61,7 +61,7 @@ void frmCaricaProgetto::Costruisci() {
   lblCaricaDaFlash = picLoadFlash->Etichetta();
   lblLoadSelected = picOpen->Etichetta();
   page->addLayout(Riga({picindietro, nullptr, picLoad, picLoadFlash, picOpen}));
-  OrdineTab({txtCerca, lstProgetti, picindietro, picLoad, picLoadFlash, picOpen, picHelp});
+  OrdineTab({txtCerca, picHelp, lstProgetti, picindietro, picLoad, picLoadFlash, picOpen});
 }
 
 void frmCaricaProgetto::CostruisciElenco() {
@@ -116,6 +116,7 @@ void frmCaricaProgetto::AlCaricamento() {
   lstProgetti->setVisible(!empty);
   txtCerca->setVisible(!empty);
   picOpen->setEnabled(!empty);
+  picOpen->setToolTip(empty ? Qs(TestoLingua(C(), "0130116")) : QString());
   lblElencoVuoto->setVisible(empty);
   lblElencoVuoto->setText(Qs(TestoLingua(C(), "0130110")));
   lstProgetti->selectRow(0);
@@ -180,6 +181,7 @@ void frmCaricaProgetto::ApriProgetto() {
 bool frmCaricaProgetto::Apre() {
   const Impegno stays(*this);
   const EsitoApertura outcome = kvr5::ApriProgetto(C(), CartellaScelta);
+  // The row leads nowhere any more: no busy pointer stays on the list that is still there to use.
   if (outcome == EsitoApertura::NessunaCartella) C().Messaggi.ImpostaPuntatore(Puntatore::Normale);
   if (outcome != EsitoApertura::Aperto) return false;
   ambiente_.Schermi.ApriConfigurazione(ModoScelto);

@@ -32,7 +32,8 @@ frmRichiestaNomeForm::frmRichiestaNomeForm(Ambiente& ambiente)
   txtNomeProgetto->setObjectName(QStringLiteral("txtNomeProgetto"));
   lblDigitareNomeProgetto->setBuddy(txtNomeProgetto);
   page->addWidget(txtNomeProgetto);
-  lblNota = TestoLungo("lblNota", QStringLiteral("Note"), this);
+  lblNota = new EtichettaAvviso("lblNota", QStringLiteral("Note"), Carattere::Riquadro, this);
+  lblNota->setWordWrap(true);
   page->addWidget(lblNota);
   page->addStretch(1);
   picGoBack = new Coppia("picGoBack", "lblIndietro", QStringLiteral("back"), "indietro", 4, this);
@@ -41,7 +42,7 @@ frmRichiestaNomeForm::frmRichiestaNomeForm(Ambiente& ambiente)
   lblIndietro = picGoBack->Etichetta();
   lblOn = picGoOn->Etichetta();
   page->addLayout(Riga({picGoBack, nullptr, picGoOn}));
-  OrdineTab({txtNomeProgetto, picGoBack, picGoOn, picHelp});
+  OrdineTab({picHelp, txtNomeProgetto, picGoBack, picGoOn});
 
   connect(txtNomeProgetto, &QLineEdit::textChanged, this, [this](const QString& name) {
     VestiNota(*lblNota, Std(name));

@@ -4,6 +4,7 @@
 #include <QLineEdit>
 
 #include "core/Schermata.h"
+#include "core/screens/Avvisi.h"
 #include "core/screens/Coppia.h"
 #include "core/screens/Form.h"
 
@@ -21,7 +22,7 @@ class frmRichiestaNomeForm : public Form {
 
   QLabel* lblDigitareNomeProgetto;
   QLineEdit* txtNomeProgetto;
-  QLabel* lblNota;
+  EtichettaAvviso* lblNota;
   Coppia* picGoOn;
   QLabel* lblOn;
   Coppia* picGoBack;

@@ -8,6 +8,7 @@
 #include "core/Lingua.h"
 #include "core/ParoleCopia.h"
 #include "core/screens/Avvisi.h"
+#include "core/screens/EtichettaElisa.h"
 #include "core/screens/LocalizzaForm.h"
 #include "core/screens/Pagina.h"
 #include "core/screens/Riquadro.h"
@@ -53,10 +54,10 @@ void frmWizardPanel1::Costruisci() {
   txtNomeProgetto->setObjectName(QStringLiteral("txtNomeProgetto"));
   lblNomeProgetto->setBuddy(txtNomeProgetto);
   page->addWidget(txtNomeProgetto);
-  lblNota = TestoLungo("lblNota", QStringLiteral("Note"), this);
+  lblNota = new EtichettaAvviso("lblNota", QStringLiteral("Note"), Carattere::Riquadro, this);
+  lblNota->setWordWrap(true);
   page->addWidget(lblNota);
-  lblCartella = NuovaEtichetta("lblCartella", {}, -1, this);
-  lblCartella->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // however long a name
+  lblCartella = new EtichettaElisa("lblCartella", this, Qt::ElideMiddle);  // however long a name
   Veste(*lblCartella, Carattere::Suggerimento, Ruolo::Attenuato);
   page->addWidget(lblCartella);
   page->addSpacing(spazi::kStretto);
@@ -71,8 +72,8 @@ void frmWizardPanel1::Costruisci() {
   lblIndietro = picGoBack->Etichetta();
   lblOn = picGoOn->Etichetta();
   page->addLayout(Riga({picGoBack, nullptr, picGoOn}));
-  OrdineTab({txtNomeProgetto, optPanel_1, optPanel_2, optPanel_21, cmbPlaylist, picGoBack, picGoOn,
-             picHelp});
+  OrdineTab({picHelp, txtNomeProgetto, optPanel_1, optPanel_2, optPanel_21, cmbPlaylist, picGoBack,
+             picGoOn});
 }
 
 QWidget* frmWizardPanel1::CostruisciTipi() {
@@ -131,11 +132,12 @@ void frmWizardPanel1::AlCaricamento() {
 
 void frmWizardPanel1::Localizza() {
   LocalizzaForm(C(), kForm, *this);
-  setWindowTitle(Qs(TestoLingua(C(), "0020000")));
+  setWindowTitle(Qs(TestoLinguaO(C(), "0020000", "KVR5 Software")));
   for (const std::int16_t mode : kPlaylistModes) {
-    cmbPlaylist->addItem(Qs(TestoVariantePlaylist(C(), mode)), mode);
+    const std::string words = TestoVariantePlaylist(C(), mode);
+    cmbPlaylist->addItem(Qs(words.empty() ? std::to_string(mode) : words), mode);
   }
-  lblNomeProgetto->setText(Qs(TestoLingua(C(), "0030001")));
+  lblNomeProgetto->setText(Qs(TestoLinguaO(C(), "0030001", "Write Project Name")));
   lblNota->setText(Qs(NotaCaratteriVietati(C(), " ")));
   txtNomeProgetto->setPlaceholderText(Qs(TestoLingua(C(), "0130106")));
   cmbPlaylist->setAccessibleName(Qs(TestoLingua(C(), "0130105")));
@@ -157,7 +159,7 @@ void frmWizardPanel1::CambiaNome() {
   const bool shows = !name.empty() && !HaCaratteriVietati(name);
   const QString text =
       shows ? Qs(TestoLingua(C(), "0130107") + " " + PercorsoPerPersone(C(), folder)) : QString();
-  lblCartella->setText(lblCartella->fontMetrics().elidedText(text, Qt::ElideMiddle, 700));
+  lblCartella->setText(text);
   lblCartella->setToolTip(text);
 }
 

@@ -7,6 +7,7 @@
 #include <QRadioButton>
 
 #include "core/Schermata.h"
+#include "core/screens/Avvisi.h"
 #include "core/screens/Coppia.h"
 #include "core/screens/Form.h"
 
@@ -23,7 +24,7 @@ class frmWizardPanel1 : public Form {
 
   QLabel* lblNomeProgetto;
   QLineEdit* txtNomeProgetto;
-  QLabel* lblNota;
+  EtichettaAvviso* lblNota;
   QLabel* lblCartella;  ///< the folder that the name leads to
   QLabel* lblSelectType;
   QRadioButton* optPanel_1;

@@ -126,11 +126,28 @@ TEST_F(Progress, ItsUnloadTakesTheWindowAwayAndTheNextStartsAfresh) {
   EXPECT_EQ(Text("lblPerc"), "");
 }
 
-TEST_F(Progress, ALongOperationTextIsCutAndWholeInItsToolTip) {
+TEST_F(Progress, ALongOperationTextTakesASecondLine) {
   Show();
+  progress.Operazione("Request");
+  QCoreApplication::processEvents();
+  const int line = Window().lblOperazione->height();
+  const std::string text = "Request received; please wait until the work of this step ends";
+  progress.Operazione(text);
+  QCoreApplication::processEvents();
+  const auto* label = Window().lblOperazione;
+  EXPECT_EQ(label->text().toStdString(), text);
+  EXPECT_GT(label->height(), line);
+  EXPECT_GE(label->height(), label->heightForWidth(label->width()));
+}
+
+TEST_F(Progress, AnOperationTextWithoutABlankLeavesTheWindowAsItIs) {
+  Show();
+  const int width = Window().width();
   const std::string text(200, 'w');
   progress.Operazione(text);
-  EXPECT_LT(Text("lblOperazione").size(), text.size());
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Window().width(), width);
+  EXPECT_TRUE(Window().rect().contains(Window().lblOperazione->geometry()));
   EXPECT_EQ(Window().lblOperazione->toolTip().toStdString(), text);
 }
 

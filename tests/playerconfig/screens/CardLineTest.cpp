@@ -21,31 +21,37 @@ class CardLine : public test::Hub {
     drive.Letter = 'E';
     drive.Label = "SHOP";
     drive.Size = 2000000000;
+    drive.Free = 1500000000;
     return drive;
   }
 };
 
 TEST_F(CardLine, WithoutACardSaysThatNoneIsChosen) {
   Open("");
-  EXPECT_EQ(Testo("lblPathMemoryCard"), "Memory card: none chosen");
-  EXPECT_EQ(Testo("lblStatoScheda"), "");
+  EXPECT_EQ(Testo("lblPathMemoryCard"), "Memory card:");
+  EXPECT_EQ(Testo("lblStatoScheda"), "none chosen");
+  EXPECT_EQ(Trova<QWidget>("picRecordFlash").toolTip().toStdString(),
+            "Writes the saved project to the card");
 }
 
 TEST_F(CardLine, ShowsTheCardsStateFromTheLoadAndItsPathOnceItIsChosen) {
   servizi.Scheda = Card();
   Open("E:\\");
-  EXPECT_EQ(Testo("lblPathMemoryCard"), "Memory card: none chosen");
-  EXPECT_EQ(Testo("lblStatoScheda"), "ready, SHOP 1.9 GB") << "where a recording would go";
+  EXPECT_EQ(Testo("lblPathMemoryCard"), "Memory card:");
+  EXPECT_EQ(Testo("lblStatoScheda"), "E:\\ ready, SHOP, 1.9 GB, 1.4 GB free")
+      << "where a recording would go";
+  EXPECT_EQ(Trova<QWidget>("picRecordFlash").toolTip().toStdString(),
+            "Writes the saved project to E:\\");
   hub->AggiornaPercorsoMemoryCard();
   EXPECT_EQ(Testo("lblPathMemoryCard"), "Memory card: E:\\");
-  EXPECT_EQ(Testo("lblStatoScheda"), "ready, SHOP 1.9 GB");
+  EXPECT_EQ(Testo("lblStatoScheda"), "ready, SHOP, 1.9 GB, 1.4 GB free");
 }
 
 TEST_F(CardLine, ACardThatIsLockedOrGoneSaysSo) {
   servizi.Scheda = Card();
   servizi.Scheda->ReadOnly = true;
   Open("E:\\");
-  EXPECT_TRUE(Testo("lblStatoScheda").starts_with("locked: open its lock"))
+  EXPECT_TRUE(Testo("lblStatoScheda").starts_with("E:\\ locked: open its lock"))
       << Testo("lblStatoScheda");
   servizi.Scheda->HasMedium = false;
   hub->AggiornaPercorsoMemoryCard();
@@ -59,10 +65,11 @@ TEST_F(CardLine, FollowsTheCardWhileItIsTakenOutAndPutBack) {
   servizi.Scheda = Card();
   Open("E:\\");
   servizi.Scheda.reset();
-  EXPECT_TRUE(
-      QTest::qWaitFor([this] { return Testo("lblStatoScheda") == "taken out: put it back in"; }));
+  EXPECT_TRUE(QTest::qWaitFor(
+      [this] { return Testo("lblStatoScheda") == "E:\\ taken out: put it back in"; }));
   servizi.Scheda = Card();
-  EXPECT_TRUE(QTest::qWaitFor([this] { return Testo("lblStatoScheda") == "ready, SHOP 1.9 GB"; }));
+  EXPECT_TRUE(QTest::qWaitFor(
+      [this] { return Testo("lblStatoScheda") == "E:\\ ready, SHOP, 1.9 GB, 1.4 GB free"; }));
 }
 
 TEST_F(CardLine, ADoubleClickEnterAndTheButtonLetACardBeChosen) {
@@ -79,7 +86,7 @@ TEST_F(CardLine, AChosenCardIsShownAtOnce) {
   servizi.Scheda = Card();
   hub->AggiornaPercorsoMemoryCard();
   EXPECT_EQ(Testo("lblPathMemoryCard"), "Memory card: E:\\");
-  EXPECT_EQ(Testo("lblStatoScheda"), "ready, SHOP 1.9 GB");
+  EXPECT_EQ(Testo("lblStatoScheda"), "ready, SHOP, 1.9 GB, 1.4 GB free");
 }
 
 class UnsavedSign : public test::Hub {

@@ -53,7 +53,9 @@ class Looks : public test::BancoProgramma, public testing::WithParamInterface<co
     ASSERT_EQ(PreparaCartella(programma->C(), hub.Name, false), EsitoNuovo::Creato);
     RiempiCartella(programma->C());
     programma->ApriConfigurazione(1);
-    look(Attendi<frmPlayerConfig>(), std::string("frmPlayerConfig ") + hub.Name);
+    auto& screen = Attendi<frmPlayerConfig>();
+    for (int i = 0; i < 8; ++i) QCoreApplication::processEvents();  // its figures come later
+    look(screen, std::string("frmPlayerConfig ") + hub.Name);
     programma->DimenticaConfigurazione();
   }
 };

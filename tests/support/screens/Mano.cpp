@@ -27,6 +27,7 @@ namespace {
 /// Where a control takes a click, in its own coordinates.
 QPoint PlaceOf(const QWidget& control) {
   const QRect seen = control.visibleRegion().boundingRect();
+  EXPECT_FALSE(seen.isEmpty()) << qPrintable(control.objectName()) << " isn't to be seen";
   const bool ticks = dynamic_cast<const QRadioButton*>(&control) != nullptr ||
                      dynamic_cast<const QCheckBox*>(&control) != nullptr;
   constexpr int kMark = 8;  // beside its mark and text such a button takes none

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "core/screens/Avvisi.h"
+#include "core/screens/Coppia.h"
+#include "core/screens/Riquadro.h"
+#include "projects/ContoProgetto.h"
+
+namespace kvr5 {
+
+/// The field of a project that isn't on inputs: the drawing of its player, its mode, what its lists
+/// hold, and the button that leads to them.
+class PannelloModo : public Riquadro {
+ public:
+  explicit PannelloModo(QWidget* padre);
+
+  QWidget* picPanel;
+  QLabel* lblModoPanelBig;
+  QLabel* lblSommario;
+  EtichettaAvviso* lblMancanti;
+
+  /// The drawing of a model, 1 to 4.
+  void ImpostaModello(std::int16_t tipo);
+  /// Takes a button of the command bar over.
+  void Accogli(Coppia* pulsante);
+  /// The figures of its lists, or of its schedule.
+  void Mostra(Contesto& contesto, const CifreProgetto& cifre, bool palinsesto);
+};
+
+}  // namespace kvr5

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <unordered_set>
+#include <vector>
+
+#include "projects/SommarioProgetto.h"
+
+namespace kvr5 {
+
+/// A project in figures.
+struct CifreProgetto {
+  std::size_t Ingressi = 0;  ///< combinations of inputs that have a file
+  std::size_t Liste = 0;     ///< playlists with a track at least
+  std::size_t Brani = 0;
+  std::size_t Segmenti = 0;
+  std::size_t Spot = 0;
+  std::size_t Mancanti = 0;  ///< rows whose file can't be found
+  std::uint64_t Byte = 0;    ///< of the files that were found, each source once
+  bool Completo = false;     ///< every file was looked for
+  bool operator==(const CifreProgetto&) const = default;
+};
+
+/// Counts the open project in small steps, so that a screen of 20,000 rows is there at once and its
+/// figures follow.
+class ContoProgetto {
+ public:
+  explicit ContoProgetto(Contesto& contesto) : contesto_(contesto) {}
+
+  /// Begins anew: reads the rows of the databases, looks for no file.
+  void Comincia();
+  /// Looks for the files of this many rows more; false once all have been looked for.
+  bool Passo(std::size_t righe);
+  const CifreProgetto& Cifre() const { return cifre_; }
+
+ private:
+  void Guarda(const RigaProgetto& riga);
+
+  Contesto& contesto_;
+  CifreProgetto cifre_;
+  std::vector<RigaProgetto> righe_;
+  std::size_t prossima_ = 0;
+  std::unordered_set<std::string> visti_;
+};
+
+}  // namespace kvr5
