@@ -1,5 +1,7 @@
 #include "playerconfig/screens/frmPlayerConfig.h"
 
+#include <utility>
+
 #include "core/Aiuti.h"
 #include "core/Lingua.h"
 #include "core/screens/LocalizzaForm.h"
@@ -130,12 +132,14 @@ void frmPlayerConfig::Spunta(int ingresso, bool spuntato) {
 }
 
 void frmPlayerConfig::MostraCodice() {
+  mancata_ = mancata_ || (lavora_ && !ingressi_.Aperta());
   fraIngressiLogici->Mostra(*codice_);
   fraFileName->lblfraFileName->setText(Qs(codice_->lblfraFileName()));
   if (const auto& file = codice_->DaScegliere()) fraFileName->Scegli(*file);
 }
 
 void frmPlayerConfig::AggiornaElenco() {
+  if (lavora_ && !ingressi_.Aperta()) return;  // it comes back; the recording's end looks again
   if (!ingressi_.Aperta()) return Assegnazioni->MostraSenzaTabella();
   Assegnazioni->Mostra(Assegnati(C(), ingressi_.Righe()));
 }
@@ -231,6 +235,11 @@ void frmPlayerConfig::Registra() {
   lavora_ = false;
   show();
   setEnabled(true);
+  if (std::exchange(mancata_, false)) {
+    codice_->AggiornaIngressoSelezionato();
+    MostraCodice();
+    AggiornaElenco();
+  }
   Scheda->MostraStato(servizi_.FattiDellaScheda());
 }
 

@@ -94,6 +94,7 @@ class frmPlayerConfig : public Form {
   bool letti_ = false;                 ///< the controls show what Config.txt holds
   QTimer guardia_;                     ///< looks at the card
   bool lavora_ = false;                ///< a recording is under way
+  bool mancata_ = false;               ///< the table was asked for while a recording had it closed
   bool finePrograma_ = false;
 };
 
