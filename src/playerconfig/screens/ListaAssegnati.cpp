@@ -41,7 +41,7 @@ void ListaAssegnati::AggiungiRiga(const ParoleAssegnato& parole, const Assegnato
   QString tip = Qs(PercorsoPerPersone(contesto_, riga.Percorso));
   if (riga.Mancante) tip.prepend(Qs(parole.EraQui + " "));
   if (riga.StessoFile) tip += "\n" + Qs(parole.AltroIngresso);
-  item->setToolTip(tip);
+  item->setToolTip(Suggerimento(tip));
   if (mark.empty()) return;
   item->setIcon(IconaDi(riga.Mancante ? QStringLiteral("mancante") : QStringLiteral("avviso"),
                         riga.Mancante ? tema.Errore : tema.Avviso));
@@ -54,6 +54,7 @@ void ListaAssegnati::Mostra(const ElencoAssegnati& elenco) {
   for (const Assegnato& row : elenco.Righe) AggiungiRiga(words, row);
   lblCifre->setText(elenco.Righe.empty() ? Qs(TestoLingua(contesto_, "0130127"))
                                          : Qs(CifreAssegnati(contesto_, elenco)));
+  Veste(*lblCifre, Carattere::Suggerimento, Ruolo::Attenuato);
 }
 
 void ListaAssegnati::MostraSenzaTabella() {

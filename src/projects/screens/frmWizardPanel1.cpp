@@ -158,7 +158,7 @@ void frmWizardPanel1::CambiaNome() {
   const QString text =
       shows ? Qs(TestoLingua(C(), "0130107") + " " + PercorsoPerPersone(C(), folder)) : QString();
   lblCartella->setText(lblCartella->fontMetrics().elidedText(text, Qt::ElideMiddle, 700));
-  lblCartella->setToolTip(text);
+  lblCartella->setToolTip(Suggerimento(text));
 }
 
 void frmWizardPanel1::LeggiModoPannello() {
