@@ -231,11 +231,12 @@ void frmPlayerConfig::Registra() {
   if (lavora_) return;         // events run during a recording, this button among them
   const Impegno stays(*this);  // a close that is asked for meanwhile comes at the end
   lavora_ = true;
+  const bool open = ingressi_.Aperta();
   servizi_.RegistraProgetto(ingressi_);
   lavora_ = false;
   show();
   setEnabled(true);
-  if (std::exchange(mancata_, false)) {
+  if (std::exchange(mancata_, false) || ingressi_.Aperta() != open) {
     codice_->AggiornaIngressoSelezionato();
     MostraCodice();
     AggiornaElenco();

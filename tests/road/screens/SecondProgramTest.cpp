@@ -66,9 +66,11 @@ TEST_F(SecondProgram, ThatIsJustStoringLeavesTheHubToTheLaterTries) {
   Sql("BEGIN EXCLUSIVE");
   Assegna({2}, "c.mp3");
   Registra();
+  EXPECT_EQ(Shown(), "") << "what can't be read can't be changed either";
   PremiTutto();
   Sql("COMMIT");
   EXPECT_EQ(Registra(), "");
+  EXPECT_EQ(Shown(), kBoth);
   EXPECT_TRUE(b.Cartella.Same("card/5.mp3", "music/b.mp3"));
   Assegna({2}, "c.mp3");
   EXPECT_EQ(Riga(2), "c.mp3");

@@ -31,8 +31,10 @@ TEST_F(VanishedProject, EveryButtonOfTheHubCanStillBePressed) {
 
 TEST_F(VanishedProject, TheRecordingTellsWhatItCannotCopy) {
   Vanish();
-  EXPECT_NE(Registra(), "");
+  EXPECT_EQ(Registra(), "Copy stopped");
   EXPECT_TRUE(Hub().isVisible() && Hub().isEnabled());
+  EXPECT_EQ(Hub().Assegnazioni->lstAssegnati->count(), 0) << "the table can't be read any more";
+  EXPECT_FALSE(Hub().fraIngressiLogici->fraFileAssociato->isVisible());
   LasciaHall();
 }
 
