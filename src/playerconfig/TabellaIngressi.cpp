@@ -55,6 +55,7 @@ bool TabellaIngressi::Cerca(std::int16_t codice) {
 void TabellaIngressi::Scrivi(std::int16_t codice, const std::string& fileName,
                              const std::string& cartella) {
   auto& error = contesto_.Errore;
+  if (!error.Record(righe_.Requery())) return;  // another program may have added the row
   if (!Cerca(codice) && (error || !error.Record(righe_.AddNew()))) return;
   error.Record(righe_.Set("FileName", fileName));
   error.Record(righe_.Set("FilePath", AggiungiBarra(cartella)));
@@ -80,7 +81,8 @@ void TabellaIngressi::Assegna(std::int16_t codice, const std::string& fileName,
 
 void TabellaIngressi::Libera(std::int16_t codice) {
   contesto_.Errore.Clear();
-  if (Cerca(codice)) contesto_.Errore.Record(righe_.Delete());
+  auto& error = contesto_.Errore;
+  if (Aperta() && error.Record(righe_.Requery()) && Cerca(codice)) error.Record(righe_.Delete());
   AnnotaErrore(" ");  // what the list of files shows for no file
 }
 

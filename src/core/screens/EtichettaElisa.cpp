@@ -5,6 +5,8 @@
 #include <QStyle>
 #include <QToolTip>
 
+#include "core/screens/Testo.h"
+
 namespace kvr5 {
 
 EtichettaElisa::EtichettaElisa(const char* nome, QWidget* padre, Qt::TextElideMode modo)
@@ -28,7 +30,7 @@ void EtichettaElisa::paintEvent(QPaintEvent* /*event*/) {
 bool EtichettaElisa::event(QEvent* event) {
   const bool cut = fontMetrics().horizontalAdvance(text()) > width();
   if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && cut) {
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), Suggerimento(text()), this);
     return true;
   }
   return QLabel::event(event);

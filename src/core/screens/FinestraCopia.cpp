@@ -63,7 +63,7 @@ void RiquadroCopia::Aggiorna(const CopyState& stato, qint64 millisecondi) {
 void RiquadroCopia::Scrivi(const CopyState& stato, qint64 millisecondi) {
   const QString path = Qs(PercorsoPerPersone(contesto_, stato.File));
   file_->setText(fontMetrics().elidedText(path, Qt::ElideMiddle, kWidth - 2 * spazi::kLargo));
-  file_->setToolTip(path);
+  file_->setToolTip(Suggerimento(path));
   if (stato.FileNumber == 0) {
     quanto_->setText(
         Words(contesto_, "0130084", "Counting the files: %1", {std::to_string(stato.FileCount)}));

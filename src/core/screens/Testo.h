@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QTextDocument>
 #include <string>
 #include <string_view>
 
@@ -24,6 +25,12 @@ inline std::string Std(const QString& testo) {
 /// A text that a button takes as it stands, without a mnemonic.
 inline QString SenzaMnemonico(QString testo) {
   return testo.replace(QLatin1Char('&'), QStringLiteral("&&"));
+}
+
+/// A name or path as a tool tip: shown as it is, also where it looks like markup ("<b>.mp3").
+inline QString Suggerimento(const QString& testo) {
+  if (!Qt::mightBeRichText(testo)) return testo;
+  return testo.toHtmlEscaped().replace(QLatin1Char('\n'), QStringLiteral("<br>"));
 }
 
 }  // namespace kvr5

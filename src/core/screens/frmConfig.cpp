@@ -139,7 +139,7 @@ void frmConfig::showEvent(QShowEvent* event) {
 void frmConfig::MostraCartella() {
   const QString folder = Qs(modello_.CartellaPerPersone());
   txtProjectDir->setText(folder);
-  txtProjectDir->setToolTip(folder);
+  txtProjectDir->setToolTip(Suggerimento(folder));
   txtProjectDir->setCursorPosition(0);
   MostraModificato();
 }

@@ -129,7 +129,7 @@ void IngressiLogici::Mostra(const CodiceScelto& codice) {
   }
   fraFileAssociato->setVisible(codice.fraFileAssociatoVisibile());
   lblFileAssociato->setText(Qs(codice.lblFileAssociato()));
-  lblFileAssociato->setToolTip(lblFileAssociato->text());
+  lblFileAssociato->setToolTip(Suggerimento(lblFileAssociato->text()));
   lblEtichettaTroppoLunga->setVisible(codice.lblEtichettaTroppoLungaVisibile());
 }
 

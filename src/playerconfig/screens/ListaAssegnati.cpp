@@ -43,7 +43,7 @@ void ListaAssegnati::AggiungiRiga(const ParoleAssegnato& parole, const Assegnato
   if (riga.Mancante) tip.prepend(Qs(parole.EraQui + " "));
   if (riga.StessoFile) tip += "\n" + Qs(parole.AltroIngresso);
   if (riga.DelCollegamento) tip += "\n" + Qs(parole.LiberaCollegamento);
-  item->setToolTip(tip);
+  item->setToolTip(Suggerimento(tip));
   if (mark.empty()) return;
   item->setIcon(IconaDi(riga.Mancante ? QStringLiteral("mancante") : QStringLiteral("avviso"),
                         riga.Mancante ? tema.Errore : tema.Avviso));

@@ -28,7 +28,7 @@ PaneMp3::PaneMp3(Contesto& contesto, QWidget* padre)
   DirDirectoryMp3->SuCambio = [this] {
     const QString folder = Qs(PercorsoPerPersone(contesto_, DirDirectoryMp3->Percorso()));
     lblPercorso->setText(folder);
-    lblPercorso->setToolTip(folder);
+    lblPercorso->setToolTip(Suggerimento(folder));
     RiempiElencoMp3();
   };
 }

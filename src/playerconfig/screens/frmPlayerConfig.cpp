@@ -139,7 +139,7 @@ void frmPlayerConfig::Spunta(int ingresso, bool spuntato) {
 }
 
 void frmPlayerConfig::MostraCodice() {
-  daRileggere_ = lavora_ && !ingressi_.Aperta();
+  mancata_ = mancata_ || (lavora_ && !ingressi_.Aperta());
   fraIngressiLogici->Mostra(*codice_);
   Assegnazioni->Evidenzia(codice_->Codice());
   fraFileName->lblfraFileName->setText(Qs(codice_->lblfraFileName()));
@@ -261,13 +261,14 @@ void frmPlayerConfig::Registra() {
   if (lavora_) return;         // events run during a recording, this button among them
   const Impegno stays(*this);  // a close that is asked for meanwhile comes at the end
   lavora_ = true;
+  const bool open = ingressi_.Aperta();
   servizi_.RegistraProgetto(ingressi_);
   lavora_ = false;
   show();
   setEnabled(true);
   AggiornaElenco();
   CominciaConto();
-  if (std::exchange(daRileggere_, false)) {
+  if (std::exchange(mancata_, false) || ingressi_.Aperta() != open) {
     codice_->AggiornaIngressoSelezionato();
     MostraCodice();
     SceltoFile();

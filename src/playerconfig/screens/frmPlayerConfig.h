@@ -98,9 +98,9 @@ class frmPlayerConfig : public Form {
   QTimer guardia_;                     ///< looks at the card
   ContoProgetto conto_;
   bool contoIniziato_ = false;
-  QTimer conta_;              ///< counts a little whenever nothing else is to be done
-  bool lavora_ = false;       ///< a recording is under way
-  bool daRileggere_ = false;  ///< a code was ticked while the table was closed for it
+  QTimer conta_;          ///< counts a little whenever nothing else is to be done
+  bool lavora_ = false;   ///< a recording is under way
+  bool mancata_ = false;  ///< the table was asked for while a recording had it closed
   bool finePrograma_ = false;
 };
 

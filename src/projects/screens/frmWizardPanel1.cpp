@@ -160,7 +160,7 @@ void frmWizardPanel1::CambiaNome() {
   const QString text =
       shows ? Qs(TestoLingua(C(), "0130107") + " " + PercorsoPerPersone(C(), folder)) : QString();
   lblCartella->setText(text);
-  lblCartella->setToolTip(text);
+  lblCartella->setToolTip(Suggerimento(text));
 }
 
 void frmWizardPanel1::LeggiModoPannello() {

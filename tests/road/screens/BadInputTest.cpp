@@ -5,6 +5,7 @@
 
 #include "core/screens/RiquadroMessaggio.h"
 #include "road/screens/BancoProgramma.h"
+#include "support/screens/Risponditore.h"
 
 // What the screens make of files and folders that no program of ours has left so.
 
@@ -63,6 +64,23 @@ TEST_F(BadInput, AProjectFolderThatWentAwayMeanwhileOpensNothing) {
   test::Clicca(list, "picOpen");
   EXPECT_EQ(Viste(), (std::vector<std::string>{"frmCaricaProgetto", "frmMain"}));
   EXPECT_FALSE(test::PuntatoreOccupato());
+}
+
+TEST_F(BadInput, ProjectsThatWentAwayMeanwhileAreScrolledByWithoutAWord) {
+  for (int i = 0; i < 300; ++i) WriteProject("Project " + std::to_string(i));
+  Start();
+  frmCaricaProgetto& list = List();
+  fs::remove_all(b.Cartella.Host() / "program/Projects");
+  const test::Risponditore boxes;
+  for (int page = 0; page < 40; ++page) {
+    QTest::keyClick(list.lstProgetti, Qt::Key_PageDown);
+    QCoreApplication::processEvents();
+  }
+  EXPECT_EQ(list.lstProgetti->currentIndex().row(), 299);
+  test::Clicca(list, "picOpen");
+  EXPECT_TRUE(list.isVisible());
+  EXPECT_EQ(boxes.Titoli(), "");
+  EXPECT_FALSE(b.Cartella.Exists("program/Projects")) << "nothing is made in their place";
 }
 
 TEST_F(BadInput, ADescriptorOfRandomBytesOpensOrIsToldButNeverCrashes) {

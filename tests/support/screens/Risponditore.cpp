@@ -1,0 +1,54 @@
+#include "support/screens/Risponditore.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <algorithm>
+
+#include "core/screens/RiquadroMessaggio.h"
+#include "core/screens/frmSiNo.h"
+#include "support/screens/Mano.h"
+
+namespace kvr5::test {
+namespace {
+
+constexpr int kPatience = 3000;  // milliseconds
+
+}  // namespace
+
+Risponditore::Risponditore() {
+  QObject::connect(&battito_, &QTimer::timeout, &battito_, [this] { Guarda(); });
+  battito_.start(1);
+}
+
+void Risponditore::Guarda() {
+  QWidget* window = QApplication::activeModalWidget();
+  if (window == nullptr || !window->isVisible()) return attesa_.invalidate();
+  const bool plain = dynamic_cast<RiquadroMessaggio*>(window) != nullptr;
+  if (plain || dynamic_cast<frmSiNo*>(window) != nullptr) {
+    letti_.push_back(
+        {window->windowTitle().toStdString(), Scritta(*window, plain ? "lblTesto" : "lblNota")});
+    Tasto(*window, Qt::Key_Escape);
+    return;
+  }
+  if (!attesa_.isValid()) attesa_.start();
+  if (attesa_.elapsed() < kPatience) return;
+  attesa_.invalidate();
+  ADD_FAILURE() << "a window stayed: " << window->objectName().toStdString();
+  Tasto(*window, Qt::Key_Escape);
+}
+
+bool Risponditore::Ha(const std::string& titolo) const {
+  return std::ranges::any_of(letti_, [&](const BoxLetto& box) { return box.Titolo == titolo; });
+}
+
+std::string Risponditore::Titoli() const {
+  std::string titles;
+  for (auto box = letti_.begin(); box != letti_.end(); ++box) {
+    const auto same = [&](const BoxLetto& each) { return each.Titolo == box->Titolo; };
+    if (std::any_of(letti_.begin(), box, same)) continue;
+    titles += (titles.empty() ? "" : "; ") + box->Titolo;
+  }
+  return titles;
+}
+
+}  // namespace kvr5::test
