@@ -105,7 +105,7 @@ endfunction()
 
 # kvr5_add_screen_test(<name> LINK <target>...)
 # The GoogleTest program test_<name>_screens of all sources of the current folder: real widgets,
-# operated by mouse and keys, without a display.
+# operated by mouse and keys, without a display. The target screen_tests stands for all of them.
 function(kvr5_add_screen_test name)
   cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS
@@ -116,6 +116,10 @@ function(kvr5_add_screen_test name)
   target_link_libraries(${target} PRIVATE
     ${ARG_LINK} kvr5_test_screens GTest::gtest GTest::gmock Qt6::Test kvr5_options)
   kvr5_take_headers(${target} screen_tests)
+  if(NOT TARGET screen_tests)
+    add_custom_target(screen_tests)
+  endif()
+  add_dependencies(screen_tests ${target})
   include(GoogleTest)
   gtest_discover_tests(${target} TEST_PREFIX "${name}/screens/" DISCOVERY_MODE PRE_TEST
     PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 120)

@@ -1,16 +1,14 @@
 #include "playerconfig/ConfigTxt.h"
 
-#include <array>
-
 #include "core/Impostazioni.h"
 #include "projects/CartellaProgetto.h"
 
 namespace kvr5 {
 namespace {
 
-constexpr std::array<std::string_view, 9> kHubKeys{"LOUT", "LLOU", "LTRE", "LBAS", "MOMN",
-                                                   "IMOD", "TPCM", "MICP", "MIRS"};
-constexpr std::string_view kLoopKey = "MPLL";
+bool IsOfTheHub(const Parametro& parameter) {
+  return parameter.Schermo == SchermoParametro::Hub;
+}
 
 }  // namespace
 
@@ -26,26 +24,25 @@ void ScriviChiaveConfig(Contesto& contesto, std::string_view chiave, std::string
 }
 
 ControlliHub::ControlliHub() {
-  for (const auto key : kHubKeys) {
-    stati_.emplace(key, StatoIniziale(*TrovaParametro(key)));
+  // All of the table's: whoever goes through that finds a control for each.
+  for (const auto& parameter : Parametri()) {
+    if (IsOfTheHub(parameter)) stati_.emplace(parameter.Chiave, StatoIniziale(parameter));
   }
-  stati_.emplace(kLoopKey, StatoIniziale(*TrovaParametro(kLoopKey)));
 }
 
 void ControlliHub::Leggi(Contesto& contesto) {
-  for (const auto key : kHubKeys) {
-    const auto& parameter = *TrovaParametro(key);
-    (*this)[key] = DalFile(parameter, LeggiChiaveConfig(contesto, key), StatoIniziale(parameter),
-                           contesto.Luogo);
+  for (const auto& parameter : Parametri()) {
+    if (!IsOfTheHub(parameter) || parameter.Tipo == TipoParametro::MaiLetto) continue;
+    (*this)[parameter.Chiave] = DalFile(parameter, LeggiChiaveConfig(contesto, parameter.Chiave),
+                                        StatoIniziale(parameter), contesto.Luogo);
   }
 }
 
 void ControlliHub::AggiornaFile_ConfigTXT(Contesto& contesto) const {
-  for (const auto key : kHubKeys) {
-    ScriviChiaveConfig(contesto, key, PerIlFile(*TrovaParametro(key), (*this)[key]));
-  }
-  if (MpllVisibile) {
-    ScriviChiaveConfig(contesto, kLoopKey, PerIlFile(*TrovaParametro(kLoopKey), (*this)[kLoopKey]));
+  for (const auto& parameter : Parametri()) {
+    if (!IsOfTheHub(parameter)) continue;
+    if (parameter.Tipo == TipoParametro::MaiLetto && !MpllVisibile) continue;
+    ScriviChiaveConfig(contesto, parameter.Chiave, PerIlFile(parameter, (*this)[parameter.Chiave]));
   }
 }
 

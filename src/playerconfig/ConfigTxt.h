@@ -26,6 +26,8 @@ class ControlliHub {
   /// where its frame is visible, which no code makes it.
   void AggiornaFile_ConfigTXT(Contesto& contesto) const;
 
+  /// The control of a parameter that the table gives to the hub, in the table's spelling; any other
+  /// key is a mistake of the caller (std::out_of_range).
   StatoParametro& operator[](std::string_view chiave) { return stati_.at(std::string(chiave)); }
   const StatoParametro& operator[](std::string_view chiave) const {
     return stati_.at(std::string(chiave));

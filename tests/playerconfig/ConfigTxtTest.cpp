@@ -59,6 +59,14 @@ TEST_F(DeviceFile, TheHubWritesItsKeysInOrderAndLeavesTheOthers) {
             "IMOD=0\r\nTPCM=0\r\nMICP=0\r\nMIRS=0\r\n");
 }
 
+TEST_F(DeviceFile, EveryParameterOfTheHubHasItsControlInItsFormsState) {
+  const ControlliHub hub;
+  for (const auto& parameter : Parametri()) {
+    if (parameter.Schermo != SchermoParametro::Hub) continue;
+    EXPECT_EQ(hub[parameter.Chiave], StatoIniziale(parameter)) << parameter.Chiave;
+  }
+}
+
 TEST_F(DeviceFile, AZeroMirsIsShownAsRestartAndSavedAsOne) {
   Put("[Config]\r\nMIRS=0\r\n");
   ControlliHub hub;

@@ -90,6 +90,7 @@ void Form::SuTasto(Qt::Key tasto, std::function<void()> azione) {
 }
 
 void Form::Aiuto() {
+  const Impegno stays(*this);  // events run on the way
   ApriAiuto(C(), ambiente_.Documenti);
 }
 

@@ -164,7 +164,11 @@ void frmPlayerConfig::Collega() {
     // Not while the load sets one control after the other: what isn't shown yet would be lost.
     if (letti_) AggiornaNonSalvato();
   };
-  fraOutputLevel->SuCambio = changed;
+  fraOutputLevel->SuCambio = [this, changed] {
+    const Impegno stays(*this);
+    C().Messaggi.LasciaCorrere();
+    changed();
+  };
   Opzioni->SuCambio = changed;
   Scheda->SuScegli = [this] {
     const Impegno stays(*this);

@@ -65,7 +65,6 @@ Livelli::Livelli(Contesto& contesto, QWidget* padre)
     grid->setColumnStretch(i, 1);
     connect(each.Slider, &QSlider::valueChanged, this, [this, each] {
       Aggiorna(each);
-      contesto_.Messaggi.LasciaCorrere();
       if (SuCambio) SuCambio();
     });
   }

@@ -33,7 +33,7 @@ class Livelli : public Riquadro {
   void AggiornaTutti();
   void Mostra(const ControlliHub& controlli);
   void Raccogli(ControlliHub& controlli) const;
-  /// Called after each change.
+  /// Called after each change, when the label tells it.
   std::function<void()> SuCambio;
   void Localizza();
 

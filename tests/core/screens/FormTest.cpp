@@ -28,6 +28,7 @@ class FormDiProva : public Form {
     QCoreApplication::processEvents();
     return Caricata();
   }
+  using Form::Aiuto;
 
  protected:
   void AlCaricamento() override {
@@ -154,6 +155,16 @@ TEST_F(VitaDiUnaForm, ClosedUnderAHandlerThatLetsEventsRunItGoesWhenThatHasEnded
   EXPECT_TRUE(QTest::qWaitFor([this] { return !forma.Caricata(); }));
   EXPECT_EQ(FormDiProva::Scarichi, 1);
   EXPECT_EQ(FormDiProva::Cause, std::vector{Form::Causa::Utente});
+}
+
+TEST_F(VitaDiUnaForm, ClosedWhileItsHelpOpensItGoesWhenThatIsOpen) {
+  FormDiProva& form = Apri();
+  QMetaObject::invokeMethod(
+      &form, [&form] { form.close(); }, Qt::QueuedConnection);
+  form.Aiuto();
+  EXPECT_EQ(b.Documenti.Aperti.size(), 1U);
+  EXPECT_EQ(FormDiProva::Scarichi, 0);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !forma.Caricata(); }));
 }
 
 TEST_F(VitaDiUnaForm, ModalTheCallerWaitsUntilItIsUnloaded) {

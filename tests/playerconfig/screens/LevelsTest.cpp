@@ -84,6 +84,20 @@ TEST_F(Levels, FollowTheThumbWhileItIsDragged) {
   EXPECT_EQ(Testo("lblBass_dB"), "+7 dB");
 }
 
+TEST_F(Levels, LetAHubThatIsClosedWithinAStepStayToTheEndOfTheStep) {
+  Progetto(4, 1);
+  Apri();
+  const auto answer = test::RispondiMessaggio("cmdYes");
+  QMetaObject::invokeMethod(
+      hub, [this] { hub->close(); }, Qt::QueuedConnection);
+  Slider("sliVolume").setValue(15);  // lets events run, the close among them
+  ASSERT_TRUE(hub);
+  EXPECT_TRUE(hub->Caricata());
+  EXPECT_EQ(Testo("lblVolume_DB"), "+2 dB");
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !hub; }));
+  EXPECT_EQ(b.Schermi.Mostrate, std::vector{Schermata::Menu});
+}
+
 TEST_F(Levels, WriteNothingByThemselves) {
   Progetto(4, 1);
   Apri();

@@ -15,6 +15,13 @@ namespace {
 constexpr int kBeat = 10;        // milliseconds
 constexpr int kPatience = 5000;  // milliseconds
 
+/// A key that comes before the window has the keyboard is lost. Without a display nobody gives it
+/// back to a window whose box has gone: it is asked for.
+bool HasKeyboard(QWidget& window) {
+  if (!window.isActiveWindow()) window.activateWindow();
+  return window.isActiveWindow();
+}
+
 std::vector<PilotaBase*>& Alive() {
   static std::vector<PilotaBase*> all;
   return all;
@@ -41,7 +48,7 @@ void PilotaBase::Guarda() {
   }
   if (!attesa_.isValid()) attesa_.start();
   const auto turn = std::ranges::find_if(Alive(), [](auto* pilot) { return !pilot->Usato(); });
-  if (!usato_ && turn != Alive().end() && *turn == this) {
+  if (!usato_ && turn != Alive().end() && *turn == this && HasKeyboard(*window)) {
     usato_ = true;  // before it acts: its own click may run the loop
     usato_ = Agisci(*window);
     if (usato_) attesa_.invalidate();

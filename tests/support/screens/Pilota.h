@@ -30,9 +30,10 @@ class PilotaBase {
   bool usato_ = false;
 };
 
-/// Answers one modal window of type T that comes up within its life. Several are used in the order
-/// in which they were made. A window that nobody answers, or that stays after the answer, is closed
-/// after 5 s and fails the test, and so does a Pilota that never found its window.
+/// Answers one modal window of type T that comes up within its life, once it has the keyboard.
+/// Several are used in the order in which they were made. A window that nobody answers, or that
+/// stays after the answer, is closed after 5 s and fails the test, and so does a Pilota that never
+/// found its window.
 template <class T>
 class Pilota final : public PilotaBase {
  public:
