@@ -164,7 +164,7 @@ bool frmConfig::eventFilter(QObject* object, QEvent* event) {
     // The way back, the help, and keys that type nothing by themselves are none of the box's.
     constexpr std::array kOthers{Qt::Key_Tab,      Qt::Key_Backtab, Qt::Key_F1,    Qt::Key_Shift,
                                  Qt::Key_Control,  Qt::Key_Alt,     Qt::Key_AltGr, Qt::Key_Meta,
-                                 Qt::Key_CapsLock, Qt::Key_NumLock, Qt::Key_Escape};
+                                 Qt::Key_CapsLock, Qt::Key_NumLock};
     const int key = static_cast<QKeyEvent*>(event)->key();
     if (std::ranges::find(kOthers, key) == kOthers.end()) {
       cmdSelPrjDir->click();

@@ -139,6 +139,28 @@ TEST_F(Configura, AnyKeyButTabInTheFolderBoxBrowsesAndTypesNothing) {
   }
 }
 
+TEST_F(Configura, KeysThatTypeNothingByThemselvesDoNotBrowse) {
+  frmConfig& form = Apri();
+  form.txtProjectDir->setFocus();
+  for (const auto key : {Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt, Qt::Key_AltGr, Qt::Key_Meta,
+                         Qt::Key_CapsLock, Qt::Key_NumLock}) {
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+    QCoreApplication::sendEvent(form.txtProjectDir, &press);
+  }
+  EXPECT_TRUE(b.Finestre.Sfogliate.empty());
+}
+
+TEST_F(Configura, ItsButtonSaysWhyItIsOffAndTheOptionsExplainThemselves) {
+  frmConfig& form = Apri();
+  ASSERT_FALSE(form.cmdSave->isEnabled());
+  EXPECT_EQ(form.cmdSave->toolTip(), "Nothing to save");
+  Clicca(form, "optExternal");
+  EXPECT_TRUE(form.cmdSave->isEnabled());
+  EXPECT_EQ(form.cmdSave->toolTip(), "Counts as soon as you close this screen");
+  EXPECT_NE(form.optInternal->toolTip(), form.optExternal->toolTip());
+  EXPECT_FALSE(form.optInternal->accessibleDescription().isEmpty());
+}
+
 TEST_F(Configura, PastingIntoTheFolderBoxBrowsesToo) {
   frmConfig& form = Apri();
   form.txtProjectDir->setFocus();

@@ -50,6 +50,28 @@ TEST_F(Menu, ANewProjectIsAKvr5AndTheMenuStaysLoadedUnseen) {
   EXPECT_FALSE(PuntatoreOccupato());
 }
 
+TEST_F(Menu, StaysWhenTheWizardIsLeftWhileItsEventsRun) {
+  frmMain& form = Apri();
+  b.Schermi.SuMostra = [&](Schermata) { forma->Mostra(); };  // as the wizard does when it goes
+  Clicca(form, "picNuovoProgetto");
+  EXPECT_TRUE(form.isVisible());
+}
+
+TEST_F(Menu, OpeningStandsOutOnceThereIsAProjectElseTheNewOne) {
+  frmMain& form = Apri();
+  const auto filled = [](const Coppia& card) {
+    return card.GenereOra() == Coppia::Genere::CartaPrimaria;
+  };
+  EXPECT_TRUE(filled(*form.picNuovoProgetto));
+  EXPECT_FALSE(filled(*form.picCaricaDaDisco));
+  b.C.Stato.CartellaProgetti = b.Percorso("program/Projects");
+  b.Cartella.Write("program/Projects/Hall/Config.cfg", "");
+  QEvent activation(QEvent::WindowActivate);
+  QCoreApplication::sendEvent(&form, &activation);
+  EXPECT_FALSE(filled(*form.picNuovoProgetto));
+  EXPECT_TRUE(filled(*form.picCaricaDaDisco));
+}
+
 TEST_F(Menu, ShownAgainAfterAnAbandonedProjectItIsNotLoadedAndTheTypeStays) {
   Clicca(Apri(), "lblNuovoProgetto");
   Apri();

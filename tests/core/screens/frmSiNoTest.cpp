@@ -115,6 +115,21 @@ TEST_F(SiNo, AfterANoticeAQuestionHasBothButtonsAgain) {
             2);
 }
 
+TEST_F(SiNo, WithoutALanguageItsButtonsKeepTheirBuiltInCaptions) {
+  b.C.Stato.FileLingua = b.Percorso("gone.lan");
+  Chiedi([](frmSiNo& box) {
+    EXPECT_EQ(Scritta(box, "lblYes"), "Yes");
+    EXPECT_EQ(Scritta(box, "lblNo"), "No");
+    Clicca(box, "cmdSi");
+  });
+  Chiedi(
+      [](frmSiNo& box) {
+        EXPECT_EQ(Scritta(box, "lblYes"), "OK");
+        Clicca(box, "cmdSi");
+      },
+      std::string());
+}
+
 TEST_F(SiNo, ALongTextShowsWhole) {
   std::string note;
   for (int i = 0; i < 60; ++i) note += "Quite a few words of a question. ";

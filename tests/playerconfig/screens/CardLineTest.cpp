@@ -89,6 +89,33 @@ TEST_F(CardLine, AChosenCardIsShownAtOnce) {
   EXPECT_EQ(Testo("lblStatoScheda"), "ready, SHOP, 1.9 GB, 1.4 GB free");
 }
 
+TEST_F(CardLine, TheGaugeSetsWhatTheProjectTakesAgainstTheRoomThatIsFree) {
+  servizi.Scheda = Card();
+  servizi.Scheda->Free = 4000;
+  Progetto(4, 1);
+  b.ScriviMp3("music/a.mp3", 0, 8);
+  const auto bytes = b.Cartella.Read("music/a.mp3").size();
+  b.AggiungiRiga("inputcfg.mdb", 1, 5, "a.mp3", b.Percorso("music") + "\\", "5.mp3");
+  b.AggiungiRiga("inputcfg.mdb", 1, 6, "a.mp3", b.Percorso("music") + "\\", "6.mp3");
+  b.C.Stato.PercorsoMemoryCard = "E:\\";
+  Apri();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return SiVede("picSpazio"); }));
+  const double part = Trova<Barra>("picSpazio").Parte();
+  EXPECT_NEAR(part, std::min(1.0, static_cast<double>(bytes) / 4000.0), 0.001)
+      << "a source that two inputs have counts once";
+  EXPECT_FALSE(Testo("lblSpazio").empty());
+  servizi.Scheda.reset();
+  hub->AggiornaPercorsoMemoryCard();
+  EXPECT_FALSE(SiVede("picSpazio")) << "without a card there is no room";
+}
+
+TEST_F(CardLine, AProjectWithoutFilesHasNoGauge) {
+  servizi.Scheda = Card();
+  Open("E:\\");
+  QTest::qWait(50);
+  EXPECT_FALSE(SiVede("picSpazio"));
+}
+
 class UnsavedSign : public test::Hub {
  protected:
   bool Shown() { return SiVede("lblNonSalvato"); }

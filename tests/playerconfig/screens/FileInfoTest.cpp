@@ -50,6 +50,48 @@ TEST_F(FileInfo, AGoodFileShowsItsFiguresAndCanBeConfirmed) {
   EXPECT_TRUE(Trova<QWidget>("cmdOkFileMp3").isEnabled());
 }
 
+TEST_F(FileInfo, TheThirdNumeralComesAndGoesWithTheButtonItLeadsTo) {
+  b.ScriviMp3("music/a.mp3", 0, 100);
+  Apri(0);
+  const auto numeral = [this] {
+    for (const auto* badge : hub->fraFileName->findChildren<QLabel*>()) {
+      if (badge->toolTip() == QLatin1String("Confirm")) return badge->isVisible();
+    }
+    return false;
+  };
+  EXPECT_FALSE(numeral());
+  Spunta(1);
+  ScegliFile("a.mp3");
+  EXPECT_TRUE(Ok());
+  EXPECT_TRUE(numeral());
+  Spunta(1);
+  EXPECT_FALSE(Ok());
+  EXPECT_FALSE(numeral());
+}
+
+TEST_F(FileInfo, AFolderWithoutFilesSaysSo) {
+  b.Cartella.Write("music/readme.txt", "");
+  b.ScriviMp3("music/Jazz/a.mp3");
+  Apri(0);
+  EXPECT_EQ(Testo("lblVuota"), "This folder holds no MP3 file");
+  EXPECT_TRUE(SiVede("lblVuota"));
+  hub->fraFileName->DirDirectoryMp3->ImpostaPercorso(b.Percorso("music\\Jazz"));
+  EXPECT_FALSE(SiVede("lblVuota"));
+}
+
+TEST_F(FileInfo, LongFiguresLeaveTheColumnsWhereTheyAre) {
+  b.ScriviMp3("music/a.mp3", 0, 100);
+  Apri(0);
+  hub->resize(1024, 640);
+  QCoreApplication::processEvents();
+  const QRect before = hub->fraFileInfo->geometry();
+  ScegliFile("a.mp3");
+  hub->fraFileInfo->Mostra(QString(60, QLatin1Char('M')), QString(60, QLatin1Char('M')),
+                           QString(60, QLatin1Char('M')), QString(60, QLatin1Char('M')));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(hub->fraFileInfo->geometry(), before);
+}
+
 TEST_F(FileInfo, TheFirstFileOfTheFolderIsToldFromTheStart) {
   b.ScriviMp3("music/a.mp3");
   Apri(0);

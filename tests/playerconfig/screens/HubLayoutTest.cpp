@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QTest>
 #include <sstream>
 
 #include "playerconfig/screens/BancoHub.h"
@@ -110,6 +111,59 @@ INSTANTIATE_TEST_SUITE_P(
       return "Type" + std::to_string(m.Type) + "Mode" + std::to_string(m.Mode) + "Config" +
              std::to_string(m.Config);
     });
+
+TEST_F(HubLayout, AKvr5WithListsHasItsFiguresAndItsButtonInTheField) {
+  Progetto(4, 5);
+  b.ScriviMp3("music/a.mp3");
+  b.AggiungiRiga("playlist.mdb", 1, 1, "a.mp3", b.Percorso("music") + "\\", "P01-001.mp3");
+  b.AggiungiRiga("playlist.mdb", 3, 1, "gone.mp3", b.Percorso("music") + "\\", "P03-001.mp3");
+  Apri();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return SiVede("lblMancanti"); }));
+  EXPECT_TRUE(Testo("lblSommario").starts_with("2 lists, 2 tracks")) << Testo("lblSommario");
+  EXPECT_EQ(Testo("lblMancanti"), "1 missing");
+  const auto& field = Trova<QWidget>("fraPannello");
+  EXPECT_TRUE(field.isAncestorOf(&Trova<QWidget>("picPlaylist")));
+  EXPECT_FALSE(field.isAncestorOf(&Trova<QWidget>("picPalinsesto")));
+}
+
+TEST_F(HubLayout, AnEmptyScheduleSaysSo) {
+  Progetto(4, 2);
+  Apri();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !Testo("lblSommario").empty(); }));
+  EXPECT_EQ(Testo("lblSommario"), "0 segments, 0 spots");
+  EXPECT_FALSE(SiVede("lblMancanti"));
+  EXPECT_TRUE(Trova<QWidget>("fraPannello").isAncestorOf(&Trova<QWidget>("picPalinsesto")));
+}
+
+TEST_F(HubLayout, OtherModelsHaveTheButtonInTheBar) {
+  Progetto(2, 0, 3);
+  Apri();
+  EXPECT_TRUE(hub->Barra->isAncestorOf(&Trova<QWidget>("picPlaylist")));
+}
+
+TEST_F(HubLayout, MoreLeadsToWhatAHiddenButtonWouldAndToTheFolder) {
+  Progetto(2, 0, 3);
+  b.Cartella.Write("program/Projects/Hall/scheduler.mdb", "");
+  Apri();
+  std::vector<std::string> entries;
+  for (const QAction* entry : hub->Barra->menuAltro.actions()) {
+    entries.push_back(entry->text().toStdString());
+  }
+  const bool playlists = Trova<QWidget>("picPlaylist").isVisible();
+  ASSERT_TRUE(playlists);
+  EXPECT_EQ(entries,
+            (std::vector<std::string>{"Schedule…", "Copy by hand…", "Open project folder"}));
+  hub->Barra->menuAltro.actions().back()->trigger();
+  EXPECT_EQ(b.Documenti.Aperti, std::vector{b.C.Stato.CartellaProgetto});
+}
+
+TEST_F(HubLayout, AModelWithoutADatabaseSaysThatNothingCanBeKept) {
+  Progetto(2, 0, 3);
+  Apri();
+  EXPECT_TRUE(SiVede("fraIngressiLogici"));
+  EXPECT_EQ(Testo("lblCifre"),
+            "This project lacks its database of inputs: assignments can't be kept.");
+}
 
 TEST_F(HubLayout, WithTheExternalPlayerThereIsNothingToStop) {
   Progetto(4, 1);

@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QListWidget>
+#include <QScrollBar>
 #include <QTest>
 
 #include "playerconfig/screens/BancoHub.h"
@@ -164,6 +165,61 @@ TEST_F(Inputs, AClickOnAnAssignmentTicksItsInputs) {
   EXPECT_EQ(Trova<QComboBox>("cmbFileMp3").currentText(), QStringLiteral("b.mp3"));
   EXPECT_EQ(Lamp(8), QColor(Qt::red));
   EXPECT_EQ(Lamp(2), QColor(Qt::white));
+}
+
+TEST_F(Inputs, TheListFollowsTheTicks) {
+  b.AggiungiRiga("inputcfg.mdb", 1, 5, "a.mp3", Music(), "5.mp3");
+  Apri(1);
+  auto& list = Trova<QListWidget>("lstAssegnati");
+  EXPECT_EQ(list.currentRow(), -1);
+  Spunta(1);
+  EXPECT_EQ(list.currentRow(), -1);
+  Spunta(3);
+  EXPECT_EQ(list.currentRow(), 0);
+  Spunta(3);
+  EXPECT_EQ(list.currentRow(), -1);
+}
+
+TEST_F(Inputs, AnAssignmentOfTheLinksInputsIsMarkedAndTicksNothing) {
+  b.AggiungiRiga("inputcfg.mdb", 1, 1, "a.mp3", Music(), "1.mp3");
+  b.AggiungiRiga("inputcfg.mdb", 1, 17, "b.mp3", Music(), "17.mp3");
+  b.Cartella.Write("program/Projects/Hall/Config.cfg", "[Config]\r\nUse485=1\r\n");
+  Apri(1);
+  auto& list = Trova<QListWidget>("lstAssegnati");
+  ASSERT_EQ(list.count(), 2);
+  EXPECT_TRUE(list.item(1)->text().endsWith(QLatin1String("in use by the RS-485 link")))
+      << list.item(1)->text().toStdString();
+  ClicRiga(list, 1);
+  EXPECT_EQ(Testo("lblfraFileName"), "File on the card - ") << "not that of input 1";
+  EXPECT_EQ(list.currentRow(), -1);
+  ClicRiga(list, 0);
+  EXPECT_EQ(Testo("lblfraFileName"), "File on the card - 1.mp3");
+}
+
+TEST_F(Inputs, TheListSeesWhatBecameOfItsFilesWhileAnotherWindowWasInFront) {
+  b.ScriviMp3("music/a.mp3");
+  b.AggiungiRiga("inputcfg.mdb", 1, 5, "a.mp3", Music(), "5.mp3");
+  Apri(1);
+  EXPECT_EQ(Testo("lblCifre"), "1 file");
+  std::filesystem::remove(b.Cartella.Host() / "music/a.mp3");
+  QEvent activation(QEvent::WindowActivate);
+  QCoreApplication::sendEvent(hub, &activation);
+  EXPECT_EQ(Testo("lblCifre"), "1 file, 1 missing");
+}
+
+TEST_F(Inputs, ALongListStaysWhereItWasScrolledTo) {
+  for (int code = 1; code <= 255; ++code) {
+    b.AggiungiRiga("inputcfg.mdb", 1, code, "a.mp3", Music(), std::to_string(code) + ".mp3");
+  }
+  Apri(1);
+  auto& list = Trova<QListWidget>("lstAssegnati");
+  list.verticalScrollBar()->setValue(list.verticalScrollBar()->maximum() / 2);
+  const int before = list.verticalScrollBar()->value();
+  ASSERT_GT(before, 0);
+  b.ScriviMp3("music/a.mp3");
+  QEvent activation(QEvent::WindowActivate);
+  QCoreApplication::sendEvent(hub, &activation);
+  EXPECT_EQ(list.verticalScrollBar()->value(), before);
 }
 
 TEST_F(Inputs, AnAssignmentWhoseFileIsGoneIsMarked) {

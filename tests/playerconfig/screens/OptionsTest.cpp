@@ -36,6 +36,18 @@ TEST_F(Options, TheTimeTakesDigitsOnly) {
   EXPECT_EQ(TimeText(), "123");
 }
 
+TEST_F(Options, NoOtherCharacterComesInByAModifier) {
+  Open();
+  for (const Qt::KeyboardModifiers modifier :
+       {Qt::KeyboardModifiers(Qt::AltModifier), Qt::ControlModifier | Qt::AltModifier,
+        Qt::KeyboardModifiers(Qt::ShiftModifier), Qt::KeyboardModifiers(Qt::GroupSwitchModifier)}) {
+    QTest::keyClick(&Time(), 'q', modifier);
+    QTest::keyClick(&Time(), '@', modifier);
+  }
+  EXPECT_EQ(TimeText(), "0");
+  EXPECT_FALSE(Time().testAttribute(Qt::WA_InputMethodEnabled));
+}
+
 TEST_F(Options, ATimeAbove255Becomes255OnLeaving) {
   Open();
   QTest::keyClicks(&Time(), "300");
@@ -176,6 +188,15 @@ TEST_F(Polarity, ActiveLowWarnsOnAKvr5WithInputs) {
   EXPECT_TRUE(On("optIMOD_ActiveLow")) << "it stays chosen";
   Clic("optIMOD_ActiveHigh");
   EXPECT_TRUE(On("optIMOD_ActiveHigh")) << "without a word";
+}
+
+TEST_F(Polarity, ActiveLowWarnsAgainWhenItIsClickedAgain) {
+  Progetto(4, 1);
+  Parametro("IMOD", "1");
+  Apri();
+  EXPECT_TRUE(On("optIMOD_ActiveLow")) << "the load says nothing";
+  EXPECT_NE(ClickLow(), "");
+  EXPECT_NE(ClickLow(), "");
 }
 
 TEST_F(Polarity, ActiveLowWarnsOnAVeskadro) {

@@ -54,6 +54,16 @@ TEST_F(Wizard, TheListHasItsThreeItemsWithTheirModes) {
   EXPECT_EQ(form.cmbPlaylist->itemText(1), "by day of the week");
 }
 
+TEST_F(Wizard, WithoutALanguageNothingOnItIsBlank) {
+  b.C.Stato.FileLingua = b.Percorso("gone.lan");
+  frmWizardPanel1& form = Apri();
+  EXPECT_FALSE(form.windowTitle().isEmpty());
+  EXPECT_EQ(Scritta(form, "lblNomeProgetto"), "Write Project Name");
+  for (int i = 0; i < form.cmbPlaylist->count(); ++i) {
+    EXPECT_FALSE(form.cmbPlaylist->itemText(i).isEmpty());
+  }
+}
+
 TEST_F(Wizard, TheListIsEnabledForPlaylistsAlone) {
   frmWizardPanel1& form = Apri();
   Clicca(*form.optPanel_21);

@@ -90,7 +90,7 @@ void SessioneHub::ToggleOption() {
   const Risponditore boxes;
   Clicca(Find(on ? option.On : option.Off));
   bool& value = m_.Opzioni[option.Key];
-  const bool warns = std::string(option.Key) == "IMOD" && on && !value;
+  const bool warns = std::string(option.Key) == "IMOD" && on;  // each time
   EXPECT_EQ(boxes.Titoli(), warns ? "Please note" : "");
   value = on;
   hub_ = &Hub();

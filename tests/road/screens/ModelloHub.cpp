@@ -51,7 +51,8 @@ void ModelloHub::Spunta(int ingresso) {
 }
 
 void ModelloHub::ScegliCodice(int codice) {
-  Codice = Linea485 ? codice & ~kLinkInputs : codice;
+  if (Linea485 && (codice & kLinkInputs) != 0) return;
+  Codice = codice;
   Mostra();
 }
 
@@ -103,6 +104,9 @@ void ModelloHub::RiempiElenco() {
     std::string mark = Esiste(row) ? "" : "missing";
     if (uses[row.Cartella + "/" + row.Nome] > 1) {
       mark += (mark.empty() ? "" : ", ") + std::string("same file: recording will stop");
+    }
+    if (Linea485 && (code & kLinkInputs) != 0) {
+      mark += (mark.empty() ? "" : ", ") + std::string("in use by the RS-485 link");
     }
     Elenco.push_back(std::to_string(code) + "   " + InputsOf(code) + "   " + row.Nome +
                      (mark.empty() ? "" : "\n" + mark));

@@ -57,10 +57,12 @@ class ModelloHub {
   /// A recording brings every file: none is missing, no two codes share one.
   bool Registrabile() const;
 
+  /// Fills the list from the disk as it is now.
+  void RiempiElenco();
+
  private:
   void Mostra();
   void Valuta();
-  void RiempiElenco();
 };
 
 }  // namespace kvr5::test

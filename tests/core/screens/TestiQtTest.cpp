@@ -1,0 +1,92 @@
+#include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTest>
+#include <set>
+
+#include "core/screens/TestiQt.h"
+#include "core/screens/Testo.h"
+#include "support/screens/ProvaForm.h"
+
+// The words of the toolkit's own windows.
+
+namespace kvr5 {
+namespace {
+
+using namespace test;
+
+/// Behind the program's own words: hears each text that these had none for.
+class Listener : public QTranslator {
+ public:
+  bool isEmpty() const override { return false; }
+  QString translate(const char* context, const char* text, const char* /*d*/,
+                    int /*n*/) const override {
+    const std::string_view from = context;
+    const bool seen = from == "QFileDialog" || from == "QLineEdit" || from == "QPlatformTheme" ||
+                      from == "QFileSystemModel" || from == "QWidgetTextControl" ||
+                      from == "QDialogButtonBox" || from == "QAbstractSpinBox";
+    if (seen) Heard.insert(std::string(from) + ": " + text);
+    return {};
+  }
+  mutable std::set<std::string> Heard;
+};
+
+class ToolkitWords : public testing::Test {
+ protected:
+  void SetUp() override {
+    b.C.Stato.FileLingua = b.Percorso("program/Language/Italiano.lan");
+    // The last one installed is asked first.
+    QCoreApplication::installTranslator(&listener_);
+    QCoreApplication::installTranslator(&words_);
+  }
+  std::string HeardAll() const {
+    std::string all;
+    for (const auto& each : listener_.Heard) all += each + "\n";
+    return all;
+  }
+
+  BancoSchermi b;
+  Listener listener_;
+  TestiQt words_{b.C};
+};
+
+TEST_F(ToolkitWords, TheFolderChooserSpeaksTheLanguageOfTheScreens) {
+  const Pilota<QFileDialog> pilot([](QFileDialog& chooser) {
+    std::set<std::string> shown;
+    for (const auto* button : chooser.findChildren<QAbstractButton*>())
+      shown.insert(Std(button->text()));
+    EXPECT_TRUE(shown.contains("&Scegli"));
+    EXPECT_TRUE(shown.contains("Annulla"));
+    chooser.reject();
+  });
+  b.C.Finestre.SfogliaCartella("Cartella", b.Percorso(""));
+  // What it asks for before it knows that it chooses folders, and keys, which are none to read.
+  for (const char* unseen :
+       {"QFileDialog: &Open", "QFileDialog: All Files (*)", "QFileDialog: Alt+Left",
+        "QFileDialog: Alt+Right", "QFileDialog: Alt+Up", "QFileDialog: File &name:",
+        "QFileDialog: Show ", "QPlatformTheme: OK", "QPlatformTheme: Open"}) {
+    listener_.Heard.erase(unseen);
+  }
+  EXPECT_EQ(HeardAll(), "");
+}
+
+TEST_F(ToolkitWords, TheMenuOfATextBoxDoesToo) {
+  QLineEdit box;
+  const std::unique_ptr<QMenu> menu(box.createStandardContextMenu());
+  std::vector<std::string> entries;
+  for (const QAction* action : menu->actions()) {
+    if (!action->isSeparator()) entries.push_back(Std(action->text().section('\t', 0, 0)));
+  }
+  EXPECT_EQ(entries, (std::vector<std::string>{"&Annulla", "&Ripeti", "&Taglia", "&Copia",
+                                               "&Incolla", "&Elimina", "&Seleziona tutto"}));
+  EXPECT_EQ(HeardAll(), "");
+}
+
+TEST_F(ToolkitWords, WithoutALanguageFileTheToolkitsOwnStand) {
+  b.C.Stato.FileLingua = b.Percorso("gone.lan");
+  EXPECT_EQ(QCoreApplication::translate("QLineEdit", "&Undo"), "&Undo");
+}
+
+}  // namespace
+}  // namespace kvr5
