@@ -56,6 +56,17 @@ void ElencoSchede::Scegli(std::size_t indice) {
   if (indice < schede_.size()) scelta_ = indice;
 }
 
+bool ElencoSchede::RileggiFatti() {
+  if (schede_.empty()) return false;
+  SchedaTrovata& card = schede_.at(scelta_);
+  drive_.Voci();  // the host's list afresh
+  auto facts = drive_.Fatti(card.Radice);
+  if (facts == card.Fatti) return false;
+  card.Uscita = !facts;
+  card.Fatti = std::move(facts);
+  return true;
+}
+
 std::string ElencoSchede::Testo() const {
   return schede_.empty() ? std::string() : schede_.at(scelta_).Radice;
 }

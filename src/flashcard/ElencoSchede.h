@@ -16,6 +16,7 @@ namespace kvr5 {
 struct SchedaTrovata {
   std::string Radice;          ///< "E:\", the item's text
   std::optional<Drive> Fatti;  ///< shown beside it; nothing where the host tells nothing
+  bool Uscita = false;         ///< it was there when the list was made, and is no more
 };
 
 /// frmSelectFlash without its pixels: the scan for cards and the choice of one. A dialog that goes
@@ -33,6 +34,10 @@ class ElencoSchede {
   void Scegli(std::size_t indice);
   /// The text of cmdFlash: the selected root, or "".
   std::string Testo() const;
+
+  /// Asks the host once more what it tells of the selected card, which may have been taken out
+  /// since; true when that has changed. The choice stays.
+  bool RileggiFatti();
 
   /// picOk: the text becomes PercorsoMemoryCard. True when the calling form, by its name, shows
   /// the path and has to run its AggiornaPercorsoMemoryCard.

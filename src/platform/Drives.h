@@ -26,6 +26,7 @@ struct Drive {
 
   /// The drive's root in the system's form, such as "D:\".
   std::string Root() const { return std::string(1, Letter) + ":\\"; }
+  bool operator==(const Drive&) const = default;
 };
 
 /// A removable volume that the host has mounted.

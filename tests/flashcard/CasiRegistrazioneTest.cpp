@@ -104,6 +104,14 @@ TEST_F(Recording, TheUsersOwnTestTxtIsTheWriteTestsToTake) {
   EXPECT_EQ(OnCard("test.txt"), "mine");
 }
 
+TEST_F(Recording, WhatIsDoneWhileTheCardIsTriedCannotMakeItWritable) {
+  Project(4, 1);
+  b.Cartella.Write("card/test.txt/inside", "a folder of that name can't be written");
+  b.Messaggi.Accade = [this] { b.C.Errore.Clear(); };  // as any action of the user begins
+  EXPECT_EQ(Record(), FineRegistrazione::NonScrivibile);
+  b.Finestre.Prossimo();
+}
+
 TEST_F(Recording, RowsWithoutAFolderAreToldByTheCopyOrAsMissing) {
   Project(4, 5);
   b.AggiungiRiga("playlist.mdb", 1, 1, "a.mp3", "", "P01-001.mp3");

@@ -9,11 +9,13 @@
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
 #include "flashcard/FattiScheda.h"
+#include "flashcard/screens/VociScheda.h"
 
 namespace kvr5 {
 namespace {
 
 constexpr std::int16_t kForm = 6;
+constexpr int kWatch = 2000;  // milliseconds between two looks at the chosen card
 
 /// How a form is called by the dialog that asks for its name.
 const char* NameOf(Schermata schermata) {
@@ -41,6 +43,12 @@ frmSelectFlash::frmSelectFlash(Ambiente& ambiente, SorgenteDrive& drive)
   });
   connect(picOpen, &QAbstractButton::clicked, this,
           [this] { elenco_.Esplora(ambiente_.Documenti); });
+  guardia_.setInterval(kWatch);
+  connect(&guardia_, &QTimer::timeout, this, [this] {
+    if (!elenco_.RileggiFatti()) return;
+    DescriviVoce(static_cast<int>(elenco_.Scelta()));
+    MostraFatti();
+  });
   SuTasto(Qt::Key_F1, [this] { Aiuto(); });
   SuTasto(Qt::Key_Escape, [this] { picCancel->click(); });
 }
@@ -52,6 +60,7 @@ void frmSelectFlash::Costruisci() {
   page->addWidget(lblMp3_Dir);
   cmdFlash = new QComboBox(this);
   cmdFlash->setObjectName(QStringLiteral("cmdFlash"));
+  cmdFlash->setItemDelegate(new VociScheda(cmdFlash));
   lblMp3_Dir->setBuddy(cmdFlash);
   page->addWidget(cmdFlash);
   lblFatti = TestoLungo("lblFatti", {}, this);
@@ -80,20 +89,37 @@ void frmSelectFlash::AlCaricamento() {
     return;
   }
   for (const auto& card : elenco_.Schede()) cmdFlash->addItem(Qs(card.Radice));
+  for (int i = 0; i < cmdFlash->count(); ++i) DescriviVoce(i);
   cmdFlash->setCurrentIndex(0);
   MostraFatti();
   cmdFlash->setFocus();
+  guardia_.start();
+}
+
+void frmSelectFlash::DescriviVoce(int indice) {
+  const auto& card = elenco_.Schede().at(static_cast<std::size_t>(indice));
+  const QString facts = Qs(FattiOUscita(card));
+  cmdFlash->setItemData(indice, facts, VociScheda::Fatti);
+  cmdFlash->setItemData(indice, facts, Qt::AccessibleDescriptionRole);
+}
+
+std::string frmSelectFlash::FattiOUscita(const SchedaTrovata& scheda) const {
+  if (scheda.Uscita) return TestoLinguaO(C(), "0130143", "taken out: put it back in");
+  return scheda.Fatti ? FattiScheda(C(), *scheda.Fatti) : std::string();
 }
 
 void frmSelectFlash::MostraFatti() {
   const auto& cards = elenco_.Schede();
   if (elenco_.Scelta() >= cards.size()) return;
   const auto& card = cards[elenco_.Scelta()];
-  lblFatti->setText(card.Fatti ? Qs(FattiScheda(C(), *card.Fatti)) : QString());
+  lblFatti->setText(Qs(FattiOUscita(card)));
+  const bool out = card.Uscita || (card.Fatti && !card.Fatti->HasMedium);
+  Veste(*lblFatti, Carattere::Corpo, out ? Ruolo::Avviso : Ruolo::Testo);
   lblContenuto->setText(Qs(ProgettoSullaScheda(C(), card.Radice)));
 }
 
 void frmSelectFlash::AlloScarico() {
+  guardia_.stop();
   hide();
   ambiente_.Schermi.Mostra(FormChiamante);
 }

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QTimer>
 
 #include "core/Schermata.h"
 #include "core/screens/Coppia.h"
@@ -37,8 +38,11 @@ class frmSelectFlash : public Form {
  private:
   void Costruisci();
   void MostraFatti();
+  void DescriviVoce(int indice);
+  std::string FattiOUscita(const SchedaTrovata& scheda) const;
 
   ElencoSchede elenco_;
+  QTimer guardia_;  ///< looks whether the chosen card is still there
 };
 
 }  // namespace kvr5

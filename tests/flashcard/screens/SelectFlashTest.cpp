@@ -1,11 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QPointer>
 #include <QTest>
 #include <map>
 
 #include "core/screens/frmSiNo.h"
+#include "flashcard/screens/VociScheda.h"
 #include "flashcard/screens/frmSelectFlash.h"
 #include "support/screens/BancoSchermi.h"
 #include "support/screens/Mano.h"
@@ -34,11 +36,14 @@ class DriveFinti : public SorgenteDrive {
     return error == 0 ? Error() : Error(error);
   }
   std::optional<Drive> Fatti(const std::string& radice) override {
+    if (radice == Estratta) return {};
     Drive drive;
     drive.Letter = radice[0];
     drive.Label = std::string("CARD-") + radice[0];
     return drive;
   }
+
+  std::string Estratta;  ///< the root of a card that has been taken out
 
  private:
   std::vector<std::string> voci_;
@@ -177,6 +182,38 @@ TEST_F(SelectFlash, F1OpensTheHelp) {
   });
   ASSERT_EQ(b.Documenti.Aperti.size(), 1U);
   EXPECT_TRUE(b.Documenti.Aperti[0].starts_with(b.Percorso("program/Help") + "\\"));
+}
+
+TEST_F(SelectFlash, EachItemOfTheListCarriesItsCardsFacts) {
+  drives.Aggiungi("e:");
+  drives.Aggiungi("f:");
+  Show([](frmSelectFlash& dialog) {
+    for (const int item : {0, 1}) {
+      const auto facts = dialog.cmdFlash->itemData(item, VociScheda::Fatti).toString();
+      EXPECT_TRUE(facts.startsWith(item == 0 ? "CARD-E" : "CARD-F")) << facts.toStdString();
+      EXPECT_EQ(dialog.cmdFlash->itemData(item, Qt::AccessibleDescriptionRole).toString(), facts);
+    }
+    EXPECT_EQ(dialog.cmdFlash->itemText(1), "F:\\") << "the text stays the bare root";
+    dialog.cmdFlash->showPopup();
+    const auto* list = dialog.cmdFlash->view();
+    EXPECT_GE(list->sizeHintForRow(0), 40) << "room for two lines";
+    dialog.cmdFlash->hidePopup();
+    test::Clicca(*dialog.picCancel);
+  });
+}
+
+TEST_F(SelectFlash, ACardThatIsTakenOutWhileTheDialogStandsSaysSoAndStaysChosen) {
+  drives.Aggiungi("e:");
+  Show([this](frmSelectFlash& dialog) {
+    drives.Estratta = "E:\\";
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&dialog] { return dialog.lblFatti->text() == "taken out: put it back in"; }));
+    EXPECT_EQ(dialog.cmdFlash->currentText(), "E:\\");
+    drives.Estratta.clear();
+    EXPECT_TRUE(
+        QTest::qWaitFor([&dialog] { return dialog.lblFatti->text().startsWith("CARD-E"); }));
+    test::Clicca(*dialog.picCancel);
+  });
 }
 
 }  // namespace

@@ -320,5 +320,41 @@ TEST_F(Inputs, ADamagedDatabaseIsNoMoreThanAnEmptyOne) {
   EXPECT_EQ(b.Cartella.Read("program/Projects/Hall/inputcfg.mdb"), std::string(9000, '\x5A'));
 }
 
+struct Model {
+  std::int16_t Type;
+  std::int16_t Mode;
+  std::int16_t Config;
+};
+
+class OfEveryModel : public test::Hub, public testing::WithParamInterface<Model> {};
+
+TEST_P(OfEveryModel, InputsAreTickedConfirmedListedAndFreed) {
+  Progetto(GetParam().Type, GetParam().Mode, GetParam().Config);
+  b.ScriviMp3("music/a.mp3");
+  UltimaCartella("music");
+  Apri(0);
+  Spunta(1);
+  Spunta(3);
+  EXPECT_EQ(Testo("lblfraFileName"), "File on the card - 5.mp3");
+  ScegliFile("a.mp3");
+  Clic("cmdOkFileMp3");
+  EXPECT_EQ(Riga(5), "a.mp3|" + b.Percorso("music") + "\\|5.mp3|1");
+  EXPECT_EQ(Trova<QListWidget>("lstAssegnati").count(), 1);
+  ScegliFile(" ");
+  Clic("cmdOkFileMp3");
+  EXPECT_EQ(Riga(5), "");
+  EXPECT_EQ(Righe(), 0);
+  EXPECT_EQ(Testo("lblCifre"), "No file yet. Tick inputs, pick a file, confirm.");
+}
+
+INSTANTIATE_TEST_SUITE_P(Models, OfEveryModel,
+                         testing::Values(Model{1, 0, 0}, Model{2, 0, 0}, Model{2, 0, 1},
+                                         Model{3, 1, 0}, Model{4, 1, 0}),
+                         [](const auto& each) {
+                           return "Type" + std::to_string(each.param.Type) + "Mode" +
+                                  std::to_string(each.param.Mode) + "Config" +
+                                  std::to_string(each.param.Config);
+                         });
+
 }  // namespace
 }  // namespace kvr5
