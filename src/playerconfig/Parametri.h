@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/Contesto.h"
 
@@ -104,6 +105,10 @@ std::string LimitiDelValore(const Parametro& parametro);
 /// The words for a value of Config.txt: those of the screen that owns it, after a read of the
 /// value. MPLL, which no screen reads, has those of its number, or none.
 std::string ParoleDelFile(Contesto& contesto, const Parametro& parametro, std::string_view testo);
+
+/// The language keys of all parameters' items, seven digits each: those that Voci and VociNumerate
+/// work out.
+std::vector<std::string> ChiaviDelleVoci();
 
 /// The words that the screen shows for a state.
 std::string ParoleDelValore(Contesto& contesto, const Parametro& parametro,

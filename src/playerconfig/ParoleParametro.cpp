@@ -11,8 +11,12 @@ namespace {
 
 using Words = ParoleParametro;
 
+std::string LanguageKey(int number) {
+  return RiempiZeri(std::to_string(number), 7);
+}
+
 std::string LanguageText(Contesto& context, int key) {
-  return TestoLingua(context, RiempiZeri(std::to_string(key), 7));
+  return TestoLingua(context, LanguageKey(key));
 }
 
 /// Place of a value in its list.
@@ -63,6 +67,17 @@ std::string OptionCaption(Words words, int value) {
 }
 
 }  // namespace
+
+std::vector<std::string> ChiaviDelleVoci() {
+  std::vector<std::string> keys;
+  for (const Parametro& parameter : Parametri()) {
+    if (parameter.PrimaChiave == 0) continue;
+    const int items = parameter.Dati.empty() ? parameter.Massimo - parameter.Minimo + 1
+                                             : static_cast<int>(parameter.Dati.size());
+    for (int i = 0; i < items; ++i) keys.push_back(LanguageKey(parameter.PrimaChiave + i));
+  }
+  return keys;
+}
 
 std::string ParoleDelFile(Contesto& contesto, const Parametro& parametro, std::string_view testo) {
   if (parametro.Tipo == TipoParametro::MaiLetto) {

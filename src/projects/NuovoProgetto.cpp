@@ -1,5 +1,7 @@
 #include "projects/NuovoProgetto.h"
 
+#include <array>
+
 #include "core/Aiuti.h"
 #include "core/Lingua.h"
 #include "platform/CodePage.h"
@@ -9,6 +11,9 @@
 
 namespace kvr5 {
 namespace {
+
+/// What the sub-configurations of model 2 are called.
+constexpr std::array<std::string_view, 4> kZubTexts{"0100000", "0100001", "0100002", "0100003"};
 
 void ShowInformation(Contesto& contesto, std::string_view text, std::string_view title) {
   contesto.Finestre.MostraMessaggio({TestoLingua(contesto, title), TestoLingua(contesto, text),
@@ -37,7 +42,9 @@ void SetFields(Contesto& contesto) {
     state.PlayerConfig = 0;
     state.PlayerMode = 0;
   } else if (state.PlayerType == 2) {
-    state.PlayerConfigDesc = TestoLingua(contesto, "010000" + std::to_string(state.PlayerConfig));
+    const auto config = static_cast<std::size_t>(state.PlayerConfig);  // below 0: none of them
+    state.PlayerConfigDesc =
+        config < kZubTexts.size() ? TestoLingua(contesto, kZubTexts[config]) : std::string();
     state.PlayerMode = 0;
   }
 }

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <set>
@@ -9,47 +8,12 @@
 #include "house/SourceTree.h"
 #include "platform/CodePage.h"
 #include "platform/IniFile.h"
+#include "playerconfig/Parametri.h"
 
 namespace kvr5 {
 namespace {
 
 using Keys = std::set<std::string>;
-
-bool IsKey(std::string text) {
-  if (text.ends_with(' ')) text.pop_back();
-  const bool digits =
-      std::all_of(text.begin(), text.end(), [](char each) { return each >= '0' && each <= '9'; });
-  return digits && (text.size() == 7 || text == "70008" || text == "50014");
-}
-
-/// The keys that stand as texts in the sources.
-Keys LiteralKeys() {
-  Keys keys;
-  for (const auto& file : test::SourceFiles()) {
-    for (const auto& literal : test::Literals(file.Text)) {
-      if (IsKey(literal)) keys.insert(literal);
-    }
-  }
-  return keys;
-}
-
-/// The keys that are put together at run time.
-Keys RunTimeKeys() {
-  Keys keys;
-  const auto add = [&](const std::string& stem, int from, int to) {
-    for (int i = from; i <= to; ++i) {
-      const auto number = std::to_string(i);
-      keys.insert(stem.substr(0, 7 - number.size()) + number);
-    }
-  };
-  add("0100000", 0, 3);    // descriptions of model 2
-  add("0110000", 12, 18);  // items of the serial screen
-  add("0110000", 24, 29);
-  add("0110000", 31, 32);
-  add("0190000", 2, 3);  // items of the extra screen
-  add("0190000", 13, 92);
-  return keys;
-}
 
 std::string LanguageFile(const std::string& name) {
   std::ifstream in(std::string(KVR5_STAGED_PROGRAM) + "/Language/" + name, std::ios::binary);
@@ -67,8 +31,8 @@ INSTANTIATE_TEST_SUITE_P(All, Languages, testing::Values("English.lan", "Italian
 TEST_P(Languages, HoldEveryKeyThatTheProgramAsksFor) {
   const std::string file = LanguageFile(GetParam());
   const CodePage page(1252);
-  Keys keys = LiteralKeys();
-  keys.merge(RunTimeKeys());
+  Keys keys = test::LiteralKeys();
+  for (const auto& key : ChiaviDelleVoci()) keys.insert(key);
   EXPECT_GT(keys.size(), 100U);
   for (const auto& key : keys) {
     const auto text = ini::Read(file, "Strings", key, "", 1000, page);

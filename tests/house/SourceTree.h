@@ -1,5 +1,6 @@
 #pragma once
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -21,5 +22,7 @@ std::vector<std::string> QuotedIncludes(const std::string& text);
 std::vector<std::string> AngleIncludes(const std::string& text);
 /// The texts in double quotes of a file, escapes as they stand.
 std::vector<std::string> Literals(const std::string& text);
+/// The keys of texts of the language files that stand as literals in the sources.
+std::set<std::string> LiteralKeys();
 
 }  // namespace kvr5::test

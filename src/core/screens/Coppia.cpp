@@ -86,22 +86,21 @@ QSize Coppia::sizeHint() const {
   return {2 * kPadding + kIcon + spazi::kStretto + text.width(), height};
 }
 
-QRect Coppia::PostoIcona() const {
+QRect Coppia::PostoIcona(bool sola) const {
   const int side = LatoIcona();
   if (Carta()) {
     const int text = etichetta_->heightForWidth(width() - 2 * spazi::kLargo);
     const int top = (height() - side - spazi::kMedio - text) / 2;
     return {(width() - side) / 2, top, side, side};
   }
-  const bool alone = etichetta_ == nullptr || etichetta_->isHidden();
-  if (alone) return {(width() - side) / 2, (height() - side) / 2, side, side};
+  if (sola) return {(width() - side) / 2, (height() - side) / 2, side, side};
   const int content = side + spazi::kStretto + etichetta_->sizeHint().width();
   return {std::max(kPadding, (width() - content) / 2), (height() - side) / 2, side, side};
 }
 
 void Coppia::Disponi() {
   if (etichetta_ == nullptr) return;
-  const QRect icon = PostoIcona();
+  const QRect icon = PostoIcona(false);  // a label that is hidden now has its place to come back
   if (Carta()) {
     const int wide = width() - 2 * spazi::kLargo;
     etichetta_->setGeometry(spazi::kLargo, icon.bottom() + 1 + spazi::kMedio, wide,
@@ -134,7 +133,9 @@ void Coppia::paintEvent(QPaintEvent* /*event*/) {
       {.Genere = genere_, .Abilitato = isEnabled(), .Sopra = underMouse(), .Premuto = isDown()});
   if (hasFocus()) DipingiFuoco(painter, rect());
   const bool card = genere_ == Genere::Carta && isEnabled();
-  DipingiIcona(painter, PostoIcona(), icona_, card ? Tema::Corrente().Primario : ColoreTesto());
+  const bool alone = etichetta_ == nullptr || etichetta_->isHidden();
+  DipingiIcona(painter, PostoIcona(alone), icona_,
+               card ? Tema::Corrente().Primario : ColoreTesto());
 }
 
 void Coppia::resizeEvent(QResizeEvent* event) {

@@ -47,7 +47,7 @@ class Coppia : public QAbstractButton {
   void Colora();
   QColor ColoreTesto() const;
   int LatoIcona() const;
-  QRect PostoIcona() const;
+  QRect PostoIcona(bool sola) const;
 
   QLabel* etichetta_ = nullptr;
   QString icona_;

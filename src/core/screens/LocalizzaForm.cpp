@@ -19,7 +19,21 @@ bool IsTranslated(const std::string& name) {
   return std::ranges::find(kKinds, std::string_view(name).substr(0, 3)) != kKinds.end();
 }
 
+std::string NumberOf(std::int16_t form) {
+  return RiempiZeri(std::to_string(form), 3);
+}
+
 }  // namespace
+
+std::string ChiaveScritta(std::int16_t numero, const QWidget& controllo) {
+  const std::string tag = Std(controllo.property(kTag).toString());
+  if (tag.empty() || !IsTranslated(Std(controllo.objectName()))) return {};
+  return NumberOf(numero) + RiempiZeri(tag, 4);
+}
+
+std::string ChiaveTitolo(std::int16_t numero) {
+  return NumberOf(numero) + "0000";
+}
 
 void ImpostaScritta(QWidget& controllo, const QString& testo) {
   if (auto* frame = dynamic_cast<Riquadro*>(&controllo)) {
@@ -36,17 +50,17 @@ void ImpostaScritta(QWidget& controllo, const QString& testo) {
 }
 
 void LocalizzaForm(Contesto& contesto, std::int16_t numero, Form& form) {
-  const std::string number = RiempiZeri(std::to_string(numero), 3);
+  form.setProperty(kNumero, numero);
   for (QWidget* control : form.findChildren<QWidget*>()) {
-    const std::string tag = Std(control->property(kTag).toString());
-    if (tag.empty() || !IsTranslated(Std(control->objectName()))) continue;
-    const std::string text = TestoLingua(contesto, number + RiempiZeri(tag, 4));
+    const std::string key = ChiaveScritta(numero, *control);
+    if (key.empty()) continue;
+    const std::string text = TestoLingua(contesto, key);
     if (!text.empty()) ImpostaScritta(*control, Qs(text));
   }
   if (auto* help = form.findChild<QWidget*>(QStringLiteral("picHelp"))) {
     ImpostaScritta(*help, Qs(TestoLinguaO(contesto, "0130167", "Help (F1)")));
   }
-  const std::string caption = TestoLingua(contesto, number + "0000");
+  const std::string caption = TestoLingua(contesto, ChiaveTitolo(numero));
   const std::string_view trimmed = Rifila(caption);
   if (!trimmed.empty()) form.setWindowTitle(Qs(trimmed));
 }

@@ -13,6 +13,8 @@
 namespace kvr5 {
 namespace {
 
+constexpr int kWords = 380;  // pixels that a line of words has at least
+
 struct Sign {
   const char* Icon;
   QColor Colour;
@@ -74,21 +76,23 @@ RiquadroMessaggio::RiquadroMessaggio(Contesto& contesto, const Messaggio& messag
   const Sign sign = SignOf(messaggio.Segno);
   top->addWidget(SegnoDi(sign.Icon, sign.Colour, 32, this), 0, Qt::AlignTop);
   auto* words = new QVBoxLayout();
-  auto* title = TestoLungo("lblTitolo", Qs(messaggio.Titolo), this);
+  auto* title = TestoLungo("lblTitolo", {}, this);
   Veste(*title, Carattere::Schermata);
+  title->setText(Spezzabile(Qs(messaggio.Titolo), title->fontMetrics(), kWords));
   title->setVisible(!messaggio.Titolo.empty());
   words->addWidget(title);
-  auto* text = TestoLungo("lblTesto", QsRighe(messaggio.Testo), this);
+  auto* text = TestoLungo("lblTesto", {}, this);
+  text->setText(Spezzabile(QsRighe(messaggio.Testo), text->fontMetrics(), kWords));
   text->setTextInteractionFlags(Qt::TextSelectableByMouse);
   text->setFocusPolicy(Qt::NoFocus);
   text->setContextMenuPolicy(Qt::NoContextMenu);
-  text->setMinimumWidth(380);
+  text->setMinimumWidth(kWords);
   words->addWidget(text);
   top->addLayout(words, 1);
   page->addLayout(top, 1);
   AggiungiPulsanti(contesto, messaggio);
   setAccessibleName(Qs(messaggio.Titolo));
-  setAccessibleDescription(text->text());
+  setAccessibleDescription(QsRighe(messaggio.Testo));
   setMaximumWidth(640);
 }
 

@@ -8,6 +8,7 @@
 #include "core/screens/Stile.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
+#include "core/screens/UnaFermata.h"
 
 namespace kvr5 {
 Segmento::Segmento(const char* nome, const QString& scritta, int tag, QWidget* padre)
@@ -15,7 +16,7 @@ Segmento::Segmento(const char* nome, const QString& scritta, int tag, QWidget* p
   setObjectName(QLatin1String(nome));
   if (tag >= 0) setProperty(kTag, tag);
   setText(SenzaMnemonico(scritta));
-  setFocusPolicy(Qt::StrongFocus);
+  FermaSeScelta(*this);
   setAttribute(Qt::WA_Hover);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFontMetrics>
 #include <QString>
 #include <QTextDocument>
 #include <string>
@@ -16,6 +17,10 @@ inline QString Qs(std::string_view testo) {
 inline QString QsRighe(std::string_view testo) {
   return Qs(testo).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
 }
+
+/// The same text with invisible places to break in each word that is wider than `pixel`: behind a
+/// bar where it has one in time, else anywhere. Paths have no blanks.
+QString Spezzabile(const QString& testo, const QFontMetrics& caratteri, int pixel);
 
 /// What a control holds, for the logic.
 inline std::string Std(const QString& testo) {

@@ -13,6 +13,7 @@
 #include "core/screens/Riquadro.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
+#include "core/screens/UnaFermata.h"
 
 namespace kvr5 {
 namespace {
@@ -53,6 +54,7 @@ void frmConfig::Costruisci() {
   optExternal =
       new QRadioButton(QStringLiteral("External Player (use system default player)"), this);
   optExternal->setObjectName(QStringLiteral("optExternal"));
+  for (QRadioButton* option : {optInternal, optExternal}) FermaSeScelta(*option);
   lblPlayer->setBuddy(optInternal);
   grid->addWidget(lblMp3_Dir, 0, 0);
   grid->addWidget(txtProjectDir, 0, 1);
@@ -145,9 +147,12 @@ void frmConfig::MostraCartella() {
 }
 
 void frmConfig::MostraModificato() {
-  cmdSave->setEnabled(modello_.Modificato());
-  lblSave->setVisible(modello_.Modificato());
-  cmdSave->setToolTip(Qs(TestoLingua(C(), modello_.Modificato() ? "0130193" : "0130194")));
+  const bool changed = modello_.Modificato();
+  cmdSave->setEnabled(changed);
+  lblSave->setVisible(changed);
+  cmdSave->setToolTip(Qs(TestoLingua(C(), changed ? "0130193" : "0130194")));
+  cmdSave->ImpostaGenere(changed ? Coppia::Genere::Primario : Coppia::Genere::Normale);
+  cmdExit->ImpostaGenere(changed ? Coppia::Genere::Normale : Coppia::Genere::Primario);
 }
 
 bool frmConfig::PuoChiudere(Causa causa) {

@@ -12,6 +12,8 @@
 namespace kvr5 {
 namespace {
 
+constexpr int kWords = 400;  // pixels that a line of words has at least
+
 /// The picture of a button that has a third name for it.
 QWidget* PictureOf(const char* name, Coppia* button) {
   auto* picture = new QWidget(button);
@@ -34,7 +36,7 @@ frmSiNo::frmSiNo(Ambiente& ambiente) : Form(ambiente, "frmSiNo") {
   segno_ = SegnoDi("domanda", Tema::Corrente().Fuoco, 32, this);
   top->addWidget(segno_, 0, Qt::AlignTop);
   lblNota = TestoLungo("lblNota", QStringLiteral("Nota"), this);
-  lblNota->setMinimumWidth(400);
+  lblNota->setMinimumWidth(kWords);
   top->addWidget(lblNota, 1);
   page->addLayout(top, 1);
 
@@ -82,6 +84,11 @@ void frmSiNo::MostraSoloOk(const std::string& testo) {
   cmdSi->ImpostaScritta(testo.empty() ? QStringLiteral("OK") : Qs(testo));
   segno_->setPixmap(DisegnoDi(QStringLiteral("informazione"), segno_->size(),
                               Tema::Corrente().Fuoco, devicePixelRatioF()));
+}
+
+void frmSiNo::ImpostaNota(const QString& testo) {
+  constexpr int kPlate = 2 * spazi::kStretto;  // of a coloured one, on both sides
+  lblNota->setText(Spezzabile(testo, lblNota->fontMetrics(), kWords - kPlate));
 }
 
 void frmSiNo::ColoraNota(std::uint32_t colore) {

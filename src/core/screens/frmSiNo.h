@@ -18,7 +18,7 @@ class frmSiNo : public Form {
   void MostraSoloOk(const std::string& testo);
   /// Without effect.
   void Reimposta() {}
-  void ImpostaNota(const QString& testo) { lblNota->setText(testo); }
+  void ImpostaNota(const QString& testo);
   /// A colour of the logic's own for the question (blue, green, red).
   void ColoraNota(std::uint32_t colore);
 

@@ -86,6 +86,8 @@ void Comandi::Localizza() {
   picVerifica->setToolTip(text("0130164"));
   picReport->setToolTip(text("0130165"));
   picEsci->setToolTip(text("0130166"));
+  picPlaylist->setToolTip(text("0130241"));
+  picPalinsesto->setToolTip(text("0130242"));
 }
 
 void Comandi::ImpostaScheda(const std::string& radice) {

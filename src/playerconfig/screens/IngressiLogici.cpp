@@ -139,6 +139,7 @@ void IngressiLogici::Localizza() {
     chkIn[i]->setAccessibleName(Qs(ConValori(name, {std::to_string(i + 1)})));
   }
   ImpostaNumero(1, Qs(TestoLingua(contesto_, "0130123")));
+  cmdMp3Preview_Play->setToolTip(Qs(TestoLingua(contesto_, "0130243")));
   cmdMp3Preview_Stop->ImpostaScritta(Qs(TestoLingua(contesto_, "0130169")));
 }
 

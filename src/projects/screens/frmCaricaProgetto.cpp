@@ -116,6 +116,8 @@ void frmCaricaProgetto::AlCaricamento() {
   lstProgetti->setVisible(!empty);
   txtCerca->setVisible(!empty);
   picOpen->setEnabled(!empty);
+  picOpen->ImpostaGenere(empty ? Coppia::Genere::Normale : Coppia::Genere::Primario);
+  picLoad->ImpostaGenere(empty ? Coppia::Genere::Primario : Coppia::Genere::Normale);
   picOpen->setToolTip(empty ? Qs(TestoLingua(C(), "0130116")) : QString());
   lblElencoVuoto->setVisible(empty);
   lblElencoVuoto->setText(Qs(TestoLingua(C(), "0130110")));

@@ -14,6 +14,7 @@
 #include "core/screens/Riquadro.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
+#include "core/screens/UnaFermata.h"
 #include "projects/NuovoProgetto.h"
 #include "projects/screens/NotaNome.h"
 
@@ -32,6 +33,7 @@ QRadioButton* NewOption(const char* name, const char* caption, int tag, QWidget*
   option->setObjectName(QLatin1String(name));
   option->setProperty(kTag, tag);
   option->setFont(FontDi(Carattere::Riquadro));
+  FermaSeScelta(*option);
   return option;
 }
 
@@ -80,7 +82,7 @@ QWidget* frmWizardPanel1::CostruisciTipi() {
   auto* strip = new QWidget(this);
   auto* line = new QHBoxLayout(strip);
   line->setContentsMargins(0, 0, 0, 0);
-  line->setSpacing(spazi::kMedio);
+  line->setSpacing(12);
   optPanel_1 = NewOption("optPanel_1", "Inputs", 1, this);
   optPanel_2 = NewOption("optPanel_2", "Scheduled", 2, this);
   optPanel_21 = NewOption("optPanel_21", "Playlist", 3, this);
@@ -104,8 +106,11 @@ QWidget* frmWizardPanel1::CostruisciTipi() {
 }
 
 void frmWizardPanel1::Collega() {
-  connect(&tipi_, &QButtonGroup::idClicked, this,
-          [this](int id) { cmbPlaylist->setEnabled(id == kPlaylistOption); });
+  connect(&tipi_, &QButtonGroup::idClicked, this, [this](int id) {
+    const bool on = id == kPlaylistOption;
+    cmbPlaylist->setEnabled(on);
+    cmbPlaylist->setToolTip(on ? QString() : Qs(TestoLingua(C(), "0130240")));
+  });
   connect(cmbPlaylist, &QComboBox::activated, this, [this] {
     if (isVisible()) optPanel_21->click();
   });

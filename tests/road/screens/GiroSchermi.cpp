@@ -1,0 +1,303 @@
+#include "road/screens/GiroSchermi.h"
+
+#include <QTest>
+
+#include "core/Aiuti.h"
+#include "core/Lingua.h"
+#include "core/screens/Davanti.h"
+#include "core/screens/RiquadroMessaggio.h"
+#include "core/screens/frmConfig.h"
+#include "core/screens/frmMain.h"
+#include "core/screens/frmSalva.h"
+#include "core/screens/frmSiNo.h"
+#include "core/screens/frmSplash.h"
+#include "flashcard/screens/frmProgress.h"
+#include "flashcard/screens/frmSelectFlash.h"
+#include "projects/NuovoProgetto.h"
+#include "projects/screens/frmCaricaProgetto.h"
+#include "projects/screens/frmRichiestaNomeForm.h"
+#include "projects/screens/frmWizardPanel1.h"
+#include "support/screens/Mano.h"
+#include "support/screens/Pilota.h"
+
+namespace kvr5::test {
+namespace {
+
+/// The removable drives of the bench alone, whatever is plugged in.
+class OnlyNamedDrives : public VolumeSource {
+ public:
+  std::vector<Volume> Removable() const override { return {}; }
+  std::optional<VolumeRoom> Room(const std::string& folder) const override {
+    return host_->Room(folder);
+  }
+
+ private:
+  std::unique_ptr<VolumeSource> host_ = HostVolumes();
+};
+
+/// As long as a text of the language files can be.
+std::string LongestText() {
+  std::string text;
+  while (text.size() < 253) text += "The file welcome-to-hall-2.mp3 can't be played here. ";
+  return text.substr(0, 253);
+}
+
+std::string LongPath() {
+  std::string path = "C:\\Users\\Restauro";
+  for (int i = 0; i < 6; ++i) path += "\\Audio_guides_of_the_permanent_exhibition";
+  return path + "\\welcome.mp3";
+}
+
+}  // namespace
+
+GiroSchermi::GiroSchermi(const std::string& lingua) {
+  b.Cartella.Write("program/KVR5Software.ini",
+                   "[Config]\r\nLanguageFile=" + lingua +
+                       "\r\n[Path]\r\nProjectsDir=" + b.Percorso("program/Projects") +
+                       "\\\r\nLastMp3Dir=" + b.Percorso("music") + "\r\n");
+  b.C.Stato.FileLingua = b.Percorso("program/Language/" + lingua);
+  b.ScriviMp3("music/welcome.mp3", 1, 40);
+  b.ScriviMp3("music/door.mp3", 2, 40);
+  std::string frames;
+  for (int i = 0; i < 40; ++i) {
+    std::string frame("\xFF\xFB\x94\x64", 4);  // 48,000 Hz, which no player takes
+    frame.resize(384, 'U');
+    frames += frame;
+  }
+  b.Cartella.Write("music/48k.mp3", frames);
+}
+
+std::string GiroSchermi::Testo(const char* chiave) {
+  return TestoLingua(b.C, chiave);
+}
+
+void GiroSchermi::Percorri(const Guarda& guarda) {
+  guarda_ = guarda;
+  NellElenco(false);
+  AlMenu();
+  NelWizard();
+  NelleImpostazioni();
+  AlNome();
+  NelSalvataggio();
+  NegliHub();
+  NellHubInUso();
+  NellHubConScheda();
+  NellElenco(true);
+  NelleSchede();
+  NelLavoro();
+  NellaCopia();
+  NelleDomande();
+  NeiMessaggi();
+}
+
+void GiroSchermi::Vedi(QWidget& finestra, const std::string& nome, bool piccolo,
+                       bool attende) const {
+  for (int i = 0; i < 8; ++i) QCoreApplication::processEvents();  // some words come later
+  guarda_({finestra, nome, piccolo, attende});
+}
+
+void GiroSchermi::Mostra(Form& form, const std::string& nome, bool piccolo) {
+  form.Mostra();
+  ASSERT_TRUE(Pronta(form)) << nome;
+  Vedi(form, nome, piccolo);
+}
+
+void GiroSchermi::AlMenu() {
+  {
+    frmSplash splash(b.A);
+    splash.Mostra();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&splash));
+    Vedi(splash, "frmSplash", true, true);
+  }
+  frmMain menu(b.A);
+  Mostra(menu, "frmMain");
+}
+
+void GiroSchermi::NelWizard() {
+  frmWizardPanel1 wizard(b.A);
+  Mostra(wizard, "frmWizardPanel1", true);
+  wizard.txtNomeProgetto->setText(QStringLiteral("Museum-Hall-2"));
+  wizard.optPanel_21->click();
+  Vedi(wizard, "frmWizardPanel1 with playlists", true);
+  wizard.txtNomeProgetto->setText(QStringLiteral("Hall: 2"));
+  Vedi(wizard, "frmWizardPanel1 with a warning", true);
+}
+
+void GiroSchermi::NelleImpostazioni() {
+  frmConfig settings(b.A);
+  Mostra(settings, "frmConfig", true);
+  (settings.optInternal->isChecked() ? settings.optExternal : settings.optInternal)->click();
+  Vedi(settings, "frmConfig changed", true);
+}
+
+void GiroSchermi::AlNome() {
+  frmRichiestaNomeForm name(b.A);
+  name.SoloNome = true;
+  Mostra(name, "frmRichiestaNomeForm", true);
+  name.txtNomeProgetto->setText(QStringLiteral("Hall: 2"));
+  Vedi(name, "frmRichiestaNomeForm with a warning", true);
+}
+
+void GiroSchermi::NelSalvataggio() {
+  frmSalva save(b.A);
+  Mostra(save, "frmSalva", true);
+}
+
+void GiroSchermi::NellElenco(bool conProgetti) {
+  frmCaricaProgetto list(b.A);
+  Mostra(list, conProgetti ? "frmCaricaProgetto" : "frmCaricaProgetto empty", true);
+  if (!conProgetti) return;
+  list.txtCerca->setText(QStringLiteral("no such name"));
+  Vedi(list, "frmCaricaProgetto, find fails", true);
+}
+
+void GiroSchermi::NelleSchede() {
+  const OnlyNamedDrives volumes;
+  std::string ini = "[Removable]\r\nE=" + (b.Cartella.Host() / "card").string() + "\r\n";
+  Drives drives(b.Percorsi, volumes, [&ini] { return ini; });
+  DriveDelComputer source(drives, b.Disco);
+  {
+    frmSelectFlash one(b.A, source);
+    Mostra(one, "frmSelectFlash, one card", true);
+  }
+  std::filesystem::copy(b.Cartella.Host() / "program/Projects/Hall", b.Cartella.Host() / "card2");
+  ini += "F=" + (b.Cartella.Host() / "card2").string() + "\r\n";
+  frmSelectFlash two(b.A, source);
+  Mostra(two, "frmSelectFlash, two cards", true);
+  ASSERT_EQ(two.cmdFlash->count(), 2);
+  two.cmdFlash->setCurrentIndex(1);
+  Vedi(two, "frmSelectFlash, the second card", true);
+}
+
+void GiroSchermi::NelLavoro() {
+  ProgressoQt work(b.A);
+  work.Operazione(Testo("0070016"));
+  work.ValoreMassimo = 7;
+  work.FileTotali = 4999;
+  work.Mostra();
+  work.Step(4998, false);
+  ASSERT_TRUE(Pronta(*work.Finestra()));
+  Vedi(*work.Finestra(), "frmProgress counting", true, true);
+  work.Step(0, false);
+  work.Annulla();
+  Vedi(*work.Finestra(), "frmProgress cancelled", true, true);
+}
+
+void GiroSchermi::NellaCopia() {
+  RiquadroCopia window(b.C);
+  MettiDavanti(window, nullptr);
+  constexpr std::uint64_t kGiga = 1ULL << 30U;
+  window.Aggiorna({LongPath(), 0, 4999, 0, 0}, 400);
+  ASSERT_TRUE(Pronta(window));
+  Vedi(window, "FinestraCopia counting", true, true);
+  window.Aggiorna({LongPath(), 4998, 4999, 3 * kGiga, 1023 * kGiga}, 600000);
+  Vedi(window, "FinestraCopia", true, true);
+}
+
+void GiroSchermi::Domanda(const std::string& nome, const BoxSiNo& box) {
+  const Pilota<frmSiNo> user([&](frmSiNo& form) {
+    Vedi(form, nome, true);
+    form.Scarica();
+  });
+  b.C.Finestre.MostraSiNo(box);
+}
+
+void GiroSchermi::NelleDomande() {
+  Domanda("frmSiNo", {Testo("0040027"), Testo("0040026"), {}, {}});
+  constexpr std::uint32_t kOrange = 33023;
+  Domanda("frmSiNo, a notice",
+          {Testo("0070009"), Testo("0070019") + ":\r\ngong.mp3", Testo("0140022"), kOrange});
+  Domanda("frmSiNo, long", {Testo("0040027"), LongestText(), {}, {}});
+  Domanda("frmSiNo, a path", {Testo("0040027"), LongPath(), {}, kOrange});
+}
+
+void GiroSchermi::Messaggio(const std::string& nome, const kvr5::Messaggio& messaggio) {
+  const Pilota<RiquadroMessaggio> user([&](RiquadroMessaggio& box) {
+    Vedi(box, nome, true);
+    box.reject();
+  });
+  b.C.Finestre.MostraMessaggio(messaggio);
+}
+
+void GiroSchermi::NeiMessaggi() {
+  Messaggio("message",
+            {Testo("0090010"), Testo("0090009"), Icona::Informazione, Pulsanti::Ok, Risposta::Ok});
+  Messaggio("message of three buttons",
+            {Testo("0040017"), Testo("0040018") + "\r\n" + Testo("0040019"), Icona::Domanda,
+             Pulsanti::SiNoAnnulla, Risposta::Annulla});
+  Messaggio("message with long words", {std::string(120, 'W'), LongPath() + std::string(200, 'm'),
+                                        Icona::Avviso, Pulsanti::SiNoAnnulla, Risposta::Si});
+}
+
+void GiroSchermi::Progetto(const std::string& nome, std::int16_t tipo, std::int16_t modo) {
+  b.CreaProgetto(nome, tipo, modo);
+  constexpr std::int16_t kKvr5 = 4;
+  b.C.Stato.PlayerConfigDesc =
+      tipo == kKvr5 ? DescrizioneKvr5(modo, ScritteDelWizard(b.C, modo)) : NomeModello(tipo);
+}
+
+std::unique_ptr<frmPlayerConfig> GiroSchermi::Hub() {
+  auto hub = std::make_unique<frmPlayerConfig>(b.A, servizi_);
+  hub->ApreDaFlash = 1;
+  hub->Mostra();
+  EXPECT_TRUE(Pronta(*hub));
+  return hub;
+}
+
+void GiroSchermi::NegliHub() {
+  struct Model {
+    const char* Name;
+    std::int16_t Type;
+    std::int16_t Mode;
+  };
+  for (const Model& model : {Model{"Inputs", 4, 1}, Model{"Schedule", 4, 2}, Model{"Lists", 4, 5},
+                             Model{"Veskadro", 1, 0}, Model{"Zub", 2, 0}, Model{"Ostrel", 3, 2}}) {
+    Progetto(model.Name, model.Type, model.Mode);
+    Vedi(*Hub(), std::string("frmPlayerConfig ") + model.Name);
+  }
+}
+
+void GiroSchermi::NellHubInUso() {
+  Progetto("Hall", 4, 1);
+  {
+    TabellaIngressi inputs(b.C);
+    inputs.Apri();
+    inputs.Assegna(1, "welcome.mp3", b.Percorso("music") + "\\");
+    inputs.Assegna(5, "door.mp3", b.Percorso("music") + "\\");
+    inputs.Assegna(12, "gone.mp3", b.Percorso("music") + "\\");
+    inputs.Assegna(255, "welcome.mp3", b.Percorso("music") + "\\");
+  }
+  const auto hub = Hub();
+  hub->fraFileName->DirDirectoryMp3->ImpostaPercorso(b.Percorso("music"));
+  hub->fraIngressiLogici->chkIn[0]->click();
+  ASSERT_TRUE(hub->fraFileName->cmdOkFileMp3->isVisible());
+  Vedi(*hub, "frmPlayerConfig with files");
+  hub->fraFileName->Scegli("48k.mp3");
+  ASSERT_TRUE(hub->fraFileInfo->lblBadFileType->isVisible());
+  ASSERT_FALSE(hub->fraFileInfo->lblFreq->text().isEmpty());
+  Vedi(*hub, "frmPlayerConfig with a refused file");
+}
+
+void GiroSchermi::NellHubConScheda() {
+  constexpr std::uint64_t kGiga = 1ULL << 30U;
+  Drive card;
+  card.Letter = 'E';
+  card.Label = "AUDIO-GUIDE";
+  card.Size = 512 * kGiga;
+  card.Free = 500 * kGiga;
+  servizi_.Scheda = card;
+  b.C.Stato.PercorsoMemoryCard = "E:\\";
+  const auto hub = Hub();
+  hub->AggiornaPercorsoMemoryCard();
+  ASSERT_TRUE(QTest::qWaitFor([&hub] { return hub->Scheda->picSpazio->isVisible(); }));
+  Vedi(*hub, "frmPlayerConfig with a card");
+  hub->fraOutputLevel->sliVolume->setValue(3);
+  ASSERT_TRUE(hub->lblNonSalvato->isVisible());
+  Vedi(*hub, "frmPlayerConfig unsaved");
+  servizi_.Scheda.reset();
+  hub->AggiornaPercorsoMemoryCard();
+  Vedi(*hub, "frmPlayerConfig, its card gone");
+  b.C.Stato.PercorsoMemoryCard.clear();
+}
+
+}  // namespace kvr5::test

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "core/screens/Form.h"
+#include "playerconfig/screens/frmPlayerConfig.h"
+#include "support/screens/BancoSchermi.h"
+
+namespace kvr5::test {
+
+/// A window as it stands on the screen.
+struct SchermoVisto {
+  QWidget& Finestra;
+  std::string Nome;      ///< tells its state too
+  bool Piccolo = false;  ///< a dialog, which has little room to take
+  bool Attende = false;  ///< nothing to choose in it, but a work to wait for or to cancel
+};
+
+/// What the hub has done by others on a walk: nothing, and a card that is there as the walk says.
+class ServiziDelGiro : public ServiziHub {
+ public:
+  void RegistraProgetto(TabellaIngressi& /*ingressi*/) override {}
+  std::optional<Drive> FattiDellaScheda() override { return Scheda; }
+  std::optional<Drive> Scheda;
+};
+
+/// A walk past every window of the program, in one language: each as it comes up, and in the states
+/// in which it says more than that.
+class GiroSchermi {
+ public:
+  using Guarda = std::function<void(const SchermoVisto&)>;
+
+  /// `lingua`: the name of the language file.
+  explicit GiroSchermi(const std::string& lingua);
+
+  /// Shows one window after the other and runs `guarda` on each while it has the keyboard.
+  void Percorri(const Guarda& guarda);
+
+ private:
+  void AlMenu();
+  void NelWizard();
+  void NelleImpostazioni();
+  void AlNome();
+  void NelSalvataggio();
+  void NellElenco(bool conProgetti);
+  void NelleSchede();
+  void NelLavoro();
+  void NellaCopia();
+  void NelleDomande();
+  void NeiMessaggi();
+  void NegliHub();
+  void NellHubInUso();
+  void NellHubConScheda();
+
+  void Mostra(Form& form, const std::string& nome, bool piccolo = false);
+  void Vedi(QWidget& finestra, const std::string& nome, bool piccolo = false,
+            bool attende = false) const;
+  void Progetto(const std::string& nome, std::int16_t tipo, std::int16_t modo);
+  std::unique_ptr<frmPlayerConfig> Hub();
+  void Domanda(const std::string& nome, const BoxSiNo& box);
+  void Messaggio(const std::string& nome, const kvr5::Messaggio& messaggio);
+  std::string Testo(const char* chiave);
+
+  BancoSchermi b{Boxes::Veri};
+  ServiziDelGiro servizi_;
+  Guarda guarda_;
+};
+
+}  // namespace kvr5::test

@@ -1,0 +1,111 @@
+#include <QApplication>
+#include <QTimer>
+#include <filesystem>
+
+#include "Photographer.h"
+#include "core/screens/Davanti.h"
+#include "core/screens/frmSalva.h"
+#include "flashcard/screens/frmProgress.h"
+#include "projects/screens/frmRichiestaNomeForm.h"
+
+namespace shots {
+namespace {
+
+constexpr std::uint32_t kOrange = 33023;
+
+void TakeQuestions(Photographer& camera) {
+  auto& boxes = camera.C().Finestre;
+  camera.TakeModal("frmSiNo", QStringLiteral("frmSiNo"), [&] {
+    boxes.MostraSiNo({camera.Text("0040027"), camera.Text("0040026"), {}, {}});
+  });
+  camera.TakeModal("frmSiNo", QStringLiteral("frmSiNo-notice"), [&] {
+    boxes.MostraSiNo({camera.Text("0070009"), camera.Text("0070019") + ":\r\ngong.mp3",
+                      camera.Text("0140022"), kOrange});
+  });
+  camera.TakeModal("RiquadroMessaggio", QStringLiteral("message"), [&] {
+    boxes.MostraMessaggio({camera.Text("0040017"),
+                           camera.Text("0040018") + "\r\n" + camera.Text("0040019") + "\r\n" +
+                               camera.Text("0040020") + "\r\n" + camera.Text("0040021"),
+                           kvr5::Icona::Domanda, kvr5::Pulsanti::SiNoAnnulla,
+                           kvr5::Risposta::Annulla});
+  });
+  camera.TakeModal("RiquadroMessaggio", QStringLiteral("message-path"), [&] {
+    std::string path = camera.Music();
+    for (int i = 0; i < 5; ++i) path += "\\Audio_guides_of_the_permanent_exhibition";
+    boxes.MostraMessaggio({camera.Text("0130002"),
+                           camera.Text("0130003") + "\r\n" + path + "\\welcome.mp3",
+                           kvr5::Icona::Avviso, kvr5::Pulsanti::Ok, kvr5::Risposta::Ok});
+  });
+}
+
+/// A card without a project, and one with.
+void TakeCards(Photographer& camera) {
+  const auto& files = camera.C().Files;
+  const std::string project = camera.C().Stato.CartellaProgetti + "\\Museum-Hall-2";
+  std::filesystem::copy(files.HostPath(project), files.HostPath("F:\\"),
+                        std::filesystem::copy_options::overwrite_existing);
+  const auto choose = [&camera] { camera.Program().ScegliScheda(kvr5::Schermata::Nessuna); };
+  camera.TakeModal("frmSelectFlash", QStringLiteral("frmSelectFlash"), choose);
+  QTimer::singleShot(20, qApp, [] {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+      auto* dialog = dynamic_cast<kvr5::frmSelectFlash*>(widget);
+      if (dialog != nullptr && dialog->isVisible()) dialog->cmdFlash->setCurrentIndex(1);
+    }
+  });
+  camera.TakeModal("frmSelectFlash", QStringLiteral("frmSelectFlash-project"), choose);
+}
+
+void TakeWork(Photographer& camera, kvr5::Ambiente& ambiente) {
+  kvr5::ProgressoQt work(ambiente);
+  work.Operazione(camera.Text("0070016"));
+  work.ValoreMassimo = 7;
+  work.FileTotali = 4999;
+  work.Mostra();
+  for (int step = 0; step < 4; ++step) work.Step(1250, false);
+  camera.Take("frmProgress", QStringLiteral("frmProgress"));
+  work.Step(0, false);
+  work.Annulla();
+  camera.Take("frmProgress", QStringLiteral("frmProgress-cancelled"));
+}
+
+void TakeCopy(Photographer& camera) {
+  kvr5::RiquadroCopia window(camera.C());
+  kvr5::MettiDavanti(window, nullptr);
+  constexpr std::uint64_t kMega = 1ULL << 20U;
+  const std::string file =
+      camera.Music() + "\\Audio guides of the permanent exhibition\\Hall 2\\welcome.mp3";
+  window.Aggiorna({file, 14, 92, 310 * kMega, 742 * kMega}, 41000);
+  camera.Take("FinestraCopia", QStringLiteral("copy"));
+}
+
+void TakeNames(Photographer& camera, kvr5::Ambiente& ambiente) {
+  kvr5::frmRichiestaNomeForm name(ambiente);
+  name.SoloNome = true;
+  name.Mostra();
+  camera.Take("frmRichiestaNomeForm", QStringLiteral("frmRichiestaNomeForm"));
+  name.txtNomeProgetto->setText(QStringLiteral("Hall: 2"));
+  camera.Take("frmRichiestaNomeForm", QStringLiteral("frmRichiestaNomeForm-warning"));
+}
+
+void TakeSave(Photographer& camera, kvr5::Ambiente& ambiente) {
+  kvr5::frmSalva save(ambiente);
+  save.Mostra();
+  camera.Take("frmSalva", QStringLiteral("frmSalva"));
+}
+
+}  // namespace
+
+void TakeBoxes(Photographer& camera) {
+  // A life of their own: the program must not end with the last of these.
+  kvr5::VitaForme life;
+  kvr5::EsecutoreQt documents(camera.C());
+  kvr5::Ambiente ambiente{camera.C(), camera.Program(), documents, life};
+  TakeCards(camera);
+  TakeQuestions(camera);
+  TakeWork(camera, ambiente);
+  TakeCopy(camera);
+  TakeNames(camera, ambiente);
+  TakeSave(camera, ambiente);
+}
+
+}  // namespace shots

@@ -1,0 +1,88 @@
+#include <QApplication>
+#include <QElapsedTimer>
+
+#include "Photographer.h"
+
+namespace shots {
+namespace {
+
+constexpr const char* kHub = "frmPlayerConfig";
+
+/// The hub that is on the screen.
+kvr5::frmPlayerConfig& Hub() {
+  for (QWidget* widget : QApplication::topLevelWidgets()) {
+    auto* hub = dynamic_cast<kvr5::frmPlayerConfig*>(widget);
+    if (hub != nullptr && hub->isVisible()) return *hub;
+  }
+  qFatal("the hub isn't on the screen");
+}
+
+void AssignFiles(Photographer& camera) {
+  const std::string folder = camera.Music() + "\\";
+  kvr5::TabellaIngressi inputs(camera.C());
+  inputs.Apri();
+  inputs.Assegna(1, "welcome.mp3", folder);
+  inputs.Assegna(5, "door.mp3", folder);
+  inputs.Assegna(12, "gone.mp3", folder);
+  inputs.Assegna(128, "welcome.mp3", folder);
+}
+
+void ShowInputs(Photographer& camera) {
+  kvr5::frmPlayerConfig& hub = Hub();
+  hub.fraFileName->DirDirectoryMp3->ImpostaPercorso(camera.Music());
+  hub.fraIngressiLogici->chkIn[0]->click();
+  hub.fraIngressiLogici->chkIn[2]->click();
+}
+
+/// What the hub counts while nothing else is to be done is there.
+void LetItCount(const kvr5::frmPlayerConfig& hub) {
+  constexpr qint64 kPatience = 5000;  // milliseconds
+  QElapsedTimer watch;
+  watch.start();
+  while (!hub.Scheda->picSpazio->isVisible() && watch.elapsed() < kPatience) {
+    QCoreApplication::processEvents();
+  }
+}
+
+/// The project of inputs once more: a file that the player can't play, a card, unsaved settings.
+void TakeStates(Photographer& camera) {
+  camera.Project("Museum-Hall-3", 4, 1);
+  AssignFiles(camera);
+  camera.C().Stato.PercorsoMemoryCard = "E:\\";
+  camera.Program().ApriConfigurazione(1);
+  kvr5::frmPlayerConfig& hub = Hub();
+  ShowInputs(camera);
+  hub.fraFileName->Scegli("too-fast.mp3");
+  camera.Take(kHub, QStringLiteral("frmPlayerConfig-refused"));
+  hub.fraIngressiLogici->chkIn[2]->click();
+  camera.Program().AggiornaPercorsoMemoryCard();
+  LetItCount(hub);
+  camera.Take(kHub, QStringLiteral("frmPlayerConfig-card"));
+  hub.fraOutputLevel->sliVolume->setValue(3);
+  camera.Take(kHub, QStringLiteral("frmPlayerConfig-unsaved"));
+  hub.resize(944, 500);  // what a screen of 1920x1080 has room for at 200 %
+  camera.Take(kHub, QStringLiteral("frmPlayerConfig-small"));
+  camera.Program().DimenticaConfigurazione();
+  camera.C().Stato.PercorsoMemoryCard.clear();
+}
+
+}  // namespace
+
+void TakeHubs(Photographer& camera) {
+  struct Kind {
+    const char* Name;
+    std::int16_t Type, Mode;
+  };
+  for (const auto& kind : {Kind{"Museum-Hall-2", 4, 1}, Kind{"Station", 4, 2}, Kind{"Shop", 4, 5},
+                           Kind{"Old-Gallery", 1, 0}, Kind{"Lift-A", 2, 0}, Kind{"Tower", 3, 2}}) {
+    camera.Project(kind.Name, kind.Type, kind.Mode);
+    if (kind.Type == 4 && kind.Mode == 1) AssignFiles(camera);
+    camera.Program().ApriConfigurazione(1);
+    if (kind.Mode < 2) ShowInputs(camera);
+    camera.Take(kHub, QStringLiteral("frmPlayerConfig-%1-%2").arg(kind.Type).arg(kind.Mode));
+    camera.Program().DimenticaConfigurazione();
+  }
+  TakeStates(camera);
+}
+
+}  // namespace shots

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <string>
+
+#include "app/Programma.h"
+
+namespace shots {
+
+/// Stages what the pictures show, in the program as it is, and takes them.
+class Photographer {
+ public:
+  /// `out`: the folder that the pictures go to, as NAME.png.
+  Photographer(kvr5::Programma& program, QString out) : program_(program), out_(std::move(out)) {}
+
+  kvr5::Programma& Program() { return program_; }
+  kvr5::Contesto& C() { return program_.C(); }
+  /// The program's own folder with music, in the system's form.
+  std::string Music() { return C().CartellaProgramma + "\\Music"; }
+  std::string Text(const char* key);
+
+  /// A picture of the window of this name, as it stands on the screen now.
+  void Take(const char* window, const QString& name) const;
+  /// The same of a window that `shows` brings up and waits for; it goes away after it.
+  void TakeModal(const char* window, const QString& name, const std::function<void()>& shows) const;
+  /// Makes a project of this model and has it be the open one.
+  void Project(const std::string& name, std::int16_t type, std::int16_t mode);
+
+ private:
+  kvr5::Programma& program_;
+  QString out_;
+};
+
+/// The hub of each model, and that of inputs with a refused file, with a card, unsaved.
+void TakeHubs(Photographer& camera);
+/// The boxes and the windows that stand before others.
+void TakeBoxes(Photographer& camera);
+
+}  // namespace shots
