@@ -42,8 +42,7 @@ void TakeQuestions(Photographer& camera) {
 void TakeCards(Photographer& camera) {
   const auto& files = camera.C().Files;
   const std::string project = camera.C().Stato.CartellaProgetti + "\\Museum-Hall-2";
-  std::filesystem::copy(files.HostPath(project), files.HostPath("F:\\"),
-                        std::filesystem::copy_options::overwrite_existing);
+  std::filesystem::copy(files.HostPath(project), files.HostPath("F:\\"));
   const auto choose = [&camera] { camera.Program().ScegliScheda(kvr5::Schermata::Nessuna); };
   camera.TakeModal("frmSelectFlash", QStringLiteral("frmSelectFlash"), choose);
   QTimer::singleShot(20, qApp, [] {

@@ -20,6 +20,7 @@ constexpr std::int16_t kForm = 12;
 
 frmSalva::frmSalva(Ambiente& ambiente) : Form(ambiente, "frmSalva") {
   setWindowTitle(QStringLiteral("  Save"));
+  resize(560, 240);
   auto* page = NuovaPagina(*this);
   lblSalvaprogetto = TestoLungo("lblSalvaprogetto", QStringLiteral("SavePrj"), this);
   lblSalvaprogetto->setProperty(kTag, 0);

@@ -39,7 +39,8 @@ Comandi::Comandi(Contesto& contesto, QWidget* padre) : QWidget(padre), contesto_
   picVerifica = pair("picVerifica", "lblVerifica", "Verify", "verifica", -1);
   picRecordFlash = pair("picRecordFlash", "lblRecordFlash", "WriteFlash", "registra", 39);
   picRecordFlash->ImpostaGenere(Coppia::Genere::Primario);
-  progetto_ = GroupOf({picEsci, picReport, picPlaylist, picPalinsesto, picAltro, picCancellaFlash});
+  progetto_ = GroupOf(
+      {picEsci, picReport, picPlaylist, picPalinsesto, picAltro, picCancellaFlash, nullptr});
   scheda_ = GroupOf({nullptr, picSave, picVerifica, picRecordFlash});
   riga_ = new QBoxLayout(QBoxLayout::LeftToRight, this);
   riga_->setContentsMargins(0, 0, 0, 0);

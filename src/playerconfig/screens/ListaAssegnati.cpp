@@ -11,12 +11,20 @@
 #include "core/screens/Testo.h"
 
 namespace kvr5 {
+namespace {
+
+constexpr int kSign = 16;
+
+}  // namespace
 
 ListaAssegnati::ListaAssegnati(Contesto& contesto, QWidget* padre)
     : Riquadro("fraAssegnati", QStringLiteral("Assignments"), -1, padre), contesto_(contesto) {
   lstAssegnati = new QListWidget(this);
   lstAssegnati->setObjectName(QStringLiteral("lstAssegnati"));
-  lstAssegnati->setIconSize({16, 16});
+  lstAssegnati->setIconSize({kSign, kSign});
+  QPixmap blank(kSign, kSign);
+  blank.fill(Qt::transparent);
+  senzaSegno_ = QIcon(blank);
   lstAssegnati->setTextElideMode(Qt::ElideRight);
   lstAssegnati->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   lstAssegnati->setMinimumHeight(90);
@@ -44,7 +52,10 @@ void ListaAssegnati::AggiungiRiga(const ParoleAssegnato& parole, const Assegnato
   if (riga.StessoFile) tip += "\n" + Qs(parole.AltroIngresso);
   if (riga.DelCollegamento) tip += "\n" + Qs(parole.LiberaCollegamento);
   item->setToolTip(Suggerimento(tip));
-  if (mark.empty()) return;
+  if (mark.empty()) {
+    item->setIcon(senzaSegno_);
+    return;
+  }
   item->setIcon(IconaDi(riga.Mancante ? QStringLiteral("mancante") : QStringLiteral("avviso"),
                         riga.Mancante ? tema.Errore : tema.Avviso));
   item->setForeground(riga.Mancante ? tema.Errore : tema.Avviso);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QIcon>
 #include <QLabel>
 #include <QListWidget>
 #include <functional>
@@ -32,6 +33,7 @@ class ListaAssegnati : public Riquadro {
 
   Contesto& contesto_;
   std::optional<ElencoAssegnati> mostrato_;
+  QIcon senzaSegno_;  ///< has the words of all rows begin in one line
 };
 
 }  // namespace kvr5

@@ -165,7 +165,9 @@ void GiroSchermi::NelleSchede() {
   frmSelectFlash two(b.A, source);
   Mostra(two, "frmSelectFlash, two cards", true);
   ASSERT_EQ(two.cmdFlash->count(), 2);
+  const QString without = two.lblContenuto->text();
   two.cmdFlash->setCurrentIndex(1);
+  ASSERT_NE(two.lblContenuto->text(), without) << "a project is on it";
   Vedi(two, "frmSelectFlash, the second card", true);
 }
 
