@@ -66,7 +66,9 @@ TEST_P(OddNames, AreNamedByTheBoxThatStopsARecording) {
   Assegna({2}, Name());
   ScegliScheda();
   const test::Pilota<frmSiNo> box([](frmSiNo& notice) {
-    EXPECT_TRUE(notice.lblNota->text().contains(QString::fromStdString(Name())));
+    QString text = notice.lblNota->text();
+    text.remove(QChar(0x200B));  // where a name without blanks may be broken
+    EXPECT_TRUE(text.contains(QString::fromStdString(Name())));
     EXPECT_EQ(notice.lblNota->textFormat(), Qt::PlainText);
     test::Clicca(*notice.cmdSi);
   });
