@@ -17,8 +17,9 @@ qsizetype PieceOf(const QString& word, qsizetype from, const QFontMetrics& metri
   for (qsizetype i = from; i < word.size(); ++i) {
     if (metrics.horizontalAdvance(word.mid(from, i + 1 - from)) > width) {
       if (behindBar > 0) return behindBar;
-      const bool pair = i > from && word[i].isLowSurrogate();
-      return std::max<qsizetype>(1, i - from - (pair ? 1 : 0));
+      const qsizetype length = std::max<qsizetype>(1, i - from);
+      const bool torn = from + length < word.size() && word[from + length].isLowSurrogate();
+      return !torn ? length : length > 1 ? length - 1 : length + 1;
     }
     if (IsBar(word[i])) behindBar = i + 1 - from;
   }
