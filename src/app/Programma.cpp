@@ -106,9 +106,10 @@ void Programma::AvviaTempoSplash() {
   splash_->tmrChiusura.start();
 }
 
-void Programma::RegistraProgetto(TabellaIngressi& ingressi) {
+bool Programma::RegistraProgetto(TabellaIngressi& ingressi) {
   SceltaDalDialogo choice(*this);
-  RegistraProgettoSuFlash(contesto_, ingressi, progresso_, choice);
+  const auto end = RegistraProgettoSuFlash(contesto_, ingressi, progresso_, choice);
+  return end.Fine == FineRegistrazione::Annullata;
 }
 
 std::optional<Drive> Programma::FattiDellaScheda() {

@@ -50,7 +50,7 @@ class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
   void MostraSplash(Schermata successivo) override;
   void AvviaTempoSplash() override;
 
-  void RegistraProgetto(TabellaIngressi& ingressi) override;
+  bool RegistraProgetto(TabellaIngressi& ingressi) override;
   std::optional<Drive> FattiDellaScheda() override;
 
  private:

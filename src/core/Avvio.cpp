@@ -28,7 +28,9 @@ void AssicuraCartellaProgetti(Contesto& contesto) {
 
 bool HaCartelleDiProgetti(const Contesto& contesto) {
   const auto entries = contesto.Files.List(contesto.Stato.CartellaProgetti);
-  return entries && std::ranges::any_of(entries.Value(), &FileInfo::IsFolder);
+  return entries && std::ranges::any_of(entries.Value(), [](const FileInfo& each) {
+           return each.IsFolder && !each.Hidden;
+         });
 }
 
 }  // namespace kvr5

@@ -57,14 +57,15 @@ void ElencoSchede::Scegli(std::size_t indice) {
 }
 
 bool ElencoSchede::RileggiFatti() {
-  if (schede_.empty()) return false;
-  SchedaTrovata& card = schede_.at(scelta_);
-  drive_.Voci();  // the host's list afresh
-  auto facts = drive_.Fatti(card.Radice);
-  if (facts == card.Fatti) return false;
-  card.Uscita = !facts;
-  card.Fatti = std::move(facts);
-  return true;
+  bool changed = false;
+  for (SchedaTrovata& card : schede_) {
+    auto facts = drive_.Fatti(card.Radice);
+    if (facts == card.Fatti) continue;
+    card.Uscita = !facts;
+    card.Fatti = std::move(facts);
+    changed = true;
+  }
+  return changed;
 }
 
 std::string ElencoSchede::Testo() const {

@@ -35,8 +35,8 @@ class ElencoSchede {
   /// The text of cmdFlash: the selected root, or "".
   std::string Testo() const;
 
-  /// Asks the host once more what it tells of the selected card, which may have been taken out
-  /// since; true when that has changed. The choice stays.
+  /// Asks the host once more what it tells of the cards, one of which may have been taken out
+  /// since; true when that has changed. List and choice stay.
   bool RileggiFatti();
 
   /// picOk: the text becomes PercorsoMemoryCard. True when the calling form, by its name, shows

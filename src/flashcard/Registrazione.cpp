@@ -252,7 +252,7 @@ void Recording::TellUnwritable() {
 
 void Recording::TellMissing(const std::string& file) {
   progress_.Scarica();
-  // The wait pointer stays on: the run ends here and nothing sets it back.
+  // The run ends here and sets no pointer back; the notice's own load does, where there is one.
   Notice("0070009", TestoLingua(context_, "0070019") + ":\r\n" + file, true);
 }
 

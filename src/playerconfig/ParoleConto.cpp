@@ -1,11 +1,19 @@
 #include "playerconfig/ParoleConto.h"
 
+#include "core/Lingua.h"
 #include "core/Parole.h"
 
 namespace kvr5 {
 
 std::string ParoleMancanti(Contesto& contesto, std::size_t quanti) {
   return Contati(contesto, quanti, {"0040062", "missing", "0040063", "missing"});
+}
+
+std::string AvvisoConto(Contesto& contesto, const CifreProgetto& cifre) {
+  if (!cifre.Illeggibile.empty()) {
+    return ConValori(TestoLinguaO(contesto, "0130250", "%1 can't be read"), {cifre.Illeggibile});
+  }
+  return cifre.Mancanti > 0 ? ParoleMancanti(contesto, cifre.Mancanti) : std::string();
 }
 
 std::string ParoleConto(Contesto& contesto, const CifreProgetto& cifre, bool palinsesto) {

@@ -15,6 +15,10 @@ void ContoProgetto::Comincia() {
   cifre_.Brani = rows.Brani.size();
   cifre_.Segmenti = rows.Segmenti;
   cifre_.Spot = rows.Spot.size();
+  if (!rows.Guasti.empty()) {
+    const std::string& fault = rows.Guasti.front();
+    cifre_.Illeggibile = fault.substr(0, fault.find(':'));
+  }
   std::set<std::int64_t> lists;
   for (const auto& row : rows.Brani) lists.insert(row.NPlaylist);
   cifre_.Liste = lists.size();

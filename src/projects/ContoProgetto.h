@@ -20,6 +20,7 @@ struct CifreProgetto {
   std::size_t Mancanti = 0;  ///< rows whose file can't be found
   std::uint64_t Byte = 0;    ///< of the files that were found, each source once
   bool Completo = false;     ///< every file was looked for
+  std::string Illeggibile;   ///< a database whose rows aren't all counted, "" for none
   bool operator==(const CifreProgetto&) const = default;
 };
 

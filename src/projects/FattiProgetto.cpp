@@ -28,7 +28,8 @@ std::optional<std::string> ReadHead(const Contesto& contesto, const std::string&
 
 std::optional<std::int64_t> LastChange(const Contesto& contesto, const std::string& folder) {
   std::optional<std::int64_t> newest;
-  for (const char* name : {"Config.cfg", "Config.txt"}) {
+  for (const char* name :
+       {"Config.cfg", "Config.txt", "inputcfg.mdb", "playlist.mdb", "scheduler.mdb"}) {
     const auto info = contesto.Files.Info(folder + name);
     if (info) newest = std::max(newest.value_or(info.Value().Modified), info.Value().Modified);
   }

@@ -13,8 +13,8 @@ namespace kvr5 {
 struct FattiProgetto {
   std::string Nome;     ///< ProjectName of the descriptor; "" when it has none
   std::string Modello;  ///< "KVR5 (Inputs)": PlayerConfigDesc, else the model's name; may be ""
-  /// The last change of Config.cfg or Config.txt, whichever is newer, in seconds since 1970-01-01
-  /// UTC; nothing when neither is there.
+  /// The last change of the descriptor, Config.txt or a database, whichever is newest, in seconds
+  /// since 1970-01-01 UTC; nothing when none is there.
   std::optional<std::int64_t> Modificato;
 };
 

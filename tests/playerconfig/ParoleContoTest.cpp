@@ -37,5 +37,15 @@ TEST(ParoleConto, SpeaksTheLanguage) {
   EXPECT_EQ(ParoleMancanti(b.C, 2), "2 mancanti");
 }
 
+TEST(ParoleConto, ADatabaseThatCannotBeReadIsWorseThanFilesThatAreMissing) {
+  test::Banco b;
+  CifreProgetto figures;
+  EXPECT_EQ(AvvisoConto(b.C, figures), "");
+  figures.Mancanti = 3;
+  EXPECT_EQ(AvvisoConto(b.C, figures), "3 missing");
+  figures.Illeggibile = "playlist.mdb";
+  EXPECT_EQ(AvvisoConto(b.C, figures), "playlist.mdb can't be read");
+}
+
 }  // namespace
 }  // namespace kvr5

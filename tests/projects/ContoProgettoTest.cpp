@@ -77,5 +77,13 @@ TEST_F(Conto, AnAliasCopyStandsInForASourceThatIsGone) {
   EXPECT_EQ(count.Cifre().Byte, b.Cartella.Read("program/Projects/Hall/5.mp3").size());
 }
 
+TEST_F(Conto, ADatabaseThatCannotBeReadIsNamed) {
+  b.CreaProgetto("Shop", 4, 5);
+  b.Cartella.Write("program/Projects/Shop/playlist.mdb", std::string(8192, 'x'));
+  ContoProgetto count(b.C);
+  count.Comincia();
+  EXPECT_EQ(count.Cifre().Illeggibile, "playlist.mdb");
+}
+
 }  // namespace
 }  // namespace kvr5

@@ -11,23 +11,38 @@
 namespace kvr5 {
 namespace {
 
-/// What a window's frame takes of the screen; it isn't known before the window is shown.
-constexpr QSize kFrame(16, 40);
+/// Where the last window was: the middle of what it showed, and what its frame took of the screen.
+struct Place {
+  std::optional<QPoint> Middle;
+  QMargins Frame{8, 32, 8, 8};  ///< until one has been seen
+};
 
-QRect RoomFor(const QWidget& window, const QWidget* below) {
-  const QScreen* screen = below != nullptr ? below->screen() : window.screen();
-  return screen->availableGeometry();
-}
-
-/// The middle of the screen that went last.
-std::optional<QPoint>& LastPlace() {
-  static std::optional<QPoint> place;
+Place& LastPlace() {
+  static Place place;
   return place;
 }
 
+QMargins FrameOf(const QWidget& window) {
+  const QRect inside = window.geometry();
+  const QRect outside = window.frameGeometry();
+  if (!window.isVisible() || inside == outside) return LastPlace().Frame;
+  return {inside.left() - outside.left(), inside.top() - outside.top(),
+          outside.right() - inside.right(), outside.bottom() - inside.bottom()};
+}
+
+QRect RoomFor(const QWidget& window, const QWidget* below) {
+  const QScreen* screen = below != nullptr ? below->screen() : window.screen();
+  const auto& middle = LastPlace().Middle;
+  if (below == nullptr && middle) {
+    // The monitor that the user was looking at, not the first one of the desk.
+    if (const QScreen* last = QGuiApplication::screenAt(*middle)) screen = last;
+  }
+  return screen->availableGeometry();
+}
+
 QPoint MiddleOf(const QWidget* below, const QRect& room) {
-  if (below != nullptr) return below->frameGeometry().center();
-  const auto& last = LastPlace();
+  if (below != nullptr) return below->geometry().center();
+  const auto& last = LastPlace().Middle;
   return last && room.contains(*last) ? *last : room.center();
 }
 
@@ -46,10 +61,13 @@ QWidget* FinestraSotto() {
 
 void CentraSu(QWidget& finestra, const QWidget* sotto) {
   const QRect room = RoomFor(finestra, sotto);
-  const QSize most = room.size() - kFrame;
-  finestra.resize(finestra.size().boundedTo(most));
-  QRect place({}, finestra.size() + kFrame);
-  place.moveCenter(MiddleOf(sotto, room));
+  const QMargins frame = sotto != nullptr ? FrameOf(*sotto) : LastPlace().Frame;
+  if (!finestra.testAttribute(Qt::WA_Resized)) finestra.adjustSize();
+  finestra.resize(finestra.size().boundedTo(room.marginsRemoved(frame).size()));
+  // Middle over middle of what is shown: with the frames counted in, windows would wander.
+  QRect inside({}, finestra.size());
+  inside.moveCenter(MiddleOf(sotto, room));
+  QRect place = inside.marginsAdded(frame);
   place.moveLeft(std::clamp(place.left(), room.left(),
                             std::max(room.left(), room.right() + 1 - place.width())));
   place.moveTop(std::clamp(place.top(), room.top(),
@@ -58,7 +76,17 @@ void CentraSu(QWidget& finestra, const QWidget* sotto) {
 }
 
 void RicordaPosto(const QWidget& finestra) {
-  LastPlace() = finestra.frameGeometry().center();
+  LastPlace() = {finestra.geometry().center(), FrameOf(finestra)};
+}
+
+void MettiAccanto(QWidget& finestra, const QWidget& altra) {
+  const QRect room = altra.screen()->availableGeometry();
+  const QRect other = altra.frameGeometry();
+  const QMargins frame = FrameOf(altra);
+  const int height = finestra.height() + frame.top() + frame.bottom();
+  const bool below = other.bottom() + 1 + height <= room.bottom() + 1;
+  finestra.move(finestra.x(),
+                below ? other.bottom() + 1 : std::max(room.top(), other.top() - height));
 }
 
 void MettiDavanti(QWidget& riquadro, QWidget* sotto) {
@@ -66,7 +94,6 @@ void MettiDavanti(QWidget& riquadro, QWidget* sotto) {
   const bool onTop = sotto != nullptr && sotto->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
   if (onTop) riquadro.setWindowFlag(Qt::WindowStaysOnTopHint);
   riquadro.ensurePolished();
-  if (!riquadro.testAttribute(Qt::WA_Resized)) riquadro.adjustSize();
   CentraSu(riquadro, sotto);
   riquadro.winId();
   if (sotto == nullptr) return;

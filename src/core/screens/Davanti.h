@@ -17,6 +17,9 @@ void CentraSu(QWidget& finestra, const QWidget* sotto);
 /// the box that stands before it still waits for its answer.
 void MettiDavanti(QWidget& riquadro, QWidget* sotto);
 
+/// Moves a window that isn't shown below another one, or above it where the screen ends.
+void MettiAccanto(QWidget& finestra, const QWidget& altra);
+
 /// Keeps in mind where a screen was that goes now.
 void RicordaPosto(const QWidget& finestra);
 

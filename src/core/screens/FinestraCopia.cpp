@@ -53,11 +53,15 @@ RiquadroCopia::RiquadroCopia(Contesto& contesto) : contesto_(contesto) {
 void RiquadroCopia::reject() {
   annullato_ = true;
   annulla_->setEnabled(false);
+  const QString words = Qs(TestoLinguaO(contesto_, "70008", "Noted; please wait"));
+  annulla_->setToolTip(words);
+  quanto_->setText(words);
+  tempo_->clear();
 }
 
 void RiquadroCopia::Aggiorna(const CopyState& stato, qint64 millisecondi) {
   if (!isVisible()) show();
-  Scrivi(stato, millisecondi);
+  if (!annullato_) Scrivi(stato, millisecondi);
 }
 
 void RiquadroCopia::Scrivi(const CopyState& stato, qint64 millisecondi) {
@@ -94,7 +98,11 @@ bool FinestraCopia::Progress(const CopyState& state) {
   if (!inizio_.isValid()) inizio_.start();
   if (!riquadro_ && inizio_.elapsed() >= kPatience) {
     riquadro_ = std::make_unique<RiquadroCopia>(*contesto_);
-    MettiDavanti(*riquadro_, FinestraSotto());
+    QWidget* below = FinestraSotto();
+    MettiDavanti(*riquadro_, below);
+    if (below != nullptr && below->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) {
+      MettiAccanto(*riquadro_, *below);  // its cancel is to be reached
+    }
   }
   if (riquadro_) riquadro_->Aggiorna(state, inizio_.elapsed());
   contesto_->Messaggi.LasciaCorrere();

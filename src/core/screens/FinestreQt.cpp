@@ -56,8 +56,10 @@ std::string FinestreQt::SfogliaCartella(const std::string& titolo, const std::st
   const FileSystem& files = ambiente_->C.Files;
   const QString start = inizio.empty() ? QString() : Qs(files.HostPath(inizio));
   QFileDialog box(nullptr, Qs(titolo), start);
+  box.resize(860, 540);  // its columns have room
   box.setFileMode(QFileDialog::Directory);
   box.setOption(QFileDialog::ShowDirsOnly);
+  box.setOption(QFileDialog::ReadOnly);  // a folder is chosen, none renamed or deleted
   MettiDavanti(box, FinestraSotto());
   if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) return {};
   const auto path = files.SystemPath(Std(box.selectedFiles().first()));

@@ -100,9 +100,10 @@ bool Form::event(QEvent* event) {
   return done;
 }
 
-void Form::hideEvent(QHideEvent* event) {
-  if (!windowFlags().testFlag(Qt::Dialog)) RicordaPosto(*this);
-  QWidget::hideEvent(event);
+void Form::setVisible(bool visible) {
+  const bool screen = !windowFlags().testFlag(Qt::Dialog);
+  if (!visible && isVisible() && screen) RicordaPosto(*this);  // its frame is still known
+  QWidget::setVisible(visible);
 }
 
 void Form::closeEvent(QCloseEvent* event) {
@@ -112,7 +113,8 @@ void Form::closeEvent(QCloseEvent* event) {
 
 void Form::mousePressEvent(QMouseEvent* event) {
   // A click beside the controls leaves the field that has the focus, with its check.
-  if (QWidget* field = focusWidget()) field->clearFocus();
+  QWidget* field = focusWidget();
+  if (field != nullptr && field->property(kLasciaAlClic).toBool()) field->clearFocus();
   QWidget::mousePressEvent(event);
 }
 

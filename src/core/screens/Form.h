@@ -10,6 +10,10 @@
 
 namespace kvr5 {
 
+/// The property of a field that checks what it holds when it is left, and is left by a click beside
+/// all controls, too.
+inline constexpr const char* kLasciaAlClic = "lasciaAlClic";
+
 /// A screen: load, show (modal or not), activate, hide, query-unload, unload.
 ///
 /// The constructor makes the controls as they are designed and nothing else. The load runs once, at
@@ -37,6 +41,8 @@ class Form : public QWidget {
 
   /// How many times it was asked to show itself.
   int Mostrata() const { return mostrata_; }
+
+  void setVisible(bool visible) override;
 
   bool Caricata() const { return stato_ == Stato::Caricata; }
   bool Scaricata() const { return stato_ == Stato::Scaricata; }
@@ -70,7 +76,6 @@ class Form : public QWidget {
   Ambiente& ambiente_;
 
   bool event(QEvent* event) override;
-  void hideEvent(QHideEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
 

@@ -37,11 +37,10 @@ PannelloInfo::PannelloInfo(const QString& titolo, int tag, int tagAvviso, int mi
   lblFreq = figure("lblFreq", QStringLiteral("Freq/mono"));
   lblDurata = figure("lblDurata", QStringLiteral("Len"));
   grid->addWidget(lblVersioneMpeg, 0, 0);
-  grid->addWidget(lblDurata, 0, 1);
-  grid->addWidget(lblBitrate, 1, 0, 1, 2);
-  grid->addWidget(lblFreq, 2, 0, 1, 2);
+  grid->addWidget(lblBitrate, 1, 0);
+  grid->addWidget(lblFreq, 2, 0);
+  grid->addWidget(lblDurata, 3, 0);
   grid->setColumnStretch(0, 1);
-  grid->setColumnStretch(1, 1);
   Corpo()->addLayout(grid);
   lblBadFileType = new EtichettaAvviso("lblBadFileType", QStringLiteral("BadFileType"),
                                        Carattere::Suggerimento, this);

@@ -1,6 +1,6 @@
 #include "core/screens/TestiQt.h"
 
-#include <algorithm>
+#include <QThread>
 #include <array>
 #include <string_view>
 
@@ -26,7 +26,8 @@ constexpr std::array kTesti = {
     TestoDelToolkit{"&Delete", "0130206"},
     TestoDelToolkit{"Select All", "0130207"},
     TestoDelToolkit{"Directory:", "0130208"},
-    TestoDelToolkit{"Folder", "0130208"},
+    TestoDelToolkit{"Folder", "0130245"},
+    TestoDelToolkit{"Drive", "0130246"},
     TestoDelToolkit{"&Choose", "0130209"},
     TestoDelToolkit{"Cancel", "0130210"},
     TestoDelToolkit{"&Cancel", "0130210"},
@@ -59,18 +60,31 @@ constexpr std::array kTesti = {
     TestoDelToolkit{"&Rename", "0130227"},
     TestoDelToolkit{"Show &hidden files", "0130228"},
     TestoDelToolkit{"Remove", "0130229"},
+    TestoDelToolkit{"Recent Places", "0130248"},
+    TestoDelToolkit{"OK", "0130093"},
+    TestoDelToolkit{"%1\nDirectory not found.\nPlease verify the correct directory name was given.",
+                    "0130247"},
 };
 
 }  // namespace
 
+void TestiQt::LeggiSeCambiata() const {
+  const std::string& file = contesto_->Stato.FileLingua;
+  if (letta_ == file) return;
+  letta_ = file;
+  testi_.clear();
+  for (const auto& each : kTesti) {
+    const std::string text = TestoLingua(*contesto_, each.Chiave);
+    if (!text.empty()) testi_.emplace(each.Testo, Qs(text));
+  }
+}
+
 QString TestiQt::translate(const char* /*contesto*/, const char* testo, const char* /*disambigua*/,
                            int /*numero*/) const {
-  const std::string_view source = testo;
-  const auto* found = std::find_if(kTesti.begin(), kTesti.end(),
-                                   [&](const auto& each) { return each.Testo == source; });
-  if (found == kTesti.end()) return {};
-  const std::string text = TestoLingua(*contesto_, found->Chiave);
-  return text.empty() ? QString() : Qs(text);
+  const std::scoped_lock lock(guardia_);
+  if (QThread::currentThread() == thread()) LeggiSeCambiata();
+  const auto found = testi_.find(testo);
+  return found == testi_.end() ? QString() : found->second;
 }
 
 }  // namespace kvr5

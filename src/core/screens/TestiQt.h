@@ -1,13 +1,19 @@
 #pragma once
 
 #include <QTranslator>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <unordered_map>
 
 #include "core/Contesto.h"
 
 namespace kvr5 {
 
 /// The words that the toolkit brings along (the folder chooser, the menus of text boxes), from the
-/// program's own language file: the language of a screen is never that of the desktop.
+/// program's own language file: what this program draws speaks the language of its screens. The
+/// file is read once a language, by the thread of the screens; the chooser asks from a thread of
+/// its own, too.
 class TestiQt : public QTranslator {
  public:
   explicit TestiQt(Contesto& contesto) : contesto_(&contesto) {}
@@ -20,7 +26,12 @@ class TestiQt : public QTranslator {
                     int numero) const override;
 
  private:
+  void LeggiSeCambiata() const;
+
   Contesto* contesto_;
+  mutable std::mutex guardia_;
+  mutable std::optional<std::string> letta_;  ///< the language file that testi_ come from
+  mutable std::unordered_map<std::string, QString> testi_;
 };
 
 }  // namespace kvr5

@@ -113,7 +113,7 @@ void frmConfig::Collega() {
 void frmConfig::AlCaricamento() {
   LocalizzaForm(C(), kForm, *this);
   lblTitolo->setText(windowTitle());
-  cmdSelPrjDir->ImpostaScritta(Qs(TestoLingua(C(), "0090005")));
+  cmdSelPrjDir->ImpostaScritta(Qs(TestoLinguaO(C(), "0090005", "Projects folder...")));
   // Their own captions aren't translated; the words that explain them are.
   lblPlayer->setToolTip(Qs(TestoLingua(C(), "0130190")));
   optInternal->setToolTip(Qs(TestoLingua(C(), "0130191")));
@@ -148,6 +148,8 @@ void frmConfig::MostraCartella() {
 
 void frmConfig::MostraModificato() {
   const bool changed = modello_.Modificato();
+  // What is off has no keyboard; it goes to the button that leaves, not on to the help.
+  if (cmdSave->hasFocus() && !changed) cmdExit->setFocus();
   cmdSave->setEnabled(changed);
   lblSave->setVisible(changed);
   cmdSave->setToolTip(Qs(TestoLingua(C(), changed ? "0130193" : "0130194")));

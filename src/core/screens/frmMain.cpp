@@ -1,6 +1,7 @@
 #include "core/screens/frmMain.h"
 
 #include <QPainter>
+#include <QShowEvent>
 
 #include "core/Aiuti.h"
 #include "core/Avvio.h"
@@ -84,7 +85,6 @@ void frmMain::AlCaricamento() {
   LocalizzaForm(C(), kForm, *this);
   picNuovoProgetto->setToolTip(Qs(TestoLingua(C(), "0130100")));
   picCaricaDaDisco->setToolTip(Qs(TestoLingua(C(), "0130101")));
-  Rilievo();
   C().Stato.PlayerType = 0;
   C().Messaggi.ImpostaPuntatore(Puntatore::Normale);
   C().Stato.PercorsoMemoryCard.clear();
@@ -97,8 +97,12 @@ void frmMain::Rilievo() {
   picNuovoProgetto->ImpostaGenere(some ? Coppia::Genere::Carta : Coppia::Genere::CartaPrimaria);
 }
 
+void frmMain::showEvent(QShowEvent* event) {
+  if (!event->spontaneous()) Rilievo();
+  Form::showEvent(event);
+}
+
 void frmMain::AllAttivazione() {
-  Rilievo();
   if (focusWidget() == nullptr) picNuovoProgetto->setFocus();
 }
 

@@ -26,6 +26,7 @@ class frmMain : public Form {
  protected:
   void AlCaricamento() override;
   void AllAttivazione() override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   /// Has one of the two cards stand out.

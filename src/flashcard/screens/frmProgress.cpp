@@ -82,6 +82,7 @@ void frmProgress::AlCaricamento() {
 }
 
 void frmProgress::AlloScarico() {
+  tmrCicla.stop();
   hide();  // first: the flag of a shown window can't be changed without its coming up once more
   ImpostaPrimoPiano(*this, false);
 }

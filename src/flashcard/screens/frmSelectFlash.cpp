@@ -46,7 +46,7 @@ frmSelectFlash::frmSelectFlash(Ambiente& ambiente, SorgenteDrive& drive)
   guardia_.setInterval(kWatch);
   connect(&guardia_, &QTimer::timeout, this, [this] {
     if (!elenco_.RileggiFatti()) return;
-    DescriviVoce(static_cast<int>(elenco_.Scelta()));
+    for (int i = 0; i < cmdFlash->count(); ++i) DescriviVoce(i);
     MostraFatti();
   });
   SuTasto(Qt::Key_F1, [this] { Aiuto(); });
@@ -115,7 +115,7 @@ void frmSelectFlash::MostraFatti() {
   lblFatti->setText(Qs(FattiOUscita(card)));
   const bool out = card.Uscita || (card.Fatti && !card.Fatti->HasMedium);
   Veste(*lblFatti, Carattere::Corpo, out ? Ruolo::Avviso : Ruolo::Testo);
-  lblContenuto->setText(Qs(ProgettoSullaScheda(C(), card.Radice)));
+  lblContenuto->setText(out ? QString() : Qs(ProgettoSullaScheda(C(), card.Radice)));
 }
 
 void frmSelectFlash::AlloScarico() {

@@ -139,7 +139,9 @@ void frmPlayerConfig::Disponi() {
   constexpr std::int16_t kKvr5 = 4;
   if (noInputs && C().Stato.PlayerType == kKvr5) {
     for (Coppia* button : {Barra->picPlaylist, Barra->picPalinsesto}) {
-      if (!button->isHidden()) Pannello->Accogli(button);
+      if (button->isHidden()) continue;
+      Pannello->Accogli(button);
+      OrdineTab({Opzioni->picConfiguraFade, button, Barra->picEsci});
     }
   }
 }
@@ -199,6 +201,7 @@ void frmPlayerConfig::DisabilitaFuturi() {
         static_cast<QWidget*>(fraIngressiLogici->cmdMp3Preview_Play),
         static_cast<QWidget*>(fraIngressiLogici->cmdMp3Preview_Stop)}) {
     control->setEnabled(false);
+    control->setToolTip(Qs(TestoLingua(C(), "0130244")));
   }
 }
 

@@ -34,7 +34,7 @@ ListaAssegnati::ListaAssegnati(Contesto& contesto, QWidget* padre)
   lblCifre->setWordWrap(true);
   Corpo()->addWidget(lblCifre);
   const auto choose = [this](const QListWidgetItem* item) {
-    if (SuScelta) SuScelta(item->data(Qt::UserRole).toLongLong());
+    if (item != nullptr && SuScelta) SuScelta(item->data(Qt::UserRole).toLongLong());
   };
   connect(lstAssegnati, &QListWidget::itemClicked, this, choose);
   connect(lstAssegnati, &QListWidget::itemActivated, this, choose);
@@ -61,8 +61,8 @@ void ListaAssegnati::AggiungiRiga(const ParoleAssegnato& parole, const Assegnato
   item->setForeground(riga.Mancante ? tema.Errore : tema.Avviso);
 }
 
-void ListaAssegnati::Mostra(const ElencoAssegnati& elenco) {
-  if (mostrato_ == elenco) return;
+bool ListaAssegnati::Mostra(const ElencoAssegnati& elenco) {
+  if (mostrato_ == elenco) return false;
   mostrato_ = elenco;
   const int top = lstAssegnati->verticalScrollBar()->value();
   Veste(*lblCifre, Carattere::Suggerimento, Ruolo::Attenuato);
@@ -73,9 +73,11 @@ void ListaAssegnati::Mostra(const ElencoAssegnati& elenco) {
                                          : Qs(CifreAssegnati(contesto_, elenco)));
   lstAssegnati->doItemsLayout();
   lstAssegnati->verticalScrollBar()->setValue(top);
+  return true;
 }
 
-void ListaAssegnati::Evidenzia(std::int64_t codice) {
+void ListaAssegnati::Evidenzia(std::int64_t codice, bool inVista) {
+  lstAssegnati->setAutoScroll(inVista);
   for (int row = 0; row < lstAssegnati->count(); ++row) {
     if (lstAssegnati->item(row)->data(Qt::UserRole).toLongLong() != codice) continue;
     lstAssegnati->setCurrentRow(row);
@@ -85,9 +87,17 @@ void ListaAssegnati::Evidenzia(std::int64_t codice) {
 }
 
 void ListaAssegnati::MostraSenzaTabella() {
+  Svuota("0130132");
+}
+
+void ListaAssegnati::MostraIlleggibile() {
+  Svuota("0130249");
+}
+
+void ListaAssegnati::Svuota(const char* chiave) {
   mostrato_.reset();
   lstAssegnati->clear();
-  lblCifre->setText(Qs(TestoLingua(contesto_, "0130132")));
+  lblCifre->setText(Qs(TestoLingua(contesto_, chiave)));
   Veste(*lblCifre, Carattere::Suggerimento, Ruolo::Avviso);
 }
 

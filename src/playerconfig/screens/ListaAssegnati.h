@@ -19,16 +19,20 @@ class ListaAssegnati : public Riquadro {
   QListWidget* lstAssegnati;
   QLabel* lblCifre;
 
-  void Mostra(const ElencoAssegnati& elenco);
+  /// False when these rows stand there already.
+  bool Mostra(const ElencoAssegnati& elenco);
   /// Where the project lacks its table: nothing can be kept.
   void MostraSenzaTabella();
+  /// Where the table is there and can't be read now.
+  void MostraIlleggibile();
   /// Selects the row of the combination that is ticked; none where it has no row.
-  void Evidenzia(std::int64_t codice);
+  void Evidenzia(std::int64_t codice, bool inVista = true);
   void Localizza();
   /// Called for a click on a row, with its code.
   std::function<void(std::int64_t)> SuScelta;
 
  private:
+  void Svuota(const char* chiave);
   void AggiungiRiga(const ParoleAssegnato& parole, const Assegnato& riga);
 
   Contesto& contesto_;

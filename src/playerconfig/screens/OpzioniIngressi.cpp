@@ -8,6 +8,7 @@
 #include <QVariant>
 
 #include "core/Lingua.h"
+#include "core/screens/Form.h"
 #include "core/screens/Icona.h"
 #include "core/screens/LocalizzaForm.h"
 #include "core/screens/Pagina.h"
@@ -104,6 +105,7 @@ void OpzioniIngressi::CostruisciTpcm() {
   lstTPCM->setFixedWidth(46);
   lstTPCM->setAlignment(Qt::AlignRight);
   lstTPCM->installEventFilter(this);
+  lstTPCM->setProperty(kLasciaAlClic, true);
   lstTPCM->setAttribute(Qt::WA_InputMethodEnabled, false);  // digits are typed key by key
   u_dTPCM_su = NewArrow("u_dTPCM_su", "su", choices);
   u_dTPCM_giu = NewArrow("u_dTPCM_giu", "giu", choices);

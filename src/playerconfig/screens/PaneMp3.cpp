@@ -69,16 +69,18 @@ void PaneMp3::Costruisci() {
   // The numeral comes and goes with the button that it leads to.
   numero_ = NumeroDiPasso(3, {}, this);
   cmdOkFileMp3->installEventFilter(this);
-  for (QWidget* each : {static_cast<QWidget*>(cmdOkFileMp3), static_cast<QWidget*>(numero_)}) {
+  lblVuota = NuovaEtichetta("lblVuota", {}, -1, this);
+  Veste(*lblVuota, Carattere::Suggerimento, Ruolo::Attenuato);
+  lblVuota->setWordWrap(true);
+  for (QWidget* each : {static_cast<QWidget*>(cmdOkFileMp3), static_cast<QWidget*>(numero_),
+                        static_cast<QWidget*>(lblVuota)}) {
     QSizePolicy policy = each->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     each->setSizePolicy(policy);
   }
-  lblVuota = NuovaEtichetta("lblVuota", {}, -1, this);
-  Veste(*lblVuota, Carattere::Suggerimento, Ruolo::Attenuato);
-  lblVuota->setWordWrap(true);
-  Corpo()->addWidget(lblVuota);
-  Corpo()->addLayout(Riga({cmdPlayMp3, cmdStopMp3, nullptr, numero_, cmdOkFileMp3}));
+  auto* actions = Riga({cmdPlayMp3, cmdStopMp3, lblVuota, numero_, cmdOkFileMp3});
+  actions->setStretch(2, 1);
+  Corpo()->addLayout(actions);
 }
 
 void PaneMp3::RiempiElencoMp3() {
@@ -111,6 +113,14 @@ void PaneMp3::Scegli(const std::string& nome) {
   if (!index) return;
   cmbFileMp3->setCurrentIndex(static_cast<int>(*index));
   Clic();
+}
+
+void PaneMp3::MostraTogliere(bool toglie) {
+  cmdOkFileMp3->ImpostaScritta(Qs(toglie ? TestoLinguaO(contesto_, "0130251", "Remove file")
+                                         : TestoLinguaO(contesto_, "0040031", "OK")));
+  cmdOkFileMp3->ImpostaIcona(toglie ? "rimuovi" : "fatto");
+  cmdOkFileMp3->ImpostaGenere(toglie ? Coppia::Genere::Pericolo : Coppia::Genere::Normale);
+  cmdOkFileMp3->setToolTip(Qs(TestoLingua(contesto_, toglie ? "0130252" : "0130136")));
 }
 
 bool PaneMp3::eventFilter(QObject* object, QEvent* event) {

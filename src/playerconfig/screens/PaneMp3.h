@@ -34,6 +34,9 @@ class PaneMp3 : public Riquadro {
   std::string Scelto() const;
   /// Sets cmbFileMp3 to " " and then to this file, which stays at " " where the list lacks it.
   void Scegli(const std::string& nome);
+  /// Has cmdOkFileMp3 say that it takes an assignment away, which the blank item does, or that it
+  /// confirms a file.
+  void MostraTogliere(bool toglie);
   void Localizza();
 
   /// Called for every choice of an item, by the user or by code, the same one too.

@@ -79,8 +79,9 @@ void PannelloModo::Accogli(Coppia* pulsante) {
 
 void PannelloModo::Mostra(Contesto& contesto, const CifreProgetto& cifre, bool palinsesto) {
   lblSommario->setText(Qs(ParoleConto(contesto, cifre, palinsesto)));
-  lblMancanti->setText(Qs(ParoleMancanti(contesto, cifre.Mancanti)));
-  lblMancanti->setVisible(cifre.Mancanti > 0);
+  const QString warning = Qs(AvvisoConto(contesto, cifre));
+  lblMancanti->setText(warning);
+  lblMancanti->setVisible(!warning.isEmpty());
 }
 
 }  // namespace kvr5

@@ -53,8 +53,8 @@ RigaScheda::RigaScheda(Contesto& contesto, QWidget* padre) : QWidget(padre), con
   picSpazio = new Barra(this);
   picSpazio->setObjectName(QStringLiteral("picSpazio"));
   picSpazio->setFixedSize(72, 10);
-  lblSpazio = NuovaEtichetta("lblSpazio", {}, -1, this);
-  Veste(*lblSpazio, Carattere::Suggerimento, Ruolo::Attenuato);
+  lblSpazio = new EtichettaAvviso("lblSpazio", {}, Carattere::Riquadro, this);
+  lblSpazio->ImpostaAvviso(false);
   line->addWidget(picSpazio);
   line->addWidget(lblSpazio);
   MostraSpazio();
@@ -100,14 +100,14 @@ void RigaScheda::MostraSpazio() {
   picSpazio->setVisible(shows);
   lblSpazio->setVisible(shows);
   if (!shows) return;
-  const auto free = static_cast<double>(fatti_->Free);
+  // Against the whole card: what it holds of the project already is written anew, not besides.
+  const auto room = static_cast<double>(fatti_->Size);
   const auto needed = static_cast<double>(bisogno_);
-  picSpazio->ImpostaParte(needed >= free ? 1.0 : needed / free);
+  picSpazio->ImpostaParte(needed >= room ? 1.0 : needed / room);
   lblSpazio->setText(Qs(ConValori(TestoLinguaO(contesto_, "0130148", "%1 of %2"),
                                   {QuantitaInParole(bisogno_, contesto_.Luogo),
-                                   QuantitaInParole(fatti_->Free, contesto_.Luogo)})));
-  // It advises: what the card already holds of the project isn't needed a second time.
-  Veste(*lblSpazio, Carattere::Suggerimento, needed > free ? Ruolo::Avviso : Ruolo::Attenuato);
+                                   QuantitaInParole(fatti_->Size, contesto_.Luogo)})));
+  lblSpazio->ImpostaAvviso(needed > room);
   picSpazio->setAccessibleDescription(lblSpazio->text());
 }
 

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "core/Contesto.h"
+#include "core/screens/Avvisi.h"
 #include "core/screens/Barra.h"
 #include "core/screens/Coppia.h"
 #include "platform/Drives.h"
@@ -18,8 +19,8 @@ class RigaScheda : public QWidget {
 
   QLabel* lblPathMemoryCard;
   QLabel* lblStato;
-  Barra* picSpazio;  ///< what the project takes of the room that is free
-  QLabel* lblSpazio;
+  Barra* picSpazio;  ///< what the project takes of the card's room
+  EtichettaAvviso* lblSpazio;
   Coppia* cmdScegli;
 
   /// The path as the form shows it, and what the host tells of the card now.

@@ -11,8 +11,9 @@ namespace kvr5 {
 class ServiziHub {
  public:
   virtual ~ServiziHub() = default;
-  /// Records the open project onto the card; `ingressi` is closed and reopened on the way.
-  virtual void RegistraProgetto(TabellaIngressi& ingressi) = 0;
+  /// Records the open project onto the card; `ingressi` is closed and reopened on the way. True
+  /// when the user cancelled it, which was told.
+  virtual bool RegistraProgetto(TabellaIngressi& ingressi) = 0;
   /// What the host tells of the chosen card now; nothing when it isn't there.
   virtual std::optional<Drive> FattiDellaScheda() = 0;
 };

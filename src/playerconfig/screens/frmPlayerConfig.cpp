@@ -14,6 +14,7 @@
 #include "playerconfig/CartellaMp3.h"
 #include "playerconfig/ModoDelPlayer.h"
 #include "playerconfig/RientroDaScheda.h"
+#include "projects/CartellaProgetto.h"
 #include "projects/Descrittore.h"
 
 namespace kvr5 {
@@ -108,7 +109,9 @@ void frmPlayerConfig::LeggiControlli() {
 
 void frmPlayerConfig::MostraModo() {
   lblTipoPlayer->setText(Qs(C().Stato.PlayerConfigDesc));
-  lblTipoPlayer->setMaximumWidth(kTypeRoom);
+  lblTipoPlayer->setText(
+      lblTipoPlayer->fontMetrics().elidedText(lblTipoPlayer->text(), Qt::ElideRight, kTypeRoom));
+  lblTipoPlayer->setToolTip(Suggerimento(Qs(C().Stato.PlayerConfigDesc)));
   const EtichetteModo mode =
       EtichetteDelModo(C().Stato.PlayerConfigDesc, TestoLingua(C(), "0040047"));
   lblModoPanel->setText(Qs(mode.lblModoPanel));
@@ -123,7 +126,10 @@ void frmPlayerConfig::AllAttivazione() {
   if (!codice_) return;
   const Impegno stays(*this);
   const bool changed = codice_->AbilitaIngressiRs485();
-  AggiornaElenco();  // files come and go while another window is in front
+  if (!lavora_) {
+    AggiornaElenco();  // files come and go while another window is in front
+    CominciaConto();
+  }
   fraIngressiLogici->Mostra(*codice_);
   if (changed) {
     MostraCodice();
@@ -148,9 +154,19 @@ void frmPlayerConfig::MostraCodice() {
 
 void frmPlayerConfig::AggiornaElenco() {
   if (lavora_ && !ingressi_.Aperta()) return;  // closed for the while that it is copied
-  if (!ingressi_.Aperta()) return Assegnazioni->MostraSenzaTabella();
-  Assegnazioni->Mostra(Assegnati(C(), ingressi_.Righe()));
-  Assegnazioni->Evidenzia(codice_->Codice());
+  if (TabellaIngressi::SenzaIngressi(C().Stato.PlayerType, C().Stato.PlayerMode)) {
+    return Assegnazioni->MostraSenzaTabella();
+  }
+  const bool there = FileExists(C().Files, FileDelProgetto(C(), "inputcfg.mdb"));
+  if (!ingressi_.Aperta() && there) ingressi_.Riapri();  // what held it may have let it go
+  if (!ingressi_.Aperta() && !there) return Assegnazioni->MostraSenzaTabella();
+  C().Errore.Clear();
+  const auto rows = ingressi_.Aperta() ? ingressi_.Righe() : std::vector<RigaIngresso>();
+  if (!ingressi_.Aperta() || C().Errore) return Assegnazioni->MostraIlleggibile();
+  // The row of the ticked inputs stays chosen; where the list was scrolled to, it stays.
+  if (Assegnazioni->Mostra(Assegnati(C(), rows))) {
+    Assegnazioni->Evidenzia(codice_->Codice(), false);
+  }
 }
 
 void frmPlayerConfig::SceltoFile() {
@@ -171,9 +187,11 @@ void frmPlayerConfig::ValutaScelta() {
     const PannelloMp3 panel = PulisciInfoMp3();
     fraFileInfo->Mostra({}, {}, {}, {});
     fraFileInfo->MostraAvviso(panel.lblBadFileType, {});
+    fraFileName->MostraTogliere(codice_ && codice_->fraFileAssociatoVisibile());
     fraFileName->cmdOkFileMp3->setVisible(codice_ && codice_->OkPerNessunFile());
     return;
   }
+  fraFileName->MostraTogliere(false);
   if (!FileExists(C().Files, AggiungiBarra(fraFileName->DirDirectoryMp3->Percorso()) + item))
     return;
   fraFileInfo->tmrInfoMp3.stop();
@@ -262,10 +280,12 @@ void frmPlayerConfig::Registra() {
   const Impegno stays(*this);  // a close that is asked for meanwhile comes at the end
   lavora_ = true;
   const bool open = ingressi_.Aperta();
-  servizi_.RegistraProgetto(ingressi_);
+  const bool cancelled = servizi_.RegistraProgetto(ingressi_);
   lavora_ = false;
-  show();
-  setEnabled(true);
+  if (cancelled) {
+    show();
+    setEnabled(true);
+  }
   AggiornaElenco();
   CominciaConto();
   if (std::exchange(mancata_, false) || ingressi_.Aperta() != open) {

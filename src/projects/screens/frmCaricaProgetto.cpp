@@ -80,7 +80,7 @@ void frmCaricaProgetto::CostruisciElenco() {
   auto* header = lstProgetti->horizontalHeader();
   header->setHighlightSections(false);
   header->setSectionResizeMode(ListaProgetti::Nome, QHeaderView::Stretch);
-  header->resizeSection(ListaProgetti::Player, 220);
+  header->resizeSection(ListaProgetti::Player, 290);
   header->resizeSection(ListaProgetti::Modifica, 170);
 }
 
@@ -104,6 +104,13 @@ void frmCaricaProgetto::Collega() {
     open->setAutoRepeat(false);
     connect(open, &QShortcut::activated, this, [this] { ApriScelto(); });
   }
+  const auto goes = [this](Qt::Key key, const std::function<int()>& row) {
+    auto* way = new QShortcut(QKeySequence(key), lstProgetti);
+    way->setContext(Qt::WidgetShortcut);
+    connect(way, &QShortcut::activated, this, [this, row] { lstProgetti->selectRow(row()); });
+  };
+  goes(Qt::Key_Home, [] { return 0; });  // of the list, not of the row
+  goes(Qt::Key_End, [this] { return lista_.rowCount() - 1; });
   SuTasto(Qt::Key_Escape, [this] { picindietro->click(); });
   SuTasto(Qt::Key_F1, [this] { Aiuto(); });
 }
@@ -127,7 +134,7 @@ void frmCaricaProgetto::AlCaricamento() {
   txtCerca->setToolTip(Qs(TestoLingua(C(), "0130112")));
   lstProgetti->setAccessibleName(lblPrjInDefaultDir->text());
   picLoad->setToolTip(Qs(TestoLingua(C(), "0130115")));
-  picLoadFlash->setToolTip(Qs(TestoLingua(C(), "0130114")));
+  picLoadFlash->setToolTip(Qs(TestoLingua(C(), "0130244")));
   picLoadFlash->setEnabled(false);  // reading a card back comes with its own screen
   CartellaScelta.clear();
   C().Messaggi.ImpostaPuntatore(Puntatore::Normale);

@@ -80,6 +80,23 @@ TEST_F(Davanti, OneScreenFollowsTheOtherInItsPlace) {
   EXPECT_LT((next.frameGeometry().center() - middle).manhattanLength(), 40);
 }
 
+TEST_F(Davanti, ScreensThatFollowOneAnotherDoNotWander) {
+  frmMain& form = Apri();
+  form.move(500, 250);
+  QCoreApplication::processEvents();
+  const QPoint middle = form.geometry().center();
+  for (int turn = 0; turn < 10; ++turn) {
+    frmMain other(b.A);
+    form.Nascondi();
+    other.Mostra();
+    ASSERT_TRUE(Pronta(other));
+    other.Nascondi();
+    form.Mostra();
+    ASSERT_TRUE(Pronta(form));
+  }
+  EXPECT_LE((form.geometry().center() - middle).manhattanLength(), 2);
+}
+
 TEST_F(Davanti, NoWindowIsLargerThanTheScreenOrBesideIt) {
   frmMain& form = Apri();
   const QRect room = form.screen()->availableGeometry();

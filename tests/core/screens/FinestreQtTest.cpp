@@ -1,6 +1,7 @@
 #include <QFileDialog>
 
 #include "core/screens/FinestreQt.h"
+#include "core/screens/RiquadroMessaggio.h"
 #include "core/screens/Testo.h"
 #include "support/screens/ProvaForm.h"
 
@@ -21,6 +22,18 @@ TEST_F(Cartelle, AChosenFolderComesInTheSystemsForm) {
     ScegliCartella(chooser, (b.Cartella.Host() / "card").string());
   });
   EXPECT_EQ(b.C.Finestre.SfogliaCartella("Pick one", b.Percorso("")), b.Percorso("card"));
+}
+
+TEST_F(Cartelle, AFolderThatNoPathCanNameIsToldAndNotTaken) {
+  const auto odd = b.Cartella.Host() / "Hall: 2";
+  std::filesystem::create_directory(odd);
+  const Pilota<QFileDialog> pilot(
+      [&odd](QFileDialog& chooser) { ScegliCartella(chooser, odd.string()); });
+  const Pilota<RiquadroMessaggio> told([](RiquadroMessaggio& box) {
+    EXPECT_EQ(box.windowTitle(), "Folder not taken");
+    Clicca(box, "cmdOk");
+  });
+  EXPECT_EQ(b.C.Finestre.SfogliaCartella("Pick one", b.Percorso("")), "");
 }
 
 TEST_F(Cartelle, ACancelGivesTheEmptyText) {

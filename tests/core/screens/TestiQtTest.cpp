@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QTest>
+#include <QThread>
 #include <set>
 
 #include "core/screens/TestiQt.h"
@@ -81,6 +82,40 @@ TEST_F(ToolkitWords, TheMenuOfATextBoxDoesToo) {
   EXPECT_EQ(entries, (std::vector<std::string>{"&Annulla", "&Ripeti", "&Taglia", "&Copia",
                                                "&Incolla", "&Elimina", "&Seleziona tutto"}));
   EXPECT_EQ(HeardAll(), "");
+}
+
+TEST_F(ToolkitWords, AKindOfRowIsNoLabelAndAMistypedFolderIsTold) {
+  EXPECT_EQ(QCoreApplication::translate("QAbstractFileIconProvider", "Folder"), "Cartella");
+  EXPECT_EQ(QCoreApplication::translate("QFileDialog", "Directory:"), "Cartella:");
+  EXPECT_EQ(QCoreApplication::translate("QFileDialog",
+                                        "%1\nDirectory not found.\nPlease verify the correct "
+                                        "directory name was given."),
+            "%1: questa cartella non esiste. Controllarne il nome.");
+}
+
+TEST_F(ToolkitWords, AnotherThreadGetsThemWithoutAReading) {
+  EXPECT_EQ(QCoreApplication::translate("QLineEdit", "&Undo"), "&Annulla");
+  b.Cartella.Write("program/Language/Italiano.lan", "");  // a reading would find nothing
+  QString undo;
+  const std::unique_ptr<QThread> other(
+      QThread::create([&undo] { undo = QCoreApplication::translate("QLineEdit", "&Undo"); }));
+  other->start();
+  ASSERT_TRUE(other->wait());
+  EXPECT_EQ(undo, "&Annulla");
+}
+
+TEST_F(ToolkitWords, FollowTheLanguage) {
+  EXPECT_EQ(QCoreApplication::translate("QLineEdit", "&Undo"), "&Annulla");
+  b.C.Stato.FileLingua = b.Percorso("program/Language/English.lan");
+  EXPECT_EQ(QCoreApplication::translate("QLineEdit", "&Copy"), "&Copy");
+}
+
+TEST_F(ToolkitWords, TheChooserChangesNoFolder) {
+  const Pilota<QFileDialog> pilot([](QFileDialog& chooser) {
+    EXPECT_TRUE(chooser.testOption(QFileDialog::ReadOnly));
+    chooser.reject();
+  });
+  b.C.Finestre.SfogliaCartella("Cartella", b.Percorso(""));
 }
 
 TEST_F(ToolkitWords, WithoutALanguageFileTheToolkitsOwnStand) {

@@ -161,6 +161,16 @@ TEST_F(Configura, ItsButtonSaysWhyItIsOffAndTheOptionsExplainThemselves) {
   EXPECT_FALSE(form.optInternal->accessibleDescription().isEmpty());
 }
 
+TEST_F(Configura, AfterASaveByTheKeyboardTheFocusIsOnTheButtonThatLeaves) {
+  frmConfig& form = Apri();
+  Clicca(form, "optExternal");
+  form.cmdSave->setFocus();
+  Tasto(form, Qt::Key_Return);
+  b.Finestre.Prossimo();  // "Saved"
+  EXPECT_FALSE(form.cmdSave->isEnabled());
+  EXPECT_TRUE(form.cmdExit->hasFocus());
+}
+
 TEST_F(Configura, PastingIntoTheFolderBoxBrowsesToo) {
   frmConfig& form = Apri();
   form.txtProjectDir->setFocus();

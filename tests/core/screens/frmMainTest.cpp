@@ -66,8 +66,8 @@ TEST_F(Menu, OpeningStandsOutOnceThereIsAProjectElseTheNewOne) {
   EXPECT_FALSE(filled(*form.picCaricaDaDisco));
   b.C.Stato.CartellaProgetti = b.Percorso("program/Projects");
   b.Cartella.Write("program/Projects/Hall/Config.cfg", "");
-  QEvent activation(QEvent::WindowActivate);
-  QCoreApplication::sendEvent(&form, &activation);
+  form.Nascondi();
+  form.Mostra();
   EXPECT_FALSE(filled(*form.picNuovoProgetto));
   EXPECT_TRUE(filled(*form.picCaricaDaDisco));
 }

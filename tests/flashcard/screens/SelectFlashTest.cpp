@@ -209,6 +209,7 @@ TEST_F(SelectFlash, ACardThatIsTakenOutWhileTheDialogStandsSaysSoAndStaysChosen)
     EXPECT_TRUE(QTest::qWaitFor(
         [&dialog] { return dialog.lblFatti->text() == "taken out: put it back in"; }));
     EXPECT_EQ(dialog.cmdFlash->currentText(), "E:\\");
+    EXPECT_EQ(dialog.lblContenuto->text(), "") << "not that it holds no project";
     drives.Estratta.clear();
     EXPECT_TRUE(
         QTest::qWaitFor([&dialog] { return dialog.lblFatti->text().startsWith("CARD-E"); }));

@@ -89,9 +89,8 @@ TEST_F(CardLine, AChosenCardIsShownAtOnce) {
   EXPECT_EQ(Testo("lblStatoScheda"), "ready, SHOP, 1.9 GB, 1.4 GB free");
 }
 
-TEST_F(CardLine, TheGaugeSetsWhatTheProjectTakesAgainstTheRoomThatIsFree) {
+TEST_F(CardLine, TheGaugeSetsWhatTheProjectTakesAgainstTheCard) {
   servizi.Scheda = Card();
-  servizi.Scheda->Free = 4000;
   Progetto(4, 1);
   b.ScriviMp3("music/a.mp3", 0, 8);
   const auto bytes = b.Cartella.Read("music/a.mp3").size();
@@ -100,10 +99,22 @@ TEST_F(CardLine, TheGaugeSetsWhatTheProjectTakesAgainstTheRoomThatIsFree) {
   b.C.Stato.PercorsoMemoryCard = "E:\\";
   Apri();
   ASSERT_TRUE(QTest::qWaitFor([this] { return SiVede("picSpazio"); }));
-  const double part = Trova<Barra>("picSpazio").Parte();
-  EXPECT_NEAR(part, std::min(1.0, static_cast<double>(bytes) / 4000.0), 0.001)
+  const auto part = [this] { return Trova<Barra>("picSpazio").Parte(); };
+  EXPECT_NEAR(part(), static_cast<double>(bytes) / 2e9, 1e-9)
       << "a source that two inputs have counts once";
-  EXPECT_FALSE(Testo("lblSpazio").empty());
+  EXPECT_EQ(Testo("lblSpazio"), "3 KB of 1.9 GB");
+  const auto& sign = Trova<QWidget>("lblSpazio");
+  EXPECT_FALSE(sign.autoFillBackground());
+  servizi.Scheda->Free = 0;
+  hub->AggiornaPercorsoMemoryCard();
+  EXPECT_FALSE(sign.autoFillBackground()) << "it may be full of this very project";
+  servizi.Scheda->Size = 2 * bytes;
+  hub->AggiornaPercorsoMemoryCard();
+  EXPECT_NEAR(part(), 0.5, 0.001);
+  servizi.Scheda->Size = bytes - 1;
+  hub->AggiornaPercorsoMemoryCard();
+  EXPECT_EQ(part(), 1.0);
+  EXPECT_TRUE(sign.autoFillBackground()) << "it can't fit: sign, words and fill";
   servizi.Scheda.reset();
   hub->AggiornaPercorsoMemoryCard();
   EXPECT_FALSE(SiVede("picSpazio")) << "without a card there is no room";

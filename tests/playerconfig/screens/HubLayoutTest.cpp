@@ -157,6 +157,14 @@ TEST_F(HubLayout, MoreLeadsToWhatAHiddenButtonWouldAndToTheFolder) {
   EXPECT_EQ(b.Documenti.Aperti, std::vector{b.C.Stato.CartellaProgetto});
 }
 
+TEST_F(HubLayout, MoreLeadsToPlaylistsWhoseButtonIsHidden) {
+  Progetto(4, 1);
+  b.Cartella.Write("program/Projects/Hall/playlist.mdb", "");
+  Apri();
+  ASSERT_FALSE(SiVede("picPlaylist"));
+  EXPECT_EQ(hub->Barra->menuAltro.actions().front()->text(), "Playlists…");
+}
+
 TEST_F(HubLayout, AModelWithoutADatabaseSaysThatNothingCanBeKept) {
   Progetto(2, 0, 3);
   Apri();

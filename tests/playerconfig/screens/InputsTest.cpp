@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -6,6 +7,7 @@
 #include <QScrollBar>
 #include <QTest>
 
+#include "platform/db/Connection.h"
 #include "playerconfig/screens/BancoHub.h"
 
 // Ticking inputs, and giving their combination a file.
@@ -101,6 +103,19 @@ TEST_F(Inputs, TheBlankLineTakesTheAssignmentAway) {
   EXPECT_EQ(Righe(), 1) << "the others stay";
   EXPECT_FALSE(SiVede("fraFileAssociato"));
   EXPECT_EQ(Trova<QListWidget>("lstAssegnati").count(), 1);
+}
+
+TEST_F(Inputs, WhereTheButtonWouldTakeAnAssignmentAwayItSaysSo) {
+  b.AggiungiRiga("inputcfg.mdb", 1, 1, "elsewhere.mp3", "C:\\far\\away\\", "1.mp3");
+  Apri(0);
+  Spunta(1);
+  EXPECT_EQ(Testo("lblOkFileMp3"), "Remove file") << "the folder shown lacks its file";
+  ScegliFile("a.mp3");
+  EXPECT_EQ(Testo("lblOkFileMp3"), "Confirm");
+  ScegliFile(" ");
+  EXPECT_EQ(Testo("lblOkFileMp3"), "Remove file");
+  Spunta(2);
+  EXPECT_EQ(Testo("lblOkFileMp3"), "Confirm") << "a free combination";
 }
 
 TEST_F(Inputs, TheBlankLineOfAFreeCombinationChangesNothing) {
@@ -207,19 +222,56 @@ TEST_F(Inputs, TheListSeesWhatBecameOfItsFilesWhileAnotherWindowWasInFront) {
   EXPECT_EQ(Testo("lblCifre"), "1 file, 1 missing");
 }
 
+TEST_F(Inputs, ATableThatIsLockedIsNoEmptyOneAndComesBack) {
+  b.AggiungiRiga("inputcfg.mdb", 1, 5, "a.mp3", Music(), "5.mp3");
+  Connection other(b.Disco);
+  ASSERT_FALSE(other.Open(b.Percorso("program/Projects/Hall/inputcfg.mdb")));
+  ASSERT_EQ(sqlite3_exec(other.Handle(), "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
+  Apri(1);
+  EXPECT_TRUE(Testo("lblCifre").starts_with("The assignments can't be read now"))
+      << Testo("lblCifre");
+  other.Close();
+  QEvent activation(QEvent::WindowActivate);
+  QCoreApplication::sendEvent(hub, &activation);
+  EXPECT_EQ(Trova<QListWidget>("lstAssegnati").count(), 1);
+  EXPECT_EQ(Testo("lblCifre"), "1 file");
+}
+
+TEST_F(Inputs, TheLinksMarksComeAndGoWithAnActivation) {
+  b.AggiungiRiga("inputcfg.mdb", 1, 17, "a.mp3", Music(), "17.mp3");
+  Apri(1);
+  const auto row = [this] { return Trova<QListWidget>("lstAssegnati").item(0)->text(); };
+  EXPECT_EQ(row(), "17   IN1+IN5   a.mp3");
+  for (const bool link : {true, false}) {
+    b.C.Stato.Usa485 = link;
+    QEvent activation(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(hub, &activation);
+    EXPECT_EQ(row().endsWith(QLatin1String("in use by the RS-485 link")), link);
+  }
+}
+
 TEST_F(Inputs, ALongListStaysWhereItWasScrolledTo) {
   for (int code = 1; code <= 255; ++code) {
     b.AggiungiRiga("inputcfg.mdb", 1, code, "a.mp3", Music(), std::to_string(code) + ".mp3");
   }
   Apri(1);
   auto& list = Trova<QListWidget>("lstAssegnati");
-  list.verticalScrollBar()->setValue(list.verticalScrollBar()->maximum() / 2);
-  const int before = list.verticalScrollBar()->value();
-  ASSERT_GT(before, 0);
-  b.ScriviMp3("music/a.mp3");
-  QEvent activation(QEvent::WindowActivate);
-  QCoreApplication::sendEvent(hub, &activation);
-  EXPECT_EQ(list.verticalScrollBar()->value(), before);
+  for (const bool ticked : {false, true}) {
+    if (ticked) Spunta(1);
+    list.verticalScrollBar()->setValue(list.verticalScrollBar()->maximum() / 2);
+    const int before = list.verticalScrollBar()->value();
+    ASSERT_GT(before, 0);
+    const QString row = list.item(150)->text();
+    if (ticked) {
+      b.ScriviMp3("music/a.mp3");
+    } else {
+      std::filesystem::remove(b.Cartella.Host() / "music/a.mp3");
+    }
+    QEvent activation(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(hub, &activation);
+    EXPECT_NE(list.item(150)->text(), row) << "it was filled anew";
+    EXPECT_EQ(list.verticalScrollBar()->value(), before) << ticked;
+  }
 }
 
 TEST_F(Inputs, AnAssignmentWhoseFileIsGoneIsMarked) {

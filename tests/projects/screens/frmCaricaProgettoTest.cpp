@@ -125,6 +125,17 @@ TEST_F(ElencoDeiProgetti, EnterInTheListOpensTheSelectedOnce) {
   EXPECT_EQ(b.Schermi.Aperture.size(), 1U);
 }
 
+TEST_F(ElencoDeiProgetti, HomeAndEndLeadToTheFirstRowAndTheLast) {
+  Progetti({"Bar", "museum", "Zoo"});
+  frmCaricaProgetto& form = DalMenu();
+  Tasto(form, Qt::Key_End);
+  EXPECT_EQ(Scelto(), "Zoo");
+  Tasto(form, Qt::Key_Up);
+  EXPECT_EQ(Scelto(), "museum");
+  Tasto(form, Qt::Key_Home);
+  EXPECT_EQ(Scelto(), "Bar");
+}
+
 TEST_F(ElencoDeiProgetti, AnyOtherFolderIsOpenedWhereItLies) {
   Progetto("elsewhere/p");
   DalMenu();

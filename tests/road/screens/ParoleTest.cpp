@@ -85,15 +85,15 @@ Keys WaitingKeys() {
       "0040030", "0040034", "0040050",                        // its outcome
       "0040033",                                              // the report
       "0070003", "0070006", "0070010",                        // saving
-      "0080006", "0080007", "0080008", "0080009", "0080011",  // reading a card back
-      "0110022",                                              // the serial link
-      "0130134", "0130154",                                   // finding missing files
-      "0130135",                                              // listening to an input's file
-      "0130146", "0130147", "0130158",                        // ejecting the card
-      "0130153",                                              // verifying the card
-      "0130155",                                              // giving copies their names back
-      "0130196",                                              // what a recording leaves there
-      "9011017", "9011018",                                   // listening
+      "0080006", "0080007", "0080008", "0080009", "0080011", "0130114",  // reading a card back
+      "0110022",                                                         // the serial link
+      "0130134", "0130154",                                              // finding missing files
+      "0130135",                        // listening to an input's file
+      "0130146", "0130147", "0130158",  // ejecting the card
+      "0130153",                        // verifying the card
+      "0130155",                        // giving copies their names back
+      "0130196",                        // what a recording leaves there
+      "9011017", "9011018",             // listening
   };
 }
 
