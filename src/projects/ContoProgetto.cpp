@@ -5,10 +5,31 @@
 
 #include "core/Aiuti.h"
 #include "platform/Fold.h"
+#include "projects/CartellaProgetto.h"
 
 namespace kvr5 {
 
-void ContoProgetto::Comincia() {
+ContoProgetto::Firma ContoProgetto::FirmaOra() const {
+  Firma now;
+  for (const char* name : {"inputcfg.mdb", "playlist.mdb", "scheduler.mdb"}) {
+    const auto file = contesto_.Files.Info(FileDelProgetto(contesto_, name));
+    now.emplace_back(file ? file.Value().Size : 0, file ? file.Value().Modified : 0);
+  }
+  return now;
+}
+
+void ContoProgetto::Comincia(bool daCapo) {
+  Firma now = FirmaOra();
+  if (daCapo || letta_ != now || !cifre_.Illeggibile.empty()) LeggiRighe();
+  letta_ = std::move(now);
+  cifre_.Mancanti = 0;
+  cifre_.Byte = 0;
+  prossima_ = 0;
+  visti_.clear();
+  cifre_.Completo = righe_.empty();
+}
+
+void ContoProgetto::LeggiRighe() {
   SommarioProgetto rows = LeggiRigheProgetto(contesto_);
   cifre_ = {};
   cifre_.Ingressi = rows.Ingressi.size();
@@ -16,7 +37,7 @@ void ContoProgetto::Comincia() {
   cifre_.Segmenti = rows.Segmenti;
   cifre_.Spot = rows.Spot.size();
   if (!rows.Guasti.empty()) {
-    const std::string& fault = rows.Guasti.front();
+    const std::string& fault = rows.Guasti.back();  // the lists, before inputs that none may use
     cifre_.Illeggibile = fault.substr(0, fault.find(':'));
   }
   std::set<std::int64_t> lists;
@@ -26,9 +47,6 @@ void ContoProgetto::Comincia() {
   for (auto* list : {&rows.Brani, &rows.Spot}) {
     std::move(list->begin(), list->end(), std::back_inserter(righe_));
   }
-  prossima_ = 0;
-  visti_.clear();
-  cifre_.Completo = righe_.empty();
 }
 
 bool ContoProgetto::Passo(std::size_t righe) {

@@ -2,8 +2,10 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <unordered_set>
+#include <utility>
 #include <vector>
 
 #include "projects/SommarioProgetto.h"
@@ -30,18 +32,23 @@ class ContoProgetto {
  public:
   explicit ContoProgetto(Contesto& contesto) : contesto_(contesto) {}
 
-  /// Begins anew: reads the rows of the databases, looks for no file.
-  void Comincia();
+  /// Begins anew: reads the rows of the databases, looks for no file. Not `daCapo`: databases whose
+  /// size and date are those of the last count aren't read again.
+  void Comincia(bool daCapo = true);
   /// Looks for the files of this many rows more; false once all have been looked for.
   bool Passo(std::size_t righe);
   const CifreProgetto& Cifre() const { return cifre_; }
 
  private:
+  using Firma = std::vector<std::pair<std::uint64_t, std::int64_t>>;
+  Firma FirmaOra() const;
+  void LeggiRighe();
   void Guarda(const RigaProgetto& riga);
 
   Contesto& contesto_;
   CifreProgetto cifre_;
   std::vector<RigaProgetto> righe_;
+  std::optional<Firma> letta_;  ///< of the databases that righe_ come from
   std::size_t prossima_ = 0;
   std::unordered_set<std::string> visti_;
 };

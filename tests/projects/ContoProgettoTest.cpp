@@ -57,6 +57,23 @@ TEST_F(Conto, BeginsAnewWithWhatIsThereNow) {
   EXPECT_EQ(count.Cifre().Mancanti, 0U);
 }
 
+TEST_F(Conto, RowsThatStayedAreNotReadAgainTheirFilesAre) {
+  b.CreaProgetto("Shop", 4, 5);
+  Track(1, 1, "gone.mp3");
+  ContoProgetto count(b.C);
+  count.Comincia();
+  EXPECT_FALSE(count.Passo(10));
+  EXPECT_EQ(count.Cifre().Mancanti, 1U);
+  b.ScriviMp3("music/gone.mp3");
+  count.Comincia(false);
+  EXPECT_EQ(count.Cifre().Brani, 1U);
+  EXPECT_FALSE(count.Passo(10));
+  EXPECT_EQ(count.Cifre().Mancanti, 0U);
+  std::filesystem::remove(b.Cartella.Host() / "program/Projects/Shop/playlist.mdb");
+  count.Comincia(false);
+  EXPECT_EQ(count.Cifre().Brani, 0U) << "it has changed";
+}
+
 TEST_F(Conto, AnEmptyProjectIsCountedAtOnce) {
   b.CreaProgetto("Hall", 4, 1);
   ContoProgetto count(b.C);

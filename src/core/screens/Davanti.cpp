@@ -61,7 +61,8 @@ QWidget* FinestraSotto() {
 
 void CentraSu(QWidget& finestra, const QWidget* sotto) {
   const QRect room = RoomFor(finestra, sotto);
-  const QMargins frame = sotto != nullptr ? FrameOf(*sotto) : LastPlace().Frame;
+  QMargins frame = sotto != nullptr ? FrameOf(*sotto) : LastPlace().Frame;
+  if (finestra.windowFlags().testFlag(Qt::FramelessWindowHint)) frame = {};
   if (!finestra.testAttribute(Qt::WA_Resized)) finestra.adjustSize();
   finestra.resize(finestra.size().boundedTo(room.marginsRemoved(frame).size()));
   // Middle over middle of what is shown: with the frames counted in, windows would wander.

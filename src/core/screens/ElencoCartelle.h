@@ -23,6 +23,9 @@ class ElencoCartelle : public QListWidget {
   /// Called after each change of folder.
   std::function<void()> SuCambio;
 
+  /// Asks for little and takes what room there is: a screen fits its window before it scrolls.
+  QSize sizeHint() const override { return {200, minimumHeight()}; }
+
  protected:
   void keyPressEvent(QKeyEvent* event) override;
 

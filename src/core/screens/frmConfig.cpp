@@ -149,7 +149,7 @@ void frmConfig::MostraCartella() {
 void frmConfig::MostraModificato() {
   const bool changed = modello_.Modificato();
   // What is off has no keyboard; it goes to the button that leaves, not on to the help.
-  if (cmdSave->hasFocus() && !changed) cmdExit->setFocus();
+  if (focusWidget() == cmdSave && !changed) cmdExit->setFocus();
   cmdSave->setEnabled(changed);
   lblSave->setVisible(changed);
   cmdSave->setToolTip(Qs(TestoLingua(C(), changed ? "0130193" : "0130194")));

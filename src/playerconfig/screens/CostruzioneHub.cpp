@@ -47,7 +47,8 @@ void frmPlayerConfig::Costruisci() {
 QLayout* frmPlayerConfig::CostruisciTestata() {
   auto* head = new QVBoxLayout();
   head->setSpacing(2);
-  lblTipoPlayer = NuovaEtichetta("lblTipoPlayer", QStringLiteral("Player"), -1, this);
+  lblTipoPlayer = new EtichettaElisa("lblTipoPlayer", this);
+  lblTipoPlayer->setText(QStringLiteral("Player"));
   Veste(*lblTipoPlayer, Carattere::Corpo, Ruolo::Attenuato);
   lblProgetto = new EtichettaElisa("lblProgetto", this, Qt::ElideMiddle);
   Veste(*lblProgetto, Carattere::Progetto);
@@ -178,6 +179,10 @@ void frmPlayerConfig::Collega() {
   };
   connect(&conta_, &QTimer::timeout, this, [this] { Conta(); });
   connect(&guardia_, &QTimer::timeout, this, [this] {
+    if (illeggibile_ && !lavora_) {
+      const Impegno stays(*this);
+      AggiornaElenco();
+    }
     if (!C().Stato.PercorsoMemoryCard.empty()) Scheda->MostraStato(servizi_.FattiDellaScheda());
   });
 }

@@ -15,11 +15,19 @@ namespace {
 
 constexpr int kSign = 16;
 
+/// A list that takes what room there is and asks for little: the hub fits its window before it
+/// scrolls.
+class Elenco : public QListWidget {
+ public:
+  using QListWidget::QListWidget;
+  QSize sizeHint() const override { return {200, minimumHeight()}; }
+};
+
 }  // namespace
 
 ListaAssegnati::ListaAssegnati(Contesto& contesto, QWidget* padre)
     : Riquadro("fraAssegnati", QStringLiteral("Assignments"), -1, padre), contesto_(contesto) {
-  lstAssegnati = new QListWidget(this);
+  lstAssegnati = new Elenco(this);
   lstAssegnati->setObjectName(QStringLiteral("lstAssegnati"));
   lstAssegnati->setIconSize({kSign, kSign});
   QPixmap blank(kSign, kSign);
@@ -77,13 +85,13 @@ bool ListaAssegnati::Mostra(const ElencoAssegnati& elenco) {
 }
 
 void ListaAssegnati::Evidenzia(std::int64_t codice, bool inVista) {
-  lstAssegnati->setAutoScroll(inVista);
-  for (int row = 0; row < lstAssegnati->count(); ++row) {
-    if (lstAssegnati->item(row)->data(Qt::UserRole).toLongLong() != codice) continue;
-    lstAssegnati->setCurrentRow(row);
-    return;
+  int found = -1;
+  for (int row = 0; row < lstAssegnati->count() && found < 0; ++row) {
+    if (lstAssegnati->item(row)->data(Qt::UserRole).toLongLong() == codice) found = row;
   }
-  lstAssegnati->setCurrentRow(-1);
+  lstAssegnati->setAutoScroll(inVista);
+  lstAssegnati->setCurrentRow(found);
+  lstAssegnati->setAutoScroll(true);  // the arrow keys bring their row into view
 }
 
 void ListaAssegnati::MostraSenzaTabella() {

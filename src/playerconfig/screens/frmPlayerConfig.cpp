@@ -1,5 +1,6 @@
 #include "playerconfig/screens/frmPlayerConfig.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "core/Aiuti.h"
@@ -109,9 +110,8 @@ void frmPlayerConfig::LeggiControlli() {
 
 void frmPlayerConfig::MostraModo() {
   lblTipoPlayer->setText(Qs(C().Stato.PlayerConfigDesc));
-  lblTipoPlayer->setText(
-      lblTipoPlayer->fontMetrics().elidedText(lblTipoPlayer->text(), Qt::ElideRight, kTypeRoom));
-  lblTipoPlayer->setToolTip(Suggerimento(Qs(C().Stato.PlayerConfigDesc)));
+  const int words = lblTipoPlayer->fontMetrics().horizontalAdvance(lblTipoPlayer->text()) + 2;
+  lblTipoPlayer->setMinimumWidth(std::min(words, kTypeRoom));
   const EtichetteModo mode =
       EtichetteDelModo(C().Stato.PlayerConfigDesc, TestoLingua(C(), "0040047"));
   lblModoPanel->setText(Qs(mode.lblModoPanel));
@@ -128,7 +128,7 @@ void frmPlayerConfig::AllAttivazione() {
   const bool changed = codice_->AbilitaIngressiRs485();
   if (!lavora_) {
     AggiornaElenco();  // files come and go while another window is in front
-    CominciaConto();
+    CominciaConto(false);
   }
   fraIngressiLogici->Mostra(*codice_);
   if (changed) {
@@ -139,9 +139,22 @@ void frmPlayerConfig::AllAttivazione() {
 
 void frmPlayerConfig::Spunta(int ingresso, bool spuntato) {
   const Impegno stays(*this);
+  C().Errore.Clear();
   codice_->Spunta(ingresso, spuntato);
+  if (C().Errore) NonSiLegge();
   MostraCodice();
   SceltoFile();
+}
+
+void frmPlayerConfig::RivediCodice() {
+  codice_->AggiornaIngressoSelezionato();
+  MostraCodice();
+  SceltoFile();
+}
+
+void frmPlayerConfig::NonSiLegge() {
+  illeggibile_ = true;  // the watch tries again
+  Assegnazioni->MostraIlleggibile();
 }
 
 void frmPlayerConfig::MostraCodice() {
@@ -152,7 +165,7 @@ void frmPlayerConfig::MostraCodice() {
   if (const auto& file = codice_->DaScegliere()) fraFileName->Scegli(*file);
 }
 
-void frmPlayerConfig::AggiornaElenco() {
+void frmPlayerConfig::AggiornaElenco(bool inVista) {
   if (lavora_ && !ingressi_.Aperta()) return;  // closed for the while that it is copied
   if (TabellaIngressi::SenzaIngressi(C().Stato.PlayerType, C().Stato.PlayerMode)) {
     return Assegnazioni->MostraSenzaTabella();
@@ -162,11 +175,12 @@ void frmPlayerConfig::AggiornaElenco() {
   if (!ingressi_.Aperta() && !there) return Assegnazioni->MostraSenzaTabella();
   C().Errore.Clear();
   const auto rows = ingressi_.Aperta() ? ingressi_.Righe() : std::vector<RigaIngresso>();
-  if (!ingressi_.Aperta() || C().Errore) return Assegnazioni->MostraIlleggibile();
-  // The row of the ticked inputs stays chosen; where the list was scrolled to, it stays.
+  if (!ingressi_.Aperta() || C().Errore) return NonSiLegge();
   if (Assegnazioni->Mostra(Assegnati(C(), rows))) {
-    Assegnazioni->Evidenzia(codice_->Codice(), false);
+    Assegnazioni->Evidenzia(codice_->Codice(), inVista);
   }
+  // What was ticked while nothing could be read has a file after all, or none.
+  if (std::exchange(illeggibile_, false)) RivediCodice();
 }
 
 void frmPlayerConfig::SceltoFile() {
@@ -225,14 +239,28 @@ void frmPlayerConfig::MostraInfoMp3() {
 
 void frmPlayerConfig::ConfermaFile() {
   const Impegno stays(*this);
-  codice_->Conferma(fraFileName->Scelto(), fraFileName->DirDirectoryMp3->Percorso());
+  const std::string item = fraFileName->Scelto();
+  const bool blank = Rifila(item).empty();
+  if (blank && !codice_->fraFileAssociatoVisibile()) {
+    // Nothing is taken away that wasn't shown: a table that could be read again shows it first.
+    codice_->AggiornaIngressoSelezionato();
+    if (codice_->fraFileAssociatoVisibile()) {
+      MostraCodice();
+      return SceltoFile();
+    }
+  }
+  C().Errore.Clear();
+  codice_->Conferma(item, fraFileName->DirDirectoryMp3->Percorso());
+  illeggibile_ = illeggibile_ || (C().Errore && !lavora_);
   MostraCodice();
-  AggiornaElenco();
+  fraFileName->MostraTogliere(blank && codice_->fraFileAssociatoVisibile());
+  AggiornaElenco(true);
   CominciaConto();
 }
 
-void frmPlayerConfig::CominciaConto() {
+void frmPlayerConfig::CominciaConto(bool daCapo) {
   // At the next free moment: the window is there first.
+  daCapo_ = daCapo_ || daCapo;
   contoIniziato_ = false;
   conta_.start();
 }
@@ -240,13 +268,17 @@ void frmPlayerConfig::CominciaConto() {
 void frmPlayerConfig::Conta() {
   if (lavora_) return conta_.stop();  // the disk is the recording's; its end counts anew
   if (!contoIniziato_) {
-    conto_.Comincia();
+    conto_.Comincia(std::exchange(daCapo_, false));
     contoIniziato_ = true;
   } else if (!conto_.Passo(kRowsAtOnce)) {
     conta_.stop();
   }
   const CifreProgetto& figures = conto_.Cifre();
-  Pannello->Mostra(C(), figures, layout_.picPalinsesto);
+  // The old figures stand until the new ones are whole; at first those of the rows will do.
+  if (figures.Completo || !contoMostrato_) {
+    Pannello->Mostra(C(), figures, layout_.picPalinsesto);
+    contoMostrato_ = true;
+  }
   if (figures.Completo) Scheda->ImpostaBisogno(figures.Byte);
 }
 

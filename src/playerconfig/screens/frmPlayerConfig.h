@@ -73,7 +73,10 @@ class frmPlayerConfig : public Form {
   void MostraModo();
   void Spunta(int ingresso, bool spuntato);
   void MostraCodice();
-  void AggiornaElenco();
+  /// Shows the table as it is now; `inVista` brings the ticked inputs' row into view.
+  void AggiornaElenco(bool inVista = false);
+  void RivediCodice();
+  void NonSiLegge();
   void SceltoFile();
   void ValutaScelta();
   void MostraInfoMp3();
@@ -81,7 +84,9 @@ class frmPlayerConfig : public Form {
   void SfogliaMp3();
   void Registra();
   void AggiornaNonSalvato();
-  void CominciaConto();
+  /// Counts the project at the next free moment; not `daCapo`: rows that haven't changed since the
+  /// last count aren't read again.
+  void CominciaConto(bool daCapo = true);
   void Conta();
   void DisabilitaFuturi();
   void RiempiAltro();
@@ -98,9 +103,12 @@ class frmPlayerConfig : public Form {
   QTimer guardia_;                     ///< looks at the card
   ContoProgetto conto_;
   bool contoIniziato_ = false;
-  QTimer conta_;          ///< counts a little whenever nothing else is to be done
-  bool lavora_ = false;   ///< a recording is under way
-  bool mancata_ = false;  ///< the table was asked for while a recording had it closed
+  bool contoMostrato_ = false;
+  bool daCapo_ = true;
+  bool illeggibile_ = false;  ///< the table was there and couldn't be read
+  QTimer conta_;              ///< counts a little whenever nothing else is to be done
+  bool lavora_ = false;       ///< a recording is under way
+  bool mancata_ = false;      ///< the table was asked for while a recording had it closed
   bool finePrograma_ = false;
 };
 

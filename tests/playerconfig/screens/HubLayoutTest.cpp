@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <sstream>
 
@@ -171,6 +173,23 @@ TEST_F(HubLayout, AModelWithoutADatabaseSaysThatNothingCanBeKept) {
   EXPECT_TRUE(SiVede("fraIngressiLogici"));
   EXPECT_EQ(Testo("lblCifre"),
             "This project lacks its database of inputs: assignments can't be kept.");
+}
+
+TEST_F(HubLayout, FitsTheWindowItComesUpInWithoutScrolling) {
+  struct Kind {
+    std::int16_t Type, Mode, Config;
+  };
+  for (const Kind& kind : {Kind{1, 0, 0}, Kind{2, 0, 0}, Kind{2, 0, 3}, Kind{3, 1, 0},
+                           Kind{3, 2, 0}, Kind{4, 1, 0}, Kind{4, 2, 0}, Kind{4, 5, 0}}) {
+    Progetto(kind.Type, kind.Mode, kind.Config);
+    Apri();
+    QCoreApplication::processEvents();
+    const auto* middle = hub->findChild<QScrollArea*>();
+    EXPECT_EQ(middle->verticalScrollBar()->maximum(), 0) << kind.Type << " " << kind.Mode;
+    EXPECT_EQ(middle->horizontalScrollBar()->maximum(), 0) << kind.Type << " " << kind.Mode;
+    Chiudi();
+    std::filesystem::remove_all(b.Cartella.Host() / "program/Projects/Hall");
+  }
 }
 
 TEST_F(HubLayout, WithTheExternalPlayerThereIsNothingToStop) {

@@ -228,6 +228,9 @@ TEST_F(Inputs, ATableThatIsLockedIsNoEmptyOneAndComesBack) {
   ASSERT_FALSE(other.Open(b.Percorso("program/Projects/Hall/inputcfg.mdb")));
   ASSERT_EQ(sqlite3_exec(other.Handle(), "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
   Apri(1);
+  Spunta(1);
+  Spunta(3);
+  EXPECT_FALSE(SiVede("fraFileAssociato"));
   EXPECT_TRUE(Testo("lblCifre").starts_with("The assignments can't be read now"))
       << Testo("lblCifre");
   other.Close();
@@ -235,6 +238,42 @@ TEST_F(Inputs, ATableThatIsLockedIsNoEmptyOneAndComesBack) {
   QCoreApplication::sendEvent(hub, &activation);
   EXPECT_EQ(Trova<QListWidget>("lstAssegnati").count(), 1);
   EXPECT_EQ(Testo("lblCifre"), "1 file");
+  EXPECT_EQ(Testo("lblFileAssociato"), "Plays: a.mp3") << "of what was ticked meanwhile";
+}
+
+TEST_F(Inputs, NothingIsTakenAwayThatCouldNotBeSeen) {
+  b.AggiungiRiga("inputcfg.mdb", 1, 1, "elsewhere.mp3", "C:\\far\\", "1.mp3");
+  Connection other(b.Disco);
+  ASSERT_FALSE(other.Open(b.Percorso("program/Projects/Hall/inputcfg.mdb")));
+  ASSERT_EQ(sqlite3_exec(other.Handle(), "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
+  Apri(0);
+  Spunta(1);
+  other.Close();
+  ScegliFile(" ");
+  Clic("cmdOkFileMp3");
+  EXPECT_NE(Riga(1), "") << "the first press shows it";
+  EXPECT_EQ(Testo("lblFileAssociato"), "Plays: elsewhere.mp3");
+  EXPECT_EQ(Testo("lblOkFileMp3"), "Remove file");
+  Clic("cmdOkFileMp3");
+  EXPECT_EQ(Riga(1), "");
+  EXPECT_EQ(Testo("lblOkFileMp3"), "Confirm") << "nothing is left to remove";
+}
+
+TEST_F(Inputs, TheArrowKeysBringTheirRowIntoViewAndAConfirmedOneIsSeen) {
+  for (int code = 1; code <= 200; ++code) {
+    b.AggiungiRiga("inputcfg.mdb", 1, code, "a.mp3", Music(), std::to_string(code) + ".mp3");
+  }
+  Apri(0);
+  auto& list = Trova<QListWidget>("lstAssegnati");
+  list.setFocus();
+  QTest::keyClick(&list, Qt::Key_End);
+  EXPECT_TRUE(list.viewport()->rect().intersects(list.visualItemRect(list.item(199))));
+  for (const int input : {1, 2, 3, 4, 5, 6, 7, 8}) Spunta(input);
+  list.verticalScrollBar()->setValue(0);
+  ScegliFile("b.mp3");
+  Conferma();
+  ASSERT_EQ(list.count(), 201);
+  EXPECT_TRUE(list.viewport()->rect().intersects(list.visualItemRect(list.item(200))));
 }
 
 TEST_F(Inputs, TheLinksMarksComeAndGoWithAnActivation) {
