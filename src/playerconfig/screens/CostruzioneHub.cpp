@@ -47,8 +47,7 @@ void frmPlayerConfig::Costruisci() {
 QLayout* frmPlayerConfig::CostruisciTestata() {
   auto* head = new QVBoxLayout();
   head->setSpacing(2);
-  lblTipoPlayer = new EtichettaElisa("lblTipoPlayer", this);
-  lblTipoPlayer->setText(QStringLiteral("Player"));
+  lblTipoPlayer = NuovaEtichetta("lblTipoPlayer", QStringLiteral("Player"), -1, this);
   Veste(*lblTipoPlayer, Carattere::Corpo, Ruolo::Attenuato);
   lblProgetto = new EtichettaElisa("lblProgetto", this, Qt::ElideMiddle);
   Veste(*lblProgetto, Carattere::Progetto);

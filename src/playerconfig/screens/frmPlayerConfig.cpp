@@ -109,9 +109,10 @@ void frmPlayerConfig::LeggiControlli() {
 }
 
 void frmPlayerConfig::MostraModo() {
-  lblTipoPlayer->setText(Qs(C().Stato.PlayerConfigDesc));
-  const int words = lblTipoPlayer->fontMetrics().horizontalAdvance(lblTipoPlayer->text()) + 2;
-  lblTipoPlayer->setMinimumWidth(std::min(words, kTypeRoom));
+  const QString type = Qs(C().Stato.PlayerConfigDesc);
+  lblTipoPlayer->setText(lblTipoPlayer->fontMetrics().elidedText(type, Qt::ElideRight, kTypeRoom));
+  lblTipoPlayer->setToolTip(Suggerimento(type));
+  lblTipoPlayer->setAccessibleName(type);
   const EtichetteModo mode =
       EtichetteDelModo(C().Stato.PlayerConfigDesc, TestoLingua(C(), "0040047"));
   lblModoPanel->setText(Qs(mode.lblModoPanel));
