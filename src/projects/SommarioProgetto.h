@@ -40,8 +40,8 @@ SommarioProgetto LeggiSommario(Contesto& contesto);
 /// Reads the rows alone: no file is looked for, none is missing.
 SommarioProgetto LeggiRigheProgetto(Contesto& contesto);
 
-/// The bytes of a row's source, else of its alias copy in the project; nothing where neither
-/// exists: the file is missing.
+/// The bytes of a row's source, else of its alias copy in the project, 0 for a pattern that
+/// matches; nothing where neither exists: the file is missing.
 std::optional<std::uint64_t> GrandezzaFile(const Contesto& contesto, const RigaProgetto& riga);
 
 }  // namespace kvr5

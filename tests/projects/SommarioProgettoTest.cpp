@@ -40,6 +40,19 @@ TEST(SommarioProgetto, ARowWithItsAliasCopyInTheProjectIsNotMissing) {
   EXPECT_TRUE(summary.FileMancanti().empty());
 }
 
+TEST(SommarioProgetto, APatternThatMatchesIsNotMissingAndHasNoBytesOfItsOwn) {
+  Banco b;
+  b.CreaProgetto("P", 4, 5);
+  b.ScriviMp3("music/a.mp3");
+  b.AggiungiRiga("playlist.mdb", 1, 1, "*.mp3", b.Percorso("music") + "\\", "");
+  b.AggiungiRiga("playlist.mdb", 1, 2, "*.wav", b.Percorso("music") + "\\", "");
+  const auto summary = LeggiSommario(b.C);
+  ASSERT_EQ(summary.Brani.size(), 2U);
+  EXPECT_FALSE(summary.Brani[0].Mancante);
+  EXPECT_EQ(GrandezzaFile(b.C, summary.Brani[0]), 0U);
+  EXPECT_TRUE(summary.Brani[1].Mancante);
+}
+
 TEST(SommarioProgetto, ADatabaseThatCannotBeReadCountsAsEmpty) {
   Banco b;
   b.CreaProgetto("P", 4, 5);

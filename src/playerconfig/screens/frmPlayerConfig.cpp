@@ -321,11 +321,7 @@ void frmPlayerConfig::Registra() {
   }
   AggiornaElenco();
   CominciaConto();
-  if (std::exchange(mancata_, false) || ingressi_.Aperta() != open) {
-    codice_->AggiornaIngressoSelezionato();
-    MostraCodice();
-    SceltoFile();
-  }
+  if (std::exchange(mancata_, false) || ingressi_.Aperta() != open) RivediCodice();
   Scheda->MostraStato(servizi_.FattiDellaScheda());
 }
 
