@@ -1,13 +1,37 @@
 #include "core/screens/Form.h"
 
 #include <QCloseEvent>
+#include <QLineEdit>
 #include <QShortcut>
+#include <QWindow>
 #include <utility>
 
 #include "core/Aiuto.h"
 #include "core/screens/Davanti.h"
 
 namespace kvr5 {
+namespace {
+
+/// What the user does with mouse and keyboard.
+bool IsInput(QEvent::Type type) {
+  switch (type) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
 
 Form::Form(Ambiente& ambiente, const char* nome) : ambiente_(ambiente) {
   setObjectName(QLatin1String(nome));
@@ -104,6 +128,14 @@ void Form::setVisible(bool visible) {
   const bool screen = !windowFlags().testFlag(Qt::Dialog);
   if (!visible && isVisible() && screen) RicordaPosto(*this);  // its frame is still known
   QWidget::setVisible(visible);
+  if (visible && windowHandle() != nullptr) windowHandle()->installEventFilter(this);
+}
+
+bool Form::eventFilter(QObject* object, QEvent* event) {
+  // A click or key that was on its way when the window went would still reach its controls: a
+  // second press of a button whose first one closed the window would run it once more.
+  if (object == windowHandle() && !isVisible() && IsInput(event->type())) return true;
+  return QWidget::eventFilter(object, event);
 }
 
 void Form::closeEvent(QCloseEvent* event) {
@@ -116,6 +148,16 @@ void Form::mousePressEvent(QMouseEvent* event) {
   QWidget* field = focusWidget();
   if (field != nullptr && field->property(kLasciaAlClic).toBool()) field->clearFocus();
   QWidget::mousePressEvent(event);
+}
+
+void Form::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  const bool text = qobject_cast<QLineEdit*>(focusWidget()) != nullptr;
+  if (!enter || event->isAutoRepeat() || text || suInvio_ == nullptr || !suInvio_->isVisible()) {
+    QWidget::keyPressEvent(event);
+    return;
+  }
+  suInvio_->click();
 }
 
 }  // namespace kvr5

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractButton>
 #include <QEventLoop>
 #include <QPointer>
 #include <QWidget>
@@ -69,6 +70,9 @@ class Form : public QWidget {
 
   /// Has a key of the window, wherever the focus is, run `azione`.
   void SuTasto(Qt::Key tasto, std::function<void()> azione);
+  /// Has Enter press `pulsante`, wherever the focus is, unless the control there takes the key for
+  /// itself; a line of text always does.
+  void SuInvio(QAbstractButton& pulsante) { suInvio_ = &pulsante; }
   /// Opens the help document, as F1 and picHelp do.
   void Aiuto();
 
@@ -78,6 +82,8 @@ class Form : public QWidget {
   bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
   enum class Stato { Nuova, Caricata, Scaricata };
@@ -90,6 +96,7 @@ class Form : public QWidget {
   bool chiude_ = false;  ///< from a close that was granted to its end
   int impegni_ = 0;
   int mostrata_ = 0;
+  QAbstractButton* suInvio_ = nullptr;
   std::optional<Causa> rinviata_;
   QPointer<QEventLoop> attesa_;
 };

@@ -1,6 +1,9 @@
 #include "core/screens/RiquadroMessaggio.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QVBoxLayout>
 #include <vector>
 
@@ -83,9 +86,6 @@ RiquadroMessaggio::RiquadroMessaggio(Contesto& contesto, const Messaggio& messag
   words->addWidget(title);
   auto* text = TestoLungo("lblTesto", {}, this);
   text->setText(Spezzabile(QsRighe(messaggio.Testo), text->fontMetrics(), kWords));
-  text->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  text->setFocusPolicy(Qt::NoFocus);
-  text->setContextMenuPolicy(Qt::NoContextMenu);
   text->setMinimumWidth(kWords);
   words->addWidget(text);
   top->addLayout(words, 1);
@@ -94,6 +94,12 @@ RiquadroMessaggio::RiquadroMessaggio(Contesto& contesto, const Messaggio& messag
   setAccessibleName(Qs(messaggio.Titolo));
   setAccessibleDescription(QsRighe(messaggio.Testo));
   setMaximumWidth(640);
+}
+
+void RiquadroMessaggio::keyPressEvent(QKeyEvent* event) {
+  if (!event->matches(QKeySequence::Copy)) return QDialog::keyPressEvent(event);
+  // The words as they came in, without the breaks that make them fit.
+  QGuiApplication::clipboard()->setText(accessibleName() + "\n\n" + accessibleDescription());
 }
 
 void RiquadroMessaggio::showEvent(QShowEvent* event) {

@@ -16,6 +16,8 @@ class RiquadroMessaggio : public QDialog {
 
  protected:
   void showEvent(QShowEvent* event) override;
+  /// Copy puts title and text on the clipboard, to be sent to whoever helps.
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void AggiungiPulsanti(Contesto& contesto, const Messaggio& messaggio);

@@ -70,7 +70,7 @@ constexpr std::array kTesti = {
 
 void TestiQt::LeggiSeCambiata() const {
   const std::string& file = contesto_->Stato.FileLingua;
-  if (letta_ == file) return;
+  if (letta_ == file && !testi_.empty()) return;  // one that couldn't be read is tried again
   letta_ = file;
   testi_.clear();
   for (const auto& each : kTesti) {

@@ -49,6 +49,7 @@ frmSelectFlash::frmSelectFlash(Ambiente& ambiente, SorgenteDrive& drive)
     for (int i = 0; i < cmdFlash->count(); ++i) DescriviVoce(i);
     MostraFatti();
   });
+  SuInvio(*picOk);
   SuTasto(Qt::Key_F1, [this] { Aiuto(); });
   SuTasto(Qt::Key_Escape, [this] { picCancel->click(); });
 }

@@ -121,6 +121,7 @@ void frmWizardPanel1::Collega() {
   connect(picGoOn, &QAbstractButton::clicked, this, [this] { CreaProgetto(); });
   connect(picGoBack, &QAbstractButton::clicked, this, [this] { Indietro(); });
   connect(picHelp, &QAbstractButton::clicked, this, [this] { Aiuto(); });
+  SuInvio(*picGoOn);
   SuTasto(Qt::Key_Escape, [this] { picGoBack->click(); });
   SuTasto(Qt::Key_F1, [this] { Aiuto(); });
 }

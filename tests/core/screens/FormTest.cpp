@@ -1,6 +1,9 @@
+#include <QLineEdit>
+#include <QRadioButton>
 #include <QTest>
 #include <functional>
 
+#include "core/screens/Coppia.h"
 #include "core/screens/Form.h"
 #include "support/screens/ProvaForm.h"
 
@@ -29,6 +32,7 @@ class FormDiProva : public Form {
     return Caricata();
   }
   using Form::Aiuto;
+  using Form::SuInvio;
 
  protected:
   void AlCaricamento() override {
@@ -111,6 +115,52 @@ TEST_F(VitaDiUnaForm, UnloadingAFormThatIsNotLoadedDoesNothing) {
   EXPECT_EQ(FormDiProva::Scarichi, 0);
   EXPECT_TRUE(FormDiProva::Cause.empty());
   EXPECT_EQ(b.UltimeScaricate, 0);
+}
+
+TEST_F(VitaDiUnaForm, EnterPressesItsButtonUnlessTheFocusIsOnOneThatTakesTheKey) {
+  auto* option = new QRadioButton(&*forma);
+  auto* text = new QLineEdit(&*forma);
+  auto* other = new Coppia("cmdAltro", "lblAltro", "Other", "fatto", -1, &*forma);
+  auto* standard = new Coppia("cmdAvanti", "lblAvanti", "Next", "fatto", -1, &*forma);
+  int pressed = 0;
+  QObject::connect(standard, &QAbstractButton::clicked, &*forma, [&] { ++pressed; });
+  forma->SuInvio(*standard);
+  FormDiProva& form = Apri();
+  ASSERT_TRUE(Pronta(form));
+  const auto enterOn = [&](QWidget* control) {
+    control->setFocus();
+    Tasto(form, Qt::Key_Return);
+    return pressed;
+  };
+  EXPECT_EQ(enterOn(option), 1);
+  EXPECT_EQ(enterOn(text), 1) << "a line of text has its own use for it";
+  EXPECT_EQ(enterOn(other), 1) << "that button is pressed instead";
+  standard->setEnabled(false);
+  EXPECT_EQ(enterOn(option), 1);
+}
+
+TEST_F(VitaDiUnaForm, WhatTheUserDidAfterItWentReachesNoControl) {
+  auto* button = new Coppia("cmdAvanti", "lblAvanti", "Next", "fatto", -1, &*forma);
+  button->resize(100, 40);
+  int pressed = 0;
+  QObject::connect(button, &QAbstractButton::clicked, &*forma, [&] { ++pressed; });
+  FormDiProva& form = Apri();
+  ASSERT_TRUE(Pronta(form));
+  button->setFocus();
+  const auto pressTwice = [&] {
+    QTest::mouseClick(form.windowHandle(), Qt::LeftButton, {}, button->geometry().center());
+    QTest::keyClick(form.windowHandle(), Qt::Key_Space);
+  };
+  pressTwice();
+  EXPECT_EQ(pressed, 2);
+  form.Nascondi();
+  pressTwice();
+  EXPECT_EQ(pressed, 2);
+  Apri();
+  ASSERT_TRUE(Pronta(form));
+  button->setFocus();
+  pressTwice();
+  EXPECT_EQ(pressed, 4) << "shown again it hears again";
 }
 
 TEST_F(VitaDiUnaForm, TheWindowsOwnButtonAsksAsTheUser) {

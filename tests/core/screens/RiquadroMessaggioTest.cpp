@@ -1,3 +1,5 @@
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLabel>
 
 #include "core/screens/Coppia.h"
@@ -60,6 +62,19 @@ TEST_F(Riquadri, EnterPressesTheButtonThatTheCallerMadeTheDefault) {
   EXPECT_EQ(Mostra(Pulsanti::SiNo, enter, Risposta::Si), Risposta::Si);
   EXPECT_EQ(Mostra(Pulsanti::SiNo, enter, Risposta::No), Risposta::No);
   EXPECT_EQ(Mostra(Pulsanti::SiNoAnnulla, enter, Risposta::Annulla), Risposta::Annulla);
+}
+
+TEST_F(Riquadri, CopyTakesTitleAndTextWithoutTheBreaksThatMakeThemFit) {
+  const std::string path(300, 'x');
+  const Pilota<RiquadroMessaggio> pilot([](RiquadroMessaggio& box) {
+    EXPECT_TRUE(Pronta(box));
+    Tasto(box, Qt::Key_C, Qt::ControlModifier);
+    box.close();
+  });
+  QGuiApplication::clipboard()->clear();
+  b.C.Finestre.MostraMessaggio(
+      {"Title", "One\r\n" + path, Icona::Avviso, Pulsanti::Ok, Risposta::Ok});
+  EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(), "Title\n\nOne\n" + path);
 }
 
 TEST_F(Riquadri, OnlyTheButtonsAskedForAreThere) {

@@ -104,6 +104,16 @@ TEST_F(ToolkitWords, AnotherThreadGetsThemWithoutAReading) {
   EXPECT_EQ(undo, "&Annulla");
 }
 
+TEST_F(ToolkitWords, ALanguageFileThatComesBackIsReadAgain) {
+  const std::string file = "program/Language/Nuova.lan";
+  const std::string whole = b.Cartella.Read("program/Language/Italiano.lan");
+  b.Cartella.Write(file, "");
+  b.C.Stato.FileLingua = b.Percorso(file);
+  EXPECT_EQ(QCoreApplication::translate("QLineEdit", "&Undo"), "&Undo");
+  b.Cartella.Write(file, whole);
+  EXPECT_EQ(QCoreApplication::translate("QLineEdit", "&Undo"), "&Annulla");
+}
+
 TEST_F(ToolkitWords, FollowTheLanguage) {
   EXPECT_EQ(QCoreApplication::translate("QLineEdit", "&Undo"), "&Annulla");
   b.C.Stato.FileLingua = b.Percorso("program/Language/English.lan");

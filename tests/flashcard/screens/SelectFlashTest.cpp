@@ -117,6 +117,17 @@ TEST_F(SelectFlash, OffersReadersWithACardAndNeverAFloppyLetter) {
   });
 }
 
+TEST_F(SelectFlash, EnterOnTheListTakesTheSelectedCard) {
+  drives.Aggiungi("e:");
+  drives.Aggiungi("f:");
+  Show([](frmSelectFlash& dialog) {
+    ASSERT_TRUE(test::Pronta(dialog));
+    test::Tasto(dialog, Qt::Key_Down);
+    test::Tasto(dialog, Qt::Key_Return);
+  });
+  EXPECT_EQ(b.C.Stato.PercorsoMemoryCard, "F:\\");
+}
+
 TEST_F(SelectFlash, OkTakesTheSelectedCardAndHasItShown) {
   drives.Aggiungi("e:");
   drives.Aggiungi("f:");

@@ -179,6 +179,14 @@ TEST_F(Wizard, EnterInTheNameGoesOnUnlessTheNameIsBlank) {
   EXPECT_TRUE(Esiste("Bar/Config.cfg"));
 }
 
+TEST_F(Wizard, EnterOnAnOptionOrTheListGoesOn) {
+  frmWizardPanel1& form = Apri();
+  Nome("Bar");
+  form.optPanel_2->setFocus();
+  Tasto(form, Qt::Key_Return);
+  EXPECT_TRUE(Esiste("Bar/Config.cfg"));
+}
+
 TEST_F(Wizard, ANameOfBlanksPassesTheButtonsTestAndFailsAtTheFolder) {
   frmWizardPanel1& form = Apri();
   Nome("   ");
