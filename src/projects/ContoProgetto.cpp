@@ -1,5 +1,7 @@
 #include "projects/ContoProgetto.h"
 
+#include <algorithm>
+#include <ctime>
 #include <iterator>
 #include <set>
 
@@ -21,7 +23,14 @@ ContoProgetto::Firma ContoProgetto::FirmaOra() const {
 void ContoProgetto::Comincia(bool daCapo) {
   Firma now = FirmaOra();
   if (daCapo || letta_ != now || !cifre_.Illeggibile.empty()) LeggiRighe();
-  letta_ = std::move(now);
+  // The date tells seconds, two on a card: a change in the very moment of the last look has the
+  // same, and a database keeps its size. Only an older one is known by them.
+  constexpr std::int64_t kSettled = 3;
+  const auto latest = std::max_element(now.begin(), now.end(), [](const auto& a, const auto& b) {
+    return a.second < b.second;
+  });
+  letta_.reset();
+  if (latest->second + kSettled < std::int64_t{std::time(nullptr)}) letta_ = std::move(now);
   cifre_.Mancanti = 0;
   cifre_.Byte = 0;
   prossima_ = 0;

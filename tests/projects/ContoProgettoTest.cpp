@@ -74,6 +74,21 @@ TEST_F(Conto, RowsThatStayedAreNotReadAgainTheirFilesAre) {
   EXPECT_EQ(count.Cifre().Brani, 0U) << "it has changed";
 }
 
+TEST_F(Conto, ARowThatCameInTheSameSecondIsCountedToo) {
+  b.CreaProgetto("Shop", 4, 5);
+  Track(1, 1, "a.mp3");
+  ContoProgetto count(b.C);
+  count.Comincia();
+  const auto file = b.Cartella.Host() / "program/Projects/Shop/playlist.mdb";
+  const auto date = std::filesystem::last_write_time(file);
+  const auto size = std::filesystem::file_size(file);
+  Track(1, 2, "b.mp3");
+  ASSERT_EQ(std::filesystem::file_size(file), size);
+  std::filesystem::last_write_time(file, date);
+  count.Comincia(false);
+  EXPECT_EQ(count.Cifre().Brani, 2U);
+}
+
 TEST_F(Conto, AnEmptyProjectIsCountedAtOnce) {
   b.CreaProgetto("Hall", 4, 1);
   ContoProgetto count(b.C);
