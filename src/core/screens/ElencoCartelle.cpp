@@ -1,8 +1,11 @@
 #include "core/screens/ElencoCartelle.h"
 
 #include <QKeyEvent>
+#include <algorithm>
+#include <tuple>
 
 #include "core/Aiuti.h"
+#include "core/Lingua.h"
 #include "core/screens/Icona.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
@@ -19,6 +22,14 @@ std::string ParentOf(const std::string& path) {
   return parent.size() <= kRoot ? parent : parent.substr(0, parent.size() - 1);
 }
 
+/// What the list and the pane beside it show of a folder's entry.
+bool Alike(const FileInfo& one, const FileInfo& other) {
+  const auto shown = [](const FileInfo& each) {
+    return std::tie(each.Name, each.IsFolder, each.Hidden, each.System, each.Unusable);
+  };
+  return shown(one) == shown(other);
+}
+
 std::string WithoutBar(std::string path) {
   constexpr std::size_t kRoot = 3;
   while (path.size() > kRoot && path.ends_with('\\')) path.pop_back();
@@ -28,7 +39,7 @@ std::string WithoutBar(std::string path) {
 }  // namespace
 
 ElencoCartelle::ElencoCartelle(Contesto& contesto, const char* nome, QWidget* padre)
-    : QListWidget(padre), contesto_(contesto) {
+    : ElencoModesto(padre), contesto_(contesto) {
   setObjectName(QLatin1String(nome));
   setUniformItemSizes(true);
   setIconSize({16, 16});
@@ -45,6 +56,25 @@ void ElencoCartelle::ImpostaPercorso(const std::string& percorso) {
 }
 
 void ElencoCartelle::Riempi() {
+  auto entries = contesto_.Files.List(percorso_);
+  voci_ = entries ? std::move(entries.Value()) : std::vector<FileInfo>{};
+  Mostra();
+}
+
+bool ElencoCartelle::Rileggi() {
+  auto entries = contesto_.Files.List(percorso_);
+  auto now = entries ? std::move(entries.Value()) : std::vector<FileInfo>{};
+  if (std::ranges::equal(now, voci_, Alike)) return false;
+  voci_ = std::move(now);
+  const int row = currentRow();
+  const QString name = row < 0 ? QString() : currentItem()->text();
+  Mostra();
+  const auto same = findItems(name, Qt::MatchExactly);
+  if (!same.isEmpty()) setCurrentItem(same.front());
+  return true;
+}
+
+void ElencoCartelle::Mostra() {
   clear();
   const QIcon icon = IconaDi(QStringLiteral("cartella"), Tema::Corrente().Attenuato);
   const QIcon up = IconaDi(QStringLiteral("su"), Tema::Corrente().Attenuato);
@@ -52,12 +82,13 @@ void ElencoCartelle::Riempi() {
     auto* item = new QListWidgetItem(up, QStringLiteral(".."), this);
     item->setData(Qt::UserRole, Qs(parent));
   }
-  auto entries = contesto_.Files.List(percorso_);
-  voci_ = entries ? std::move(entries.Value()) : std::vector<FileInfo>{};
   for (const auto& entry : voci_) {
     if (!entry.IsFolder || entry.Name.starts_with('.')) continue;
     auto* item = new QListWidgetItem(icon, Qs(entry.Name), this);
     item->setData(Qt::UserRole, Qs(AggiungiBarra(percorso_) + entry.Name));
+    if (entry.Unusable == NameFault::None) continue;
+    item->setFlags(item->flags() & ~Qt::ItemIsEnabled);
+    item->setToolTip(Qs(TestoLingua(contesto_, "0130256")));
   }
   setCurrentRow(0);
 }

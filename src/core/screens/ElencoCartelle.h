@@ -1,17 +1,17 @@
 #pragma once
 
-#include <QListWidget>
 #include <functional>
 #include <string>
 #include <vector>
 
 #include "core/Contesto.h"
+#include "core/screens/ElencoModesto.h"
 
 namespace kvr5 {
 
 /// The list of folders beside a file pane: the folder above, and those inside the current one. A
 /// double click or Enter goes there. Paths are in the system's form.
-class ElencoCartelle : public QListWidget {
+class ElencoCartelle : public ElencoModesto {
  public:
   ElencoCartelle(Contesto& contesto, const char* nome, QWidget* padre = nullptr);
 
@@ -20,17 +20,17 @@ class ElencoCartelle : public QListWidget {
   const std::vector<FileInfo>& Voci() const { return voci_; }
   /// Goes to a folder; one that isn't there is refused, and the list keeps its place.
   void ImpostaPercorso(const std::string& percorso);
+  /// Looks into the folder again, keeps its place in the list; false when nothing has changed.
+  bool Rileggi();
   /// Called after each change of folder.
   std::function<void()> SuCambio;
-
-  /// Asks for little and takes what room there is: a screen fits its window before it scrolls.
-  QSize sizeHint() const override { return {200, minimumHeight()}; }
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void Riempi();
+  void Mostra();
   void Entra(const QListWidgetItem* voce);
 
   Contesto& contesto_;

@@ -147,12 +147,11 @@ void frmPlayerConfig::Disponi() {
 }
 
 void frmPlayerConfig::Collega() {
-  fraIngressiLogici->SuSpunta = [this](int input, bool on) { Spunta(input, on); };
+  fraIngressiLogici->SuSpunta = [this](int input, bool on) {
+    CambiaCodice([&] { codice_->Spunta(input, on); });
+  };
   Assegnazioni->SuScelta = [this](std::int64_t code) {
-    const Impegno stays(*this);
-    codice_->Scegli(code);
-    MostraCodice();
-    SceltoFile();
+    CambiaCodice([&] { codice_->Scegli(code); });
   };
   fraFileName->SuScelta = [this] { SceltoFile(); };
   fraFileName->SuSfoglia = [this] { SfogliaMp3(); };
@@ -173,15 +172,13 @@ void frmPlayerConfig::Collega() {
   };
   Opzioni->SuCambio = changed;
   Scheda->SuScegli = [this] {
+    if (lavora_) return;  // what has begun on one card doesn't go on on another
     const Impegno stays(*this);
     ambiente_.Schermi.ScegliScheda(Schermata::Configurazione);
   };
   connect(&conta_, &QTimer::timeout, this, [this] { Conta(); });
   connect(&guardia_, &QTimer::timeout, this, [this] {
-    if (illeggibile_ && !lavora_) {
-      const Impegno stays(*this);
-      AggiornaElenco();
-    }
+    Ritenta();
     if (!C().Stato.PercorsoMemoryCard.empty()) Scheda->MostraStato(servizi_.FattiDellaScheda());
   });
 }

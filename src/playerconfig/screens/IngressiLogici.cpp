@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QVBoxLayout>
 #include <QVariant>
@@ -77,6 +78,8 @@ QWidget* IngressiLogici::CostruisciMorsettiera() {
     lblIn[at]->setObjectName(Numbered("lblIn", number));
     lblIn[at]->setBuddy(chkIn[at]);
     lblIn[at]->setFont(FontDi(Carattere::Suggerimento));
+    shaIn[at]->installEventFilter(this);
+    lblIn[at]->installEventFilter(this);
     grid->addWidget(shaIn[at], 0, i, Qt::AlignHCenter);
     grid->addWidget(chkIn[at], 1, i, Qt::AlignHCenter);
     grid->addWidget(lblIn[at], 2, i, Qt::AlignHCenter);
@@ -114,6 +117,17 @@ QWidget* IngressiLogici::CostruisciAssociato() {
   return fraFileAssociato;
 }
 
+bool IngressiLogici::eventFilter(QObject* object, QEvent* event) {
+  const bool press = event->type() == QEvent::MouseButtonPress ||
+                     event->type() == QEvent::MouseButtonDblClick;  // the second of a quick pair
+  if (press && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+    for (std::size_t i = 0; i < chkIn.size(); ++i) {
+      if (object == shaIn[i] || object == lblIn[i]) chkIn[i]->click();
+    }
+  }
+  return Riquadro::eventFilter(object, event);
+}
+
 void IngressiLogici::Mostra(const CodiceScelto& codice) {
   for (int number = 1; number <= 8; ++number) {
     const auto at = static_cast<std::size_t>(number - 1);
@@ -128,7 +142,7 @@ void IngressiLogici::Mostra(const CodiceScelto& codice) {
     lblIn[at]->setPalette(palette);
   }
   fraFileAssociato->setVisible(codice.fraFileAssociatoVisibile());
-  lblFileAssociato->setText(Qs(codice.lblFileAssociato()));
+  lblFileAssociato->setText(Qs(SuUnaRiga(codice.lblFileAssociato())));
   lblFileAssociato->setToolTip(Suggerimento(lblFileAssociato->text()));
   lblEtichettaTroppoLunga->setVisible(codice.lblEtichettaTroppoLungaVisibile());
 }

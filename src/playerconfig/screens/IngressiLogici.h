@@ -47,6 +47,10 @@ class IngressiLogici : public Riquadro {
   void Mostra(const CodiceScelto& codice);
   void Localizza();
 
+ protected:
+  /// A click on a lamp or a name is one on its box.
+  bool eventFilter(QObject* object, QEvent* event) override;
+
  private:
   QWidget* CostruisciMorsettiera();
   QWidget* CostruisciAssociato();

@@ -1,39 +1,28 @@
 #include "playerconfig/screens/ListaAssegnati.h"
 
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 #include "core/Lingua.h"
+#include "core/Parole.h"
 #include "core/ParoleCopia.h"
+#include "core/screens/ElencoModesto.h"
 #include "core/screens/Icona.h"
 #include "core/screens/Pagina.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
+#include "playerconfig/screens/VociAssegnati.h"
 
 namespace kvr5 {
-namespace {
-
-constexpr int kSign = 16;
-
-/// A list that takes what room there is and asks for little: the hub fits its window before it
-/// scrolls.
-class Elenco : public QListWidget {
- public:
-  using QListWidget::QListWidget;
-  QSize sizeHint() const override { return {200, minimumHeight()}; }
-};
-
-}  // namespace
+namespace {}  // namespace
 
 ListaAssegnati::ListaAssegnati(Contesto& contesto, QWidget* padre)
     : Riquadro("fraAssegnati", QStringLiteral("Assignments"), -1, padre), contesto_(contesto) {
-  lstAssegnati = new Elenco(this);
+  lstAssegnati = new ElencoModesto(this);
   lstAssegnati->setObjectName(QStringLiteral("lstAssegnati"));
-  lstAssegnati->setIconSize({kSign, kSign});
-  QPixmap blank(kSign, kSign);
-  blank.fill(Qt::transparent);
-  senzaSegno_ = QIcon(blank);
-  lstAssegnati->setTextElideMode(Qt::ElideRight);
+  voci_ = new VociAssegnati(lstAssegnati);
+  lstAssegnati->setItemDelegate(voci_);
   lstAssegnati->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   lstAssegnati->setMinimumHeight(90);
   Corpo()->addWidget(lstAssegnati, 1);
@@ -41,29 +30,41 @@ ListaAssegnati::ListaAssegnati(Contesto& contesto, QWidget* padre)
   Veste(*lblCifre, Carattere::Suggerimento, Ruolo::Attenuato);
   lblCifre->setWordWrap(true);
   Corpo()->addWidget(lblCifre);
-  const auto choose = [this](const QListWidgetItem* item) {
-    if (item != nullptr && SuScelta) SuScelta(item->data(Qt::UserRole).toLongLong());
-  };
-  connect(lstAssegnati, &QListWidget::itemClicked, this, choose);
-  connect(lstAssegnati, &QListWidget::itemActivated, this, choose);
+  // What is highlighted is what is ticked, however the user came there.
+  connect(lstAssegnati, &QListWidget::itemSelectionChanged, this, [this] {
+    const auto chosen = lstAssegnati->selectedItems();
+    chosen.isEmpty() ? Evidenzia(evidenziato_) : Scegli(*chosen.front());
+  });
+  connect(lstAssegnati, &QListWidget::itemActivated, this,
+          [this](const QListWidgetItem* item) { Scegli(*item); });
+}
+
+void ListaAssegnati::Scegli(const QListWidgetItem& voce) {
+  if (SuScelta) SuScelta(voce.data(VociAssegnati::Codice).toLongLong());
 }
 
 void ListaAssegnati::AggiungiRiga(const ParoleAssegnato& parole, const Assegnato& riga) {
   const Tema& tema = Tema::Corrente();
   const std::string mark = SegnoAssegnato(parole, riga);
-  std::string text = std::to_string(riga.Codice) + "   " + riga.Ingressi + "   " + riga.FileName;
+  const std::string name = SuUnaRiga(riga.FileName);
+  std::string text = std::to_string(riga.Codice) + "   " + riga.Ingressi + "   " + name;
   if (!mark.empty()) text += "\n" + mark;
   auto* item = new QListWidgetItem(Qs(text), lstAssegnati);
-  item->setData(Qt::UserRole, static_cast<qlonglong>(riga.Codice));
+  item->setData(VociAssegnati::Codice, static_cast<qlonglong>(riga.Codice));
+  item->setData(VociAssegnati::Ingressi, Qs(riga.Ingressi));
+  item->setData(VociAssegnati::File, Qs(name));
+  item->setData(VociAssegnati::Segno, Qs(mark));
   QString tip = Qs(PercorsoPerPersone(contesto_, riga.Percorso));
   if (riga.Mancante) tip.prepend(Qs(parole.EraQui + " "));
   if (riga.StessoFile) tip += "\n" + Qs(parole.AltroIngresso);
   if (riga.DelCollegamento) tip += "\n" + Qs(parole.LiberaCollegamento);
   item->setToolTip(Suggerimento(tip));
-  if (mark.empty()) {
-    item->setIcon(senzaSegno_);
-    return;
+  // A row that no ticks make can't be chosen; the keyboard passes over it.
+  const bool code = riga.Codice >= 1 && riga.Codice <= 255;
+  if (!code || riga.DelCollegamento) {
+    item->setFlags(item->flags() & ~(Qt::ItemIsEnabled | Qt::ItemIsSelectable));
   }
+  if (mark.empty()) return;
   item->setIcon(IconaDi(riga.Mancante ? QStringLiteral("mancante") : QStringLiteral("avviso"),
                         riga.Mancante ? tema.Errore : tema.Avviso));
   item->setForeground(riga.Mancante ? tema.Errore : tema.Avviso);
@@ -72,11 +73,13 @@ void ListaAssegnati::AggiungiRiga(const ParoleAssegnato& parole, const Assegnato
 bool ListaAssegnati::Mostra(const ElencoAssegnati& elenco) {
   if (mostrato_ == elenco) return false;
   mostrato_ = elenco;
+  const QSignalBlocker quiet(lstAssegnati);
   const int top = lstAssegnati->verticalScrollBar()->value();
   Veste(*lblCifre, Carattere::Suggerimento, Ruolo::Attenuato);
   lstAssegnati->clear();
   const ParoleAssegnato words(contesto_);
   for (const Assegnato& row : elenco.Righe) AggiungiRiga(words, row);
+  voci_->Misura(*lstAssegnati);
   lblCifre->setText(elenco.Righe.empty() ? Qs(TestoLingua(contesto_, "0130127"))
                                          : Qs(CifreAssegnati(contesto_, elenco)));
   lstAssegnati->doItemsLayout();
@@ -85,10 +88,12 @@ bool ListaAssegnati::Mostra(const ElencoAssegnati& elenco) {
 }
 
 void ListaAssegnati::Evidenzia(std::int64_t codice, bool inVista) {
+  evidenziato_ = codice;
   int found = -1;
   for (int row = 0; row < lstAssegnati->count() && found < 0; ++row) {
-    if (lstAssegnati->item(row)->data(Qt::UserRole).toLongLong() == codice) found = row;
+    if (lstAssegnati->item(row)->data(VociAssegnati::Codice).toLongLong() == codice) found = row;
   }
+  const QSignalBlocker quiet(lstAssegnati);
   lstAssegnati->setAutoScroll(inVista);
   lstAssegnati->setCurrentRow(found);
   lstAssegnati->setAutoScroll(true);  // the arrow keys bring their row into view
@@ -104,6 +109,7 @@ void ListaAssegnati::MostraIlleggibile() {
 
 void ListaAssegnati::Svuota(const char* chiave) {
   mostrato_.reset();
+  const QSignalBlocker quiet(lstAssegnati);
   lstAssegnati->clear();
   lblCifre->setText(Qs(TestoLingua(contesto_, chiave)));
   Veste(*lblCifre, Carattere::Suggerimento, Ruolo::Avviso);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QIcon>
 #include <QLabel>
 #include <QListWidget>
 #include <functional>
@@ -10,6 +9,8 @@
 #include "playerconfig/Assegnati.h"
 
 namespace kvr5 {
+
+class VociAssegnati;
 
 /// All combinations of inputs that have a file, what is wrong with any of them, and their figures.
 class ListaAssegnati : public Riquadro {
@@ -28,16 +29,18 @@ class ListaAssegnati : public Riquadro {
   /// Selects the row of the combination that is ticked; none where it has no row.
   void Evidenzia(std::int64_t codice, bool inVista = true);
   void Localizza();
-  /// Called for a click on a row, with its code.
+  /// Called when the user comes to a row, by a click or a key, with its code.
   std::function<void(std::int64_t)> SuScelta;
 
  private:
   void Svuota(const char* chiave);
+  void Scegli(const QListWidgetItem& voce);
   void AggiungiRiga(const ParoleAssegnato& parole, const Assegnato& riga);
 
   Contesto& contesto_;
   std::optional<ElencoAssegnati> mostrato_;
-  QIcon senzaSegno_;  ///< has the words of all rows begin in one line
+  VociAssegnati* voci_;
+  std::int64_t evidenziato_ = 0;
 };
 
 }  // namespace kvr5

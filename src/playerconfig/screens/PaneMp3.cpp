@@ -84,6 +84,20 @@ void PaneMp3::Costruisci() {
 }
 
 void PaneMp3::RiempiElencoMp3() {
+  MostraElenco();
+  cmbFileMp3->setCurrentIndex(static_cast<int>(elenco_.Scelto));
+  Clic();
+}
+
+bool PaneMp3::Rileggi() {
+  const std::string picked = Scelto();
+  if (!DirDirectoryMp3->Rileggi()) return false;
+  MostraElenco();
+  cmbFileMp3->setCurrentIndex(static_cast<int>(elenco_.Indice(picked).value_or(0)));
+  return true;
+}
+
+void PaneMp3::MostraElenco() {
   elenco_ = kvr5::RiempiElencoMp3(DirDirectoryMp3->Voci());
   auto* model = new QStandardItemModel(static_cast<int>(elenco_.Voci.size()), 1, cmbFileMp3);
   for (std::size_t i = 0; i < elenco_.Voci.size(); ++i) {
@@ -96,9 +110,7 @@ void PaneMp3::RiempiElencoMp3() {
     model->setItem(static_cast<int>(i), item);
   }
   cmbFileMp3->setModel(model);  // the one before belonged to the box and goes with it
-  cmbFileMp3->setCurrentIndex(static_cast<int>(elenco_.Scelto));
   lblVuota->setVisible(elenco_.Voci.size() <= 1);  // the blank item alone
-  Clic();
 }
 
 std::string PaneMp3::Scelto() const {
@@ -140,7 +152,7 @@ void PaneMp3::Localizza() {
   picDisk->ImpostaScritta(Qs(TestoLingua(contesto_, "0130171")));
   cmdPlayMp3->ImpostaScritta(Qs(TestoLingua(contesto_, "0130168")));
   cmdStopMp3->ImpostaScritta(Qs(TestoLingua(contesto_, "0130169")));
-  cmdOkFileMp3->setToolTip(Qs(TestoLingua(contesto_, "0130136")));
+  MostraTogliere(false);
   numero_->setToolTip(Qs(TestoLingua(contesto_, "0130125")));
   numero_->setAccessibleName(numero_->toolTip());
   lblVuota->setText(Qs(TestoLingua(contesto_, "0130138")));

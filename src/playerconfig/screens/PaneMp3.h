@@ -30,6 +30,9 @@ class PaneMp3 : public Riquadro {
 
   /// Fills cmbFileMp3 from the folder; the selection is that of a fresh list.
   void RiempiElencoMp3();
+  /// Looks into the folder again; where it has changed, fills cmbFileMp3 and keeps what is selected
+  /// there, or goes to " " where that is gone. Calls nobody. False when nothing has changed.
+  bool Rileggi();
   /// The selected item; " " for no file.
   std::string Scelto() const;
   /// Sets cmbFileMp3 to " " and then to this file, which stays at " " where the list lacks it.
@@ -49,6 +52,7 @@ class PaneMp3 : public Riquadro {
 
  private:
   void Costruisci();
+  void MostraElenco();
   void Clic() const {
     if (SuScelta) SuScelta();
   }

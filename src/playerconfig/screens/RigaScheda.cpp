@@ -5,7 +5,6 @@
 
 #include "core/Lingua.h"
 #include "core/Parole.h"
-#include "core/screens/Avvisi.h"
 #include "core/screens/EtichettaElisa.h"
 #include "core/screens/Icona.h"
 #include "core/screens/LocalizzaForm.h"
@@ -38,12 +37,14 @@ RigaScheda::RigaScheda(Contesto& contesto, QWidget* padre) : QWidget(padre), con
   line->setContentsMargins(0, 0, 0, 0);
   line->setSpacing(spazi::kStretto);
   segno_ = SegnoDi("scheda", Tema::Corrente().Attenuato, kSign, this);
+  segno_->installEventFilter(this);
   lblPathMemoryCard = NuovaEtichetta("lblPathMemoryCard",
                                      QStringLiteral("Memory Card Path not selected"), 45, this);
   lblPathMemoryCard->setFocusPolicy(Qt::ClickFocus);  // by Tab the button beside it is reached
   Veste(*lblPathMemoryCard, Carattere::Corpo);
   lblPathMemoryCard->installEventFilter(this);
   lblStato = new EtichettaElisa("lblStatoScheda", this);
+  lblStato->installEventFilter(this);
   cmdScegli = new Coppia("cmdScegliScheda", "lblScegliScheda", QStringLiteral("Choose..."),
                          "scheda", -1, this);
   cmdScegli->ImpostaGenere(Coppia::Genere::Quieto);
@@ -112,7 +113,7 @@ void RigaScheda::MostraSpazio() {
 }
 
 bool RigaScheda::eventFilter(QObject* object, QEvent* event) {
-  if (object == lblPathMemoryCard && SuScegli) {
+  if (SuScegli) {
     const auto* key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event) : nullptr;
     const bool enter =
         key != nullptr && (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter);

@@ -1,6 +1,7 @@
 #include "playerconfig/screens/frmPlayerConfig.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "core/Aiuti.h"
@@ -25,6 +26,15 @@ constexpr std::int16_t kForm = 4;
 constexpr std::int16_t kFromCard = 2;
 constexpr int kTypeRoom = 420;
 constexpr std::size_t kRowsAtOnce = 100;  // a few milliseconds on a slow disk
+constexpr int kLongestPause = 15;         // rounds of the watch between two tries to read
+
+/// The file that the rows have for a code, as it is shown; nothing for a code without a row.
+std::optional<std::string> FileOf(const std::vector<RigaIngresso>& rows, std::int16_t code) {
+  const auto row = std::find_if(rows.begin(), rows.end(),
+                                [code](const RigaIngresso& each) { return each.Pos == code; });
+  if (code == 0 || row == rows.end()) return {};
+  return row->FileName.value_or("");
+}
 
 }  // namespace
 
@@ -128,7 +138,9 @@ void frmPlayerConfig::AllAttivazione() {
   const Impegno stays(*this);
   const bool changed = codice_->AbilitaIngressiRs485();
   if (!lavora_) {
-    AggiornaElenco();  // files come and go while another window is in front
+    // Files come and go while another window is in front.
+    if (std::exchange(lasciata_, true)) RileggiCartella();
+    AggiornaElenco();
     CominciaConto(false);
   }
   fraIngressiLogici->Mostra(*codice_);
@@ -138,28 +150,50 @@ void frmPlayerConfig::AllAttivazione() {
   }
 }
 
-void frmPlayerConfig::Spunta(int ingresso, bool spuntato) {
-  const Impegno stays(*this);
-  C().Errore.Clear();
-  codice_->Spunta(ingresso, spuntato);
-  if (C().Errore) NonSiLegge();
-  MostraCodice();
+void frmPlayerConfig::RileggiCartella() {
+  if (!fraFileName->Rileggi()) return;
+  const auto& assigned = codice_->DaScegliere();
+  if (Rifila(fraFileName->Scelto()).empty() && assigned) return fraFileName->Scegli(*assigned);
   SceltoFile();
 }
 
+void frmPlayerConfig::CambiaCodice(const std::function<void()>& cambia) {
+  const Impegno stays(*this);
+  C().Errore.Clear();
+  cambia();
+  const bool failed{C().Errore};
+  MostraCodice();
+  SceltoFile();
+  if (failed) AggiornaElenco();
+}
+
 void frmPlayerConfig::RivediCodice() {
+  const std::string picked = fraFileName->Scelto();
+  const bool own = !Rifila(picked).empty() && picked != codice_->DaScegliere();
   codice_->AggiornaIngressoSelezionato();
   MostraCodice();
+  if (own) fraFileName->Scegli(picked);  // what the user picked meanwhile isn't dropped
   SceltoFile();
 }
 
 void frmPlayerConfig::NonSiLegge() {
-  illeggibile_ = true;  // the watch tries again
+  illeggibile_ = true;
   Assegnazioni->MostraIlleggibile();
 }
 
+void frmPlayerConfig::Ritenta() {
+  const auto unread = [this] { return illeggibile_ || !conto_.Cifre().Illeggibile.empty(); };
+  if (!unread()) pausa_ = 1;
+  // Each try may wait a while for a lock: they come less and less often.
+  if (lavora_ || !unread() || ++giri_ < pausa_) return;
+  const Impegno stays(*this);
+  giri_ = 0;
+  pausa_ = std::min(2 * pausa_, kLongestPause);
+  if (illeggibile_) AggiornaElenco();
+  if (!illeggibile_) CominciaConto(false);
+}
+
 void frmPlayerConfig::MostraCodice() {
-  mancata_ = mancata_ || (lavora_ && !ingressi_.Aperta());
   fraIngressiLogici->Mostra(*codice_);
   Assegnazioni->Evidenzia(codice_->Codice());
   fraFileName->lblfraFileName->setText(Qs(codice_->lblfraFileName()));
@@ -168,20 +202,27 @@ void frmPlayerConfig::MostraCodice() {
 
 void frmPlayerConfig::AggiornaElenco(bool inVista) {
   if (lavora_ && !ingressi_.Aperta()) return;  // closed for the while that it is copied
-  if (TabellaIngressi::SenzaIngressi(C().Stato.PlayerType, C().Stato.PlayerMode)) {
-    return Assegnazioni->MostraSenzaTabella();
-  }
-  const bool there = FileExists(C().Files, FileDelProgetto(C(), "inputcfg.mdb"));
+  const bool none = TabellaIngressi::SenzaIngressi(C().Stato.PlayerType, C().Stato.PlayerMode);
+  const bool there = !none && FileExists(C().Files, FileDelProgetto(C(), "inputcfg.mdb"));
   if (!ingressi_.Aperta() && there) ingressi_.Riapri();  // what held it may have let it go
-  if (!ingressi_.Aperta() && !there) return Assegnazioni->MostraSenzaTabella();
+  std::vector<RigaIngresso> rows;
   C().Errore.Clear();
-  const auto rows = ingressi_.Aperta() ? ingressi_.Righe() : std::vector<RigaIngresso>();
-  if (!ingressi_.Aperta() || C().Errore) return NonSiLegge();
-  if (Assegnazioni->Mostra(Assegnati(C(), rows))) {
+  if (ingressi_.Aperta()) rows = ingressi_.Righe();
+  if (ingressi_.Aperta() ? bool(C().Errore) : there) return NonSiLegge();
+  illeggibile_ = false;
+  if (!ingressi_.Aperta()) {
+    Assegnazioni->MostraSenzaTabella();
+  } else if (Assegnazioni->Mostra(Assegnati(C(), rows))) {
     Assegnazioni->Evidenzia(codice_->Codice(), inVista);
   }
-  // What was ticked while nothing could be read has a file after all, or none.
-  if (std::exchange(illeggibile_, false)) RivediCodice();
+  // What is ticked has another file by now, or could not be looked up before.
+  if (FileOf(rows, codice_->Codice()) != codice_->DaScegliere()) RivediCodice();
+}
+
+bool frmPlayerConfig::AncoraCosi() {
+  const auto shown = codice_->DaScegliere();
+  AggiornaElenco();
+  return !illeggibile_ && codice_->DaScegliere() == shown;
 }
 
 void frmPlayerConfig::SceltoFile() {
@@ -242,19 +283,14 @@ void frmPlayerConfig::ConfermaFile() {
   const Impegno stays(*this);
   const std::string item = fraFileName->Scelto();
   const bool blank = Rifila(item).empty();
-  if (blank && !codice_->fraFileAssociatoVisibile()) {
-    // Nothing is taken away that wasn't shown: a table that could be read again shows it first.
-    codice_->AggiornaIngressoSelezionato();
-    if (codice_->fraFileAssociatoVisibile()) {
-      MostraCodice();
-      return SceltoFile();
-    }
-  }
+  if (blank && !AncoraCosi()) return;  // nothing is taken away but what was shown
   C().Errore.Clear();
   codice_->Conferma(item, fraFileName->DirDirectoryMp3->Percorso());
-  illeggibile_ = illeggibile_ || (C().Errore && !lavora_);
+  const bool failed{C().Errore};
   MostraCodice();
-  fraFileName->MostraTogliere(blank && codice_->fraFileAssociatoVisibile());
+  if (failed && !blank) fraFileName->Scegli(item);  // to be confirmed once more
+  fraFileName->MostraTogliere(Rifila(fraFileName->Scelto()).empty() &&
+                              codice_->fraFileAssociatoVisibile());
   AggiornaElenco(true);
   CominciaConto();
 }
@@ -280,7 +316,8 @@ void frmPlayerConfig::Conta() {
     Pannello->Mostra(C(), figures, layout_.picPalinsesto);
     contoMostrato_ = true;
   }
-  if (figures.Completo) Scheda->ImpostaBisogno(figures.Byte);
+  // What can't be read is no reason to say that less room is needed.
+  if (figures.Completo && figures.Illeggibile.empty()) Scheda->ImpostaBisogno(figures.Byte);
 }
 
 void frmPlayerConfig::SfogliaMp3() {
@@ -312,7 +349,6 @@ void frmPlayerConfig::Registra() {
   if (lavora_) return;         // events run during a recording, this button among them
   const Impegno stays(*this);  // a close that is asked for meanwhile comes at the end
   lavora_ = true;
-  const bool open = ingressi_.Aperta();
   const bool cancelled = servizi_.RegistraProgetto(ingressi_);
   lavora_ = false;
   if (cancelled) {
@@ -321,7 +357,6 @@ void frmPlayerConfig::Registra() {
   }
   AggiornaElenco();
   CominciaConto();
-  if (std::exchange(mancata_, false) || ingressi_.Aperta() != open) RivediCodice();
   Scheda->MostraStato(servizi_.FattiDellaScheda());
 }
 

@@ -71,12 +71,20 @@ class frmPlayerConfig : public Form {
   void LeggiControlli();
   void Disponi();
   void MostraModo();
-  void Spunta(int ingresso, bool spuntato);
+  /// Shows what the folder of the MP3 files holds by now.
+  void RileggiCartella();
+  /// Has `cambia` tick other inputs, and shows what they have.
+  void CambiaCodice(const std::function<void()>& cambia);
   void MostraCodice();
   /// Shows the table as it is now; `inVista` brings the ticked inputs' row into view.
   void AggiornaElenco(bool inVista = false);
+  /// Looks the ticked inputs up once more.
   void RivediCodice();
+  /// Whether the table still has for them what is shown; shows what it has where not.
+  bool AncoraCosi();
   void NonSiLegge();
+  /// Reads again what could not be read; called every other second.
+  void Ritenta();
   void SceltoFile();
   void ValutaScelta();
   void MostraInfoMp3();
@@ -107,8 +115,10 @@ class frmPlayerConfig : public Form {
   bool daCapo_ = true;
   bool illeggibile_ = false;  ///< the table was there and couldn't be read
   QTimer conta_;              ///< counts a little whenever nothing else is to be done
+  bool lasciata_ = false;     ///< it was in front before
   bool lavora_ = false;       ///< a recording is under way
-  bool mancata_ = false;      ///< the table was asked for while a recording had it closed
+  int pausa_ = 1;             ///< rounds of the watch between two tries to read, and those since
+  int giri_ = 0;
   bool finePrograma_ = false;
 };
 

@@ -1,6 +1,7 @@
 #include "playerconfig/screens/BancoHub.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QListWidget>
 #include <QTest>
@@ -59,6 +60,19 @@ int Hub::Righe() {
   Recordset rows;
   EXPECT_FALSE(rows.Open(other, "SELECT * FROM [List] ORDER BY [Pos] ASC"));
   return static_cast<int>(rows.RecordCount());
+}
+
+void HubConMusica::SetUp() {
+  Progetto(4, 1);
+  for (const char* name : {"a.mp3", "b.mp3", "L'été.mp3"}) {
+    b.ScriviMp3(std::string("music/") + name, name[0]);
+  }
+  UltimaCartella("music");
+}
+
+void HubConMusica::Attiva() {
+  QEvent activation(QEvent::WindowActivate);
+  QCoreApplication::sendEvent(hub, &activation);
 }
 
 Pilota<RiquadroMessaggio> RispondiMessaggio(const char* pulsante, Vede vede) {

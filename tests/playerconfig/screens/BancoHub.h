@@ -81,6 +81,17 @@ class Hub : public testing::Test {
   QPointer<frmPlayerConfig> hub;
 };
 
+/// The same of a KVR5 that plays by its inputs, whose pane of files stands in the folder "music"
+/// with "a.mp3", "b.mp3" and "L'été.mp3".
+class HubConMusica : public Hub {
+ protected:
+  void SetUp() override;
+  void Conferma() { Clic("cmdOkFileMp3"); }
+  std::string Music() const { return b.Percorso("music") + "\\"; }
+  /// What happens when another window was in front.
+  void Attiva();
+};
+
 /// Sees the title and the text of a box before it is answered.
 using Vede = std::function<void(const QString&, const QString&)>;
 

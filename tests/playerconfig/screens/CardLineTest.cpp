@@ -77,7 +77,19 @@ TEST_F(CardLine, ADoubleClickEnterAndTheButtonLetACardBeChosen) {
   QTest::mouseDClick(&Trova<QWidget>("lblPathMemoryCard"), Qt::LeftButton);
   QTest::keyClick(&Trova<QWidget>("lblPathMemoryCard"), Qt::Key_Return);
   Clic("cmdScegliScheda");
-  EXPECT_EQ(b.Schermi.SchedePer, std::vector(3, Schermata::Configurazione));
+  QTest::mouseDClick(&Trova<QWidget>("lblStatoScheda"), Qt::LeftButton);  // all of the line
+  EXPECT_EQ(b.Schermi.SchedePer, std::vector(4, Schermata::Configurazione));
+}
+
+TEST_F(CardLine, NoOtherCardIsChosenWhileOneIsRecorded) {
+  servizi.Scheda = Card();
+  Open("E:\\");
+  servizi.SuRegistra = [this] { Clic("cmdScegliScheda"); };
+  Clic("picRecordFlash");
+  EXPECT_EQ(servizi.Registrazioni, 1);
+  EXPECT_TRUE(b.Schermi.SchedePer.empty()) << "half of it would be on the one, half on the other";
+  Clic("cmdScegliScheda");
+  EXPECT_EQ(b.Schermi.SchedePer.size(), 1U);
 }
 
 TEST_F(CardLine, AChosenCardIsShownAtOnce) {

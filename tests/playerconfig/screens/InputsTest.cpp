@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -7,7 +6,6 @@
 #include <QScrollBar>
 #include <QTest>
 
-#include "platform/db/Connection.h"
 #include "playerconfig/screens/BancoHub.h"
 
 // Ticking inputs, and giving their combination a file.
@@ -15,21 +13,12 @@
 namespace kvr5 {
 namespace {
 
-class Inputs : public test::Hub {
+class Inputs : public test::HubConMusica {
  protected:
-  void SetUp() override {
-    Progetto(4, 1);
-    for (const char* name : {"a.mp3", "b.mp3", "L'été.mp3"}) {
-      b.ScriviMp3(std::string("music/") + name, name[0]);
-    }
-    UltimaCartella("music");
-  }
-  void Conferma() { Clic("cmdOkFileMp3"); }
   QColor Lamp(int number) {
     QWidget& lamp = Trova<QWidget>("shaIn_" + std::to_string(number));
     return lamp.grab().toImage().pixelColor(5, 9);
   }
-  std::string Music() const { return b.Percorso("music") + "\\"; }
 };
 
 TEST_F(Inputs, TheTickedOnesNameTheFileOnTheCard) {
@@ -166,153 +155,6 @@ TEST_F(Inputs, ALongNameIsCutAndTheWholeOfItIsTheToolTip) {
             "Plays: " + shorter + "n.mp3");
 }
 
-TEST_F(Inputs, AClickOnAnAssignmentTicksItsInputs) {
-  b.AggiungiRiga("inputcfg.mdb", 1, 5, "a.mp3", Music(), "5.mp3");
-  b.AggiungiRiga("inputcfg.mdb", 1, 192, "b.mp3", Music(), "192.mp3");
-  Apri(0);
-  Spunta(2);
-  ClicRiga(Trova<QListWidget>("lstAssegnati"), 1);
-  for (int input = 1; input <= 8; ++input) {
-    EXPECT_EQ(Trova<QCheckBox>("chkIn_" + std::to_string(input)).isChecked(), input > 6);
-  }
-  EXPECT_EQ(Testo("lblfraFileName"), "File on the card - 192.mp3");
-  EXPECT_EQ(Testo("lblFileAssociato"), "Plays: b.mp3");
-  EXPECT_EQ(Trova<QComboBox>("cmbFileMp3").currentText(), QStringLiteral("b.mp3"));
-  EXPECT_EQ(Lamp(8), QColor(Qt::red));
-  EXPECT_EQ(Lamp(2), QColor(Qt::white));
-}
-
-TEST_F(Inputs, TheListFollowsTheTicks) {
-  b.AggiungiRiga("inputcfg.mdb", 1, 5, "a.mp3", Music(), "5.mp3");
-  Apri(1);
-  auto& list = Trova<QListWidget>("lstAssegnati");
-  EXPECT_EQ(list.currentRow(), -1);
-  Spunta(1);
-  EXPECT_EQ(list.currentRow(), -1);
-  Spunta(3);
-  EXPECT_EQ(list.currentRow(), 0);
-  Spunta(3);
-  EXPECT_EQ(list.currentRow(), -1);
-}
-
-TEST_F(Inputs, AnAssignmentOfTheLinksInputsIsMarkedAndTicksNothing) {
-  b.AggiungiRiga("inputcfg.mdb", 1, 1, "a.mp3", Music(), "1.mp3");
-  b.AggiungiRiga("inputcfg.mdb", 1, 17, "b.mp3", Music(), "17.mp3");
-  b.Cartella.Write("program/Projects/Hall/Config.cfg", "[Config]\r\nUse485=1\r\n");
-  Apri(1);
-  auto& list = Trova<QListWidget>("lstAssegnati");
-  ASSERT_EQ(list.count(), 2);
-  EXPECT_TRUE(list.item(1)->text().endsWith(QLatin1String("in use by the RS-485 link")))
-      << list.item(1)->text().toStdString();
-  ClicRiga(list, 1);
-  EXPECT_EQ(Testo("lblfraFileName"), "File on the card - ") << "not that of input 1";
-  EXPECT_EQ(list.currentRow(), -1);
-  ClicRiga(list, 0);
-  EXPECT_EQ(Testo("lblfraFileName"), "File on the card - 1.mp3");
-}
-
-TEST_F(Inputs, TheListSeesWhatBecameOfItsFilesWhileAnotherWindowWasInFront) {
-  b.ScriviMp3("music/a.mp3");
-  b.AggiungiRiga("inputcfg.mdb", 1, 5, "a.mp3", Music(), "5.mp3");
-  Apri(1);
-  EXPECT_EQ(Testo("lblCifre"), "1 file");
-  std::filesystem::remove(b.Cartella.Host() / "music/a.mp3");
-  QEvent activation(QEvent::WindowActivate);
-  QCoreApplication::sendEvent(hub, &activation);
-  EXPECT_EQ(Testo("lblCifre"), "1 file, 1 missing");
-}
-
-TEST_F(Inputs, ATableThatIsLockedIsNoEmptyOneAndComesBack) {
-  b.AggiungiRiga("inputcfg.mdb", 1, 5, "a.mp3", Music(), "5.mp3");
-  Connection other(b.Disco);
-  ASSERT_FALSE(other.Open(b.Percorso("program/Projects/Hall/inputcfg.mdb")));
-  ASSERT_EQ(sqlite3_exec(other.Handle(), "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
-  Apri(1);
-  Spunta(1);
-  Spunta(3);
-  EXPECT_FALSE(SiVede("fraFileAssociato"));
-  EXPECT_TRUE(Testo("lblCifre").starts_with("The assignments can't be read now"))
-      << Testo("lblCifre");
-  other.Close();
-  QEvent activation(QEvent::WindowActivate);
-  QCoreApplication::sendEvent(hub, &activation);
-  EXPECT_EQ(Trova<QListWidget>("lstAssegnati").count(), 1);
-  EXPECT_EQ(Testo("lblCifre"), "1 file");
-  EXPECT_EQ(Testo("lblFileAssociato"), "Plays: a.mp3") << "of what was ticked meanwhile";
-}
-
-TEST_F(Inputs, NothingIsTakenAwayThatCouldNotBeSeen) {
-  b.AggiungiRiga("inputcfg.mdb", 1, 1, "elsewhere.mp3", "C:\\far\\", "1.mp3");
-  Connection other(b.Disco);
-  ASSERT_FALSE(other.Open(b.Percorso("program/Projects/Hall/inputcfg.mdb")));
-  ASSERT_EQ(sqlite3_exec(other.Handle(), "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
-  Apri(0);
-  Spunta(1);
-  other.Close();
-  ScegliFile(" ");
-  Clic("cmdOkFileMp3");
-  EXPECT_NE(Riga(1), "") << "the first press shows it";
-  EXPECT_EQ(Testo("lblFileAssociato"), "Plays: elsewhere.mp3");
-  EXPECT_EQ(Testo("lblOkFileMp3"), "Remove file");
-  Clic("cmdOkFileMp3");
-  EXPECT_EQ(Riga(1), "");
-  EXPECT_EQ(Testo("lblOkFileMp3"), "Confirm") << "nothing is left to remove";
-}
-
-TEST_F(Inputs, TheArrowKeysBringTheirRowIntoViewAndAConfirmedOneIsSeen) {
-  for (int code = 1; code <= 200; ++code) {
-    b.AggiungiRiga("inputcfg.mdb", 1, code, "a.mp3", Music(), std::to_string(code) + ".mp3");
-  }
-  Apri(0);
-  auto& list = Trova<QListWidget>("lstAssegnati");
-  list.setFocus();
-  QTest::keyClick(&list, Qt::Key_End);
-  EXPECT_TRUE(list.viewport()->rect().intersects(list.visualItemRect(list.item(199))));
-  for (const int input : {1, 2, 3, 4, 5, 6, 7, 8}) Spunta(input);
-  list.verticalScrollBar()->setValue(0);
-  ScegliFile("b.mp3");
-  Conferma();
-  ASSERT_EQ(list.count(), 201);
-  EXPECT_TRUE(list.viewport()->rect().intersects(list.visualItemRect(list.item(200))));
-}
-
-TEST_F(Inputs, TheLinksMarksComeAndGoWithAnActivation) {
-  b.AggiungiRiga("inputcfg.mdb", 1, 17, "a.mp3", Music(), "17.mp3");
-  Apri(1);
-  const auto row = [this] { return Trova<QListWidget>("lstAssegnati").item(0)->text(); };
-  EXPECT_EQ(row(), "17   IN1+IN5   a.mp3");
-  for (const bool link : {true, false}) {
-    b.C.Stato.Usa485 = link;
-    QEvent activation(QEvent::WindowActivate);
-    QCoreApplication::sendEvent(hub, &activation);
-    EXPECT_EQ(row().endsWith(QLatin1String("in use by the RS-485 link")), link);
-  }
-}
-
-TEST_F(Inputs, ALongListStaysWhereItWasScrolledTo) {
-  for (int code = 1; code <= 255; ++code) {
-    b.AggiungiRiga("inputcfg.mdb", 1, code, "a.mp3", Music(), std::to_string(code) + ".mp3");
-  }
-  Apri(1);
-  auto& list = Trova<QListWidget>("lstAssegnati");
-  for (const bool ticked : {false, true}) {
-    if (ticked) Spunta(1);
-    list.verticalScrollBar()->setValue(list.verticalScrollBar()->maximum() / 2);
-    const int before = list.verticalScrollBar()->value();
-    ASSERT_GT(before, 0);
-    const QString row = list.item(150)->text();
-    if (ticked) {
-      b.ScriviMp3("music/a.mp3");
-    } else {
-      std::filesystem::remove(b.Cartella.Host() / "music/a.mp3");
-    }
-    QEvent activation(QEvent::WindowActivate);
-    QCoreApplication::sendEvent(hub, &activation);
-    EXPECT_NE(list.item(150)->text(), row) << "it was filled anew";
-    EXPECT_EQ(list.verticalScrollBar()->value(), before) << ticked;
-  }
-}
-
 TEST_F(Inputs, AnAssignmentWhoseFileIsGoneIsMarked) {
   b.AggiungiRiga("inputcfg.mdb", 1, 5, "gone.mp3", Music(), "5.mp3");
   b.AggiungiRiga("inputcfg.mdb", 1, 6, "a.mp3", Music(), "6.mp3");
@@ -375,6 +217,53 @@ TEST_F(Inputs, AnotherFolderBringsItsFiles) {
   EXPECT_EQ(files.currentText(), QStringLiteral("c.mp3")) << "the first file is picked";
   QTest::keyClick(&folders, Qt::Key_Backspace);
   EXPECT_EQ(files.count(), 4);
+}
+
+TEST_F(Inputs, AFolderThatNoPathCanHoldSaysSoAndCannotBeEntered) {
+  b.Cartella.Write("music/AC|DC/c.mp3", "");
+  Apri(0);
+  auto& folders = *hub->fraFileName->DirDirectoryMp3;
+  const auto found = folders.findItems("AC|DC", Qt::MatchExactly);
+  ASSERT_EQ(found.size(), 1);
+  EXPECT_FALSE(found.front()->flags().testFlag(Qt::ItemIsEnabled));
+  EXPECT_TRUE(found.front()->toolTip().endsWith("Rename this folder to use it."));
+}
+
+TEST_F(Inputs, FilesThatCameMeanwhileAreListedAndWhatWasPickedStaysPicked) {
+  Apri(0);
+  auto& files = Trova<QComboBox>("cmbFileMp3");
+  ScegliFile("b.mp3");
+  Attiva();
+  b.ScriviMp3("music/aa.mp3");
+  std::filesystem::create_directory(b.Cartella.Host() / "music/New");
+  Attiva();
+  EXPECT_NE(files.findText("aa.mp3"), -1);
+  EXPECT_EQ(files.currentText(), "b.mp3");
+  EXPECT_FALSE(hub->fraFileName->DirDirectoryMp3->findItems("New", Qt::MatchExactly).isEmpty());
+  std::filesystem::remove(b.Cartella.Host() / "music/b.mp3");
+  Attiva();
+  EXPECT_EQ(files.currentText(), " ");
+}
+
+TEST_F(Inputs, TheFileOfTheTickedInputsIsPickedAsSoonAsItIsThere) {
+  b.AggiungiRiga("inputcfg.mdb", 1, 1, "late.mp3", Music(), "1.mp3");
+  Apri(0);
+  Spunta(1);
+  Attiva();
+  EXPECT_EQ(Testo("lblOkFileMp3"), "Remove file");
+  b.ScriviMp3("music/late.mp3");
+  Attiva();
+  EXPECT_EQ(Trova<QComboBox>("cmbFileMp3").currentText(), "late.mp3");
+  EXPECT_EQ(Testo("lblOkFileMp3"), "Confirm");
+}
+
+TEST_F(Inputs, AClickOnALampOrANameTicksItsBox) {
+  Apri(0);
+  Clic("shaIn_1");
+  Clic("lblIn_3");
+  EXPECT_EQ(Testo("lblfraFileName"), "File on the card - 5.mp3");
+  Clic("lblIn_1");
+  EXPECT_EQ(Testo("lblfraFileName"), "File on the card - 4.mp3");
 }
 
 TEST_F(Inputs, AFolderThatIsGoneIsNotEntered) {

@@ -45,7 +45,8 @@ void SessioneHub::PickRow() {
   const int row = Any(0, list.count() - 1);
   const int code = list.item(row)->data(Qt::UserRole).toInt();
   list.scrollToItem(list.item(row));
-  if (Coin()) {
+  const bool ticked = list.item(row)->flags().testFlag(Qt::ItemIsEnabled);
+  if (Coin() || !ticked) {
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
                       list.visualItemRect(list.item(row)).center());
   } else {

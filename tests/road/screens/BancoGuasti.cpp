@@ -48,7 +48,7 @@ std::string Guasti::Registra() {
   return boxes.Titoli();
 }
 
-void Guasti::PremiTutto() {
+void Guasti::PremiTutto(bool alLavoro) {
   const Risponditore boxes;
   frmPlayerConfig& hub = Hub();
   std::vector<QPointer<QAbstractButton>> buttons;
@@ -57,7 +57,7 @@ void Guasti::PremiTutto() {
     if (!each || !each->isVisible() || !each->isEnabled()) continue;
     const QString name = each->objectName();
     if (name == QLatin1String("picEsci") || name == QLatin1String("picDisk")) continue;
-    if (name == QLatin1String("cmdScegliScheda")) {
+    if (name == QLatin1String("cmdScegliScheda") && !alLavoro) {
       ScegliScheda();
       continue;
     }

@@ -102,6 +102,20 @@ TEST_P(DamagedFiles, TheDatabaseIsToldInTheListOfAssignments) {
   EXPECT_TRUE(before == b.Cartella.Read(DelProgetto("inputcfg.mdb"))) << "nothing is made worse";
 }
 
+TEST_P(DamagedFiles, ADatabaseThatTheRecordingCannotReadIsToldAtItsEnd) {
+  if (IsFolder()) return;
+  CreaHall();
+  ScegliScheda();
+  Spoil(DelProgetto("inputcfg.mdb"));
+  const bool read = GetParam() == Damage::Empty || GetParam() == Damage::Cut;
+  const std::string told = Registra();
+  if (GetParam() == Damage::Random) {
+    EXPECT_EQ(told, "Not everything is on the card");
+  }
+  EXPECT_TRUE(read || !b.Cartella.Exists("card/5.mp3"));
+  LasciaHall();
+}
+
 TEST_P(DamagedFiles, AMusicFileIsRefusedOrNotListed) {
   CreaHall();
   Spoil("music/c.mp3");

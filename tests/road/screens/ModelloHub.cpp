@@ -35,10 +35,15 @@ void ModelloHub::Apri(const std::string& cartella) {
   RiempiElenco();
 }
 
+std::vector<std::string> ModelloHub::VociOra() {
+  std::vector<std::string> now{" "};
+  for (const auto& [name, good] : Dischi[Cartella]) now.push_back(name);
+  return now;
+}
+
 void ModelloHub::Entra(const std::string& cartella) {
   Cartella = cartella;
-  Voci = {" "};
-  for (const auto& [name, good] : Dischi[cartella]) Voci.push_back(name);
+  Voci = VociOra();
   Scelto = Voci.back() == " " ? " " : Voci[1];
   Valuta();
 }
@@ -62,6 +67,14 @@ void ModelloHub::Mostra() {
     Scelto = std::ranges::find(Voci, name) == Voci.end() ? " " : name;
   }
   Valuta();
+}
+
+void ModelloHub::Torna() {
+  RiempiElenco();
+  if (Voci == VociOra()) return;
+  Voci = VociOra();
+  if (std::ranges::find(Voci, Scelto) == Voci.end()) Scelto = " ";
+  Scelto == " " ? Mostra() : Valuta();
 }
 
 void ModelloHub::Scegli(const std::string& voce) {

@@ -59,8 +59,11 @@ class ModelloHub {
 
   /// Fills the list from the disk as it is now.
   void RiempiElenco();
+  /// The hub was in front again: it looks at the disk.
+  void Torna();
 
  private:
+  std::vector<std::string> VociOra();
   void Mostra();
   void Valuta();
 };

@@ -44,6 +44,9 @@ void RandomHub::CompareInputs() {
 }
 
 void RandomHub::CompareFiles() {
+  QEvent activation(QEvent::WindowActivate);  // the hub looks at the disk whenever one comes back
+  QCoreApplication::sendEvent(&Hub(), &activation);
+  m_.Torna();
   const auto& files = Find<QComboBox>("cmbFileMp3");
   EXPECT_EQ(files.currentText().toStdString(), m_.Scelto);
   EXPECT_EQ(files.count(), static_cast<int>(m_.Voci.size()));
@@ -51,9 +54,6 @@ void RandomHub::CompareFiles() {
   if (m_.Scelto == " " || m_.Esiste({m_.Scelto, m_.Cartella})) {
     EXPECT_EQ(Find("lblBadFileType").isVisible(), m_.Rifiutato());
   }
-  QEvent activation(QEvent::WindowActivate);  // the list looks at the disk whenever one comes back
-  QCoreApplication::sendEvent(&Hub(), &activation);
-  m_.RiempiElenco();
   const auto& list = Find<QListWidget>("lstAssegnati");
   std::vector<std::string> rows;
   for (int row = 0; row < list.count(); ++row) rows.push_back(list.item(row)->text().toStdString());

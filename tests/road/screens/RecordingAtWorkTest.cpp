@@ -89,7 +89,7 @@ TEST_F(RecordingAtWork, LeavingMeanwhileComesAfterItAndTheCardIsWhole) {
 TEST_F(RecordingAtWork, EveryButtonOfTheHubCanBePressedMeanwhile) {
   for (int beat = 0; beat < 8; ++beat) {
     SCOPED_TRACE(beat);
-    RecordAnd(beat, [this] { PremiTutto(); });
+    RecordAnd(beat, [this] { PremiTutto(true); });
     ASSERT_TRUE(Hub().isVisible() && Hub().isEnabled());
   }
   LasciaHall();

@@ -103,10 +103,13 @@ TEST_F(SecondProgram, ThatAssignsAnInputIsOverwrittenByTheLastWord) {
   EXPECT_EQ(Riga(2), "a.mp3") << "one row, not two";
 }
 
-TEST_F(SecondProgram, ThatAssignsAnInputDoesNotKeepItFromBeingFreed) {
+TEST_F(SecondProgram, ThatAssignsAnInputIsSeenBeforeItIsFreed) {
   Sql("INSERT INTO [List] ([Pos],[FileName],[FilePath],[Alias],[NPlaylist],[IDSched]) "
       "VALUES(2,'theirs.mp3','C:\\','2.mp3',1,0)");
   Assegna({2}, " ");
+  EXPECT_EQ(Riga(2), "theirs.mp3");
+  EXPECT_NE(Shown(), kBoth);
+  test::Clicca(Hub(), "cmdOkFileMp3");
   EXPECT_EQ(Riga(2), "");
   EXPECT_EQ(Shown(), kBoth);
 }

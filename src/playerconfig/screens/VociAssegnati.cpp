@@ -1,0 +1,74 @@
+#include "playerconfig/screens/VociAssegnati.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <algorithm>
+#include <utility>
+
+#include "core/screens/Tema.h"
+
+namespace kvr5 {
+namespace {
+
+constexpr int kSign = 16;
+constexpr int kEdge = 10;  // pixels before the sign, behind it and behind the file's name
+constexpr int kGap = 14;   // pixels between two columns
+constexpr int kLine = 28;  // height of a row
+constexpr int kMark = 18;  // what a mark adds to it
+
+/// A column of the row's first line, cut from the left of what is left of it.
+QRect Cut(QRect& rest, int width) {
+  const QRect column(rest.left(), rest.top(), std::min(width, rest.width()), rest.height());
+  rest.setLeft(std::min(rest.left() + width + kGap, rest.right() + 1));
+  return column;
+}
+
+void Write(QPainter& painter, const QRect& column, const QString& text, Qt::TextElideMode mode) {
+  painter.drawText(column, Qt::AlignLeft | Qt::AlignVCenter,
+                   painter.fontMetrics().elidedText(text, mode, column.width()));
+}
+
+}  // namespace
+
+void VociAssegnati::Misura(const QListWidget& elenco) {
+  const QFontMetrics metrics(FontDi(Carattere::Corpo));
+  codici_ = ingressi_ = 0;
+  for (int row = 0; row < elenco.count(); ++row) {
+    const QListWidgetItem& item = *elenco.item(row);
+    codici_ = std::max(codici_, metrics.horizontalAdvance(item.data(Codice).toString()));
+    ingressi_ = std::max(ingressi_, metrics.horizontalAdvance(item.data(Ingressi).toString()));
+  }
+}
+
+QSize VociAssegnati::sizeHint(const QStyleOptionViewItem& /*opzione*/,
+                              const QModelIndex& voce) const {
+  return {0, voce.data(Segno).toString().isEmpty() ? kLine : kLine + kMark};
+}
+
+void VociAssegnati::paint(QPainter* pittore, const QStyleOptionViewItem& opzione,
+                          const QModelIndex& voce) const {
+  QStyleOptionViewItem item = opzione;
+  initStyleOption(&item, voce);
+  item.text.clear();
+  const QIcon sign = std::exchange(item.icon, QIcon());
+  QApplication::style()->drawControl(QStyle::CE_ItemViewItem, &item, pittore, item.widget);
+  const bool chosen = item.state.testFlag(QStyle::State_Selected);
+  QRect line = item.rect;
+  sign.paint(pittore, QRect(line.left() + kEdge, line.top(), kSign, line.height()));
+  line.adjust(kEdge + kSign + kEdge, 0, -kEdge, 0);
+  const QRect below = line.adjusted(0, kLine - 6, 0, -4);
+  line.setHeight(kLine);
+  pittore->save();
+  pittore->setPen(chosen ? Tema::Corrente().SuSelezione : item.palette.color(QPalette::Text));
+  pittore->setFont(FontDi(Carattere::Corpo));
+  Write(*pittore, Cut(line, codici_), voce.data(Codice).toString(), Qt::ElideRight);
+  // The inputs of a row may be all eight of them: the name of the file keeps half of the room.
+  Write(*pittore, Cut(line, std::min(ingressi_, line.width() / 2)), voce.data(Ingressi).toString(),
+        Qt::ElideRight);
+  Write(*pittore, line, voce.data(File).toString(), Qt::ElideMiddle);
+  pittore->setFont(FontDi(Carattere::Suggerimento));
+  Write(*pittore, below, voce.data(Segno).toString(), Qt::ElideRight);
+  pittore->restore();
+}
+
+}  // namespace kvr5

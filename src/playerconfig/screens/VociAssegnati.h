@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QListWidget>
+#include <QStyledItemDelegate>
+
+namespace kvr5 {
+
+/// The rows of lstAssegnati in columns, so that the eye can run down the codes, the inputs or the
+/// files; what a row is marked with stands in a line of its own below them.
+class VociAssegnati : public QStyledItemDelegate {
+ public:
+  /// What an item keeps besides its text, which is the whole row in words.
+  enum Dato { Codice = Qt::UserRole, Ingressi, File, Segno };
+
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  /// Makes the columns as wide as the rows of the list need; to be called when they are new.
+  void Misura(const QListWidget& elenco);
+
+  QSize sizeHint(const QStyleOptionViewItem& opzione, const QModelIndex& voce) const override;
+  void paint(QPainter* pittore, const QStyleOptionViewItem& opzione,
+             const QModelIndex& voce) const override;
+
+ private:
+  int codici_ = 0;    ///< pixels
+  int ingressi_ = 0;  ///< pixels
+};
+
+}  // namespace kvr5
