@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 
 #include "core/Aiuti.h"
+#include "flashcard/AvvisoNonLetti.h"
 #include "flashcard/Registrazione.h"
 #include "platform/FileOps.h"
 
@@ -109,6 +110,7 @@ void Programma::AvviaTempoSplash() {
 bool Programma::RegistraProgetto(TabellaIngressi& ingressi) {
   SceltaDalDialogo choice(*this);
   const auto end = RegistraProgettoSuFlash(contesto_, ingressi, progresso_, choice);
+  AvvisaNonLetti(contesto_, end);
   return end.Fine == FineRegistrazione::Annullata;
 }
 
