@@ -6,6 +6,7 @@
 #include "core/Lingua.h"
 #include "platform/CodePage.h"
 #include "platform/FileOps.h"
+#include "platform/Path.h"
 #include "projects/CartellaProgetto.h"
 #include "projects/Descrittore.h"
 
@@ -88,6 +89,12 @@ void TellOfInputsOnOstrel(Contesto& contesto) {
                                 {}});
 }
 
+/// The descriptor keeps the name in the code page; a card that is read back makes its folder anew
+/// from there.
+bool CanBeKept(const Contesto& contesto, std::string_view name) {
+  return CodePage(contesto.Luogo.AnsiCodePage).CanEncode(name);
+}
+
 }  // namespace
 
 std::string NotaCaratteriVietati(Contesto& contesto, std::string_view separatore) {
@@ -121,6 +128,10 @@ std::string DescrizioneKvr5(std::int16_t playerMode, const ScritteWizard& scritt
   return text;
 }
 
+bool NomeAmmesso(const Contesto& contesto, std::string_view nome) {
+  return CardCanHold(nome) && CanBeKept(contesto, nome);
+}
+
 EsitoNuovo PreparaCartella(Contesto& contesto, const std::string& nome, bool soloNome) {
   if (nome.find_first_of(kCaratteriVietati) != std::string::npos) {
     return EsitoNuovo::CarattereVietato;
@@ -140,11 +151,9 @@ EsitoNuovo PreparaCartella(Contesto& contesto, const std::string& nome, bool sol
   }
   contesto.Errore.Clear();
   if (soloNome) return EsitoNuovo::SoloNome;
-  // The descriptor keeps the name in the code page; a card that is read back makes its folder anew
-  // from there.
-  const bool keepable = CodePage(contesto.Luogo.AnsiCodePage).CanEncode(nome);
-  contesto.Errore.Record(keepable ? contesto.Files.CreateFolder(state.CartellaProgetto)
-                                  : Error(errors::BadFileName));
+  contesto.Errore.Record(CanBeKept(contesto, nome)
+                             ? contesto.Files.CreateFolder(state.CartellaProgetto)
+                             : Error(errors::BadFileName));
   if (contesto.Errore) {
     const Error& error = contesto.Errore.Last();
     contesto.Finestre.MostraMessaggio({TestoLingua(contesto, "0030006"),

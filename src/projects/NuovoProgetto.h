@@ -39,6 +39,10 @@ ScritteWizard ScritteDelWizard(Contesto& contesto, std::int16_t playerMode);
 /// PlayerConfigDesc of a new project of model 4: "KVR5 (Inputs)", "KVR5 (Playlist ...)".
 std::string DescrizioneKvr5(std::int16_t playerMode, const ScritteWizard& scritte);
 
+/// True when a folder of this name can be made and read back: a card can hold it, and the
+/// descriptor's code page has its characters. Of the rest PreparaCartella tells the number alone.
+bool NomeAmmesso(const Contesto& contesto, std::string_view nome);
+
 /// The checks of a name and the making of the folder, the same for the wizard and for the name
 /// dialog; with `soloNome` it ends before the folder is made and
 /// leaves the pointer alone.

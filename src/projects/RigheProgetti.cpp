@@ -1,5 +1,7 @@
 #include "projects/RigheProgetti.h"
 
+#include <algorithm>
+
 #include "core/Aiuti.h"
 #include "platform/Fold.h"
 #include "projects/CartellaProgetto.h"
@@ -37,17 +39,23 @@ std::string RigheProgetti::Quando(std::size_t riga) {
   return moment ? QuandoInParole(contesto_, *moment) : std::string();
 }
 
-std::optional<std::size_t> RigheProgetti::Cerca(std::string_view testo, std::size_t da) const {
+std::optional<std::size_t> RigheProgetti::Cerca(std::string_view testo) const {
   const std::string wanted = FoldCase(Rifila(testo));
-  if (wanted.empty() || righe_.empty()) return {};
-  std::optional<std::size_t> inside;
+  if (wanted.empty()) return {};
+  const auto begins = std::ranges::find_if(
+      righe_, [&](const Riga& row) { return row.Ripiegato.starts_with(wanted); });
+  if (begins != righe_.end()) return static_cast<std::size_t>(begins - righe_.begin());
+  return CercaDa(testo, 0);
+}
+
+std::optional<std::size_t> RigheProgetti::CercaDa(std::string_view testo, std::size_t da) const {
+  const std::string wanted = FoldCase(Rifila(testo));
+  if (wanted.empty()) return {};
   for (std::size_t i = 0; i < righe_.size(); ++i) {
     const std::size_t row = (da % righe_.size() + i) % righe_.size();
-    const std::size_t at = righe_[row].Ripiegato.find(wanted);
-    if (at == 0) return row;
-    if (at != std::string::npos && !inside) inside = row;
+    if (righe_[row].Ripiegato.find(wanted) != std::string::npos) return row;
   }
-  return inside;
+  return {};
 }
 
 }  // namespace kvr5

@@ -32,9 +32,12 @@ class RigheProgetti {
   std::optional<std::int64_t> Modificato(std::size_t riga);
   /// The same in words, "" for nothing.
   std::string Quando(std::size_t riga);
-  /// The first row from `da` on, going round, whose name begins with the text, else one that holds
-  /// it, without regard to case; nothing for no match or a blank text.
-  std::optional<std::size_t> Cerca(std::string_view testo, std::size_t da = 0) const;
+  /// The first row whose name begins with the text, else the first that holds it, without regard to
+  /// case; nothing for no match or a blank text.
+  std::optional<std::size_t> Cerca(std::string_view testo) const;
+  /// The first row from `da` on, round the end, whose name holds the text at any place: called with
+  /// the row behind the last one found it comes by all of them. Nothing as above.
+  std::optional<std::size_t> CercaDa(std::string_view testo, std::size_t da) const;
 
  private:
   struct Riga {

@@ -271,5 +271,25 @@ TEST_F(NewProject, AModelOutsideTheFourFillsNothing) {
   EXPECT_TRUE(b.Nomi("program/Projects").empty());
 }
 
+TEST_F(NewProject, ANameIsAllowedWhenAFolderCanHaveItAndTheDescriptorCanKeepIt) {
+  for (const char* name :
+       {"Hall", " Hall", "Museum-Hall-2", "Caff\u00E8", "a.b", "CON-1", "\u20AC"}) {
+    EXPECT_TRUE(NomeAmmesso(b.C, name)) << name;
+  }
+  for (const char* name : {"Hall ", "Hall.", "CON", "com1.x", "nul ", "Hall*", "a\tb", "..", "   ",
+                           "\u65E5\u672C", "\xFF", ""}) {
+    EXPECT_FALSE(NomeAmmesso(b.C, name)) << name;
+  }
+}
+
+TEST_F(NewProject, ANameThatIsNotAllowedIsRefusedWithItsNumberAsEver) {
+  for (const char* name : {"Hall ", "Hall.", "CON", "Hall*", "\u65E5\u672C"}) {
+    EXPECT_EQ(Create(name, 1), EsitoNuovo::CartellaNonCreata) << name;
+    EXPECT_EQ(b.Finestre.Prossimo().Testo,
+              "This step could not be completed\r\nN°:52\r\nBad file name or number");
+    EXPECT_EQ(s.ProjectName, name);
+  }
+}
+
 }  // namespace
 }  // namespace kvr5

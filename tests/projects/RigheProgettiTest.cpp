@@ -34,6 +34,7 @@ TEST_F(ProjectRows, AreNoneWithoutProjects) {
   rows.Carica();
   EXPECT_EQ(rows.Quante(), 0U);
   EXPECT_FALSE(rows.Cerca("a"));
+  EXPECT_FALSE(rows.CercaDa("a", 1));
 }
 
 TEST_F(ProjectRows, AreNoneWithoutTheProjectsFolder) {
@@ -138,12 +139,30 @@ TEST_F(ProjectRows, AreFoundByTheirBeginningThenByAnyPart) {
   rows.Carica();  // hall, Lift-A, Museum-Hall-2, My hall
   EXPECT_EQ(rows.Cerca("mus"), 2U);
   EXPECT_EQ(rows.Cerca("HALL"), 0U);
-  EXPECT_EQ(rows.Cerca("hall", 1), 0U) << "a beginning goes before a part, also round the end";
-  EXPECT_EQ(rows.Cerca("M", 3), 3U);
-  EXPECT_EQ(rows.Cerca("m", 4), 2U);
+  EXPECT_EQ(rows.Cerca("my"), 3U);
+  EXPECT_EQ(rows.Cerca("m"), 2U);
   EXPECT_EQ(rows.Cerca("-a"), 1U);
+  EXPECT_EQ(rows.Cerca("-hall"), 2U);
   EXPECT_FALSE(rows.Cerca("zoo"));
   EXPECT_FALSE(rows.Cerca("  "));
+}
+
+TEST_F(ProjectRows, ABeginningGoesBeforeAPartThatStandsFurtherUp) {
+  for (const char* name : {"A-museum", "Museum"}) Project(name, "");
+  rows.Carica();
+  EXPECT_EQ(rows.Cerca("museum"), 1U);
+}
+
+TEST_F(ProjectRows, AreGoneThroughInTheListsOrderRoundTheEndWhereverTheyHoldTheText) {
+  for (const char* name : {"Lift-A", "Museum-Hall-2", "My hall", "hall"}) Project(name, "");
+  rows.Carica();  // hall, Lift-A, Museum-Hall-2, My hall
+  EXPECT_EQ(rows.CercaDa("HALL", 0), 0U);
+  EXPECT_EQ(rows.CercaDa("hall", 1), 2U);
+  EXPECT_EQ(rows.CercaDa("hall", 3), 3U);
+  EXPECT_EQ(rows.CercaDa("hall", 4), 0U) << "behind the last row comes the first";
+  EXPECT_EQ(rows.CercaDa("lift", 2), 1U) << "a single one is found again";
+  EXPECT_FALSE(rows.CercaDa("zoo", 1));
+  EXPECT_FALSE(rows.CercaDa("  ", 1));
 }
 
 TEST_F(ProjectRows, OfThousandsOfProjectsReadTheNamesAlone) {

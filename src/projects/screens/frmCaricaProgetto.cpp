@@ -1,6 +1,7 @@
 #include "projects/screens/frmCaricaProgetto.h"
 
 #include <QHeaderView>
+#include <QScopedValueRollback>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -90,9 +91,8 @@ void frmCaricaProgetto::Collega() {
   connect(picLoad, &QAbstractButton::clicked, this, [this] { ApriAltraCartella(); });
   connect(picindietro, &QAbstractButton::clicked, this, [this] { Indietro(); });
   connect(picHelp, &QAbstractButton::clicked, this, [this] { Aiuto(); });
-  connect(txtCerca, &QLineEdit::textChanged, this, [this] { Cerca(0); });
-  connect(txtCerca, &QLineEdit::returnPressed, this,
-          [this] { Cerca(static_cast<std::size_t>(lstProgetti->currentIndex().row() + 1)); });
+  connect(txtCerca, &QLineEdit::textChanged, this, [this] { Cerca(); });
+  connect(txtCerca, &QLineEdit::returnPressed, this, [this] { CercaProssimo(); });
   const auto* find = new QShortcut(QKeySequence::Find, this);
   connect(find, &QShortcut::activated, this, [this] {
     txtCerca->setFocus();
@@ -141,11 +141,18 @@ void frmCaricaProgetto::AlCaricamento() {
   (empty ? static_cast<QWidget*>(picLoad) : lstProgetti)->setFocus();
 }
 
-void frmCaricaProgetto::Cerca(std::size_t da) {
-  const std::string text = Std(txtCerca->text());
-  const auto row = lista_.Righe().Cerca(text, da);
-  if (row) lstProgetti->selectRow(static_cast<int>(*row));
-  const bool nothing = !row && !Rifila(text).empty();
+void frmCaricaProgetto::Cerca() {
+  MostraTrovato(lista_.Righe().Cerca(Std(txtCerca->text())));
+}
+
+void frmCaricaProgetto::CercaProssimo() {
+  const auto next = static_cast<std::size_t>(lstProgetti->currentIndex().row() + 1);
+  MostraTrovato(lista_.Righe().CercaDa(Std(txtCerca->text()), next));
+}
+
+void frmCaricaProgetto::MostraTrovato(std::optional<std::size_t> riga) {
+  if (riga) lstProgetti->selectRow(static_cast<int>(*riga));
+  const bool nothing = !riga && !Rifila(Std(txtCerca->text())).empty();
   QPalette palette = lstProgetti->palette();
   palette.setColor(QPalette::Text, nothing ? Tema::Corrente().Errore : Tema::Corrente().Testo);
   txtCerca->setPalette(palette);
@@ -155,6 +162,7 @@ void frmCaricaProgetto::Cerca(std::size_t da) {
 }
 
 void frmCaricaProgetto::ApriScelto() {
+  if (apre_) return;
   const auto row = lstProgetti->currentIndex().row();
   if (!lstProgetti->selectionModel()->hasSelection()) return;
   if (row < 0 || static_cast<std::size_t>(row) >= lista_.Righe().Quante()) return;
@@ -167,8 +175,10 @@ void frmCaricaProgetto::ApriScelto() {
 }
 
 void frmCaricaProgetto::ApriAltraCartella() {
+  if (apre_) return;
   {
     const Impegno stays(*this);
+    const QScopedValueRollback picks(apre_, true);
     CartellaScelta = C().Finestre.SfogliaCartella(TestoLingua(C(), "0020004"), {});
     C().Messaggi.LasciaCorrere();
   }
@@ -178,13 +188,11 @@ void frmCaricaProgetto::ApriAltraCartella() {
 }
 
 void frmCaricaProgetto::ApriProgetto() {
-  if (apre_) return;  // the hub's load lets events run, a second press among them
   apre_ = true;
-  if (Apre()) {
-    FormChiamante = Schermata::Nessuna;  // what comes next is not where this screen came from
-    Scarica();
-  }
-  apre_ = false;
+  apre_ = Apre();
+  if (!apre_) return;
+  FormChiamante = Schermata::Nessuna;  // what comes next is not where this screen came from
+  Scarica();
 }
 
 bool frmCaricaProgetto::Apre() {

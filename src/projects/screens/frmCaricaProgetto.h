@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QTableView>
+#include <optional>
 #include <string>
 
 #include "core/Schermata.h"
@@ -51,10 +52,14 @@ class frmCaricaProgetto : public Form {
   void ApriProgetto();
   /// True when the hub stands.
   bool Apre();
-  void Cerca(std::size_t da);
+  void Cerca();
+  void CercaProssimo();
+  void MostraTrovato(std::optional<std::size_t> riga);
   void Indietro();
 
   ListaProgetti lista_;
+  /// A folder is being picked or opened: events run then, and a second press among them must do
+  /// nothing. Stays on once the hub stands.
   bool apre_ = false;
 };
 

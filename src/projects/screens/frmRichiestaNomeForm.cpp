@@ -5,6 +5,7 @@
 #include "core/Aiuti.h"
 #include "core/Lingua.h"
 #include "core/screens/Avvisi.h"
+#include "core/screens/EtichettaElisa.h"
 #include "core/screens/LocalizzaForm.h"
 #include "core/screens/Pagina.h"
 #include "core/screens/Tema.h"
@@ -21,7 +22,12 @@ constexpr std::int16_t kForm = 3;
 
 frmRichiestaNomeForm::frmRichiestaNomeForm(Ambiente& ambiente)
     : Form(ambiente, "frmRichiestaNomeForm") {
-  resize(560, 260);
+  resize(640, 280);
+  Costruisci();
+  Collega();
+}
+
+void frmRichiestaNomeForm::Costruisci() {
   auto* page = NuovaPagina(*this);
   lblDigitareNomeProgetto =
       NuovaEtichetta("lblDigitareNomeProgetto", QStringLiteral("Write Project Name"), 1, this);
@@ -35,6 +41,8 @@ frmRichiestaNomeForm::frmRichiestaNomeForm(Ambiente& ambiente)
   lblNota = new EtichettaAvviso("lblNota", QStringLiteral("Note"), Carattere::Riquadro, this);
   lblNota->setWordWrap(true);
   page->addWidget(lblNota);
+  lblCartella = new EtichettaElisa("lblCartella", this, Qt::ElideMiddle);  // however long a name
+  page->addWidget(lblCartella);
   page->addStretch(1);
   picGoBack = new Coppia("picGoBack", "lblIndietro", QStringLiteral("back"), "indietro", 4, this);
   picGoOn = new Coppia("picGoOn", "lblOn", QStringLiteral("on"), "fatto", 3, this);
@@ -43,12 +51,10 @@ frmRichiestaNomeForm::frmRichiestaNomeForm(Ambiente& ambiente)
   lblOn = picGoOn->Etichetta();
   page->addLayout(Riga({picGoBack, nullptr, picGoOn}));
   OrdineTab({picHelp, txtNomeProgetto, picGoBack, picGoOn});
+}
 
-  connect(txtNomeProgetto, &QLineEdit::textChanged, this, [this](const QString& name) {
-    VestiNota(*lblNota, Std(name));
-    txtNomeProgetto->setAccessibleDescription(
-        HaCaratteriVietati(Std(name)) ? Qs(TestoLingua(C(), "0130108")) : QString());
-  });
+void frmRichiestaNomeForm::Collega() {
+  connect(txtNomeProgetto, &QLineEdit::textChanged, this, [this] { CambiaNome(); });
   connect(txtNomeProgetto, &QLineEdit::returnPressed, this, [this] {
     if (!Rifila(Std(txtNomeProgetto->text())).empty()) picGoOn->click();
   });
@@ -65,9 +71,13 @@ void frmRichiestaNomeForm::AlCaricamento() {
   LocalizzaForm(C(), kForm, *this);
   lblNota->setText(QsRighe(NotaCaratteriVietati(C(), "\r\n")));
   txtNomeProgetto->setPlaceholderText(Qs(TestoLingua(C(), "0130106")));
-  VestiNota(*lblNota, C().Stato.ProjectName);
+  CambiaNome();
   C().Messaggi.ImpostaPuntatore(Puntatore::Normale);
   txtNomeProgetto->setFocus();
+}
+
+void frmRichiestaNomeForm::CambiaNome() {
+  ValutaNome(C(), *txtNomeProgetto, *lblNota, *lblCartella);
 }
 
 void frmRichiestaNomeForm::Avanti() {

@@ -23,6 +23,7 @@ class frmRichiestaNomeForm : public Form {
   QLabel* lblDigitareNomeProgetto;
   QLineEdit* txtNomeProgetto;
   EtichettaAvviso* lblNota;
+  QLabel* lblCartella;  ///< the folder that the name leads to, or why there is none
   Coppia* picGoOn;
   QLabel* lblOn;
   Coppia* picGoBack;
@@ -35,6 +36,9 @@ class frmRichiestaNomeForm : public Form {
   void AlloScarico() override;
 
  private:
+  void Costruisci();
+  void Collega();
+  void CambiaNome();
   void Avanti();
 };
 

@@ -6,7 +6,6 @@
 
 #include "core/Aiuti.h"
 #include "core/Lingua.h"
-#include "core/ParoleCopia.h"
 #include "core/screens/Avvisi.h"
 #include "core/screens/EtichettaElisa.h"
 #include "core/screens/LocalizzaForm.h"
@@ -157,16 +156,7 @@ void frmWizardPanel1::Localizza() {
 }
 
 void frmWizardPanel1::CambiaNome() {
-  const std::string name = Std(txtNomeProgetto->text());
-  VestiNota(*lblNota, name);
-  txtNomeProgetto->setAccessibleDescription(
-      HaCaratteriVietati(name) ? Qs(TestoLingua(C(), "0130108")) : QString());
-  const std::string folder = AggiungiBarra(C().Stato.CartellaProgetti) + name;
-  const bool shows = !name.empty() && !HaCaratteriVietati(name);
-  const QString text =
-      shows ? Qs(TestoLingua(C(), "0130107") + " " + PercorsoPerPersone(C(), folder)) : QString();
-  lblCartella->setText(text);
-  lblCartella->setToolTip(Suggerimento(text));
+  ValutaNome(C(), *txtNomeProgetto, *lblNota, *lblCartella);
 }
 
 void frmWizardPanel1::LeggiModoPannello() {

@@ -25,7 +25,7 @@ class frmWizardPanel1 : public Form {
   QLabel* lblNomeProgetto;
   QLineEdit* txtNomeProgetto;
   EtichettaAvviso* lblNota;
-  QLabel* lblCartella;  ///< the folder that the name leads to
+  QLabel* lblCartella;  ///< the folder that the name leads to, or why there is none
   QLabel* lblSelectType;
   QRadioButton* optPanel_1;
   QRadioButton* optPanel_2;

@@ -1,4 +1,5 @@
 #include <filesystem>
+#include <utility>
 
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
@@ -218,11 +219,25 @@ TEST_F(ElencoDeiProgetti, TheFindFieldJumpsToTheFirstNameThatBeginsSo) {
   ASSERT_EQ(form.focusWidget(), form.txtCerca);
   Scrivi(form, "MUS");
   EXPECT_EQ(Scelto(), "museum");
-  Tasto(form, Qt::Key_Return);
-  EXPECT_EQ(Scelto(), "museum2") << "Enter goes on to the next";
-  Tasto(form, Qt::Key_Return);
-  EXPECT_EQ(Scelto(), "museum") << "and round";
+}
+
+TEST_F(ElencoDeiProgetti, EnterInTheFindFieldComesByAllThatHoldTheTextRoundTheEnd) {
+  Progetti({"a-museum", "bar", "museum", "museum2", "my museum"});
+  frmCaricaProgetto& form = DalMenu();
+  Riscrivi(*form.txtCerca, "mus");
+  Names seen{Scelto()};
+  for (int i = 0; i < 4; ++i) {
+    Tasto(form, Qt::Key_Return);
+    seen.push_back(Scelto());
+  }
+  EXPECT_EQ(seen, (Names{"museum", "museum2", "my museum", "a-museum", "museum"}));
   EXPECT_TRUE(form.isVisible()) << "Enter opens nothing here";
+  EXPECT_TRUE(b.Schermi.Aperture.empty());
+}
+
+TEST_F(ElencoDeiProgetti, TheFindFieldSaysWhatEnterDoes) {
+  Progetti({"bar"});
+  EXPECT_NE(Std(DalMenu().txtCerca->toolTip()).find("Enter goes to the next"), std::string::npos);
 }
 
 TEST_F(ElencoDeiProgetti, WithoutAMatchTheSelectionStaysAndTheFieldSaysSo) {
@@ -251,6 +266,63 @@ TEST_F(ElencoDeiProgetti, F1AndThePictureOpenTheHelp) {
   Tasto(form, Qt::Key_F1);
   Clicca(*form.picHelp);
   EXPECT_EQ(b.Documenti.Aperti.size(), 2U);
+}
+
+TEST_F(ElencoDeiProgetti, ANameOfBlanksAloneIsNotOpened) {
+  Progetti({"  "});
+  DalMenu();
+  EXPECT_EQ(Righe(), Names{"  "});
+  Clicca(*forma->picOpen);
+  EXPECT_TRUE(b.Schermi.Aperture.empty());
+  EXPECT_TRUE(forma->isVisible());
+  EXPECT_FALSE(PuntatoreOccupato());
+}
+
+/// Has a control clicked once more by the events that run while its window goes.
+class PremeAllaChiusura : public QObject {
+ public:
+  PremeAllaChiusura(QWidget& window, Coppia& button) : button_(button) {
+    window.installEventFilter(this);
+  }
+  int Premuti = 0;
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override {
+    if (event->type() == QEvent::Hide && !std::exchange(chiesto_, true)) {
+      QMetaObject::invokeMethod(
+          this,
+          [this] {
+            ++Premuti;
+            button_.click();
+          },
+          Qt::QueuedConnection);
+    }
+    return QObject::eventFilter(object, event);
+  }
+
+ private:
+  Coppia& button_;
+  bool chiesto_ = false;
+};
+
+TEST_F(ElencoDeiProgetti, ASecondPressWhileTheListGoesLeavesNoBusyPointerOverTheHub) {
+  Progetti({"Bar"});
+  frmCaricaProgetto& form = DalMenu();
+  const PremeAllaChiusura again(form, *form.picOpen);
+  Clicca(*form.picOpen);
+  EXPECT_EQ(again.Premuti, 1);
+  EXPECT_EQ(b.Schermi.Aperture.size(), 1U);
+  EXPECT_FALSE(PuntatoreOccupato());
+}
+
+TEST_F(ElencoDeiProgetti, AFolderIsNotAskedForWhileTheListGoes) {
+  Progetti({"Bar"});
+  frmCaricaProgetto& form = DalMenu();
+  const PremeAllaChiusura again(form, *form.picLoad);
+  Clicca(*form.picOpen);
+  EXPECT_EQ(again.Premuti, 1);
+  EXPECT_EQ(b.Schermi.Aperture.size(), 1U);
+  EXPECT_TRUE(b.Finestre.Silenzio());
 }
 
 }  // namespace

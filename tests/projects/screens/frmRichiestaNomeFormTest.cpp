@@ -1,3 +1,4 @@
+#include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
 #include "projects/screens/frmRichiestaNomeForm.h"
 #include "support/screens/ProvaForm.h"
@@ -134,6 +135,52 @@ TEST_F(NomeProgetto, F1AndThePictureOpenTheHelp) {
   Tasto(form, Qt::Key_F1);
   Clicca(*form.picHelp);
   EXPECT_EQ(b.Documenti.Aperti.size(), 2U);
+}
+
+TEST_F(NomeProgetto, TheFolderThatTheNameLeadsToIsShown) {
+  s.ProjectName = "Bar";
+  frmRichiestaNomeForm& form = SoloIlNome();
+  const std::string folder = (b.Cartella.Host() / "program/Projects/Bar").string();
+  EXPECT_EQ(Scritta(form, "lblCartella"), "Project folder: " + folder);
+  for (const char* name : {"", "   ", "a|b"}) {
+    Nome(name);
+    EXPECT_EQ(Scritta(form, "lblCartella"), "") << name;
+  }
+}
+
+TEST_F(NomeProgetto, ANameThatNoFolderCanHaveIsToldWhileItStandsThere) {
+  frmRichiestaNomeForm& form = SoloIlNome();
+  const auto colour = [&] { return form.lblCartella->palette().color(QPalette::WindowText); };
+  for (const char* name : {"Hall ", "Hall.", "CON", "nul.txt", "a*b", "\u65E5"}) {
+    form.txtNomeProgetto->setText(Qs(name));
+    EXPECT_EQ(
+        Scritta(form, "lblCartella"),
+        "No folder can be called so: take away a blank or dot at the end, or use other letters")
+        << name;
+    EXPECT_EQ(colour(), Tema::Corrente().Avviso) << name;
+    EXPECT_EQ(form.txtNomeProgetto->accessibleDescription(), form.lblCartella->text()) << name;
+    Nome("Hall");
+    EXPECT_NE(Scritta(form, "lblCartella").find("Hall"), std::string::npos) << name;
+    EXPECT_EQ(colour(), Tema::Corrente().Attenuato) << name;
+    EXPECT_EQ(form.txtNomeProgetto->accessibleDescription(), "") << name;
+  }
+}
+
+TEST_F(NomeProgetto, TheNameOfACardThatNoFolderCanHaveIsToldAtOnce) {
+  s.ProjectName = "Hall.";
+  EXPECT_FALSE(SoloIlNome().txtNomeProgetto->accessibleDescription().isEmpty());
+}
+
+TEST_F(NomeProgetto, TheWarningAboutTheFolderShowsWholeInEachLanguage) {
+  for (const char* language : {"English.lan", "Italiano.lan"}) {
+    s.FileLingua = b.Percorso(std::string("program/Language/") + language);
+    frmRichiestaNomeForm& form = SoloIlNome();
+    Nome("CON");
+    EXPECT_LE(form.lblCartella->fontMetrics().horizontalAdvance(form.lblCartella->text()),
+              form.lblCartella->width())
+        << language;
+    Clicca(*form.picGoBack);
+  }
 }
 
 }  // namespace

@@ -285,5 +285,63 @@ TEST_F(WizardDeathTest, AMissingTemplateOrDatabaseIsToldAndEndsTheProcess) {
   EXPECT_EXIT(create("source.mdb"), ended, "the file source.mdb is missing");
 }
 
+/// Names that no folder can have, though none of the eight characters is in them.
+const std::vector<const char*> kImpossible{"Hall ", "Hall.", "CON", "nul.txt", "a*b", "\u65E5"};
+
+TEST_F(Wizard, ANameThatNoFolderCanHaveIsToldWhileItStandsThere) {
+  frmWizardPanel1& form = Apri();
+  const auto colour = [&] { return form.lblCartella->palette().color(QPalette::WindowText); };
+  for (const char* name : kImpossible) {
+    form.txtNomeProgetto->setText(Qs(name));
+    EXPECT_EQ(
+        Scritta(form, "lblCartella"),
+        "No folder can be called so: take away a blank or dot at the end, or use other letters")
+        << name;
+    EXPECT_EQ(colour(), Tema::Corrente().Avviso) << name;
+    EXPECT_EQ(form.txtNomeProgetto->accessibleDescription(), form.lblCartella->text()) << name;
+    Nome("Hall");
+    EXPECT_NE(Scritta(form, "lblCartella").find("Hall"), std::string::npos) << name;
+    EXPECT_EQ(colour(), Tema::Corrente().Attenuato) << name;
+    EXPECT_EQ(form.txtNomeProgetto->accessibleDescription(), "") << name;
+  }
+}
+
+TEST_F(Wizard, OfANameOfBlanksNothingIsSaidUntilItIsTried) {
+  frmWizardPanel1& form = Apri();
+  Nome("   ");
+  EXPECT_EQ(Scritta(form, "lblCartella"), "");
+  EXPECT_EQ(form.txtNomeProgetto->accessibleDescription(), "");
+}
+
+TEST_F(Wizard, AForbiddenCharacterIsLeftToTheNote) {
+  frmWizardPanel1& form = Apri();
+  Nome("a|b.");
+  EXPECT_EQ(Scritta(form, "lblCartella"), "");
+  EXPECT_EQ(form.txtNomeProgetto->accessibleDescription(),
+            "This name holds a character that isn't allowed");
+}
+
+TEST_F(Wizard, TheWarningAboutTheFolderShowsWholeInEachLanguage) {
+  for (const char* language : {"English.lan", "Italiano.lan"}) {
+    b.C.Stato.FileLingua = b.Percorso(std::string("program/Language/") + language);
+    frmWizardPanel1& form = Apri();
+    Nome("CON");
+    EXPECT_LE(form.lblCartella->fontMetrics().horizontalAdvance(form.lblCartella->text()),
+              form.lblCartella->width())
+        << language;
+    Clicca(*form.picGoBack);
+  }
+}
+
+TEST_F(Wizard, AClickOnTheListSelectsPlaylistsOnceTheWindowIsThere) {
+  forma->Carica();
+  emit forma->cmbPlaylist->activated(1);
+  EXPECT_TRUE(forma->optPanel_1->isChecked()) << "not while it is loaded";
+  frmWizardPanel1& form = Apri();
+  emit form.cmbPlaylist->activated(1);
+  EXPECT_TRUE(form.optPanel_21->isChecked());
+  EXPECT_TRUE(form.cmbPlaylist->isEnabled());
+}
+
 }  // namespace
 }  // namespace kvr5
