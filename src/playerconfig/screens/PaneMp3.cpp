@@ -135,6 +135,12 @@ void PaneMp3::MostraTogliere(bool toglie) {
   cmdOkFileMp3->setToolTip(Qs(TestoLingua(contesto_, toglie ? "0130252" : "0130136")));
 }
 
+void PaneMp3::MostraOk(bool mostra) {
+  if (!mostra && cmdOkFileMp3->hasFocus()) cmbFileMp3->setFocus();
+  cmdOkFileMp3->setVisible(mostra);
+  if (mostra) cmdOkFileMp3->setEnabled(true);
+}
+
 bool PaneMp3::eventFilter(QObject* object, QEvent* event) {
   if (object == lblMp3_Dir && event->type() == QEvent::MouseButtonDblClick && SuSfoglia) {
     SuSfoglia();

@@ -40,6 +40,9 @@ class PaneMp3 : public Riquadro {
   /// Has cmdOkFileMp3 say that it takes an assignment away, which the blank item does, or that it
   /// confirms a file.
   void MostraTogliere(bool toglie);
+  /// Shows cmdOkFileMp3, ready to be pressed, or hides it; the keyboard goes to cmbFileMp3 then,
+  /// and never to a button further on.
+  void MostraOk(bool mostra);
   void Localizza();
 
   /// Called for every choice of an item, by the user or by code, the same one too.

@@ -228,13 +228,9 @@ bool frmPlayerConfig::AncoraCosi() {
 void frmPlayerConfig::SceltoFile() {
   const Impegno stays(*this);
   const bool keyboard = fraFileName->cmdOkFileMp3->hasFocus();
-  fraFileName->cmdOkFileMp3->hide();
+  fraFileName->MostraOk(false);
   ValutaScelta();
-  // What was hidden has lost the keyboard; it must not fall on a button further on.
-  if (!keyboard) return;
-  (fraFileName->cmdOkFileMp3->isVisible() ? static_cast<QWidget*>(fraFileName->cmdOkFileMp3)
-                                          : fraFileName->cmbFileMp3)
-      ->setFocus();
+  if (keyboard && fraFileName->cmdOkFileMp3->isVisible()) fraFileName->cmdOkFileMp3->setFocus();
 }
 
 void frmPlayerConfig::ValutaScelta() {
@@ -244,7 +240,7 @@ void frmPlayerConfig::ValutaScelta() {
     fraFileInfo->Mostra({}, {}, {}, {});
     fraFileInfo->MostraAvviso(panel.lblBadFileType, {});
     fraFileName->MostraTogliere(codice_ && codice_->fraFileAssociatoVisibile());
-    fraFileName->cmdOkFileMp3->setVisible(codice_ && codice_->OkPerNessunFile());
+    fraFileName->MostraOk(codice_ && codice_->OkPerNessunFile());
     return;
   }
   fraFileName->MostraTogliere(false);
@@ -274,9 +270,7 @@ void frmPlayerConfig::MostraInfoMp3() {
   fraFileInfo->MostraAvviso(
       panel.lblBadFileType,
       Qs(ParoleRifiuto(C(), MotivoPerIngressi(info, lettore_.Ricerca()), info)));
-  const bool assignable = !panel.lblBadFileType && codice_ && codice_->Codice() >= 1;
-  fraFileName->cmdOkFileMp3->setVisible(assignable);
-  if (assignable) fraFileName->cmdOkFileMp3->setEnabled(true);
+  fraFileName->MostraOk(!panel.lblBadFileType && codice_ && codice_->Codice() >= 1);
 }
 
 void frmPlayerConfig::ConfermaFile() {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QMenu>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
@@ -157,6 +158,18 @@ TEST_F(HubLayout, MoreLeadsToWhatAHiddenButtonWouldAndToTheFolder) {
             (std::vector<std::string>{"Schedule…", "Copy by hand…", "Open project folder"}));
   hub->Barra->menuAltro.actions().back()->trigger();
   EXPECT_EQ(b.Documenti.Aperti, std::vector{b.C.Stato.CartellaProgetto});
+}
+
+TEST_F(HubLayout, MoreOpensItsMenuAboveItself) {
+  Progetto(4, 1);
+  Apri();
+  Clic("picAltro");
+  QMenu& menu = hub->Barra->menuAltro;
+  ASSERT_TRUE(QTest::qWaitFor([&] { return menu.isVisible(); }));
+  EXPECT_LE(menu.geometry().bottom(), hub->mapToGlobal(hub->Barra->picAltro->mapTo(
+                                              hub, QPoint(0, hub->Barra->picAltro->height())))
+                                          .y());
+  menu.close();
 }
 
 TEST_F(HubLayout, MoreLeadsToPlaylistsWhoseButtonIsHidden) {

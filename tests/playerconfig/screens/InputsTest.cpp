@@ -257,6 +257,32 @@ TEST_F(Inputs, TheFileOfTheTickedInputsIsPickedAsSoonAsItIsThere) {
   EXPECT_EQ(Testo("lblOkFileMp3"), "Confirm");
 }
 
+TEST_F(Inputs, AConfirmByTheKeyboardKeepsItThere) {
+  Apri(0);
+  Spunta(1);
+  ScegliFile("a.mp3");
+  auto& ok = Trova<QWidget>("cmdOkFileMp3");
+  for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return}) {
+    ok.setFocus();
+    QTest::keyClick(&ok, key);
+    EXPECT_EQ(hub->focusWidget(), &ok);
+  }
+  EXPECT_NE(Riga(1), "");
+  Spunta(1);
+  EXPECT_FALSE(ok.isVisible());
+  EXPECT_NE(hub->focusWidget(), &Trova<QWidget>("picEsci")) << "a stray Enter would leave";
+}
+
+TEST_F(Inputs, AFileThatIsRefusedLaterTakesTheKeyboardNoFurtherThanTheList) {
+  Apri(0);
+  Spunta(1);
+  ScegliFile("a.mp3");
+  Trova<QWidget>("cmdOkFileMp3").setFocus();
+  b.Cartella.Write("music/a.mp3", "no music");
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !SiVede("cmdOkFileMp3"); }));
+  EXPECT_EQ(hub->focusWidget(), &Trova<QWidget>("cmbFileMp3"));
+}
+
 TEST_F(Inputs, AClickOnALampOrANameTicksItsBox) {
   Apri(0);
   Clic("shaIn_1");

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QTest>
 
@@ -126,6 +127,57 @@ TEST_F(Loading, ANewFolderIsChosenWithTheBrowserAndKept) {
   EXPECT_EQ(Trova<QComboBox>("cmbFileMp3").count(), 2);
   EXPECT_EQ(b.Cartella.Read("program/KVR5Software.ini"),
             "[Path]\r\nLastMp3Dir=" + b.Percorso("music") + "\r\n");
+}
+
+TEST_F(Loading, ADoubleClickOnTheFoldersNameBrowsesToo) {
+  Progetto(4, 1);
+  UltimaCartella("program");
+  Apri();
+  std::string title;
+  const test::Pilota<QFileDialog> browser([&](QFileDialog& chooser) {
+    title = chooser.windowTitle().toStdString();
+    chooser.reject();
+  });
+  QTest::mouseDClick(&Trova<QWidget>("lblMp3_Dir"), Qt::LeftButton);
+  EXPECT_EQ(title, "Choose the folder with the MP3 files");
+}
+
+TEST_F(Loading, ShowsTheBusyPointerUntilItIsDone) {
+  Progetto(4, 1);
+  b.Cartella.Write("program/Projects/Hall/Config.cfg", "");
+  std::filesystem::remove(b.Cartella.Host() / "program/Projects/Hall/Config.txt");
+  bool busy = false;
+  const auto box = test::RispondiMessaggio("cmdOk", [&](const QString&, const QString&) {
+    busy = QGuiApplication::overrideCursor() != nullptr;
+  });
+  Apri();
+  EXPECT_TRUE(busy) << "in the middle of the load";
+  EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(Loading, TheSecondFramesOfTheLinksSayWhatTheFirstOnesSay) {
+  Progetto(4, 1);
+  Apri();
+  for (const char* name : {"lblRS232", "lblConfig232", "lbl485", "lblConfigPorta485",
+                           "lblConfigure232", "lblConfig485"}) {
+    const std::string twin = std::string(name) + "bis";
+    EXPECT_NE(Testo(name), "");
+    EXPECT_EQ(Testo(twin.c_str()), Testo(name)) << name;
+  }
+  EXPECT_EQ(Trova<Riquadro>("fra232bis").Titolo(), Trova<Riquadro>("fra232").Titolo());
+  EXPECT_EQ(Trova<Riquadro>("fra485bis").Titolo(), Trova<Riquadro>("fra485").Titolo());
+}
+
+TEST_F(Loading, F1ChangesNothingOfTheControlThatHasTheFocus) {
+  Progetto(4, 1);
+  Apri();
+  auto& time = Trova<QLineEdit>("lstTPCM");
+  time.setFocus();
+  const QString text = time.text();
+  QTest::keyClick(&time, Qt::Key_F1);
+  EXPECT_EQ(time.text(), text);
+  EXPECT_TRUE(time.hasFocus());
+  EXPECT_EQ(b.Documenti.Aperti.size(), 1U);
 }
 
 TEST_F(Loading, F1OpensTheHelpWhereverTheFocusIs) {

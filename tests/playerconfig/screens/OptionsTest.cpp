@@ -166,6 +166,17 @@ TEST_F(Options, TheAnalyzerComesFromTheDescriptor) {
   EXPECT_EQ(b.C.Stato.Analyzer, 1);
 }
 
+TEST_F(Options, TheAnalyzerIsWhatIsChosen) {
+  Progetto(1, 0);
+  Apri();
+  auto& on = Trova<QAbstractButton>("opt_Analizer_On");
+  auto& off = Trova<QAbstractButton>("optAlalizer_Off");
+  on.click();
+  EXPECT_EQ(b.C.Stato.Analyzer, 1);
+  off.click();
+  EXPECT_EQ(b.C.Stato.Analyzer, 0);
+}
+
 class Polarity : public Options {
  protected:
   /// Clicks active low and answers the box; what it said.
@@ -205,6 +216,19 @@ TEST_F(Polarity, ActiveLowWarnsOnAVeskadro) {
   EXPECT_EQ(ClickLow(),
             "Please note|With this choice an input counts as active while its level is low. "
             "Check the wiring before you use the card.");
+}
+
+TEST_F(Polarity, ActiveLowWarnsWhenTheKeyboardComesToItToo) {
+  Progetto(4, 1);
+  Apri();
+  Trova<QWidget>("optIMOD_ActiveHigh").setFocus();
+  int boxes = 0;
+  {
+    const auto box = RispondiSoloOk([&](const QString&, const QString&) { ++boxes; });
+    QTest::keyClick(&Trova<QWidget>("optIMOD_ActiveHigh"), Qt::Key_Right);
+  }
+  EXPECT_EQ(boxes, 1);
+  EXPECT_TRUE(On("optIMOD_ActiveLow"));
 }
 
 TEST_F(Polarity, AZubGetsNoWarning) {
