@@ -23,7 +23,8 @@ class SceltaDalDialogo : public SelezioneFlash {
 }  // namespace
 
 Programma::Programma(const std::string& cartella, Processo& processo)
-    : contesto_{files_, finestre_, eventi_, copia_, ora_, processo, {}, Locale::Host(), {}, {}},
+    : cartella_(cartella),
+      contesto_{files_, finestre_, eventi_, copia_, ora_, processo, {}, Locale::Host(), {}, {}},
       vita_([this] { TerminaProgramma(); }),
       ambiente_{contesto_, *this, documenti_, vita_},
       drives_(percorsi_, *volumi_, [this] { return TestoDrives(); }),
@@ -43,8 +44,24 @@ std::string Programma::TestoDrives() {
   return text ? text.Value() : std::string();
 }
 
-void Programma::Avvia(std::string rigaDiComando) {
+bool Programma::Avvia(const std::string& rigaDiComando) {
+  // A folder that no path can name is to be told as such, not as the first file that isn't found.
+  if (!FolderExists(files_, contesto_.CartellaProgramma)) {
+    DiciCartellaInadatta();
+    return false;
+  }
   Main(contesto_, *this, rigaDiComando);
+  return true;
+}
+
+void Programma::DiciCartellaInadatta() {
+  // In built-in words: the languages lie in that folder.
+  finestre_.MostraMessaggio(
+      {"The program can't work in this folder",
+       "Its path holds one of | : \\ * ? or a character that can't be read.\r\n"
+       "Move the program to another folder, then start it again.\r\n" +
+           cartella_,
+       Icona::Avviso, Pulsanti::Ok, Risposta::Ok});
 }
 
 void Programma::Mostra(Schermata schermata) {

@@ -33,8 +33,9 @@ class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
   Programma(const std::string& cartella, Processo& processo);
   ~Programma() override;
 
-  /// Runs Main with the command line (without the program's name).
-  void Avvia(std::string rigaDiComando);
+  /// Runs Main with the command line (without the program's name). False when the program can't
+  /// work in its folder: that was told, and nothing has begun.
+  bool Avvia(const std::string& rigaDiComando);
   Contesto& C() { return contesto_; }
   /// Drops the hub without its question, so that the next project opens in a fresh one.
   void DimenticaConfigurazione() { hub_.Dimentica(); }
@@ -55,7 +56,9 @@ class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
 
  private:
   std::string TestoDrives();
+  void DiciCartellaInadatta();
 
+  std::string cartella_;  ///< as it was given
   PathMap percorsi_;
   HostFileSystem files_{percorsi_};
   FinestreQt finestre_;

@@ -29,6 +29,5 @@ int main(int argc, char** argv) {
   kvr5::ApplicaTema(application);
   FineDelProcesso process;
   kvr5::Programma program(kvr5::Std(QCoreApplication::applicationDirPath()), process);
-  program.Avvia(CommandLine());
-  return QApplication::exec();
+  return program.Avvia(CommandLine()) ? QApplication::exec() : EXIT_FAILURE;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include "core/Contesto.h"
 
 namespace kvr5 {
@@ -15,7 +17,11 @@ void AvviaConLingua(Contesto& contesto);
 /// with an empty project list.
 void AssicuraCartellaProgetti(Contesto& contesto);
 
-/// True when the projects folder holds a folder, as that of a project is.
-bool HaCartelleDiProgetti(const Contesto& contesto);
+/// True when a folder is that of a project: it holds both config.txt and config.cfg.
+bool CartellaDiProgetto(const Contesto& contesto, std::string_view cartella);
+
+/// True when the projects folder holds the folder of a project, hidden or not; looks no further
+/// than the first.
+bool HaProgetti(const Contesto& contesto);
 
 }  // namespace kvr5

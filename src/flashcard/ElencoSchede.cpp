@@ -1,5 +1,7 @@
 #include "flashcard/ElencoSchede.h"
 
+#include <algorithm>
+
 #include "core/Lingua.h"
 #include "platform/Fold.h"
 
@@ -19,6 +21,12 @@ std::string UpperRoot(std::string root) {
   return root;
 }
 
+std::optional<Drive> FactsOf(const std::string& root, const std::vector<Drive>& drives) {
+  const auto found = std::ranges::find_if(
+      drives, [&](const Drive& drive) { return EqualFold(drive.Root(), root); });
+  return found != drives.end() ? std::optional(*found) : std::nullopt;
+}
+
 }  // namespace
 
 bool ElencoSchede::Carica() {
@@ -29,11 +37,15 @@ bool ElencoSchede::Carica() {
     const std::string drive = entry.substr(0, kDriveName);
     // Refused by name, before any call: no floppy is touched.
     if (IsFloppy(drive) || !Candidata(drive + "\\")) continue;
-    const std::string root = UpperRoot(drive + "\\");
-    schede_.push_back({root, drive_.Fatti(root)});
+    schede_.push_back({UpperRoot(drive + "\\"), {}});
   }
-  if (schede_.empty()) DiciNessuna();
-  return !schede_.empty();
+  if (schede_.empty()) {
+    DiciNessuna();
+    return false;
+  }
+  const auto drives = drive_.Fatti();
+  for (SchedaTrovata& card : schede_) card.Fatti = FactsOf(card.Radice, drives);
+  return true;
 }
 
 bool ElencoSchede::Candidata(const std::string& radice) {
@@ -58,8 +70,9 @@ void ElencoSchede::Scegli(std::size_t indice) {
 
 bool ElencoSchede::RileggiFatti() {
   bool changed = false;
+  const auto drives = drive_.Fatti();
   for (SchedaTrovata& card : schede_) {
-    auto facts = drive_.Fatti(card.Radice);
+    auto facts = FactsOf(card.Radice, drives);
     if (facts == card.Fatti) continue;
     card.Uscita = !facts;
     card.Fatti = std::move(facts);

@@ -31,10 +31,9 @@ Error DriveDelComputer::Elenca(const std::string& radice) {
   return error.Number() == errors::DiskNotReady ? Error(errors::BadFileName) : error;
 }
 
-std::optional<Drive> DriveDelComputer::Fatti(const std::string& radice) {
+std::vector<Drive> DriveDelComputer::Fatti() {
   elenco_ = drives_.List();
-  const Drive* drive = Trova(radice);
-  return drive != nullptr ? std::optional(*drive) : std::nullopt;
+  return elenco_;
 }
 
 }  // namespace kvr5

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -27,8 +26,8 @@ class SorgenteDrive {
   virtual std::uint32_t Tipo(const std::string& radice) = 0;
   /// Lists the root once: 52 when the drive holds no medium.
   virtual Error Elenca(const std::string& radice) = 0;
-  /// What the host tells of the drive now; nothing when it knows none of this root.
-  virtual std::optional<Drive> Fatti(const std::string& radice) = 0;
+  /// What the host tells of its drives now, of all of them by one look.
+  virtual std::vector<Drive> Fatti() = 0;
 };
 
 /// The removable drives of this computer. Those of fixed type never come into the list.
@@ -40,7 +39,7 @@ class DriveDelComputer : public SorgenteDrive {
   std::vector<std::string> Voci() override;
   std::uint32_t Tipo(const std::string& radice) override;
   Error Elenca(const std::string& radice) override;
-  std::optional<Drive> Fatti(const std::string& radice) override;
+  std::vector<Drive> Fatti() override;
 
  private:
   const Drive* Trova(const std::string& radice) const;

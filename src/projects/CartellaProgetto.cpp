@@ -1,7 +1,7 @@
 #include "projects/CartellaProgetto.h"
 
 #include "core/Aiuti.h"
-#include "platform/FileOps.h"
+#include "core/Avvio.h"
 
 namespace kvr5 {
 
@@ -56,11 +56,7 @@ std::vector<std::string> ElencoProgetti(Contesto& contesto) {
   const auto entries = contesto.Files.List(root);
   if (!entries) return names;
   for (const auto& entry : entries.Value()) {
-    if (!entry.IsFolder) continue;
-    const std::string folder = AggiungiBarra(root + entry.Name);
-    // In the spelling that they are written with: it is found at once, any other by a search.
-    if (FileExists(contesto.Files, folder + "Config.txt") &&
-        FileExists(contesto.Files, folder + "Config.cfg")) {
+    if (entry.IsFolder && CartellaDiProgetto(contesto, root + entry.Name)) {
       names.push_back(entry.Name);
     }
   }

@@ -177,5 +177,18 @@ TEST_F(SecondStart, WithoutTheSettingsWarnsAndStartsFromTheDefaults) {
   EXPECT_FALSE(b.C.Stato.UsaPlayerEsterno);
 }
 
+TEST_F(Start, AProjectIsAFolderWithBothItsFilesHiddenOrNot) {
+  b.Cartella.Write("program/Projects/file", "");
+  b.Cartella.Write("program/Projects/pictures/a.jpg", "");
+  b.Cartella.Write("program/Projects/only-cfg/Config.cfg", "");
+  b.Cartella.Write("program/Projects/only-txt/Config.txt", "");
+  EXPECT_FALSE(HaProgetti(b.C));
+  b.Cartella.Write("program/Projects/.hidden/CONFIG.TXT", "");
+  b.Cartella.Write("program/Projects/.hidden/config.cfg", "");
+  EXPECT_TRUE(HaProgetti(b.C));
+  b.C.Stato.CartellaProgetti = b.Percorso("no-where");
+  EXPECT_FALSE(HaProgetti(b.C));
+}
+
 }  // namespace
 }  // namespace kvr5

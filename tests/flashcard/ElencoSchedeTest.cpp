@@ -30,17 +30,24 @@ class FakeDrives : public SorgenteDrive {
     const int error = listing.at(radice);
     return error == 0 ? Error() : Error(error);
   }
-  std::optional<Drive> Fatti(const std::string& radice) override {
-    Drive drive;
-    drive.Letter = radice[0];
-    drive.Label = "label of " + radice;
-    return drive;
+  std::vector<Drive> Fatti() override {
+    ++looks;
+    std::vector<Drive> drives;
+    for (const auto& entry : entries) {
+      Drive drive;
+      drive.Letter = static_cast<char>(entry[0] - 'a' + 'A');
+      drive.Label = "label of " + drive.Root();
+      if (drive.Root() != gone) drives.push_back(drive);
+    }
+    return drives;
   }
 
   std::vector<std::string> entries;
   std::map<std::string, std::uint32_t> types;
   std::map<std::string, int> listing;
   std::string asked;
+  std::string gone;  ///< the root of a card that was taken out
+  int looks = 0;     ///< how often the facts were asked for
 };
 
 class CardChoice : public testing::Test {
@@ -185,6 +192,22 @@ TEST_F(CardChoice, ExploreOpensTheSelectedCard) {
   EXPECT_EQ(host.Aperti, std::vector<std::string>{"F:\\"});
 }
 
+TEST_F(CardChoice, ReadsTheFactsOfAllCardsByOneLookAndTellsWhichIsOut) {
+  for (const char* entry : {"e:", "f:", "g:"}) drives.Add(entry);
+  ASSERT_TRUE(list.Carica());
+  EXPECT_EQ(drives.looks, 1);
+  EXPECT_FALSE(list.RileggiFatti()) << "nothing has changed";
+  drives.gone = "F:\\";
+  EXPECT_TRUE(list.RileggiFatti());
+  EXPECT_EQ(drives.looks, 3);
+  EXPECT_TRUE(list.Schede()[1].Uscita);
+  EXPECT_FALSE(list.Schede()[0].Uscita || list.Schede()[2].Uscita);
+  drives.gone.clear();
+  EXPECT_TRUE(list.RileggiFatti());
+  EXPECT_FALSE(list.Schede()[1].Uscita) << "put back in";
+  EXPECT_EQ(list.Schede()[1].Fatti->Label, "label of F:\\");
+}
+
 /// Volumes of a test under the real drive list.
 class Volumes : public VolumeSource {
  public:
@@ -238,11 +261,13 @@ TEST_F(CardsOfTheComputer, TellTheirFactsAfresh) {
   volumes.Mounted.push_back({Host("card"), "OLD", "vfat"});
   ASSERT_TRUE(here.Carica());
   volumes.Mounted[0].Label = "NEW";
-  ASSERT_TRUE(computer.Fatti("d:\\"));
-  EXPECT_EQ(computer.Fatti("D:\\")->Label, "NEW");
+  EXPECT_TRUE(here.RileggiFatti());
+  ASSERT_TRUE(here.Schede()[0].Fatti);
+  EXPECT_EQ(here.Schede()[0].Fatti->Label, "NEW");
   volumes.Mounted.clear();
-  EXPECT_FALSE(computer.Fatti("D:\\"));
-  EXPECT_FALSE(computer.Fatti(""));
+  EXPECT_TRUE(here.RileggiFatti());
+  EXPECT_FALSE(here.Schede()[0].Fatti);
+  EXPECT_TRUE(computer.Fatti().empty());
 }
 
 }  // namespace

@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <set>
 #include <sstream>
+#include <vector>
 
 #include "house/SourceTree.h"
 #include "platform/CodePage.h"
@@ -59,6 +61,29 @@ TEST(Languages, HoldTheSameKeys) {
     return found;
   };
   EXPECT_EQ(keys(LanguageFile("English.lan")), keys(LanguageFile("Italiano.lan")));
+}
+
+/// The documents that section [HelpFiles] of a language file names.
+std::vector<std::string> HelpDocuments(const std::string& file) {
+  std::vector<std::string> documents;
+  bool inside = false;
+  std::istringstream stream(file);
+  for (std::string line; std::getline(stream, line);) {
+    if (line.ends_with('\r')) line.pop_back();
+    if (line.starts_with('[')) inside = line == "[HelpFiles]";
+    const auto sign = line.find('=');
+    if (inside && sign != std::string::npos) documents.push_back(line.substr(sign + 1));
+  }
+  return documents;
+}
+
+TEST_P(Languages, NameHelpDocumentsThatAreThere) {
+  const std::filesystem::path help = std::filesystem::path(KVR5_SOURCE_TREE) / "data/Help";
+  const auto documents = HelpDocuments(LanguageFile(GetParam()));
+  EXPECT_FALSE(documents.empty());
+  for (const auto& document : documents) {
+    EXPECT_TRUE(std::filesystem::is_regular_file(help / document)) << "\"" << document << "\"";
+  }
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QElapsedTimer>
 #include <memory>
+#include <string>
 
 #include "core/Contesto.h"
 #include "core/screens/Barra.h"
@@ -17,16 +18,26 @@ namespace kvr5 {
 class RiquadroCopia : public QDialog {
  public:
   explicit RiquadroCopia(Contesto& contesto);
-  /// `millisecondi`: since the copy began.
+  /// Writes a state, unless the cancel was pressed. `millisecondi`: since the copy began.
+  void Scrivi(const CopyState& stato, qint64 millisecondi);
+  /// The same, and shows the window where it isn't shown yet.
   void Aggiorna(const CopyState& stato, qint64 millisecondi);
   bool Annullato() const { return annullato_; }
   /// The window's own button and Esc cancel too.
   void reject() override;
 
  private:
-  void Scrivi(const CopyState& stato, qint64 millisecondi);
+  /// The language's words, read once: a copy writes many times a second.
+  struct Parole {
+    std::string Conta, Quanto, Tempo;
+  };
+
+  void Costruisci();
+  void ScriviFile(const std::string& file);
+  void ScriviTempo(const CopyState& stato, qint64 millisecondi);
 
   Contesto& contesto_;
+  Parole parole_;
   QLabel* file_;
   QLabel* quanto_;
   QLabel* tempo_;
@@ -49,6 +60,8 @@ class FinestraCopia : public CopyObserver {
   void End() override;
 
  private:
+  void Apri(const CopyState& state);
+
   Contesto* contesto_ = nullptr;
   std::unique_ptr<RiquadroCopia> riquadro_;
   QElapsedTimer inizio_;

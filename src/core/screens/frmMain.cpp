@@ -92,18 +92,18 @@ void frmMain::AlCaricamento() {
 
 void frmMain::Rilievo() {
   // What is most likely to be wanted: a project to go on with, where there is one.
-  const bool some = HaCartelleDiProgetti(C());
-  picCaricaDaDisco->ImpostaGenere(some ? Coppia::Genere::CartaPrimaria : Coppia::Genere::Carta);
-  picNuovoProgetto->ImpostaGenere(some ? Coppia::Genere::Carta : Coppia::Genere::CartaPrimaria);
+  const bool some = HaProgetti(C());
+  Coppia* primary = some ? picCaricaDaDisco : picNuovoProgetto;
+  Coppia* other = some ? picNuovoProgetto : picCaricaDaDisco;
+  if (primary->GenereOra() == Coppia::Genere::CartaPrimaria) return;
+  primary->ImpostaGenere(Coppia::Genere::CartaPrimaria);
+  other->ImpostaGenere(Coppia::Genere::Carta);
+  primary->setFocus();  // what stands out is what Enter does
 }
 
 void frmMain::showEvent(QShowEvent* event) {
   if (!event->spontaneous()) Rilievo();
   Form::showEvent(event);
-}
-
-void frmMain::AllAttivazione() {
-  if (focusWidget() == nullptr) picNuovoProgetto->setFocus();
 }
 
 void frmMain::NuovoProgetto() {

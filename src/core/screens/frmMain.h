@@ -25,11 +25,10 @@ class frmMain : public Form {
 
  protected:
   void AlCaricamento() override;
-  void AllAttivazione() override;
   void showEvent(QShowEvent* event) override;
 
  private:
-  /// Has one of the two cards stand out.
+  /// Has one of the two cards stand out; the keyboard goes with it when it changes.
   void Rilievo();
   void NuovoProgetto();
 };

@@ -1,6 +1,7 @@
 #include "core/screens/frmSiNo.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QVBoxLayout>
 
 #include "core/Lingua.h"
@@ -56,11 +57,9 @@ frmSiNo::frmSiNo(Ambiente& ambiente) : Form(ambiente, "frmSiNo") {
 
   connect(cmdSi, &QAbstractButton::clicked, this, [this] { Rispondi(1); });
   connect(cmdNo, &QAbstractButton::clicked, this, [this] { Rispondi(2); });
-  // Enter is swallowed: only a notice, which has one button, can be sent away by it.
-  for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
-    SuTasto(key, [this] {
-      if (!cmdNo->isVisible()) cmdSi->click();
-    });
+  for (QWidget* each :
+       {static_cast<QWidget*>(this), static_cast<QWidget*>(cmdSi), static_cast<QWidget*>(cmdNo)}) {
+    each->installEventFilter(this);
   }
   SuTasto(Qt::Key_Escape, [this] { close(); });
 }
@@ -76,6 +75,17 @@ void frmSiNo::AlCaricamento() {
 void frmSiNo::showEvent(QShowEvent* event) {
   MostraIntero(*this);
   Form::showEvent(event);
+}
+
+bool frmSiNo::eventFilter(QObject* oggetto, QEvent* evento) {
+  if (evento->type() != QEvent::KeyPress) return Form::eventFilter(oggetto, evento);
+  const auto* press = static_cast<QKeyEvent*>(evento);
+  if (press->key() != Qt::Key_Return && press->key() != Qt::Key_Enter) return false;
+  // Swallowed, whatever is held down with it: a button would take it for a click. Only a notice,
+  // which has one button, can be sent away by it.
+  evento->accept();
+  if (!cmdNo->isVisible() && !press->isAutoRepeat()) cmdSi->click();
+  return true;
 }
 
 void frmSiNo::MostraSoloOk(const std::string& testo) {

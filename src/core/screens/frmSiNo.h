@@ -33,6 +33,7 @@ class frmSiNo : public Form {
  protected:
   void AlCaricamento() override;
   void showEvent(QShowEvent* event) override;
+  bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
  private:
   void Rispondi(std::uint8_t risposta);

@@ -1,5 +1,6 @@
 #include "flashcard/screens/frmProgress.h"
 
+#include <QShowEvent>
 #include <QVBoxLayout>
 
 #include "core/Lingua.h"
@@ -77,6 +78,7 @@ frmProgress::frmProgress(Ambiente& ambiente, ProgressoQt& progresso)
 void frmProgress::AlCaricamento() {
   LocalizzaForm(C(), kForm, *this);
   picBar->setAccessibleName(Qs(TestoLingua(C(), "0130184")));
+  fase_ = TestoLinguaO(C(), "0130183", "Step %1 of %2");
   ImpostaPrimoPiano(*this, true);
   tmrCicla.start();
 }
@@ -85,6 +87,12 @@ void frmProgress::AlloScarico() {
   tmrCicla.stop();
   hide();  // first: the flag of a shown window can't be changed without its coming up once more
   ImpostaPrimoPiano(*this, false);
+}
+
+void frmProgress::showEvent(QShowEvent* event) {
+  // Not to its only button: the second Enter of a hasty start would cancel what the first began.
+  if (!event->spontaneous()) setFocus();
+  Form::showEvent(event);
 }
 
 bool frmProgress::PuoChiudere(Causa causa) {
@@ -104,9 +112,8 @@ void frmProgress::Disegna() {
   lblNumFile->setText(Qs(progresso_.TestoNumFile()));
   lblNumFile->setVisible(progresso_.NumFileVisibile());
   lblFase->setVisible(!progresso_.NumFileVisibile());
-  lblFase->setText(Qs(ConValori(
-      TestoLinguaO(C(), "0130183", "Step %1 of %2"),
-      {std::to_string(progresso_.ValoreCorrente), std::to_string(progresso_.ValoreMassimo)})));
+  lblFase->setText(Qs(ConValori(fase_, {std::to_string(progresso_.ValoreCorrente),
+                                        std::to_string(progresso_.ValoreMassimo)})));
 }
 
 }  // namespace kvr5

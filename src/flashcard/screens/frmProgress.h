@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QTimer>
 #include <memory>
+#include <string>
 
 #include "core/FinestraProgresso.h"
 #include "core/screens/Barra.h"
@@ -51,9 +52,11 @@ class frmProgress : public Form {
   void AlCaricamento() override;
   bool PuoChiudere(Causa causa) override;
   void AlloScarico() override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   ProgressoQt& progresso_;
+  std::string fase_;  ///< the language's words for the stage
 };
 
 }  // namespace kvr5

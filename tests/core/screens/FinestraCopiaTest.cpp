@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QScreen>
 #include <QTest>
 
 #include "core/CopiaFileShell.h"
@@ -141,6 +142,67 @@ TEST_F(CopiaConFinestra, ACopyOfAMissingFileShowsItsFailureAndNoWindow) {
   const Pilota<RiquadroMessaggio> pilot([](RiquadroMessaggio& box) { box.close(); });
   EXPECT_NE(CopiaFileShell(b.C, b.Percorso("gone.mp3"), b.Percorso("card\\gone.mp3")).Result, 0);
   EXPECT_EQ(Finestra(), nullptr);
+}
+
+TEST_F(CopiaConFinestra, ComesUpWithTheKeyboardOnItselfAndAHastyKeyCancelsNothing) {
+  copy.Begin();
+  RiquadroCopia& window = FinoAllaFinestra();
+  for (const auto key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+    Tasto(window, key);
+    EXPECT_TRUE(copy.Progress(state)) << key;
+  }
+  Tasto(window, Qt::Key_Tab);
+  Tasto(window, Qt::Key_Space);
+  EXPECT_FALSE(copy.Progress(state));
+  copy.End();
+}
+
+TEST_F(CopiaConFinestra, ItsBarHasANameForThoseWhoHearIt) {
+  copy.Begin();
+  EXPECT_EQ(Controllo(FinoAllaFinestra(), "picBarra").accessibleName(), "Progress");
+  copy.End();
+}
+
+TEST_F(CopiaConFinestra, ItsWordsAreReadOnce) {
+  state.FileNumber = 0;
+  copy.Begin();
+  RiquadroCopia& window = FinoAllaFinestra();
+  b.C.Stato.FileLingua = b.Percorso("other.lan");
+  b.Cartella.Write("other.lan", "[Strings]\r\n0130080=A\r\n0130081=B\r\n0130084=C\r\n");
+  copy.Progress(state);
+  EXPECT_EQ(Scritta(window, "lblQuanto"), "Counting the files: 5");
+  state.FileNumber = 2;
+  copy.Progress(state);
+  EXPECT_EQ(Scritta(window, "lblQuanto").substr(0, 13), "File 2 of 5, ");
+  EXPECT_NE(Scritta(window, "lblTempo").find(" left"), std::string::npos);
+  copy.End();
+}
+
+TEST_F(CopiaConFinestra, BesideAWindowAtTheScreensLowerEdgeItLiesWholeOnTheScreen) {
+  const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+  Form progress(b.A, "frmProgress");
+  progress.setWindowFlag(Qt::WindowStaysOnTopHint);
+  progress.resize(440, 180);
+  progress.show();
+  ASSERT_TRUE(Pronta(progress));
+  for (const int over : {0, 40, 200, 320}) {  // pixels of its way up from the edge
+    const int frame = progress.frameGeometry().height();
+    progress.move(room.center().x() - 220, room.bottom() + 1 - frame - over);
+    QCoreApplication::processEvents();
+    const CopyState copying = state;
+    state = {{}, 0, 12, 0, 0};
+    copy.Begin();
+    RiquadroCopia& window = FinoAllaFinestra();
+    const int height = window.height();
+    EXPECT_TRUE(room.contains(window.frameGeometry())) << over;
+    EXPECT_FALSE(window.frameGeometry().intersects(progress.frameGeometry())) << over;
+    state = copying;
+    copy.Progress(state);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window.height(), height) << "every line had its room";
+    EXPECT_TRUE(room.contains(window.frameGeometry())) << over;
+    copy.End();
+  }
 }
 
 }  // namespace

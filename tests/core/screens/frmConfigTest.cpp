@@ -272,5 +272,31 @@ TEST_F(Configura, F1OpensTheHelpEvenFromTheFolderBox) {
   EXPECT_EQ(b.Documenti.Aperti.size(), 2U);
 }
 
+TEST_F(Configura, ALanguageThatCannotBeStoredAfterTheWordOfTheSavePassesWithoutAnother) {
+  frmConfig& form = Apri();
+  form.cmbLanguage->setFocus();
+  Tasto(form, form.cmbLanguage->currentIndex() == 0 ? Qt::Key_Down : Qt::Key_Up);
+  const auto settings = b.Cartella.Host() / "program/KVR5Software.ini";
+  b.Finestre.SuBox = [&settings](const BoxVisto&) {
+    std::filesystem::permissions(settings, std::filesystem::perms::owner_read);
+  };
+  SalvaBene();
+  EXPECT_TRUE(b.Finestre.Silenzio());
+  EXPECT_FALSE(Modificato());
+  EXPECT_EQ(Valore("Config", "LanguageFile"), "English.lan") << "it really failed";
+}
+
+TEST_F(Configura, SavingAfterTheSettingsFileWasDeletedMakesNoneAndLeavingAsksNothing) {
+  frmConfig& form = Apri();
+  Clicca(*form.optExternal);
+  std::filesystem::remove(b.Cartella.Host() / "program/KVR5Software.ini");
+  SalvaBene();
+  EXPECT_FALSE(b.Cartella.Exists("program/KVR5Software.ini"));
+  EXPECT_FALSE(Modificato());
+  Clicca(*form.cmdExit);
+  EXPECT_TRUE(b.Finestre.Silenzio());
+  EXPECT_EQ(b.Schermi.Riavvii, 1);
+}
+
 }  // namespace
 }  // namespace kvr5

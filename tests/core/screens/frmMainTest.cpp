@@ -66,6 +66,7 @@ TEST_F(Menu, OpeningStandsOutOnceThereIsAProjectElseTheNewOne) {
   EXPECT_FALSE(filled(*form.picCaricaDaDisco));
   b.C.Stato.CartellaProgetti = b.Percorso("program/Projects");
   b.Cartella.Write("program/Projects/Hall/Config.cfg", "");
+  b.Cartella.Write("program/Projects/Hall/Config.txt", "");
   form.Nascondi();
   form.Mostra();
   EXPECT_FALSE(filled(*form.picNuovoProgetto));
@@ -127,6 +128,27 @@ TEST_F(Menu, TheLogoDoesNothing) {
   EXPECT_TRUE(form.isVisible());
   EXPECT_TRUE(b.Schermi.Mostrate.empty());
   EXPECT_TRUE(b.Documenti.Aperti.empty());
+}
+
+TEST_F(Menu, EnterDoesWhatStandsOut) {
+  frmMain& form = Apri();
+  EXPECT_TRUE(form.picNuovoProgetto->hasFocus());
+  Tasto(form, Qt::Key_Return);
+  EXPECT_EQ(b.Schermi.Mostrate, std::vector{Schermata::Wizard});
+  b.CreaProgetto("Hall", 4, 1);
+  Apri();
+  EXPECT_EQ(form.focusWidget(), form.picCaricaDaDisco) << "it moved while the menu was hidden";
+  forma->Scarica();
+  Tasto(Apri(), Qt::Key_Return);
+  EXPECT_EQ(b.Schermi.ElenchiPer, std::vector{Schermata::Menu}) << "at the load too";
+  EXPECT_EQ(b.Schermi.Mostrate.size(), 1U);
+}
+
+TEST_F(Menu, ShownAgainItLeavesTheKeyboardWhereItWas) {
+  frmMain& form = Apri();
+  form.picConfig->setFocus();
+  form.Nascondi();
+  EXPECT_EQ(Apri().focusWidget(), form.picConfig);
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include <QKeyEvent>
 #include <QLineEdit>
 
 #include "core/screens/FinestreQt.h"
@@ -167,6 +168,56 @@ TEST_F(SiNo, ReimpostaChangesNothing) {
     EXPECT_TRUE(box.cmdNo->isVisible());
     box.close();
   });
+}
+
+/// Enter in all the ways in which a keyboard sends it.
+const std::vector<std::pair<Qt::Key, Qt::KeyboardModifiers>> kEnters{
+    {Qt::Key_Return, Qt::NoModifier},      {Qt::Key_Return, Qt::ShiftModifier},
+    {Qt::Key_Return, Qt::ControlModifier}, {Qt::Key_Return, Qt::AltModifier},
+    {Qt::Key_Return, Qt::MetaModifier},    {Qt::Key_Enter, Qt::NoModifier},
+    {Qt::Key_Enter, Qt::KeypadModifier},   {Qt::Key_Enter, Qt::KeypadModifier | Qt::ShiftModifier},
+};
+
+TEST_F(SiNo, NoEnterWithAnotherKeyHeldAnswersAQuestionEither) {
+  EXPECT_EQ(
+      Chiedi([](frmSiNo& box) {
+        for (QWidget* control : {static_cast<QWidget*>(box.cmdSi), static_cast<QWidget*>(box.cmdNo),
+                                 static_cast<QWidget*>(&box)}) {
+          control->setFocus();
+          for (const auto& [key, held] : kEnters) {
+            Tasto(box, key, held);
+            EXPECT_TRUE(box.isVisible()) << key << " with " << held.toInt();
+          }
+        }
+        box.close();
+      }),
+      0);
+}
+
+TEST_F(SiNo, EveryEnterAnswersANotice) {
+  for (const auto& [key, held] : kEnters) {
+    EXPECT_EQ(Chiedi([&](frmSiNo& box) { Tasto(box, key, held); }, "OK"), 1)
+        << key << " with " << held.toInt();
+    EXPECT_EQ(Chiedi(
+                  [&](frmSiNo& box) {
+                    box.setFocus();
+                    Tasto(box, key, held);
+                  },
+                  "OK"),
+              1)
+        << "wherever the focus is";
+  }
+}
+
+TEST_F(SiNo, AnEnterThatIsStillHeldDownFromBeforeAnswersNoNotice) {
+  Chiedi(
+      [](frmSiNo& box) {
+        QKeyEvent again(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+        QCoreApplication::sendEvent(box.cmdSi, &again);
+        EXPECT_TRUE(box.isVisible());
+        Clicca(box, "cmdSi");
+      },
+      "OK");
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QPointer>
 #include <QTest>
 
 #include "flashcard/screens/frmProgress.h"
@@ -149,6 +150,58 @@ TEST_F(Progress, AnOperationTextWithoutABlankLeavesTheWindowAsItIs) {
   EXPECT_EQ(Window().width(), width);
   EXPECT_TRUE(Window().rect().contains(Window().lblOperazione->geometry()));
   EXPECT_EQ(Window().lblOperazione->toolTip().toStdString(), text);
+}
+
+TEST_F(Progress, ComesUpWithTheKeyboardOnItselfAndAHastyKeyCancelsNothing) {
+  Show();
+  ASSERT_TRUE(test::Pronta(Window()));
+  for (const auto key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+    test::Tasto(Window(), key);
+    EXPECT_FALSE(b.C.Stato.AnnullatoDaUtente) << key;
+  }
+  test::Tasto(Window(), Qt::Key_Tab);
+  EXPECT_TRUE(Window().picAnnulla->hasFocus());
+  test::Tasto(Window(), Qt::Key_Space);
+  EXPECT_TRUE(b.C.Stato.AnnullatoDaUtente);
+}
+
+TEST_F(Progress, SoItDoesWhenItComesBackAfterABox) {
+  Show();
+  ASSERT_TRUE(test::Pronta(Window()));
+  test::Tasto(Window(), Qt::Key_Tab);
+  progress.Nascondi();
+  progress.Mostra();
+  ASSERT_TRUE(test::Pronta(Window()));
+  test::Tasto(Window(), Qt::Key_Return);
+  EXPECT_FALSE(b.C.Stato.AnnullatoDaUtente);
+}
+
+TEST_F(Progress, ItsUnloadTakesTheTopmostStateAwayAgain) {
+  Show();
+  const QPointer<frmProgress> window = progress.Finestra();
+  progress.Scarica();
+  ASSERT_NE(window, nullptr) << "it goes with the next events";
+  EXPECT_FALSE(window->windowFlags() & Qt::WindowStaysOnTopHint);
+  EXPECT_FALSE(window->isVisible()) << "and doesn't flash up";
+}
+
+TEST_F(Progress, ItsLoadSpeaksTheLanguage) {
+  Show();
+  EXPECT_EQ(Window().windowTitle(), "Work in progress");
+  EXPECT_EQ(Text("lblAnnulla"), "Cancel");
+  EXPECT_EQ(Window().picBar->accessibleName(), "Progress");
+  progress.Scarica();
+  b.C.Stato.FileLingua = b.Percorso("program/Language/Italiano.lan");
+  Show();
+  EXPECT_EQ(Window().windowTitle(), "Lavoro in corso");
+  EXPECT_EQ(Text("lblAnnulla"), "Annulla");
+}
+
+TEST_F(Progress, TheWordsOfAStageAreThoseOfItsLoad) {
+  Show();
+  b.C.Stato.FileLingua = b.Percorso("gone.lan");
+  progress.Step(0, false);
+  EXPECT_EQ(Text("lblFase"), "Step 2 of 7") << "no file is read for each step";
 }
 
 }  // namespace

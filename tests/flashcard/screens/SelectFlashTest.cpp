@@ -35,15 +35,20 @@ class DriveFinti : public SorgenteDrive {
     const int error = errori_.at(radice);
     return error == 0 ? Error() : Error(error);
   }
-  std::optional<Drive> Fatti(const std::string& radice) override {
-    if (radice == Estratta) return {};
-    Drive drive;
-    drive.Letter = radice[0];
-    drive.Label = std::string("CARD-") + radice[0];
-    return drive;
+  std::vector<Drive> Fatti() override {
+    ++Sguardi;
+    std::vector<Drive> drives;
+    for (const auto& entry : voci_) {
+      Drive drive;
+      drive.Letter = static_cast<char>(entry[0] - 'a' + 'A');
+      drive.Label = std::string("CARD-") + drive.Letter;
+      if (drive.Root() != Estratta) drives.push_back(drive);
+    }
+    return drives;
   }
 
   std::string Estratta;  ///< the root of a card that has been taken out
+  int Sguardi = 0;       ///< how often the facts were asked for
 
  private:
   std::vector<std::string> voci_;
@@ -224,6 +229,20 @@ TEST_F(SelectFlash, ACardThatIsTakenOutWhileTheDialogStandsSaysSoAndStaysChosen)
     drives.Estratta.clear();
     EXPECT_TRUE(
         QTest::qWaitFor([&dialog] { return dialog.lblFatti->text().startsWith("CARD-E"); }));
+    test::Clicca(*dialog.picCancel);
+  });
+}
+
+TEST_F(SelectFlash, WatchesAllItsCardsByOneLookATime) {
+  for (const char* entry : {"e:", "f:", "g:", "h:"}) drives.Aggiungi(entry);
+  Show([this](frmSelectFlash& dialog) {
+    EXPECT_EQ(drives.Sguardi, 1) << "the load";
+    drives.Estratta = "G:\\";
+    EXPECT_TRUE(QTest::qWaitFor([&dialog] {
+      return dialog.cmdFlash->itemData(2, VociScheda::Fatti) == "taken out: put it back in";
+    }));
+    EXPECT_EQ(drives.Sguardi, 2) << "one beat";
+    EXPECT_EQ(dialog.cmdFlash->itemData(3, VociScheda::Fatti).toString().left(6), "CARD-H");
     test::Clicca(*dialog.picCancel);
   });
 }
