@@ -321,6 +321,7 @@ void Stile::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
       }
       break;
     case PE_PanelItemViewRow:
+    case PE_PanelScrollAreaCorner:
       return;
     case PE_FrameFocusRect:
       return;  // every control shows its focus itself

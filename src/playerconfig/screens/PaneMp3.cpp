@@ -45,7 +45,9 @@ void PaneMp3::Costruisci() {
   Veste(*lblPercorso, Carattere::Suggerimento, Ruolo::Attenuato);
   auto* words = new QVBoxLayout();
   words->setSpacing(0);
-  words->addWidget(lblMp3_Dir);
+  lblVuota = NuovaEtichetta("lblVuota", {}, -1, this);
+  Veste(*lblVuota, Carattere::Suggerimento, Ruolo::Attenuato);
+  words->addLayout(Riga({lblMp3_Dir, lblVuota, nullptr}));
   words->addWidget(lblPercorso);
   auto* top = new QHBoxLayout();
   top->addWidget(picDisk);
@@ -69,18 +71,12 @@ void PaneMp3::Costruisci() {
   // The numeral comes and goes with the button that it leads to.
   numero_ = NumeroDiPasso(3, {}, this);
   cmdOkFileMp3->installEventFilter(this);
-  lblVuota = NuovaEtichetta("lblVuota", {}, -1, this);
-  Veste(*lblVuota, Carattere::Suggerimento, Ruolo::Attenuato);
-  lblVuota->setWordWrap(true);
-  for (QWidget* each : {static_cast<QWidget*>(cmdOkFileMp3), static_cast<QWidget*>(numero_),
-                        static_cast<QWidget*>(lblVuota)}) {
+  for (QWidget* each : {static_cast<QWidget*>(cmdOkFileMp3), static_cast<QWidget*>(numero_)}) {
     QSizePolicy policy = each->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     each->setSizePolicy(policy);
   }
-  auto* actions = Riga({cmdPlayMp3, cmdStopMp3, lblVuota, numero_, cmdOkFileMp3});
-  actions->setStretch(2, 1);
-  Corpo()->addLayout(actions);
+  Corpo()->addLayout(Riga({cmdPlayMp3, cmdStopMp3, nullptr, numero_, cmdOkFileMp3}));
 }
 
 void PaneMp3::RiempiElencoMp3() {

@@ -13,6 +13,7 @@ namespace {
 constexpr int kSign = 16;
 constexpr int kEdge = 10;  // pixels before the sign, behind it and behind the file's name
 constexpr int kGap = 14;   // pixels between two columns
+constexpr int kName = 110;  // pixels that the name of a file has beside a column of inputs
 constexpr int kLine = 28;  // height of a row
 constexpr int kMark = 18;  // what a mark adds to it
 
@@ -62,9 +63,12 @@ void VociAssegnati::paint(QPainter* pittore, const QStyleOptionViewItem& opzione
   pittore->setPen(chosen ? Tema::Corrente().SuSelezione : item.palette.color(QPalette::Text));
   pittore->setFont(FontDi(Carattere::Corpo));
   Write(*pittore, Cut(line, codici_), voce.data(Codice).toString(), Qt::ElideRight);
-  // The inputs of a row may be all eight of them: the name of the file keeps half of the room.
-  Write(*pittore, Cut(line, std::min(ingressi_, line.width() / 2)), voce.data(Ingressi).toString(),
-        Qt::ElideRight);
+  const QString inputs = voce.data(Ingressi).toString();
+  // The inputs of a row may be all eight of them: the name of the file keeps half of the room, and
+  // in a narrow list each row's name begins where its own inputs end.
+  const bool roomy = line.width() >= 2 * kName;
+  const int wanted = roomy ? ingressi_ : pittore->fontMetrics().horizontalAdvance(inputs);
+  Write(*pittore, Cut(line, std::min(wanted, line.width() / 2)), inputs, Qt::ElideRight);
   Write(*pittore, line, voce.data(File).toString(), Qt::ElideMiddle);
   pittore->setFont(FontDi(Carattere::Suggerimento));
   Write(*pittore, below, voce.data(Segno).toString(), Qt::ElideRight);

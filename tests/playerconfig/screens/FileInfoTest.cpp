@@ -73,7 +73,7 @@ TEST_F(FileInfo, AFolderWithoutFilesSaysSo) {
   b.Cartella.Write("music/readme.txt", "");
   b.ScriviMp3("music/Jazz/a.mp3");
   Apri(0);
-  EXPECT_EQ(Testo("lblVuota"), "This folder holds no MP3 file");
+  EXPECT_EQ(Testo("lblVuota"), "no MP3 file here");
   EXPECT_TRUE(SiVede("lblVuota"));
   hub->fraFileName->DirDirectoryMp3->ImpostaPercorso(b.Percorso("music\\Jazz"));
   EXPECT_FALSE(SiVede("lblVuota"));

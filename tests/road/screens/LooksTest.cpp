@@ -4,6 +4,8 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
+#include <QScrollBar>
 
 #include "core/screens/Coppia.h"
 #include "core/screens/EtichettaElisa.h"
@@ -86,6 +88,9 @@ TEST_P(Looks, ASmallScreenHasRoomForEach) {
     EXPECT_LE(screen.Finestra.height(), room.height()) << screen.Nome;
     ExpectWholeTexts(screen);
     ExpectNoOverlaps(screen);
+    for (const QScrollArea* area : screen.Finestra.findChildren<QScrollArea*>()) {
+      EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0) << screen.Nome << ": scrolls both ways";
+    }
     screen.Finestra.resize(before);
   });
 }
