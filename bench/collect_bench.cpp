@@ -37,7 +37,9 @@ class Playlist {
     Ignora(connection.Open(bench_.C.Stato.CartellaProgetto + "\\playlist.mdb"));
     Ignora(rows.Open(connection, "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC"));
     ListaCopia list;
-    if (!RaccogliMp3(bench_.C, Passata::Playlist, rows, list, "playlist.mdb").Riuscita)
+    if (!RaccogliMp3(bench_.C, Passata::Playlist, rows, list, "playlist.mdb",
+                     bench_.C.Stato.PercorsoMemoryCard)
+             .Riuscita)
       std::abort();
     return list.ListaSorgenti().size();
   }

@@ -8,7 +8,8 @@
 namespace kvr5 {
 namespace {
 
-EsitoPassata CollectRow(Contesto& context, Passata pass, const Recordset& rows, ListaCopia& list) {
+EsitoPassata CollectRow(Contesto& context, Passata pass, const Recordset& rows, ListaCopia& list,
+                        std::string_view card) {
   const std::string alias = rows.Text("Alias");
   const bool readable = static_cast<bool>(rows.Get("Alias"));
   if (readable && alias.empty()) return {};
@@ -19,7 +20,7 @@ EsitoPassata CollectRow(Contesto& context, Passata pass, const Recordset& rows, 
   // Every file sits in the card's root: a name that leads elsewhere is no alias. And the bar
   // divides the lists.
   if (!readable || alias.find_first_of("\\|") != std::string::npos) return missing;
-  const std::string target = AggiungiBarra(context.Stato.PercorsoMemoryCard) + alias;
+  const std::string target = AggiungiBarra(card) + alias;
   const std::string copy = FileDelProgetto(context, alias);
   if (FileExists(context.Files, copy)) {
     if (!list.Contiene(copy)) list.Aggiungi(copy, target);
@@ -40,11 +41,11 @@ EsitoPassata CollectRow(Contesto& context, Passata pass, const Recordset& rows, 
 }  // namespace
 
 EsitoPassata RaccogliMp3(Contesto& contesto, Passata passata, Recordset& righe, ListaCopia& lista,
-                         std::string_view database) {
+                         std::string_view database, std::string_view scheda) {
   if (!righe.IsOpen()) return {};
   EsitoPassata outcome;
   const Error error = WalkRows(righe, [&] {
-    outcome = CollectRow(contesto, passata, righe, lista);
+    outcome = CollectRow(contesto, passata, righe, lista, scheda);
     return outcome.Riuscita;
   });
   // A database that can't be read to its end would leave files off the card in silence.

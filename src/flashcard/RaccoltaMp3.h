@@ -20,8 +20,9 @@ struct EsitoPassata {
   std::string FileMancante;
 };
 
-/// Adds a source file for each row of `righe` to the lists, under the row's alias in the card's
-/// root: the copy of the project's folder that bears the alias, else the file where it was chosen.
+/// Adds a source file for each row of `righe` to the lists, under the row's alias in the root
+/// `scheda` of the card: the copy of the project's folder that bears the alias, else the file where
+/// it was chosen.
 ///
 /// A closed or empty recordset is passed over. A row without an alias is passed over. A source
 /// that is listed already is dropped with its destination, so that a file in two rows reaches the
@@ -29,6 +30,6 @@ struct EsitoPassata {
 /// first file that can't be had, at an alias that isn't a plain name, and where the database, whose
 /// name is `database`, can't be read on.
 EsitoPassata RaccogliMp3(Contesto& contesto, Passata passata, Recordset& righe, ListaCopia& lista,
-                         std::string_view database);
+                         std::string_view database, std::string_view scheda);
 
 }  // namespace kvr5

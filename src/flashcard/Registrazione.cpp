@@ -51,9 +51,7 @@ class Recording {
   void Notice(const char* titleKey, const std::string& text, bool orange);
 
   std::string Source(std::string_view name) const { return FileDelProgetto(context_, name); }
-  std::string Card(std::string_view name = {}) const {
-    return AggiungiBarra(context_.Stato.PercorsoMemoryCard).append(name);
-  }
+  std::string Card(std::string_view name = {}) const { return AggiungiBarra(card_).append(name); }
   void Copy(const std::string& from, const std::string& to);
   void CopyIfThere(std::string_view name);
   void CopyMatching(std::string_view wildcard);
@@ -66,11 +64,13 @@ class Recording {
   Recordset rows_;
   ListaCopia list_;
   EsitoRegistrazione outcome_;
+  std::string card_;  ///< the one it began on, whatever is chosen while events run
 };
 
 EsitoRegistrazione Recording::Run() {
   context_.Stato.AnnullatoDaUtente = false;
   if (!HasCard()) return {FineRegistrazione::SenzaScheda};
+  card_ = context_.Stato.PercorsoMemoryCard;
   if (!CardIsWritable()) {
     TellUnwritable();
     return {FineRegistrazione::NonScrivibile};
@@ -192,7 +192,7 @@ bool Recording::CollectInputs() {
     NoteUnread("inputcfg.mdb", inputs_.Cursore());
   }
   const auto pass =
-      RaccogliMp3(context_, Passata::Ingressi, inputs_.Cursore(), list_, "inputcfg.mdb");
+      RaccogliMp3(context_, Passata::Ingressi, inputs_.Cursore(), list_, "inputcfg.mdb", card_);
   if (!pass.Riuscita) {
     // a row's own FileName, or the path of a database that can't be read on
     const bool isPath = PathMap::IsSystemForm(pass.FileMancante);
@@ -208,7 +208,7 @@ bool Recording::CollectFrom(Passata pass, const char* database) {
   Ignora(connection_.Open(Source(database)));  // a missing database skips its pass
   Ignora(rows_.Open(connection_, kQuery));
   NoteUnread(database, rows_);
-  const auto result = RaccogliMp3(context_, pass, rows_, list_, database);
+  const auto result = RaccogliMp3(context_, pass, rows_, list_, database, card_);
   if (!result.Riuscita) TellMissing(PercorsoPerPersone(context_, result.FileMancante));
   return result.Riuscita;
 }

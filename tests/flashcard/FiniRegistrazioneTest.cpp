@@ -2,6 +2,7 @@
 #include <sqlite3.h>
 
 #include "BancoRegistrazione.h"
+#include "flashcard/AvvisoNonLetti.h"
 #include "platform/db/Connection.h"
 
 namespace kvr5 {
@@ -292,6 +293,40 @@ TEST_F(Recording, ARowThatCannotBeReadStopsTheRunNamingItsDatabase) {
             "one a copy under another name):\r\n" +
                 b.Disco.HostPath(b.Percorso(name)),
             kOrange);
+}
+
+TEST_F(Recording, ACardThatIsChosenMeanwhileIsTheNextOnes) {
+  Project(4, 1);
+  inputs.Apri();
+  inputs.Assegna(5, "a.mp3", Music());
+  std::filesystem::create_directory(b.Cartella.Host() / "other");
+  const std::string first = b.C.Stato.PercorsoMemoryCard;
+  int turn = 0;
+  b.Messaggi.Accade = [&] {
+    if (++turn == 3) b.C.Stato.PercorsoMemoryCard = b.Percorso("other");
+  };
+  EXPECT_EQ(Record(), FineRegistrazione::Compiuta);
+  EXPECT_GE(turn, 3);
+  EXPECT_EQ(Card(), (Names{"5.mp3", "Config.cfg", "Config.txt", "inputcfg.mdb"}));
+  EXPECT_TRUE(std::filesystem::is_empty(b.Cartella.Host() / "other"));
+  b.Messaggi.Accade = {};
+  EXPECT_EQ(Record(), FineRegistrazione::Compiuta);
+  EXPECT_TRUE(b.Cartella.Exists("other/5.mp3"));
+}
+
+TEST_F(Recording, WhatItCouldNotReadIsNamedWhereItEndedWell) {
+  AvvisaNonLetti(b.C, {FineRegistrazione::Compiuta, 3, 100, {}});
+  const Names unread{"inputcfg.mdb", "playlist.mdb"};
+  for (const auto end : {FineRegistrazione::Annullata, FineRegistrazione::FileMancante,
+                         FineRegistrazione::NonScrivibile, FineRegistrazione::SenzaScheda}) {
+    AvvisaNonLetti(b.C, {end, 3, 100, unread});
+  }
+  EXPECT_TRUE(b.Finestre.Silenzio()) << "these say by themselves that the card isn't whole";
+  AvvisaNonLetti(b.C, {FineRegistrazione::Compiuta, 3, 100, unread});
+  const auto& box = b.Finestre.Prossimo();
+  EXPECT_EQ(box.Titolo, "Not everything is on the card");
+  EXPECT_TRUE(box.Testo.starts_with("inputcfg.mdb, playlist.mdb couldn't be read")) << box.Testo;
+  EXPECT_TRUE(b.Finestre.Silenzio());
 }
 
 }  // namespace

@@ -39,7 +39,7 @@ class Collecting : public testing::TestWithParam<Passata> {
     Recordset rows;
     Ignora(connection.Open(FileDelProgetto(b.C, Database())));
     Ignora(rows.Open(connection, "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC"));
-    return RaccogliMp3(b.C, GetParam(), rows, list, Database());
+    return RaccogliMp3(b.C, GetParam(), rows, list, Database(), b.C.Stato.PercorsoMemoryCard);
   }
 
   Banco b;

@@ -6,6 +6,7 @@
 
 #include "core/Aiuti.h"
 #include "core/Lingua.h"
+#include "core/Parole.h"
 #include "core/screens/Icona.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
@@ -82,13 +83,15 @@ void ElencoCartelle::Mostra() {
     auto* item = new QListWidgetItem(up, QStringLiteral(".."), this);
     item->setData(Qt::UserRole, Qs(parent));
   }
+  QString unusable;  // read once, however many there are
   for (const auto& entry : voci_) {
     if (!entry.IsFolder || entry.Name.starts_with('.')) continue;
-    auto* item = new QListWidgetItem(icon, Qs(entry.Name), this);
+    auto* item = new QListWidgetItem(icon, Qs(SuUnaRiga(entry.Name)), this);
     item->setData(Qt::UserRole, Qs(AggiungiBarra(percorso_) + entry.Name));
     if (entry.Unusable == NameFault::None) continue;
     item->setFlags(item->flags() & ~Qt::ItemIsEnabled);
-    item->setToolTip(Qs(TestoLingua(contesto_, "0130256")));
+    if (unusable.isEmpty()) unusable = Qs(TestoLingua(contesto_, "0130256"));
+    item->setToolTip(unusable);
   }
   setCurrentRow(0);
 }

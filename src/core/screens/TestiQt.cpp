@@ -70,8 +70,10 @@ constexpr std::array kTesti = {
 
 void TestiQt::LeggiSeCambiata() const {
   const std::string& file = contesto_->Stato.FileLingua;
-  if (letta_ == file && !testi_.empty()) return;  // one that couldn't be read is tried again
+  constexpr qint64 kPause = 2000;  // milliseconds before one that had no words is tried again
+  if (letta_ == file && (!testi_.empty() || !lettura_.hasExpired(kPause))) return;
   letta_ = file;
+  lettura_.start();
   testi_.clear();
   for (const auto& each : kTesti) {
     const std::string text = TestoLingua(*contesto_, each.Chiave);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QTranslator>
 #include <mutex>
 #include <optional>
@@ -32,6 +33,7 @@ class TestiQt : public QTranslator {
   mutable std::mutex guardia_;
   mutable std::optional<std::string> letta_;  ///< the language file that testi_ come from
   mutable std::unordered_map<std::string, QString> testi_;
+  mutable QElapsedTimer lettura_;  ///< since it was read
 };
 
 }  // namespace kvr5

@@ -1,5 +1,7 @@
 #include "core/screens/frmSiNo.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QVBoxLayout>
@@ -78,13 +80,18 @@ void frmSiNo::showEvent(QShowEvent* event) {
 }
 
 bool frmSiNo::eventFilter(QObject* oggetto, QEvent* evento) {
-  if (evento->type() != QEvent::KeyPress) return Form::eventFilter(oggetto, evento);
+  if (Form::eventFilter(oggetto, evento)) return true;  // it came when the box had gone
+  if (evento->type() != QEvent::KeyPress) return false;
   const auto* press = static_cast<QKeyEvent*>(evento);
+  if (press->matches(QKeySequence::Copy)) {
+    QGuiApplication::clipboard()->setText(windowTitle() + "\n\n" + nota_);
+    return true;
+  }
   if (press->key() != Qt::Key_Return && press->key() != Qt::Key_Enter) return false;
   // Swallowed, whatever is held down with it: a button would take it for a click. Only a notice,
   // which has one button, can be sent away by it.
   evento->accept();
-  if (!cmdNo->isVisible() && !press->isAutoRepeat()) cmdSi->click();
+  if (cmdNo->isHidden() && !press->isAutoRepeat()) cmdSi->click();
   return true;
 }
 
@@ -98,6 +105,7 @@ void frmSiNo::MostraSoloOk(const std::string& testo) {
 
 void frmSiNo::ImpostaNota(const QString& testo) {
   constexpr int kPlate = 2 * spazi::kStretto;  // of a coloured one, on both sides
+  nota_ = testo;
   lblNota->setText(Spezzabile(testo, lblNota->fontMetrics(), kWords - kPlate));
 }
 
@@ -107,6 +115,7 @@ void frmSiNo::ColoraNota(std::uint32_t colore) {
 }
 
 void frmSiNo::Rispondi(std::uint8_t risposta) {
+  if (!Caricata()) return;  // it was answered
   C().Stato.RispostaSiNo = risposta;
   Scarica();
 }

@@ -39,6 +39,7 @@ class frmSiNo : public Form {
   void Rispondi(std::uint8_t risposta);
 
   QLabel* segno_;
+  QString nota_;  ///< the question as it came in
 };
 
 }  // namespace kvr5

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QMouseEvent>
 
 #include "core/Lingua.h"
 #include "core/Parole.h"
@@ -54,8 +55,10 @@ RigaScheda::RigaScheda(Contesto& contesto, QWidget* padre) : QWidget(padre), con
   picSpazio = new Barra(this);
   picSpazio->setObjectName(QStringLiteral("picSpazio"));
   picSpazio->setFixedSize(72, 10);
+  picSpazio->installEventFilter(this);
   lblSpazio = new EtichettaAvviso("lblSpazio", {}, Carattere::Riquadro, this);
   lblSpazio->ImpostaAvviso(false);
+  lblSpazio->installEventFilter(this);
   line->addWidget(picSpazio);
   line->addWidget(lblSpazio);
   MostraSpazio();
@@ -118,7 +121,9 @@ bool RigaScheda::eventFilter(QObject* object, QEvent* event) {
     const bool enter =
         key != nullptr && (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter);
     if (enter && key->isAutoRepeat()) return true;
-    if (enter || event->type() == QEvent::MouseButtonDblClick) {
+    const bool twice = event->type() == QEvent::MouseButtonDblClick &&
+                       static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
+    if (enter || twice) {
       SuScegli();
       return true;
     }

@@ -1,5 +1,8 @@
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QWindow>
 
 #include "core/screens/FinestreQt.h"
 #include "core/screens/Testo.h"
@@ -192,6 +195,27 @@ TEST_F(SiNo, NoEnterWithAnotherKeyHeldAnswersAQuestionEither) {
         box.close();
       }),
       0);
+}
+
+TEST_F(SiNo, AKeyThatComesAfterTheAnswerChangesNothing) {
+  const std::uint8_t answer = Chiedi([](frmSiNo& box) {
+    box.cmdNo->click();
+    QKeyEvent late(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
+    QCoreApplication::sendEvent(box.windowHandle(), &late);
+    QCoreApplication::sendEvent(&box, &late);
+    box.cmdSi->click();
+  });
+  EXPECT_EQ(answer, 2);
+  EXPECT_EQ(b.C.Stato.RispostaSiNo, 2);
+}
+
+TEST_F(SiNo, CopyTakesItsWords) {
+  QGuiApplication::clipboard()->clear();
+  Chiedi([](frmSiNo& box) {
+    Tasto(box, Qt::Key_C, Qt::ControlModifier);
+    box.close();
+  });
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), "Title\n\nSure?");
 }
 
 TEST_F(SiNo, EveryEnterAnswersANotice) {

@@ -34,7 +34,7 @@ class LeavingHub : public test::Hub {
 TEST_F(LeavingHub, IsAskedAboutInFourLines) {
   EXPECT_EQ(Leave("cmdCancel"),
             "Leave project|Leave the project? Nothing is saved now.\nYes: main menu\n"
-            "No: end the program\nCancel: stay, to save first");
+            "No: end the program\nCancel: stay");
 }
 
 TEST_F(LeavingHub, CancelStays) {

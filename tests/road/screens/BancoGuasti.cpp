@@ -48,7 +48,7 @@ std::string Guasti::Registra() {
   return boxes.Titoli();
 }
 
-void Guasti::PremiTutto(bool alLavoro) {
+void Guasti::PremiTutto() {
   const Risponditore boxes;
   frmPlayerConfig& hub = Hub();
   std::vector<QPointer<QAbstractButton>> buttons;
@@ -57,7 +57,7 @@ void Guasti::PremiTutto(bool alLavoro) {
     if (!each || !each->isVisible() || !each->isEnabled()) continue;
     const QString name = each->objectName();
     if (name == QLatin1String("picEsci") || name == QLatin1String("picDisk")) continue;
-    if (name == QLatin1String("cmdScegliScheda") && !alLavoro) {
+    if (name == QLatin1String("cmdScegliScheda")) {
       ScegliScheda();
       continue;
     }

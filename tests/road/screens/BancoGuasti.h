@@ -30,8 +30,7 @@ class Guasti : public Strada {
   /// Records, with boxes sent away; the titles of what was told.
   std::string Registra();
   /// Presses each button of the hub that a person can press now, but the one that leaves it.
-  /// While a recording is `alLavoro` no other card can be chosen.
-  void PremiTutto(bool alLavoro = false);
+  void PremiTutto();
   /// The hub answers to a tick, and leads to the menu.
   void LasciaHall();
   /// A row of the project's table as another program reads it: the file's name, "" for none.
