@@ -82,7 +82,7 @@ void TabellaIngressi::Assegna(std::int16_t codice, const std::string& fileName,
 void TabellaIngressi::Libera(std::int16_t codice) {
   contesto_.Errore.Clear();
   auto& error = contesto_.Errore;
-  if (Aperta() && error.Record(righe_.Requery()) && Cerca(codice)) error.Record(righe_.Delete());
+  if (error.Record(righe_.Requery()) && Cerca(codice)) error.Record(righe_.Delete());
   AnnotaErrore(" ");  // what the list of files shows for no file
 }
 

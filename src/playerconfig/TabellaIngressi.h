@@ -47,6 +47,8 @@ class TabellaIngressi {
   void Assegna(std::int16_t codice, const std::string& fileName, const std::string& cartella);
   /// Frees a code; a free one stays as it is.
   void Libera(std::int16_t codice);
+  /// Writes the pending error of a confirm of `fileName` to the log; nothing without one.
+  void AnnotaErrore(const std::string& fileName);
   /// All rows by Pos. A table that can't be read to its end is the pending error, with the rows
   /// before.
   std::vector<RigaIngresso> Righe();
@@ -56,7 +58,6 @@ class TabellaIngressi {
 
  private:
   void Scrivi(std::int16_t codice, const std::string& fileName, const std::string& cartella);
-  void AnnotaErrore(const std::string& fileName);
 
   Contesto& contesto_;
   std::string percorso_;  // what the last Apri asked for

@@ -22,40 +22,55 @@ ContoProgetto::Firma ContoProgetto::FirmaOra() const {
 
 void ContoProgetto::Comincia(bool daCapo) {
   Firma now = FirmaOra();
-  if (daCapo || letta_ != now || !cifre_.Illeggibile.empty()) LeggiRighe();
+  if (daCapo || letta_ != now || !cifre_.Illeggibile.empty()) {
+    righe_.clear();
+    lettura_.emplace(contesto_);
+  }
   // The date tells seconds, two on a card: a change in the very moment of the last look has the
   // same, and a database keeps its size. Only an older one is known by them.
   constexpr std::int64_t kSettled = 3;
-  const auto latest = std::max_element(now.begin(), now.end(), [](const auto& a, const auto& b) {
-    return a.second < b.second;
-  });
+  const auto latest = std::max_element(
+      now.begin(), now.end(), [](const auto& a, const auto& b) { return a.second < b.second; });
   letta_.reset();
   if (latest->second + kSettled < std::int64_t{std::time(nullptr)}) letta_ = std::move(now);
   cifre_.Mancanti = 0;
   cifre_.Byte = 0;
   prossima_ = 0;
   visti_.clear();
-  cifre_.Completo = righe_.empty();
+  cifre_.Completo = !lettura_ && righe_.empty();
 }
 
-void ContoProgetto::LeggiRighe() {
-  SommarioProgetto rows = LeggiRigheProgetto(contesto_);
+bool ContoProgetto::Leggi(std::size_t righe) {
+  if (lettura_ && !lettura_->Passo(righe)) {
+    RigheLette(lettura_->Prendi());
+    lettura_.reset();
+  }
+  return lettura_.has_value();
+}
+
+void ContoProgetto::Interrompi() {
+  lettura_.reset();
+  letta_.reset();
+}
+
+void ContoProgetto::RigheLette(SommarioProgetto righe) {
   cifre_ = {};
-  cifre_.Ingressi = rows.Ingressi.size();
-  cifre_.Brani = rows.Brani.size();
-  cifre_.Segmenti = rows.Segmenti;
-  cifre_.Spot = rows.Spot.size();
-  if (!rows.Guasti.empty()) {
-    const std::string& fault = rows.Guasti.back();  // the lists, before inputs that none may use
+  cifre_.Ingressi = righe.Ingressi.size();
+  cifre_.Brani = righe.Brani.size();
+  cifre_.Segmenti = righe.Segmenti;
+  cifre_.Spot = righe.Spot.size();
+  if (!righe.Guasti.empty()) {
+    const std::string& fault = righe.Guasti.back();  // the lists, before inputs that none may use
     cifre_.Illeggibile = fault.substr(0, fault.find(':'));
   }
   std::set<std::int64_t> lists;
-  for (const auto& row : rows.Brani) lists.insert(row.NPlaylist);
+  for (const auto& row : righe.Brani) lists.insert(row.NPlaylist);
   cifre_.Liste = lists.size();
-  righe_ = std::move(rows.Ingressi);
-  for (auto* list : {&rows.Brani, &rows.Spot}) {
+  righe_ = std::move(righe.Ingressi);
+  for (auto* list : {&righe.Brani, &righe.Spot}) {
     std::move(list->begin(), list->end(), std::back_inserter(righe_));
   }
+  cifre_.Completo = righe_.empty();
 }
 
 bool ContoProgetto::Passo(std::size_t righe) {

@@ -32,23 +32,28 @@ class ContoProgetto {
  public:
   explicit ContoProgetto(Contesto& contesto) : contesto_(contesto) {}
 
-  /// Begins anew: reads the rows of the databases, looks for no file. Not `daCapo`: databases whose
-  /// size and date are those of the last count aren't read again.
+  /// Begins anew. Not `daCapo`: databases whose size and date are those of the last count aren't
+  /// read again.
   void Comincia(bool daCapo = true);
+  /// Reads this many rows more; false once all are read, and the figures tell how many.
+  bool Leggi(std::size_t righe);
   /// Looks for the files of this many rows more; false once all have been looked for.
   bool Passo(std::size_t righe);
+  /// Leaves the databases alone; the next count begins anew.
+  void Interrompi();
   const CifreProgetto& Cifre() const { return cifre_; }
 
  private:
   using Firma = std::vector<std::pair<std::uint64_t, std::int64_t>>;
   Firma FirmaOra() const;
-  void LeggiRighe();
+  void RigheLette(SommarioProgetto righe);
   void Guarda(const RigaProgetto& riga);
 
   Contesto& contesto_;
   CifreProgetto cifre_;
   std::vector<RigaProgetto> righe_;
-  std::optional<Firma> letta_;  ///< of the databases that righe_ come from
+  std::optional<LetturaRighe> lettura_;  ///< while rows are read
+  std::optional<Firma> letta_;           ///< of the databases that righe_ come from
   std::size_t prossima_ = 0;
   std::unordered_set<std::string> visti_;
 };

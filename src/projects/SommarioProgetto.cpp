@@ -1,13 +1,11 @@
 #include "projects/SommarioProgetto.h"
 
+#include <array>
 #include <unordered_set>
 
 #include "core/Aiuti.h"
 #include "platform/FileOps.h"
 #include "platform/Fold.h"
-#include "platform/db/Connection.h"
-#include "platform/db/Recordset.h"
-#include "platform/db/Walk.h"
 #include "projects/CartellaProgetto.h"
 
 namespace kvr5 {
@@ -29,44 +27,18 @@ RigaProgetto ReadRow(const std::string& database, const Recordset& rows) {
           false};
 }
 
-/// Reads the lists of the open project's databases.
-class Reader {
- public:
-  Reader(Contesto& context, SommarioProgetto& summary) : context_(context), summary_(summary) {}
-
-  /// All rows of a database's list; `head` takes the number of its HEAD rows where it is given.
-  std::vector<RigaProgetto> ReadList(const std::string& database, const char* query,
-                                     std::size_t* head = nullptr) {
-    std::vector<RigaProgetto> result;
-    if (!FileExists(context_.Files, FileDelProgetto(context_, database))) return result;
-    const Error error = ReadRows(database, query, result, head);
-    if (error) summary_.Guasti.push_back(database + ": " + error.Description());
-    return result;
-  }
-
- private:
-  Error ReadRows(const std::string& database, const char* query, std::vector<RigaProgetto>& result,
-                 std::size_t* head) {
-    Connection connection(context_.Files);
-    Recordset rows;
-    if (Error error = connection.Open(FileDelProgetto(context_, database))) return error;
-    if (Error error = rows.Open(connection, query)) return error;
-    Error walked = WalkRows(rows, [&] {
-      result.push_back(ReadRow(database, rows));
-      return true;
-    });
-    if (walked || head == nullptr) return walked;
-    rows.Close();
-    if (Error error = rows.Open(connection, "SELECT COUNT([ID]) AS Brani FROM [HEAD]")) {
-      return error;
-    }
-    *head = static_cast<std::size_t>(rows.Number("Brani"));
-    return {};
-  }
-
-  Contesto& context_;
-  SommarioProgetto& summary_;
+struct List {
+  const char* Database;
+  const char* Query;
+  std::vector<RigaProgetto> SommarioProgetto::*Rows;
 };
+
+constexpr std::array kLists{
+    List{"inputcfg.mdb", "SELECT * FROM [List] ORDER BY [Pos] ASC", &SommarioProgetto::Ingressi},
+    List{"playlist.mdb", "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC",
+         &SommarioProgetto::Brani},
+    List{"scheduler.mdb", "SELECT * FROM [LIST] ORDER BY [NPlaylist],[IDSChed],[Pos]",
+         &SommarioProgetto::Spot}};
 
 }  // namespace
 
@@ -97,15 +69,49 @@ SommarioProgetto LeggiSommario(Contesto& contesto) {
 }
 
 SommarioProgetto LeggiRigheProgetto(Contesto& contesto) {
-  SommarioProgetto summary;
-  Reader reader(contesto, summary);
-  summary.Ingressi = reader.ReadList("inputcfg.mdb", "SELECT * FROM [List] ORDER BY [Pos] ASC");
-  summary.Brani =
-      reader.ReadList("playlist.mdb", "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC");
-  summary.Spot =
-      reader.ReadList("scheduler.mdb", "SELECT * FROM [LIST] ORDER BY [NPlaylist],[IDSChed],[Pos]",
-                      &summary.Segmenti);
-  return summary;
+  LetturaRighe reading(contesto);
+  while (reading.Passo(SIZE_MAX)) {
+  }
+  return reading.Prendi();
+}
+
+bool LetturaRighe::Passo(std::size_t righe) {
+  while (lista_ < kLists.size() && righe > 0) {
+    const Error error = Leggi(righe);
+    if (error)
+      sommario_.Guasti.push_back(std::string(kLists[lista_].Database) + ": " + error.Description());
+    if (!error && righe_.IsOpen()) continue;  // that many rows for now
+    righe_.Close();
+    connessione_.Close();
+    ++lista_;
+  }
+  return lista_ < kLists.size();
+}
+
+Error LetturaRighe::Leggi(std::size_t& righe) {
+  const List& list = kLists[lista_];
+  if (!righe_.IsOpen()) {
+    const std::string path = FileDelProgetto(contesto_, list.Database);
+    if (!FileExists(contesto_.Files, path)) return {};
+    if (Error error = connessione_.Open(path)) return error;
+    if (Error error = righe_.Open(connessione_, list.Query)) return error;
+  }
+  for (; righe > 0 && !righe_.Eof(); --righe) {
+    (sommario_.*list.Rows).push_back(ReadRow(list.Database, righe_));
+    if (Error error = righe_.MoveNext()) return error;
+  }
+  if (!righe_.Eof()) return {};
+  righe_.Close();
+  return list.Rows == &SommarioProgetto::Spot ? ContaSegmenti() : Error();
+}
+
+Error LetturaRighe::ContaSegmenti() {
+  if (Error error = righe_.Open(connessione_, "SELECT COUNT([ID]) AS Brani FROM [HEAD]")) {
+    return error;
+  }
+  sommario_.Segmenti = static_cast<std::size_t>(righe_.Number("Brani"));
+  righe_.Close();
+  return {};
 }
 
 }  // namespace kvr5

@@ -4,9 +4,12 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/Contesto.h"
+#include "platform/db/Connection.h"
+#include "platform/db/Recordset.h"
 
 namespace kvr5 {
 
@@ -39,6 +42,28 @@ SommarioProgetto LeggiSommario(Contesto& contesto);
 
 /// Reads the rows alone: no file is looked for, none is missing.
 SommarioProgetto LeggiRigheProgetto(Contesto& contesto);
+
+/// The same in small steps, so that whoever waits for 20,000 rows can do other things between them.
+/// A database is open from its first row to its last.
+class LetturaRighe {
+ public:
+  explicit LetturaRighe(Contesto& contesto) : contesto_(contesto), connessione_(contesto.Files) {}
+
+  /// Reads this many rows more; false once all are read.
+  bool Passo(std::size_t righe);
+  /// What was read.
+  SommarioProgetto Prendi() { return std::move(sommario_); }
+
+ private:
+  Error Leggi(std::size_t& righe);
+  Error ContaSegmenti();
+
+  Contesto& contesto_;
+  SommarioProgetto sommario_;
+  std::size_t lista_ = 0;
+  Connection connessione_;
+  Recordset righe_;
+};
 
 /// The bytes of a row's source, else of its alias copy in the project, 0 for a pattern that
 /// matches; nothing where neither exists: the file is missing.

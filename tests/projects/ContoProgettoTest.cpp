@@ -13,6 +13,12 @@ class Conto : public testing::Test {
   void Track(int list, int pos, const std::string& name) {
     b.AggiungiRiga("playlist.mdb", list, pos, name, b.Percorso("music") + "\\", "");
   }
+  /// Begins, and reads all rows.
+  static void Begin(ContoProgetto& count, bool anew = true) {
+    count.Comincia(anew);
+    while (count.Leggi(2)) {
+    }
+  }
   Banco b;
 };
 
@@ -25,7 +31,7 @@ TEST_F(Conto, RowsAreThereAtOnceAndTheFilesFollowInSteps) {
   Track(7, 1, "b.mp3");
   Track(7, 2, "A.MP3");
   ContoProgetto count(b.C);
-  count.Comincia();
+  Begin(count);
   CifreProgetto expected;
   expected.Liste = 2;
   expected.Brani = 4;
@@ -47,11 +53,11 @@ TEST_F(Conto, BeginsAnewWithWhatIsThereNow) {
   b.CreaProgetto("Shop", 4, 5);
   Track(1, 1, "gone.mp3");
   ContoProgetto count(b.C);
-  count.Comincia();
+  Begin(count);
   EXPECT_FALSE(count.Passo(10));
   EXPECT_EQ(count.Cifre().Mancanti, 1U);
   b.ScriviMp3("music/gone.mp3");
-  count.Comincia();
+  Begin(count);
   EXPECT_FALSE(count.Cifre().Completo);
   EXPECT_FALSE(count.Passo(10));
   EXPECT_EQ(count.Cifre().Mancanti, 0U);
@@ -61,16 +67,16 @@ TEST_F(Conto, RowsThatStayedAreNotReadAgainTheirFilesAre) {
   b.CreaProgetto("Shop", 4, 5);
   Track(1, 1, "gone.mp3");
   ContoProgetto count(b.C);
-  count.Comincia();
+  Begin(count);
   EXPECT_FALSE(count.Passo(10));
   EXPECT_EQ(count.Cifre().Mancanti, 1U);
   b.ScriviMp3("music/gone.mp3");
-  count.Comincia(false);
+  Begin(count, false);
   EXPECT_EQ(count.Cifre().Brani, 1U);
   EXPECT_FALSE(count.Passo(10));
   EXPECT_EQ(count.Cifre().Mancanti, 0U);
   std::filesystem::remove(b.Cartella.Host() / "program/Projects/Shop/playlist.mdb");
-  count.Comincia(false);
+  Begin(count, false);
   EXPECT_EQ(count.Cifre().Brani, 0U) << "it has changed";
 }
 
@@ -78,21 +84,40 @@ TEST_F(Conto, ARowThatCameInTheSameSecondIsCountedToo) {
   b.CreaProgetto("Shop", 4, 5);
   Track(1, 1, "a.mp3");
   ContoProgetto count(b.C);
-  count.Comincia();
+  Begin(count);
   const auto file = b.Cartella.Host() / "program/Projects/Shop/playlist.mdb";
   const auto date = std::filesystem::last_write_time(file);
   const auto size = std::filesystem::file_size(file);
   Track(1, 2, "b.mp3");
   ASSERT_EQ(std::filesystem::file_size(file), size);
   std::filesystem::last_write_time(file, date);
-  count.Comincia(false);
+  Begin(count, false);
   EXPECT_EQ(count.Cifre().Brani, 2U);
+}
+
+TEST_F(Conto, RowsAreReadInStepsAndTheDatabaseIsFreeAfterThemOrAnInterruption) {
+  b.CreaProgetto("Shop", 4, 5);
+  for (int pos = 1; pos <= 9; ++pos) Track(1, pos, "a.mp3");
+  ContoProgetto count(b.C);
+  count.Comincia();
+  EXPECT_FALSE(count.Cifre().Completo);
+  EXPECT_TRUE(count.Leggi(4));
+  EXPECT_TRUE(count.Leggi(4));
+  EXPECT_FALSE(count.Leggi(4));
+  EXPECT_EQ(count.Cifre().Brani, 9U);
+  EXPECT_FALSE(count.Leggi(4)) << "there are no more";
+  count.Comincia();
+  EXPECT_TRUE(count.Leggi(4));
+  count.Interrompi();
+  EXPECT_FALSE(count.Leggi(4));
+  Begin(count, false);
+  EXPECT_EQ(count.Cifre().Brani, 9U) << "what was interrupted begins anew";
 }
 
 TEST_F(Conto, AnEmptyProjectIsCountedAtOnce) {
   b.CreaProgetto("Hall", 4, 1);
   ContoProgetto count(b.C);
-  count.Comincia();
+  Begin(count);
   EXPECT_TRUE(count.Cifre().Completo);
   EXPECT_FALSE(count.Passo(1));
 }
@@ -102,7 +127,7 @@ TEST_F(Conto, AnAliasCopyStandsInForASourceThatIsGone) {
   b.ScriviMp3("program/Projects/Hall/5.mp3");
   b.AggiungiRiga("inputcfg.mdb", 1, 5, "gone.mp3", b.Percorso("music") + "\\", "5.mp3");
   ContoProgetto count(b.C);
-  count.Comincia();
+  Begin(count);
   EXPECT_FALSE(count.Passo(10));
   EXPECT_EQ(count.Cifre().Ingressi, 1U);
   EXPECT_EQ(count.Cifre().Mancanti, 0U);
@@ -113,7 +138,7 @@ TEST_F(Conto, ADatabaseThatCannotBeReadIsNamed) {
   b.CreaProgetto("Shop", 4, 5);
   b.Cartella.Write("program/Projects/Shop/playlist.mdb", std::string(8192, 'x'));
   ContoProgetto count(b.C);
-  count.Comincia();
+  Begin(count);
   EXPECT_EQ(count.Cifre().Illeggibile, "playlist.mdb");
 }
 

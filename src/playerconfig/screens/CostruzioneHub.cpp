@@ -41,7 +41,6 @@ void frmPlayerConfig::Costruisci() {
   page->addWidget(Barra);
   CostruisciNascosti();
   guardia_.setInterval(kCardWatch);
-  conta_.setInterval(0);
 }
 
 QLayout* frmPlayerConfig::CostruisciTestata() {
@@ -172,7 +171,6 @@ void frmPlayerConfig::Collega() {
   };
   Opzioni->SuCambio = changed;
   Scheda->SuScegli = [this] {
-    if (lavora_) return;  // what has begun on one card doesn't go on on another
     const Impegno stays(*this);
     ambiente_.Schermi.ScegliScheda(Schermata::Configurazione);
   };
@@ -208,17 +206,23 @@ void frmPlayerConfig::DisabilitaFuturi() {
 
 void frmPlayerConfig::RiempiAltro() {
   const auto text = [this](const char* key) { return SenzaMnemonico(Qs(TestoLingua(C(), key))); };
+  const auto later = [&](const char* key) {
+    QAction* entry = Barra->menuAltro.addAction(text(key));
+    entry->setEnabled(false);
+    entry->setToolTip(text("0130244"));
+  };
   QMenu& menu = Barra->menuAltro;
+  menu.setToolTipsVisible(true);
   const auto has = [this](const char* database) {
     return FileExists(C().Files, FileDelProgetto(C(), database));
   };
   if (!layout_.picPalinsesto && has("scheduler.mdb")) {
-    menu.addAction(text("0130151"))->setEnabled(false);
+    later("0130151");
   }
   if (!layout_.picPlaylist && has("playlist.mdb")) {
-    menu.addAction(text("0130152"))->setEnabled(false);
+    later("0130152");
   }
-  menu.addAction(text("0130156"))->setEnabled(false);
+  later("0130156");
   QAction* open = menu.addAction(text("0130157"));
   connect(open, &QAction::triggered, this,
           [this] { ambiente_.Documenti.Apri(C().Stato.CartellaProgetto); });

@@ -15,7 +15,6 @@
 #include "playerconfig/screens/VociAssegnati.h"
 
 namespace kvr5 {
-namespace {}  // namespace
 
 ListaAssegnati::ListaAssegnati(Contesto& contesto, QWidget* padre)
     : Riquadro("fraAssegnati", QStringLiteral("Assignments"), -1, padre), contesto_(contesto) {

@@ -4,8 +4,10 @@
 #include <QHBoxLayout>
 #include <QStandardItemModel>
 #include <QVBoxLayout>
+#include <map>
 
 #include "core/Lingua.h"
+#include "core/Parole.h"
 #include "core/ParoleCopia.h"
 #include "core/screens/EtichettaElisa.h"
 #include "core/screens/LocalizzaForm.h"
@@ -19,7 +21,10 @@ namespace kvr5 {
 PaneMp3::PaneMp3(Contesto& contesto, QWidget* padre)
     : Riquadro("fraFileName", {}, -1, padre), contesto_(contesto) {
   Costruisci();
-  connect(cmbFileMp3, &QComboBox::activated, this, [this] { Clic(); });
+  connect(cmbFileMp3, &QComboBox::activated, this, [this] {
+    sceltoDallUtente_ = true;
+    Clic();
+  });
   // A button in the tab order answers to one click and to the keyboard; the label, which looks like
   // none, waits for the second one.
   connect(picDisk, &QAbstractButton::clicked, this, [this] {
@@ -80,6 +85,7 @@ void PaneMp3::Costruisci() {
 }
 
 void PaneMp3::RiempiElencoMp3() {
+  sceltoDallUtente_ = false;
   MostraElenco();
   cmbFileMp3->setCurrentIndex(static_cast<int>(elenco_.Scelto));
   Clic();
@@ -89,19 +95,25 @@ bool PaneMp3::Rileggi() {
   const std::string picked = Scelto();
   if (!DirDirectoryMp3->Rileggi()) return false;
   MostraElenco();
-  cmbFileMp3->setCurrentIndex(static_cast<int>(elenco_.Indice(picked).value_or(0)));
+  const auto still = picked == " " ? std::optional<std::size_t>(0) : elenco_.Indice(picked);
+  if (!still) sceltoDallUtente_ = false;
+  if (!still && cmdOkFileMp3->hasFocus()) cmbFileMp3->setFocus();  // it is another button now
+  cmbFileMp3->setCurrentIndex(static_cast<int>(still.value_or(0)));
   return true;
 }
 
 void PaneMp3::MostraElenco() {
   elenco_ = kvr5::RiempiElencoMp3(DirDirectoryMp3->Voci());
   auto* model = new QStandardItemModel(static_cast<int>(elenco_.Voci.size()), 1, cmbFileMp3);
+  std::map<NameFault, QString> faults;  // read once each, however many there are
   for (std::size_t i = 0; i < elenco_.Voci.size(); ++i) {
     const VoceMp3& entry = elenco_.Voci[i];
-    auto* item = new QStandardItem(Qs(entry.Nome));
+    auto* item = new QStandardItem(Qs(SuUnaRiga(entry.Nome)));
     if (entry.Difetto != NameFault::None) {
       item->setEnabled(false);
-      item->setToolTip(Qs(ParoleDifetto(contesto_, entry.Difetto)));
+      QString& fault = faults[entry.Difetto];
+      if (fault.isEmpty()) fault = Qs(ParoleDifetto(contesto_, entry.Difetto));
+      item->setToolTip(fault);
     }
     model->setItem(static_cast<int>(i), item);
   }
@@ -115,6 +127,7 @@ std::string PaneMp3::Scelto() const {
 }
 
 void PaneMp3::Scegli(const std::string& nome) {
+  sceltoDallUtente_ = false;
   cmbFileMp3->setCurrentIndex(0);
   Clic();
   const auto index = elenco_.Indice(nome);

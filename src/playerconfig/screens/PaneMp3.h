@@ -35,6 +35,9 @@ class PaneMp3 : public Riquadro {
   bool Rileggi();
   /// The selected item; " " for no file.
   std::string Scelto() const;
+  /// Whether the user picked it, and nothing has been ticked since.
+  bool SceltoDallUtente() const { return sceltoDallUtente_; }
+  void DimenticaScelta() { sceltoDallUtente_ = false; }
   /// Sets cmbFileMp3 to " " and then to this file, which stays at " " where the list lacks it.
   void Scegli(const std::string& nome);
   /// Has cmdOkFileMp3 say that it takes an assignment away, which the blank item does, or that it
@@ -63,6 +66,7 @@ class PaneMp3 : public Riquadro {
   Contesto& contesto_;
   QLabel* numero_;
   ElencoMp3 elenco_;
+  bool sceltoDallUtente_ = false;
 };
 
 }  // namespace kvr5

@@ -11,11 +11,11 @@ namespace kvr5 {
 namespace {
 
 constexpr int kSign = 16;
-constexpr int kEdge = 10;  // pixels before the sign, behind it and behind the file's name
-constexpr int kGap = 14;   // pixels between two columns
+constexpr int kEdge = 10;   // pixels before the sign, behind it and behind the file's name
+constexpr int kGap = 14;    // pixels between two columns
 constexpr int kName = 110;  // pixels that the name of a file has beside a column of inputs
-constexpr int kLine = 28;  // height of a row
-constexpr int kMark = 18;  // what a mark adds to it
+constexpr int kLine = 28;   // height of a row
+constexpr int kMark = 18;   // what a mark adds to it
 
 /// A column of the row's first line, cut from the left of what is left of it.
 QRect Cut(QRect& rest, int width) {
@@ -27,6 +27,14 @@ QRect Cut(QRect& rest, int width) {
 void Write(QPainter& painter, const QRect& column, const QString& text, Qt::TextElideMode mode) {
   painter.drawText(column, Qt::AlignLeft | Qt::AlignVCenter,
                    painter.fontMetrics().elidedText(text, mode, column.width()));
+}
+
+/// A row that is marked keeps the colour of its mark, also where it is the ticked one.
+QColor InkOf(const QStyleOptionViewItem& item, const QModelIndex& row) {
+  const Tema& tema = Tema::Corrente();
+  if (row.data(Qt::ForegroundRole).isValid()) return item.palette.color(QPalette::Text);
+  if (item.state.testFlag(QStyle::State_Selected)) return tema.SuSelezione;
+  return item.state.testFlag(QStyle::State_Enabled) ? tema.Testo : tema.Attenuato;
 }
 
 }  // namespace
@@ -53,14 +61,13 @@ void VociAssegnati::paint(QPainter* pittore, const QStyleOptionViewItem& opzione
   item.text.clear();
   const QIcon sign = std::exchange(item.icon, QIcon());
   QApplication::style()->drawControl(QStyle::CE_ItemViewItem, &item, pittore, item.widget);
-  const bool chosen = item.state.testFlag(QStyle::State_Selected);
   QRect line = item.rect;
   sign.paint(pittore, QRect(line.left() + kEdge, line.top(), kSign, line.height()));
   line.adjust(kEdge + kSign + kEdge, 0, -kEdge, 0);
   const QRect below = line.adjusted(0, kLine - 6, 0, -4);
   line.setHeight(kLine);
   pittore->save();
-  pittore->setPen(chosen ? Tema::Corrente().SuSelezione : item.palette.color(QPalette::Text));
+  pittore->setPen(InkOf(item, voce));
   pittore->setFont(FontDi(Carattere::Corpo));
   Write(*pittore, Cut(line, codici_), voce.data(Codice).toString(), Qt::ElideRight);
   const QString inputs = voce.data(Ingressi).toString();

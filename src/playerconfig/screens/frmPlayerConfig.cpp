@@ -25,8 +25,10 @@ namespace {
 constexpr std::int16_t kForm = 4;
 constexpr std::int16_t kFromCard = 2;
 constexpr int kTypeRoom = 420;
-constexpr std::size_t kRowsAtOnce = 100;  // a few milliseconds on a slow disk
-constexpr int kLongestPause = 15;         // rounds of the watch between two tries to read
+// What the count does at once: a few milliseconds on a slow disk.
+constexpr std::size_t kRowsRead = 500;
+constexpr std::size_t kFilesSeen = 100;
+constexpr int kLongestPause = 15;  // rounds of the watch between two tries to read
 
 /// The file that the rows have for a code, as it is shown; nothing for a code without a row.
 std::optional<std::string> FileOf(const std::vector<RigaIngresso>& rows, std::int16_t code) {
@@ -137,9 +139,9 @@ void frmPlayerConfig::AllAttivazione() {
   if (!codice_) return;
   const Impegno stays(*this);
   const bool changed = codice_->AbilitaIngressiRs485();
-  if (!lavora_) {
-    // Files come and go while another window is in front.
-    if (std::exchange(lasciata_, true)) RileggiCartella();
+  // Files come and go while another window is in front. At the first time the load has just looked.
+  if (std::exchange(lasciata_, true) && !lavora_) {
+    RileggiCartella();
     AggiornaElenco();
     CominciaConto(false);
   }
@@ -153,7 +155,8 @@ void frmPlayerConfig::AllAttivazione() {
 void frmPlayerConfig::RileggiCartella() {
   if (!fraFileName->Rileggi()) return;
   const auto& assigned = codice_->DaScegliere();
-  if (Rifila(fraFileName->Scelto()).empty() && assigned) return fraFileName->Scegli(*assigned);
+  const bool free = Rifila(fraFileName->Scelto()).empty() && !fraFileName->SceltoDallUtente();
+  if (free && assigned) return fraFileName->Scegli(*assigned);
   SceltoFile();
 }
 
@@ -162,17 +165,23 @@ void frmPlayerConfig::CambiaCodice(const std::function<void()>& cambia) {
   C().Errore.Clear();
   cambia();
   const bool failed{C().Errore};
+  fraFileName->DimenticaScelta();
   MostraCodice();
   SceltoFile();
-  if (failed) AggiornaElenco();
+  if (!failed) return;
+  // Not from within the list's own signal: it is emptied where it can't be read.
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        const Impegno there(*this);
+        if (Caricata()) AggiornaElenco();
+      },
+      Qt::QueuedConnection);
 }
 
 void frmPlayerConfig::RivediCodice() {
-  const std::string picked = fraFileName->Scelto();
-  const bool own = !Rifila(picked).empty() && picked != codice_->DaScegliere();
   codice_->AggiornaIngressoSelezionato();
-  MostraCodice();
-  if (own) fraFileName->Scegli(picked);  // what the user picked meanwhile isn't dropped
+  MostraCodice(!fraFileName->SceltoDallUtente());
   SceltoFile();
 }
 
@@ -182,10 +191,11 @@ void frmPlayerConfig::NonSiLegge() {
 }
 
 void frmPlayerConfig::Ritenta() {
-  const auto unread = [this] { return illeggibile_ || !conto_.Cifre().Illeggibile.empty(); };
-  if (!unread()) pausa_ = 1;
+  if (lavora_ || conta_.isActive()) return;
+  const bool unread = illeggibile_ || !conto_.Cifre().Illeggibile.empty();
+  if (!unread) pausa_ = 1;
   // Each try may wait a while for a lock: they come less and less often.
-  if (lavora_ || !unread() || ++giri_ < pausa_) return;
+  if (!unread || ++giri_ < pausa_) return;
   const Impegno stays(*this);
   giri_ = 0;
   pausa_ = std::min(2 * pausa_, kLongestPause);
@@ -193,11 +203,12 @@ void frmPlayerConfig::Ritenta() {
   if (!illeggibile_) CominciaConto(false);
 }
 
-void frmPlayerConfig::MostraCodice() {
+void frmPlayerConfig::MostraCodice(bool scegli) {
   fraIngressiLogici->Mostra(*codice_);
   Assegnazioni->Evidenzia(codice_->Codice());
   fraFileName->lblfraFileName->setText(Qs(codice_->lblfraFileName()));
-  if (const auto& file = codice_->DaScegliere()) fraFileName->Scegli(*file);
+  const auto& file = codice_->DaScegliere();
+  if (scegli && file) fraFileName->Scegli(*file);
 }
 
 void frmPlayerConfig::AggiornaElenco(bool inVista) {
@@ -207,7 +218,11 @@ void frmPlayerConfig::AggiornaElenco(bool inVista) {
   if (!ingressi_.Aperta() && there) ingressi_.Riapri();  // what held it may have let it go
   std::vector<RigaIngresso> rows;
   C().Errore.Clear();
-  if (ingressi_.Aperta()) rows = ingressi_.Righe();
+  if (ingressi_.Aperta()) {
+    rows = ingressi_.Righe();
+  } else if (there) {
+    C().Errore.Record(Error(errors::ObjectClosed));
+  }
   if (ingressi_.Aperta() ? bool(C().Errore) : there) return NonSiLegge();
   illeggibile_ = false;
   if (!ingressi_.Aperta()) {
@@ -221,6 +236,10 @@ void frmPlayerConfig::AggiornaElenco(bool inVista) {
 
 bool frmPlayerConfig::AncoraCosi() {
   const auto shown = codice_->DaScegliere();
+  if (lavora_ && !ingressi_.Aperta()) {
+    C().Errore.Record(Error(errors::ObjectClosed));  // for the while that it is copied
+    return false;
+  }
   AggiornaElenco();
   return !illeggibile_ && codice_->DaScegliere() == shown;
 }
@@ -277,12 +296,13 @@ void frmPlayerConfig::ConfermaFile() {
   const Impegno stays(*this);
   const std::string item = fraFileName->Scelto();
   const bool blank = Rifila(item).empty();
-  if (blank && !AncoraCosi()) return;  // nothing is taken away but what was shown
+  C().Errore.Clear();
+  // Nothing is taken away but what was shown.
+  if (blank && !AncoraCosi()) return ingressi_.AnnotaErrore(item);
   C().Errore.Clear();
   codice_->Conferma(item, fraFileName->DirDirectoryMp3->Percorso());
   const bool failed{C().Errore};
-  MostraCodice();
-  if (failed && !blank) fraFileName->Scegli(item);  // to be confirmed once more
+  MostraCodice(blank || !failed);  // what wasn't kept stays picked, to be confirmed once more
   fraFileName->MostraTogliere(Rifila(fraFileName->Scelto()).empty() &&
                               codice_->fraFileAssociatoVisibile());
   AggiornaElenco(true);
@@ -290,20 +310,22 @@ void frmPlayerConfig::ConfermaFile() {
 }
 
 void frmPlayerConfig::CominciaConto(bool daCapo) {
-  // At the next free moment: the window is there first.
+  // The window is there first, with what it shows; then, whenever nothing else is to be done.
+  constexpr int kBreath = 100;  // milliseconds
   daCapo_ = daCapo_ || daCapo;
   contoIniziato_ = false;
-  conta_.start();
+  conta_.start(kBreath);
 }
 
 void frmPlayerConfig::Conta() {
   if (lavora_) return conta_.stop();  // the disk is the recording's; its end counts anew
   if (!contoIniziato_) {
-    conto_.Comincia(std::exchange(daCapo_, false));
     contoIniziato_ = true;
-  } else if (!conto_.Passo(kRowsAtOnce)) {
-    conta_.stop();
+    conta_.setInterval(0);
+    return conto_.Comincia(std::exchange(daCapo_, false));
   }
+  if (conto_.Leggi(kRowsRead)) return;
+  if (!conto_.Passo(kFilesSeen)) conta_.stop();
   const CifreProgetto& figures = conto_.Cifre();
   // The old figures stand until the new ones are whole; at first those of the rows will do.
   if (figures.Completo || !contoMostrato_) {
@@ -343,12 +365,14 @@ void frmPlayerConfig::Registra() {
   if (lavora_) return;         // events run during a recording, this button among them
   const Impegno stays(*this);  // a close that is asked for meanwhile comes at the end
   lavora_ = true;
+  conto_.Interrompi();  // no database is open while it is copied
   const bool cancelled = servizi_.RegistraProgetto(ingressi_);
   lavora_ = false;
   if (cancelled) {
     show();
     setEnabled(true);
   }
+  RileggiCartella();
   AggiornaElenco();
   CominciaConto();
   Scheda->MostraStato(servizi_.FattiDellaScheda());
@@ -370,6 +394,7 @@ bool frmPlayerConfig::PuoChiudere(Causa /*causa*/) {
 void frmPlayerConfig::AlloScarico() {
   guardia_.stop();
   conta_.stop();
+  conto_.Interrompi();
   fraFileInfo->tmrInfoMp3.stop();
   if (finePrograma_) {
     ambiente_.Schermi.TerminaProgramma();

@@ -75,7 +75,8 @@ class frmPlayerConfig : public Form {
   void RileggiCartella();
   /// Has `cambia` tick other inputs, and shows what they have.
   void CambiaCodice(const std::function<void()>& cambia);
-  void MostraCodice();
+  /// Shows the ticked inputs; `scegli`: their file is picked, too, where the folder has it.
+  void MostraCodice(bool scegli = true);
   /// Shows the table as it is now; `inVista` brings the ticked inputs' row into view.
   void AggiornaElenco(bool inVista = false);
   /// Looks the ticked inputs up once more.

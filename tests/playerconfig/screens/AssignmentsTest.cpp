@@ -162,7 +162,8 @@ TEST_F(Assignments, WhatIsHighlightedIsWhatIsTickedHoweverTheUserCameThere) {
   QTest::keyClick(&list, Qt::Key_End);
   EXPECT_EQ(title(), "File on the card - 12.mp3");
   // Pressed on one row, let go on another.
-  QTest::mousePress(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(0)).center());
+  QTest::mousePress(list.viewport(), Qt::LeftButton, {},
+                    list.visualItemRect(list.item(0)).center());
   QTest::mouseRelease(list.viewport(), Qt::LeftButton, {},
                       list.visualItemRect(list.item(2)).center());
   EXPECT_EQ(title(), "File on the card - " + std::to_string(1) + ".mp3");

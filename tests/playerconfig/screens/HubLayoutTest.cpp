@@ -166,9 +166,10 @@ TEST_F(HubLayout, MoreOpensItsMenuAboveItself) {
   Clic("picAltro");
   QMenu& menu = hub->Barra->menuAltro;
   ASSERT_TRUE(QTest::qWaitFor([&] { return menu.isVisible(); }));
-  EXPECT_LE(menu.geometry().bottom(), hub->mapToGlobal(hub->Barra->picAltro->mapTo(
-                                              hub, QPoint(0, hub->Barra->picAltro->height())))
-                                          .y());
+  EXPECT_LE(
+      menu.geometry().bottom(),
+      hub->mapToGlobal(hub->Barra->picAltro->mapTo(hub, QPoint(0, hub->Barra->picAltro->height())))
+          .y());
   menu.close();
 }
 

@@ -283,6 +283,30 @@ TEST_F(Inputs, AFileThatIsRefusedLaterTakesTheKeyboardNoFurtherThanTheList) {
   EXPECT_EQ(hub->focusWidget(), &Trova<QWidget>("cmbFileMp3"));
 }
 
+TEST_F(Inputs, TheBlankLineStaysPickedWhateverComesIntoTheFolder) {
+  b.AggiungiRiga("inputcfg.mdb", 1, 1, "a.mp3", Music(), "1.mp3");
+  Apri(0);
+  Attiva();
+  Spunta(1);
+  ScegliFile(" ");
+  b.ScriviMp3("music/z.mp3");
+  Attiva();
+  EXPECT_EQ(Trova<QComboBox>("cmbFileMp3").currentText(), " ");
+}
+
+TEST_F(Inputs, AConfirmOfAFileThatIsGoneNeverBecomesARemovalUnderTheKeyboard) {
+  Apri(0);
+  Attiva();
+  Spunta(1);
+  ScegliFile("b.mp3");
+  Conferma();
+  Trova<QWidget>("cmdOkFileMp3").setFocus();
+  std::filesystem::remove(b.Cartella.Host() / "music/b.mp3");
+  Attiva();
+  EXPECT_EQ(Testo("lblOkFileMp3"), "Remove file");
+  EXPECT_EQ(hub->focusWidget(), &Trova<QWidget>("cmbFileMp3"));
+}
+
 TEST_F(Inputs, AClickOnALampOrANameTicksItsBox) {
   Apri(0);
   Clic("shaIn_1");

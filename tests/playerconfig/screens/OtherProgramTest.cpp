@@ -105,6 +105,8 @@ TEST_F(OtherProgram, ThatLocksTheTableKeepsItsFilesFromBeingTakenAway) {
   Unlock();
   EXPECT_NE(Riga(1), "");
   EXPECT_TRUE(Testo("lblCifre").starts_with("The assignments can't be read now"));
+  const std::string log = b.Cartella.Read("program/Logs/20061020.log");
+  EXPECT_NE(log.find("Routine cmdOKFileMp3: err n"), std::string::npos) << log;
 }
 
 TEST_F(OtherProgram, ThatChangedWhatIsTickedIsSeenWhenTheHubComesBack) {
@@ -163,6 +165,17 @@ TEST_F(OtherProgram, ThatLetsTheTableGoDropsNothingThatWasPickedMeanwhile) {
   ScegliFile("b.mp3");
   Unlock();
   EXPECT_TRUE(QTest::qWaitFor([this] { return Plays() == "Plays: a.mp3"; }, 8000));
+  EXPECT_EQ(Trova<QComboBox>("cmbFileMp3").currentText(), "b.mp3");
+}
+
+TEST_F(OtherProgram, ThatLetsTheTableGoHasTheAssignedFilePickedAndNoneThatNobodyPicked) {
+  Adds(1, "b.mp3");
+  Lock();
+  Apri(0);
+  EXPECT_EQ(Trova<QComboBox>("cmbFileMp3").currentText(), "a.mp3") << "the folder's first";
+  Spunta(1);
+  Unlock();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Plays() == "Plays: b.mp3"; }, 8000));
   EXPECT_EQ(Trova<QComboBox>("cmbFileMp3").currentText(), "b.mp3");
 }
 

@@ -66,6 +66,21 @@ TEST_F(RecordingAtWork, ALookAtAnotherInputMeanwhileShowsItsFile) {
     RecordAnd(beat, [this] { test::Clicca(Hub(), "chkIn_3"); });
     const bool both = Hub().fraIngressiLogici->chkIn[2]->isChecked();
     EXPECT_EQ(test::Scritta(Hub(), "lblFileAssociato"), both ? "Plays: b.mp3" : "Plays: a.mp3");
+    EXPECT_EQ(Hub().fraFileName->Scelto(), both ? "b.mp3" : "a.mp3") << "what Confirm would take";
+  }
+}
+
+TEST_F(RecordingAtWork, AFileTakenAwayMeanwhileIsGoneOrStillShown) {
+  const auto rows = [this] { return Riga(1).empty() ? 1U : 2U; };
+  for (int beat = 0; beat < 12; ++beat) {
+    SCOPED_TRACE(beat);
+    RecordAnd(beat, [&] {
+      Assegna({1}, " ");
+      EXPECT_EQ(Hub().fraIngressiLogici->fraFileAssociato->isVisible(), !Riga(1).empty());
+    });
+    EXPECT_EQ(Shown().size(), rows());
+    Assegna({1}, "a.mp3");
+    ASSERT_EQ(Shown().size(), 2U);
   }
 }
 
@@ -89,7 +104,7 @@ TEST_F(RecordingAtWork, LeavingMeanwhileComesAfterItAndTheCardIsWhole) {
 TEST_F(RecordingAtWork, EveryButtonOfTheHubCanBePressedMeanwhile) {
   for (int beat = 0; beat < 8; ++beat) {
     SCOPED_TRACE(beat);
-    RecordAnd(beat, [this] { PremiTutto(true); });
+    RecordAnd(beat, [this] { PremiTutto(); });
     ASSERT_TRUE(Hub().isVisible() && Hub().isEnabled());
   }
   LasciaHall();
