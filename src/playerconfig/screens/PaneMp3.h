@@ -35,9 +35,10 @@ class PaneMp3 : public Riquadro {
   bool Rileggi();
   /// The selected item; " " for no file.
   std::string Scelto() const;
-  /// Whether the user picked it, and nothing has been ticked since.
+  /// Whether the user picked it, and nothing has been ticked since. A confirm is a pick, too.
   bool SceltoDallUtente() const { return sceltoDallUtente_; }
   void DimenticaScelta() { sceltoDallUtente_ = false; }
+  void TieniScelta() { sceltoDallUtente_ = true; }
   /// Sets cmbFileMp3 to " " and then to this file, which stays at " " where the list lacks it.
   void Scegli(const std::string& nome);
   /// Has cmdOkFileMp3 say that it takes an assignment away, which the blank item does, or that it

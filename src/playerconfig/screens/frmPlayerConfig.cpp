@@ -147,6 +147,7 @@ void frmPlayerConfig::AllAttivazione() {
   }
   fraIngressiLogici->Mostra(*codice_);
   if (changed) {
+    fraFileName->DimenticaScelta();
     MostraCodice();
     SceltoFile();
   }
@@ -181,7 +182,8 @@ void frmPlayerConfig::CambiaCodice(const std::function<void()>& cambia) {
 
 void frmPlayerConfig::RivediCodice() {
   codice_->AggiornaIngressoSelezionato();
-  MostraCodice(!fraFileName->SceltoDallUtente());
+  const bool picked = fraFileName->SceltoDallUtente() && !Rifila(fraFileName->Scelto()).empty();
+  MostraCodice(!picked);
   SceltoFile();
 }
 
@@ -300,6 +302,7 @@ void frmPlayerConfig::ConfermaFile() {
   // Nothing is taken away but what was shown.
   if (blank && !AncoraCosi()) return ingressi_.AnnotaErrore(item);
   C().Errore.Clear();
+  blank ? fraFileName->DimenticaScelta() : fraFileName->TieniScelta();
   codice_->Conferma(item, fraFileName->DirDirectoryMp3->Percorso());
   const bool failed{C().Errore};
   MostraCodice(blank || !failed);  // what wasn't kept stays picked, to be confirmed once more
@@ -325,13 +328,11 @@ void frmPlayerConfig::Conta() {
     return conto_.Comincia(std::exchange(daCapo_, false));
   }
   if (conto_.Leggi(kRowsRead)) return;
-  if (!conto_.Passo(kFilesSeen)) conta_.stop();
-  const CifreProgetto& figures = conto_.Cifre();
   // The old figures stand until the new ones are whole; at first those of the rows will do.
-  if (figures.Completo || !contoMostrato_) {
-    Pannello->Mostra(C(), figures, layout_.picPalinsesto);
-    contoMostrato_ = true;
-  }
+  const bool first = !std::exchange(contoMostrato_, true);
+  if (!first && !conto_.Passo(kFilesSeen)) conta_.stop();
+  const CifreProgetto& figures = conto_.Cifre();
+  if (figures.Completo || first) Pannello->Mostra(C(), figures, layout_.picPalinsesto);
   // What can't be read is no reason to say that less room is needed.
   if (figures.Completo && figures.Illeggibile.empty()) Scheda->ImpostaBisogno(figures.Byte);
 }

@@ -157,6 +157,38 @@ TEST_F(OtherProgram, ThatOnlyWritesLeavesWhatWasPickedToBeConfirmedOnceMore) {
   EXPECT_EQ(Plays(), "Plays: b.mp3");
 }
 
+TEST_F(OtherProgram, ThatLocksTheTableLeavesAFileThatCouldNotBeConfirmedToBeConfirmed) {
+  Adds(1, "a.mp3");
+  Sql("UPDATE List SET FilePath='C:\\old\\', FileName='old.mp3' WHERE Pos=1");
+  Unlock();
+  b.ScriviMp3("music/New/x.mp3");
+  Apri(0);
+  Spunta(1);
+  hub->fraFileName->DirDirectoryMp3->ImpostaPercorso(b.Percorso("music/New"));
+  EXPECT_EQ(Trova<QComboBox>("cmbFileMp3").currentText(), "x.mp3") << "picked by nobody yet";
+  Lock();
+  Conferma();
+  Unlock();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Testo("lblCifre") == "1 file, 1 missing"; }, 8000));
+  EXPECT_EQ(Trova<QComboBox>("cmbFileMp3").currentText(), "x.mp3");
+  EXPECT_EQ(Testo("lblOkFileMp3"), "Confirm") << "never a removal in its place";
+  Conferma();
+  EXPECT_EQ(Plays(), "Plays: x.mp3");
+}
+
+TEST_F(OtherProgram, ThatAssignsAgainWhatWasRemovedIsPicked) {
+  Adds(1, "a.mp3");
+  Apri(0);
+  Spunta(1);
+  ScegliFile(" ");
+  Conferma();
+  EXPECT_EQ(Riga(1), "");
+  Adds(1, "b.mp3");
+  Attiva();
+  EXPECT_EQ(Plays(), "Plays: b.mp3");
+  EXPECT_EQ(Trova<QComboBox>("cmbFileMp3").currentText(), "b.mp3");
+}
+
 TEST_F(OtherProgram, ThatLetsTheTableGoDropsNothingThatWasPickedMeanwhile) {
   Adds(1, "a.mp3");
   Apri(0);
