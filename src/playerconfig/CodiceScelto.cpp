@@ -112,6 +112,7 @@ void CodiceScelto::Conferma(const std::string& file, const std::string& cartella
   if (code == 0 || FaultOf(file) != NameFault::None) return;
   if (file == " ") {
     tabella_.Libera(code);
+    if (contesto_.Errore) return;  // it is still there
     associato_ = false;
     daScegliere_.reset();
   } else if (!Rifila(file).empty()) {

@@ -154,7 +154,9 @@ void frmPlayerConfig::Collega() {
   };
   fraFileName->SuScelta = [this] { SceltoFile(); };
   fraFileName->SuSfoglia = [this] { SfogliaMp3(); };
-  connect(fraFileName->cmdOkFileMp3, &QAbstractButton::clicked, this, [this] { ConfermaFile(); });
+  connect(fraFileName->cmdOkFileMp3, &QAbstractButton::clicked, this, [this] {
+    if (!fraFileName->OkSospeso()) ConfermaFile();
+  });
   connect(&fraFileInfo->tmrInfoMp3, &QTimer::timeout, this, [this] {
     const Impegno stays(*this);
     MostraInfoMp3();

@@ -1,5 +1,6 @@
 #include "playerconfig/screens/PaneMp3.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QStandardItemModel>
@@ -97,7 +98,6 @@ bool PaneMp3::Rileggi() {
   MostraElenco();
   const auto still = picked == " " ? std::optional<std::size_t>(0) : elenco_.Indice(picked);
   if (!still) sceltoDallUtente_ = false;
-  if (!still && cmdOkFileMp3->hasFocus()) cmbFileMp3->setFocus();  // it is another button now
   cmbFileMp3->setCurrentIndex(static_cast<int>(still.value_or(0)));
   return true;
 }
@@ -136,7 +136,21 @@ void PaneMp3::Scegli(const std::string& nome) {
   Clic();
 }
 
+std::tuple<bool, std::string, bool> PaneMp3::OkFa() const {
+  return {!cmdOkFileMp3->isHidden(), Scelto(), toglie_};
+}
+
+void PaneMp3::OkCambiato() {
+  SospendiOk();
+  if (cmdOkFileMp3->hasFocus()) cmbFileMp3->setFocus();
+}
+
+bool PaneMp3::OkSospeso() const {
+  return sospeso_.isValid() && !sospeso_.hasExpired(QApplication::doubleClickInterval());
+}
+
 void PaneMp3::MostraTogliere(bool toglie) {
+  toglie_ = toglie;
   cmdOkFileMp3->ImpostaScritta(Qs(toglie ? TestoLinguaO(contesto_, "0130251", "Remove file")
                                          : TestoLinguaO(contesto_, "0040031", "OK")));
   cmdOkFileMp3->ImpostaIcona(toglie ? "rimuovi" : "fatto");

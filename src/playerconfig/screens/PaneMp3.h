@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <functional>
 #include <string>
+#include <tuple>
 
 #include "core/screens/Coppia.h"
 #include "core/screens/ElencoCartelle.h"
@@ -30,6 +32,26 @@ class PaneMp3 : public Riquadro {
 
   /// Fills cmbFileMp3 from the folder; the selection is that of a fresh list.
   void RiempiElencoMp3();
+  /// Watches over cmdOkFileMp3 while what is shown changes without the user: where it would do
+  /// something else afterwards, it is held up, and the keyboard leaves it.
+  class OkInPosto {
+   public:
+    explicit OkInPosto(PaneMp3& pane) : pane_(pane), prima_(pane.OkFa()) {}
+    ~OkInPosto() {
+      if (pane_.OkFa() != prima_) pane_.OkCambiato();
+    }
+    OkInPosto(const OkInPosto&) = delete;
+    OkInPosto& operator=(const OkInPosto&) = delete;
+
+   private:
+    PaneMp3& pane_;
+    std::tuple<bool, std::string, bool> prima_;
+  };
+
+  /// Has cmdOkFileMp3 ignore the presses of the next moment: those that were on their way, or the
+  /// second half of a double click, when what it would do has changed in place.
+  void SospendiOk() { sospeso_.start(); }
+  bool OkSospeso() const;
   /// Looks into the folder again; where it has changed, fills cmbFileMp3 and keeps what is selected
   /// there, or goes to " " where that is gone. Calls nobody. False when nothing has changed.
   bool Rileggi();
@@ -60,6 +82,9 @@ class PaneMp3 : public Riquadro {
  private:
   void Costruisci();
   void MostraElenco();
+  /// Whether cmdOkFileMp3 is there, and what it does: its item, and whether it removes.
+  std::tuple<bool, std::string, bool> OkFa() const;
+  void OkCambiato();
   void Clic() const {
     if (SuScelta) SuScelta();
   }
@@ -68,6 +93,8 @@ class PaneMp3 : public Riquadro {
   QLabel* numero_;
   ElencoMp3 elenco_;
   bool sceltoDallUtente_ = false;
+  bool toglie_ = false;
+  QElapsedTimer sospeso_;
 };
 
 }  // namespace kvr5

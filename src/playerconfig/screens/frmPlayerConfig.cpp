@@ -154,6 +154,7 @@ void frmPlayerConfig::AllAttivazione() {
 }
 
 void frmPlayerConfig::RileggiCartella() {
+  const PaneMp3::OkInPosto same(*fraFileName);
   if (!fraFileName->Rileggi()) return;
   const auto& assigned = codice_->DaScegliere();
   const bool free = Rifila(fraFileName->Scelto()).empty() && !fraFileName->SceltoDallUtente();
@@ -181,9 +182,9 @@ void frmPlayerConfig::CambiaCodice(const std::function<void()>& cambia) {
 }
 
 void frmPlayerConfig::RivediCodice() {
+  const PaneMp3::OkInPosto same(*fraFileName);
   codice_->AggiornaIngressoSelezionato();
-  const bool picked = fraFileName->SceltoDallUtente() && !Rifila(fraFileName->Scelto()).empty();
-  MostraCodice(!picked);
+  MostraCodice(!fraFileName->SceltoDallUtente());
   SceltoFile();
 }
 
@@ -299,13 +300,17 @@ void frmPlayerConfig::ConfermaFile() {
   const std::string item = fraFileName->Scelto();
   const bool blank = Rifila(item).empty();
   C().Errore.Clear();
-  // Nothing is taken away but what was shown.
-  if (blank && !AncoraCosi()) return ingressi_.AnnotaErrore(item);
+  if (blank && !AncoraCosi()) {
+    // Nothing is taken away but what was shown, and not by the second half of a double click.
+    ingressi_.AnnotaErrore(item);
+    return fraFileName->SospendiOk();
+  }
   C().Errore.Clear();
-  blank ? fraFileName->DimenticaScelta() : fraFileName->TieniScelta();
+  fraFileName->TieniScelta();
   codice_->Conferma(item, fraFileName->DirDirectoryMp3->Percorso());
   const bool failed{C().Errore};
-  MostraCodice(blank || !failed);  // what wasn't kept stays picked, to be confirmed once more
+  if (blank && !failed) fraFileName->DimenticaScelta();
+  MostraCodice(!failed);  // what wasn't kept stays picked, to be confirmed once more
   fraFileName->MostraTogliere(Rifila(fraFileName->Scelto()).empty() &&
                               codice_->fraFileAssociatoVisibile());
   AggiornaElenco(true);

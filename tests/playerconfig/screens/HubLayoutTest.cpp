@@ -129,6 +129,22 @@ TEST_F(HubLayout, AKvr5WithListsHasItsFiguresAndItsButtonInTheField) {
   EXPECT_FALSE(field.isAncestorOf(&Trova<QWidget>("picPalinsesto")));
 }
 
+TEST_F(HubLayout, MissingFilesAreToldWhenAllHaveBeenLookedFor) {
+  Progetto(4, 5);
+  constexpr int kRows = 250;
+  for (int pos = 1; pos <= kRows; ++pos) {
+    b.AggiungiRiga("playlist.mdb", 1, pos, "gone.mp3", "C:\\far\\", "");
+  }
+  Apri();
+  std::vector<std::string> told;
+  ASSERT_TRUE(QTest::qWaitFor([&] {
+    const std::string now = SiVede("lblMancanti") ? Testo("lblMancanti") : "";
+    if (told.empty() || told.back() != now) told.push_back(now);
+    return now.starts_with(std::to_string(kRows));
+  }));
+  EXPECT_EQ(told.size(), 2U) << "nothing, then all of them";
+}
+
 TEST_F(HubLayout, AnEmptyScheduleSaysSo) {
   Progetto(4, 2);
   Apri();

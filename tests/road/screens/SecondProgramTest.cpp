@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
+#include <QApplication>
 #include <QListWidget>
+#include <QTest>
 
 #include "platform/db/Connection.h"
 #include "road/screens/BancoGuasti.h"
@@ -109,6 +111,7 @@ TEST_F(SecondProgram, ThatAssignsAnInputIsSeenBeforeItIsFreed) {
   Assegna({2}, " ");
   EXPECT_EQ(Riga(2), "theirs.mp3");
   EXPECT_NE(Shown(), kBoth);
+  QTest::qWait(QApplication::doubleClickInterval() + 50);
   test::Clicca(Hub(), "cmdOkFileMp3");
   EXPECT_EQ(Riga(2), "");
   EXPECT_EQ(Shown(), kBoth);
