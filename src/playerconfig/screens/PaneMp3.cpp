@@ -24,6 +24,7 @@ PaneMp3::PaneMp3(Contesto& contesto, QWidget* padre)
   Costruisci();
   connect(cmbFileMp3, &QComboBox::activated, this, [this] {
     sceltoDallUtente_ = true;
+    LiberaOk();
     Clic();
   });
   // A button in the tab order answers to one click and to the keyboard; the label, which looks like
@@ -77,6 +78,8 @@ void PaneMp3::Costruisci() {
   // The numeral comes and goes with the button that it leads to.
   numero_ = NumeroDiPasso(3, {}, this);
   cmdOkFileMp3->installEventFilter(this);
+  // The time of a double click is that between two presses.
+  connect(cmdOkFileMp3, &QAbstractButton::pressed, this, [this] { pressioneSospesa_ = Sospeso(); });
   for (QWidget* each : {static_cast<QWidget*>(cmdOkFileMp3), static_cast<QWidget*>(numero_)}) {
     QSizePolicy policy = each->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
@@ -142,10 +145,10 @@ std::tuple<bool, std::string, bool> PaneMp3::OkFa() const {
 
 void PaneMp3::OkCambiato() {
   SospendiOk();
-  if (cmdOkFileMp3->hasFocus()) cmbFileMp3->setFocus();
+  if (OkConTastiera()) cmbFileMp3->setFocus();
 }
 
-bool PaneMp3::OkSospeso() const {
+bool PaneMp3::Sospeso() const {
   return sospeso_.isValid() && !sospeso_.hasExpired(QApplication::doubleClickInterval());
 }
 
@@ -159,7 +162,7 @@ void PaneMp3::MostraTogliere(bool toglie) {
 }
 
 void PaneMp3::MostraOk(bool mostra) {
-  if (!mostra && cmdOkFileMp3->hasFocus()) cmbFileMp3->setFocus();
+  if (!mostra && OkConTastiera()) cmbFileMp3->setFocus();
   cmdOkFileMp3->setVisible(mostra);
   if (mostra) cmdOkFileMp3->setEnabled(true);
 }

@@ -32,26 +32,17 @@ class PaneMp3 : public Riquadro {
 
   /// Fills cmbFileMp3 from the folder; the selection is that of a fresh list.
   void RiempiElencoMp3();
-  /// Watches over cmdOkFileMp3 while what is shown changes without the user: where it would do
-  /// something else afterwards, it is held up, and the keyboard leaves it.
-  class OkInPosto {
-   public:
-    explicit OkInPosto(PaneMp3& pane) : pane_(pane), prima_(pane.OkFa()) {}
-    ~OkInPosto() {
-      if (pane_.OkFa() != prima_) pane_.OkCambiato();
-    }
-    OkInPosto(const OkInPosto&) = delete;
-    OkInPosto& operator=(const OkInPosto&) = delete;
-
-   private:
-    PaneMp3& pane_;
-    std::tuple<bool, std::string, bool> prima_;
-  };
-
+  /// Whether cmdOkFileMp3 is there, and what it does: its item, and whether it removes.
+  std::tuple<bool, std::string, bool> OkFa() const;
+  /// To be called where that changed in place: holds the button up, and takes the keyboard off it.
+  void OkCambiato();
+  /// Whether cmdOkFileMp3 has the keyboard, or will have it when its window comes to the front.
+  bool OkConTastiera() const { return window()->focusWidget() == cmdOkFileMp3; }
   /// Has cmdOkFileMp3 ignore the presses of the next moment: those that were on their way, or the
   /// second half of a double click, when what it would do has changed in place.
   void SospendiOk() { sospeso_.start(); }
-  bool OkSospeso() const;
+  /// Whether a press of cmdOkFileMp3 that has just ended is to be ignored.
+  bool OkSospeso() const { return pressioneSospesa_ || Sospeso(); }
   /// Looks into the folder again; where it has changed, fills cmbFileMp3 and keeps what is selected
   /// there, or goes to " " where that is gone. Calls nobody. False when nothing has changed.
   bool Rileggi();
@@ -60,6 +51,8 @@ class PaneMp3 : public Riquadro {
   /// Whether the user picked it, and nothing has been ticked since. A confirm is a pick, too.
   bool SceltoDallUtente() const { return sceltoDallUtente_; }
   void DimenticaScelta() { sceltoDallUtente_ = false; }
+  /// The user has chosen what cmdOkFileMp3 does now: it isn't held up any longer.
+  void LiberaOk() { sospeso_.invalidate(); }
   void TieniScelta() { sceltoDallUtente_ = true; }
   /// Sets cmbFileMp3 to " " and then to this file, which stays at " " where the list lacks it.
   void Scegli(const std::string& nome);
@@ -82,9 +75,7 @@ class PaneMp3 : public Riquadro {
  private:
   void Costruisci();
   void MostraElenco();
-  /// Whether cmdOkFileMp3 is there, and what it does: its item, and whether it removes.
-  std::tuple<bool, std::string, bool> OkFa() const;
-  void OkCambiato();
+  bool Sospeso() const;
   void Clic() const {
     if (SuScelta) SuScelta();
   }
@@ -95,6 +86,7 @@ class PaneMp3 : public Riquadro {
   bool sceltoDallUtente_ = false;
   bool toglie_ = false;
   QElapsedTimer sospeso_;
+  bool pressioneSospesa_ = false;
 };
 
 }  // namespace kvr5

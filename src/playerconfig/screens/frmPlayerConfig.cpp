@@ -138,6 +138,7 @@ void frmPlayerConfig::MostraModo() {
 void frmPlayerConfig::AllAttivazione() {
   if (!codice_) return;
   const Impegno stays(*this);
+  const OkInPosto same(*this);  // the click that brings the hub to the front comes next
   const bool changed = codice_->AbilitaIngressiRs485();
   // Files come and go while another window is in front. At the first time the load has just looked.
   if (std::exchange(lasciata_, true) && !lavora_) {
@@ -154,7 +155,6 @@ void frmPlayerConfig::AllAttivazione() {
 }
 
 void frmPlayerConfig::RileggiCartella() {
-  const PaneMp3::OkInPosto same(*fraFileName);
   if (!fraFileName->Rileggi()) return;
   const auto& assigned = codice_->DaScegliere();
   const bool free = Rifila(fraFileName->Scelto()).empty() && !fraFileName->SceltoDallUtente();
@@ -168,6 +168,7 @@ void frmPlayerConfig::CambiaCodice(const std::function<void()>& cambia) {
   cambia();
   const bool failed{C().Errore};
   fraFileName->DimenticaScelta();
+  fraFileName->LiberaOk();
   MostraCodice();
   SceltoFile();
   if (!failed) return;
@@ -181,8 +182,16 @@ void frmPlayerConfig::CambiaCodice(const std::function<void()>& cambia) {
       Qt::QueuedConnection);
 }
 
+frmPlayerConfig::OkInPosto::~OkInPosto() {
+  if (hub_.OkFa() != prima_) hub_.fraFileName->OkCambiato();
+}
+
+frmPlayerConfig::FattoDaOk frmPlayerConfig::OkFa() const {
+  return {fraFileName->OkFa(), codice_->Codice(), codice_->DaScegliere()};
+}
+
 void frmPlayerConfig::RivediCodice() {
-  const PaneMp3::OkInPosto same(*fraFileName);
+  const OkInPosto same(*this);
   codice_->AggiornaIngressoSelezionato();
   MostraCodice(!fraFileName->SceltoDallUtente());
   SceltoFile();
@@ -249,7 +258,7 @@ bool frmPlayerConfig::AncoraCosi() {
 
 void frmPlayerConfig::SceltoFile() {
   const Impegno stays(*this);
-  const bool keyboard = fraFileName->cmdOkFileMp3->hasFocus();
+  const bool keyboard = fraFileName->OkConTastiera();
   fraFileName->MostraOk(false);
   ValutaScelta();
   if (keyboard && fraFileName->cmdOkFileMp3->isVisible()) fraFileName->cmdOkFileMp3->setFocus();
@@ -311,6 +320,7 @@ void frmPlayerConfig::ConfermaFile() {
   const bool failed{C().Errore};
   if (blank && !failed) fraFileName->DimenticaScelta();
   MostraCodice(!failed);  // what wasn't kept stays picked, to be confirmed once more
+  if (!blank && Rifila(fraFileName->Scelto()).empty()) fraFileName->OkCambiato();
   fraFileName->MostraTogliere(Rifila(fraFileName->Scelto()).empty() &&
                               codice_->fraFileAssociatoVisibile());
   AggiornaElenco(true);
@@ -378,6 +388,7 @@ void frmPlayerConfig::Registra() {
     show();
     setEnabled(true);
   }
+  const OkInPosto same(*this);
   RileggiCartella();
   AggiornaElenco();
   CominciaConto();

@@ -2,6 +2,9 @@
 
 #include <QLabel>
 #include <QTimer>
+#include <optional>
+#include <string>
+#include <tuple>
 
 #include "core/screens/Form.h"
 #include "core/screens/PannelloInfo.h"
@@ -60,6 +63,25 @@ class frmPlayerConfig : public Form {
   void AlloScarico() override;
 
  private:
+  /// What a press of cmdOkFileMp3 would do: as the button looks, for which inputs, to which file.
+  using FattoDaOk =
+      std::tuple<std::tuple<bool, std::string, bool>, std::int16_t, std::optional<std::string>>;
+
+  /// Watches over cmdOkFileMp3 while what is shown changes without the user: where a press would do
+  /// something else afterwards, the button is held up, and the keyboard leaves it.
+  class OkInPosto {
+   public:
+    explicit OkInPosto(frmPlayerConfig& hub) : hub_(hub), prima_(hub.OkFa()) {}
+    ~OkInPosto();
+    OkInPosto(const OkInPosto&) = delete;
+    OkInPosto& operator=(const OkInPosto&) = delete;
+
+   private:
+    frmPlayerConfig& hub_;
+    FattoDaOk prima_;
+  };
+
+  FattoDaOk OkFa() const;
   void Costruisci();
   QLayout* CostruisciTestata();
   QWidget* CostruisciCorpo();

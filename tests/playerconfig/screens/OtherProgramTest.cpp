@@ -222,6 +222,43 @@ TEST_F(OtherProgram, AClickThatBringsTheHubBackDoesNotPressAButtonThatChangedWit
   EXPECT_NE(Riga(1), "");
 }
 
+TEST_F(OtherProgram, ThatChangesAFileIsSeenBeforeTheClickThatBringsTheHubBackRemovesIt) {
+  for (const char* name : {"b.mp3", "far.mp3"}) {  // in the folder that is shown, and elsewhere
+    SCOPED_TRACE(name);
+    Adds(1, "a.mp3");
+    Apri(0);
+    Attiva();
+    Spunta(1);
+    ScegliFile(" ");
+    Sql(std::string("UPDATE List SET FileName='") + name + "' WHERE Pos=1");
+    Trova<QWidget>("cmdOkFileMp3").setFocus();
+    Attiva();
+    EXPECT_EQ(hub->focusWidget(), &Trova<QWidget>("cmbFileMp3"));
+    Conferma();
+    EXPECT_NE(Riga(1), "");
+    Sql("DELETE FROM List");
+    Unlock();
+    Chiudi();
+  }
+}
+
+TEST_F(OtherProgram, APressThatBeganTooSoonDoesNothingHoweverLateItEnds) {
+  Adds(1, "a.mp3");
+  Apri(0);
+  Attiva();
+  Spunta(1);
+  ScegliFile(" ");
+  Sql("UPDATE List SET FileName='b.mp3' WHERE Pos=1");
+  Attiva();
+  QWidget& ok = Trova<QWidget>("cmdOkFileMp3");
+  QTest::mousePress(&ok, Qt::LeftButton);
+  LookAtIt();
+  QTest::mouseRelease(&ok, Qt::LeftButton);
+  EXPECT_NE(Riga(1), "");
+  QTest::mouseClick(&ok, Qt::LeftButton);
+  EXPECT_EQ(Riga(1), "") << "the next one does";
+}
+
 TEST_F(OtherProgram, ThatAssignsAgainWhatWasRemovedIsPicked) {
   Adds(1, "a.mp3");
   Apri(0);
