@@ -10,7 +10,7 @@ namespace kvr5 {
 /// The drawing of a sign in its colour, as a label of its own.
 QLabel* SegnoDi(const char* icona, const QColor& colore, int lato, QWidget* padre);
 
-/// A text of several lines that shows whole, however long, and can be selected with the keyboard.
+/// A text of several lines that shows whole, however long.
 QLabel* TestoLungo(const char* nome, const QString& testo, QWidget* padre);
 
 /// Words of warning: a triangle before them, the colours of a warning around them. The sign can be

@@ -57,14 +57,17 @@ void ElencoCartelle::ImpostaPercorso(const std::string& percorso) {
 }
 
 void ElencoCartelle::Riempi() {
-  auto entries = contesto_.Files.List(percorso_);
-  voci_ = entries ? std::move(entries.Value()) : std::vector<FileInfo>{};
+  voci_ = Guarda();
   Mostra();
 }
 
-bool ElencoCartelle::Rileggi() {
+std::vector<FileInfo> ElencoCartelle::Guarda() const {
   auto entries = contesto_.Files.List(percorso_);
-  auto now = entries ? std::move(entries.Value()) : std::vector<FileInfo>{};
+  return entries ? std::move(entries.Value()) : std::vector<FileInfo>{};
+}
+
+bool ElencoCartelle::Rileggi() {
+  auto now = Guarda();
   if (std::ranges::equal(now, voci_, Alike)) return false;
   voci_ = std::move(now);
   const int row = currentRow();

@@ -29,6 +29,7 @@ class ElencoCartelle : public ElencoModesto {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  std::vector<FileInfo> Guarda() const;
   void Riempi();
   void Mostra();
   void Entra(const QListWidgetItem* voce);

@@ -1,5 +1,6 @@
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
+#include "projects/screens/NomiSenzaCartella.h"
 #include "projects/screens/frmRichiestaNomeForm.h"
 #include "support/screens/ProvaForm.h"
 
@@ -149,21 +150,7 @@ TEST_F(NomeProgetto, TheFolderThatTheNameLeadsToIsShown) {
 }
 
 TEST_F(NomeProgetto, ANameThatNoFolderCanHaveIsToldWhileItStandsThere) {
-  frmRichiestaNomeForm& form = SoloIlNome();
-  const auto colour = [&] { return form.lblCartella->palette().color(QPalette::WindowText); };
-  for (const char* name : {"Hall ", "Hall.", "CON", "nul.txt", "a*b", "\u65E5"}) {
-    form.txtNomeProgetto->setText(Qs(name));
-    EXPECT_EQ(
-        Scritta(form, "lblCartella"),
-        "No folder can be called so: take away a blank or dot at the end, or use other letters")
-        << name;
-    EXPECT_EQ(colour(), Tema::Corrente().Avviso) << name;
-    EXPECT_EQ(form.txtNomeProgetto->accessibleDescription(), form.lblCartella->text()) << name;
-    Nome("Hall");
-    EXPECT_NE(Scritta(form, "lblCartella").find("Hall"), std::string::npos) << name;
-    EXPECT_EQ(colour(), Tema::Corrente().Attenuato) << name;
-    EXPECT_EQ(form.txtNomeProgetto->accessibleDescription(), "") << name;
-  }
+  ProvaNomiSenzaCartella(SoloIlNome());
 }
 
 TEST_F(NomeProgetto, TheNameOfACardThatNoFolderCanHaveIsToldAtOnce) {

@@ -3,6 +3,7 @@
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
 #include "projects/Descrittore.h"
+#include "projects/screens/NomiSenzaCartella.h"
 #include "projects/screens/frmWizardPanel1.h"
 #include "support/screens/ProvaForm.h"
 
@@ -285,25 +286,8 @@ TEST_F(WizardDeathTest, AMissingTemplateOrDatabaseIsToldAndEndsTheProcess) {
   EXPECT_EXIT(create("source.mdb"), ended, "the file source.mdb is missing");
 }
 
-/// Names that no folder can have, though none of the eight characters is in them.
-const std::vector<const char*> kImpossible{"Hall ", "Hall.", "CON", "nul.txt", "a*b", "\u65E5"};
-
 TEST_F(Wizard, ANameThatNoFolderCanHaveIsToldWhileItStandsThere) {
-  frmWizardPanel1& form = Apri();
-  const auto colour = [&] { return form.lblCartella->palette().color(QPalette::WindowText); };
-  for (const char* name : kImpossible) {
-    form.txtNomeProgetto->setText(Qs(name));
-    EXPECT_EQ(
-        Scritta(form, "lblCartella"),
-        "No folder can be called so: take away a blank or dot at the end, or use other letters")
-        << name;
-    EXPECT_EQ(colour(), Tema::Corrente().Avviso) << name;
-    EXPECT_EQ(form.txtNomeProgetto->accessibleDescription(), form.lblCartella->text()) << name;
-    Nome("Hall");
-    EXPECT_NE(Scritta(form, "lblCartella").find("Hall"), std::string::npos) << name;
-    EXPECT_EQ(colour(), Tema::Corrente().Attenuato) << name;
-    EXPECT_EQ(form.txtNomeProgetto->accessibleDescription(), "") << name;
-  }
+  ProvaNomiSenzaCartella(Apri());
 }
 
 TEST_F(Wizard, OfANameOfBlanksNothingIsSaidUntilItIsTried) {
