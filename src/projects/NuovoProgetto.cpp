@@ -128,8 +128,18 @@ std::string DescrizioneKvr5(std::int16_t playerMode, const ScritteWizard& scritt
   return text;
 }
 
-bool NomeAmmesso(const Contesto& contesto, std::string_view nome) {
-  return CardCanHold(nome) && CanBeKept(contesto, nome);
+DifettoNome DifettoDelNome(const Contesto& contesto, std::string_view nome) {
+  constexpr std::size_t kLongest = 255;
+  if (nome.find_first_of(kCaratteriVietati) != std::string_view::npos) {
+    return DifettoNome::Carattere;
+  }
+  if (!CanBeKept(contesto, nome)) return DifettoNome::Lettera;
+  if (nome.size() > kLongest) return DifettoNome::Lungo;
+  if (CardCanHold(nome)) return DifettoNome::Nessuno;
+  if (nome.ends_with(' ') || nome.ends_with('.')) return DifettoNome::Fine;
+  // With nothing but a letter in front, what remains can only be a character.
+  return CardCanHold(std::string("_").append(nome)) ? DifettoNome::Riservato
+                                                    : DifettoNome::Carattere;
 }
 
 EsitoNuovo PreparaCartella(Contesto& contesto, const std::string& nome, bool soloNome) {

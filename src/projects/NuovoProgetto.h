@@ -39,9 +39,18 @@ ScritteWizard ScritteDelWizard(Contesto& contesto, std::int16_t playerMode);
 /// PlayerConfigDesc of a new project of model 4: "KVR5 (Inputs)", "KVR5 (Playlist ...)".
 std::string DescrizioneKvr5(std::int16_t playerMode, const ScritteWizard& scritte);
 
-/// True when a folder of this name can be made and read back: a card can hold it, and the
-/// descriptor's code page has its characters. Of the rest PreparaCartella tells the number alone.
-bool NomeAmmesso(const Contesto& contesto, std::string_view nome);
+/// Why no folder of a name can be made and read back.
+enum class DifettoNome {
+  Nessuno,
+  Carattere,  ///< one that no file or folder has, such as the asterisk
+  Fine,       ///< a blank or a dot at its end
+  Riservato,  ///< a device's name
+  Lettera,    ///< one that the descriptor's code page lacks
+  Lungo,      ///< more than 255 bytes of UTF-8, as much as disks keep
+};
+
+/// What is wrong with a name, if anything: PreparaCartella tells the number alone.
+DifettoNome DifettoDelNome(const Contesto& contesto, std::string_view nome);
 
 /// The checks of a name and the making of the folder, the same for the wizard and for the name
 /// dialog; with `soloNome` it ends before the folder is made and

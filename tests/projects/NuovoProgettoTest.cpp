@@ -271,15 +271,21 @@ TEST_F(NewProject, AModelOutsideTheFourFillsNothing) {
   EXPECT_TRUE(b.Nomi("program/Projects").empty());
 }
 
-TEST_F(NewProject, ANameIsAllowedWhenAFolderCanHaveItAndTheDescriptorCanKeepIt) {
+TEST_F(NewProject, ANameIsGoodWhenAFolderCanHaveItAndTheDescriptorCanKeepIt) {
   for (const char* name :
        {"Hall", " Hall", "Museum-Hall-2", "Caff\u00E8", "a.b", "CON-1", "\u20AC"}) {
-    EXPECT_TRUE(NomeAmmesso(b.C, name)) << name;
+    EXPECT_EQ(DifettoDelNome(b.C, name), DifettoNome::Nessuno) << name;
   }
-  for (const char* name : {"Hall ", "Hall.", "CON", "com1.x", "nul ", "Hall*", "a\tb", "..", "   ",
-                           "\u65E5\u672C", "\xFF", ""}) {
-    EXPECT_FALSE(NomeAmmesso(b.C, name)) << name;
+  const std::vector<std::pair<DifettoNome, Names>> bad{
+      {DifettoNome::Carattere, {"Hall*", "a\tb", "Hall: \u65E5", "CON?"}},
+      {DifettoNome::Fine, {"Hall ", "Hall.", "nul ", "..", "   "}},
+      {DifettoNome::Riservato, {"CON", "com1.x", "nul.txt"}},
+      {DifettoNome::Lettera, {"\u65E5\u672C", "\xFF"}},
+      {DifettoNome::Lungo, {std::string(256, 'a'), std::string(254, 'a') + "\u00E8"}}};
+  for (const auto& [fault, names] : bad) {
+    for (const auto& name : names) EXPECT_EQ(DifettoDelNome(b.C, name), fault) << name;
   }
+  EXPECT_EQ(DifettoDelNome(b.C, std::string(255, 'a')), DifettoNome::Nessuno);
 }
 
 TEST_F(NewProject, ANameThatIsNotAllowedIsRefusedWithItsNumberAsEver) {

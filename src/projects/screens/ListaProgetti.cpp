@@ -27,6 +27,7 @@ QVariant ListaProgetti::data(const QModelIndex& indice, int ruolo) const {
   if (row >= righe_.Quante()) return {};
   if (ruolo == Qt::FontRole && indice.column() == Nome) return FontDi(Carattere::Riquadro);
   if (ruolo == Qt::ToolTipRole && indice.column() == Nome) return Qs(righe_.Nome(row));
+  if (ruolo == Qt::ToolTipRole && indice.column() == Player) return Qs(righe_.Modello(row));
   if (ruolo != Qt::DisplayRole) return {};
   switch (indice.column()) {
     case Nome:

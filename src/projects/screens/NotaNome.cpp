@@ -16,6 +16,25 @@ void Scrivi(QLabel& line, Ruolo role, const QString& text) {
   line.setToolTip(Suggerimento(text));
 }
 
+QString Avvertenza(Contesto& contesto, const std::string& nome) {
+  const auto words = [&](const char* key) { return Qs(TestoLingua(contesto, key)); };
+  switch (DifettoDelNome(contesto, nome)) {
+    case DifettoNome::Nessuno:
+      return {};
+    case DifettoNome::Carattere:
+      return words("0130108");
+    case DifettoNome::Fine:
+      return words("0130253");
+    case DifettoNome::Riservato:
+      return words("0130259");
+    case DifettoNome::Lungo:
+      return words("0130260");
+    case DifettoNome::Lettera:
+      return words("0130261");
+  }
+  return {};
+}
+
 }  // namespace
 
 void ValutaNome(Contesto& contesto, QLineEdit& campo, EtichettaAvviso& nota, QLabel& cartella) {
@@ -23,12 +42,7 @@ void ValutaNome(Contesto& contesto, QLineEdit& campo, EtichettaAvviso& nota, QLa
   const bool blank = Rifila(name).empty();
   const bool forbidden = name.find_first_of(kCaratteriVietati) != std::string::npos;
   nota.ImpostaAvviso(forbidden);
-  QString warning;
-  if (forbidden) {
-    warning = Qs(TestoLingua(contesto, "0130108"));
-  } else if (!blank && !NomeAmmesso(contesto, name)) {
-    warning = Qs(TestoLingua(contesto, "0130253"));
-  }
+  const QString warning = blank ? QString() : Avvertenza(contesto, name);
   campo.setAccessibleDescription(warning);
   if (blank || forbidden) return Scrivi(cartella, Ruolo::Attenuato, {});
   if (!warning.isEmpty()) return Scrivi(cartella, Ruolo::Avviso, warning);

@@ -81,13 +81,20 @@ void frmCaricaProgetto::CostruisciElenco() {
   auto* header = lstProgetti->horizontalHeader();
   header->setHighlightSections(false);
   header->setSectionResizeMode(ListaProgetti::Nome, QHeaderView::Stretch);
-  header->resizeSection(ListaProgetti::Player, 290);
+  header->resizeSection(ListaProgetti::Player, 330);
   header->resizeSection(ListaProgetti::Modifica, 170);
 }
 
 void frmCaricaProgetto::Collega() {
   connect(picOpen, &QAbstractButton::clicked, this, [this] { ApriScelto(); });
   connect(lstProgetti, &QTableView::doubleClicked, this, [this] { ApriScelto(); });
+  // Letters typed look for a name, wherever in its row the mouse was.
+  connect(lstProgetti->selectionModel(), &QItemSelectionModel::currentChanged, this,
+          [this](const QModelIndex& now) {
+            if (now.column() <= ListaProgetti::Nome) return;
+            lstProgetti->selectionModel()->setCurrentIndex(now.siblingAtColumn(ListaProgetti::Nome),
+                                                           QItemSelectionModel::NoUpdate);
+          });
   connect(picLoad, &QAbstractButton::clicked, this, [this] { ApriAltraCartella(); });
   connect(picindietro, &QAbstractButton::clicked, this, [this] { Indietro(); });
   connect(picHelp, &QAbstractButton::clicked, this, [this] { Aiuto(); });

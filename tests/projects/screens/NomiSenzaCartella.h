@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
 #include "support/screens/Mano.h"
@@ -14,12 +18,19 @@ namespace kvr5::test {
 template <class Schermo>
 void ProvaNomiSenzaCartella(Schermo& form) {
   const auto colour = [&] { return form.lblCartella->palette().color(QPalette::WindowText); };
-  for (const char* name : {"Hall ", "Hall.", "CON", "nul.txt", "a*b", "\u65E5"}) {
+  const std::string end = "No folder can be called so: take away the blank or dot at its end";
+  const std::string kept = "No folder can be called so: this name is kept for a device";
+  const std::vector<std::pair<std::string, std::string>> cases{
+      {"Hall ", end},
+      {"Hall.", end},
+      {"CON", kept},
+      {"nul.txt", kept},
+      {"a*b", "This name holds a character that isn't allowed"},
+      {"\u65E5", "A project's file can't keep a letter of this name. Use others."},
+      {std::string(300, 'x'), "This name is too long"}};
+  for (const auto& [name, words] : cases) {
     form.txtNomeProgetto->setText(Qs(name));
-    EXPECT_EQ(
-        Scritta(form, "lblCartella"),
-        "No folder can be called so: take away a blank or dot at the end, or use other letters")
-        << name;
+    EXPECT_EQ(Scritta(form, "lblCartella"), words) << name;
     EXPECT_EQ(colour(), Tema::Corrente().Avviso) << name;
     EXPECT_EQ(form.txtNomeProgetto->accessibleDescription(), form.lblCartella->text()) << name;
     form.txtNomeProgetto->setText(QStringLiteral("Hall"));

@@ -1,6 +1,8 @@
+#include <QTest>
 #include <filesystem>
 #include <utility>
 
+#include "core/Lingua.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
 #include "projects/screens/frmCaricaProgetto.h"
@@ -323,6 +325,37 @@ TEST_F(ElencoDeiProgetti, AFolderIsNotAskedForWhileTheListGoes) {
   EXPECT_EQ(again.Premuti, 1);
   EXPECT_EQ(b.Schermi.Aperture.size(), 1U);
   EXPECT_TRUE(b.Finestre.Silenzio());
+}
+
+TEST_F(ElencoDeiProgetti, LettersTypedLookForANameWhereverTheRowWasClicked) {
+  Progetti({"Bar", "Kitchen", "museum"});
+  frmCaricaProgetto& form = DalMenu();
+  const auto* model = form.lstProgetti->model();
+  QTest::mouseClick(form.lstProgetti->viewport(), Qt::LeftButton, {},
+                    form.lstProgetti->visualRect(model->index(0, ListaProgetti::Player)).center());
+  EXPECT_TRUE(form.lstProgetti->selectionModel()->isRowSelected(0));
+  QTest::keyClick(form.lstProgetti, Qt::Key_M);
+  EXPECT_EQ(Scelto(), "museum") << "not a player of that name";
+}
+
+TEST_F(ElencoDeiProgetti, EveryPlayersDescriptionStandsWholeInItsCell) {
+  Progetti({"Bar"});
+  for (const char* language : {"English", "Italiano"}) {
+    b.C.Stato.FileLingua = b.Percorso(std::string("program/Language/") + language + ".lan");
+    frmCaricaProgetto& form = DalMenu();
+    constexpr int kBeside = 18;  // the style's margins of a cell
+    for (const char* key : {"0160008", "0160009", "0160010"}) {
+      const std::string words =
+          "KVR5 (" + TestoLingua(b.C, "0160003") + " " + TestoLingua(b.C, key) + ")";
+      EXPECT_GE(form.lstProgetti->columnWidth(ListaProgetti::Player),
+                form.lstProgetti->fontMetrics().horizontalAdvance(Qs(words)) + kBeside)
+          << words;
+    }
+    const auto* model = form.lstProgetti->model();
+    EXPECT_EQ(Std(model->data(model->index(0, ListaProgetti::Player), Qt::ToolTipRole).toString()),
+              "KVR5 (words)");
+    forma->Scarica();
+  }
 }
 
 }  // namespace
