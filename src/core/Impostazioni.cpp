@@ -9,7 +9,7 @@
 namespace kvr5 {
 namespace {
 
-constexpr std::size_t kSettingBuffer = 100;  // characters, one of them for the closing NUL
+constexpr std::size_t kSettingBuffer = kCaratteriImpostazione + 1;  // the closing NUL
 constexpr std::size_t kTextBuffer = 254;
 
 Error MakeEmptySettings(Contesto& contesto, std::string_view file) {

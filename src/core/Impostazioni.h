@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -8,8 +9,11 @@
 
 namespace kvr5 {
 
+/// As many characters as a value of an INI file comes back with, but for a language file's.
+inline constexpr std::size_t kCaratteriImpostazione = 99;
+
 /// Reads a value of an INI file: the settings, the descriptor, the device file, the help section
-/// of a language file. At most 99 characters come back, the rest is lost without a word.
+/// of a language file. At most kCaratteriImpostazione come back, the rest is lost without a word.
 ///
 /// A file that isn't there is made with the one line "[Config]", after a warning in fixed English
 /// words (no language is known yet at the first read); where that fails the program ends. An

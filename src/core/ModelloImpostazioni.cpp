@@ -67,6 +67,17 @@ std::string ModelloImpostazioni::CartellaPerPersone() const {
   return cartella_.empty() ? std::string() : PercorsoPerPersone(contesto_, cartella_);
 }
 
+std::string ModelloImpostazioni::AltraInUso() const {
+  if (!scelta_) return {};
+  const std::string used = TogliEstensione(EstraiNomeFile(contesto_.Stato.FileLingua));
+  return EqualFold(used, lingue_.at(*scelta_)) ? std::string() : used;
+}
+
+bool ModelloImpostazioni::CartellaTroppoLunga() const {
+  const CodePage page = PaginaDelFile(contesto_, FileImpostazioni(contesto_));
+  return page.Length(page.Encode(AggiungiBarra(cartella_))) > kCaratteriImpostazione;
+}
+
 void ModelloImpostazioni::CambiaCartella(std::string_view cartella) {
   if (cartella_ == cartella) return;
   cartella_ = cartella;

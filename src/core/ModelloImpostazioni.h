@@ -30,6 +30,10 @@ class ModelloImpostazioni {
   const std::vector<std::string>& Lingue() const { return lingue_; }
   /// The selected item; nothing where there is no language file.
   std::optional<std::size_t> LinguaScelta() const { return scelta_; }
+  /// The language in use, where another one is selected; "" else.
+  std::string AltraInUso() const;
+  /// True of a folder that the settings can't keep whole: it comes back cut.
+  bool CartellaTroppoLunga() const;
   /// optExternal is on; else optInternal.
   bool PlayerEsterno() const { return esterno_; }
   /// cmdSave is enabled and lblSave visible.

@@ -8,6 +8,7 @@
 #include <array>
 
 #include "core/Lingua.h"
+#include "core/Parole.h"
 #include "core/screens/LocalizzaForm.h"
 #include "core/screens/Pagina.h"
 #include "core/screens/Riquadro.h"
@@ -67,6 +68,9 @@ void frmConfig::Costruisci() {
   grid->setColumnStretch(1, 1);
   card->Corpo()->addLayout(grid);
   card->Corpo()->addStretch();
+  lblNota = new EtichettaAvviso("lblNota", {}, Carattere::Suggerimento, this);
+  lblNota->setWordWrap(true);
+  card->Corpo()->addWidget(lblNota);
   picHelp = NuovoAiuto(this);
   lblTitolo = NuovaEtichetta("lblTitolo", {}, -1, this);
   Veste(*lblTitolo, Carattere::Schermata);
@@ -155,6 +159,23 @@ void frmConfig::MostraModificato() {
   cmdSave->setToolTip(Qs(TestoLingua(C(), changed ? "0130193" : "0130194")));
   cmdSave->ImpostaGenere(changed ? Coppia::Genere::Primario : Coppia::Genere::Normale);
   cmdExit->ImpostaGenere(changed ? Coppia::Genere::Normale : Coppia::Genere::Primario);
+  MostraNota();
+}
+
+void frmConfig::MostraNota() {
+  const bool cut = modello_.CartellaTroppoLunga();
+  const std::string inUse = modello_.AltraInUso();
+  lblNota->ImpostaAvviso(cut);
+  if (cut) {
+    lblNota->setText(Qs(TestoLingua(C(), "0130265")));
+  } else if (!inUse.empty()) {
+    lblNota->setText(
+        Qs(ConValori(TestoLinguaO(C(), "0130264", "Language in use now: %1"), {inUse})));
+  } else {
+    lblNota->clear();
+  }
+  txtProjectDir->setAccessibleDescription(cut ? lblNota->text() : QString());
+  cmbLanguage->setAccessibleDescription(cut ? QString() : lblNota->text());
 }
 
 bool frmConfig::PuoChiudere(Causa causa) {

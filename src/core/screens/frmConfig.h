@@ -6,6 +6,7 @@
 #include <QRadioButton>
 
 #include "core/ModelloImpostazioni.h"
+#include "core/screens/Avvisi.h"
 #include "core/screens/Coppia.h"
 #include "core/screens/Form.h"
 
@@ -26,6 +27,7 @@ class frmConfig : public Form {
   QLabel* lblPlayer;
   QRadioButton* optInternal;
   QRadioButton* optExternal;
+  EtichettaAvviso* lblNota;  ///< what of the choices may surprise; empty where nothing
   Coppia* cmdSave;
   QLabel* lblSave;
   Coppia* cmdExit;
@@ -45,6 +47,7 @@ class frmConfig : public Form {
   void Collega();
   void MostraCartella();
   void MostraModificato();
+  void MostraNota();
 
   ModelloImpostazioni modello_;
   bool uscitaChiesta_ = false;

@@ -298,5 +298,43 @@ TEST_F(Configura, SavingAfterTheSettingsFileWasDeletedMakesNoneAndLeavingAsksNot
   EXPECT_EQ(b.Schermi.Riavvii, 1);
 }
 
+TEST_F(Configura, ShowsTheExternalPlayerWhereItIsStored) {
+  Scrivi("[Path]\r\nProjectsDir=" + b.Percorso("program\\Projects") +
+         "\r\n[Config]\r\nLanguageFile=English.lan\r\nUseExternalPlayer=1\r\n");
+  frmConfig& form = Apri();
+  EXPECT_TRUE(form.optExternal->isChecked());
+  EXPECT_FALSE(form.optInternal->isChecked());
+  EXPECT_FALSE(Modificato());
+}
+
+TEST_F(Configura, TheLanguageInUseIsNamedWhereAnotherOneIsShown) {
+  Scrivi("[Path]\r\nProjectsDir=" + b.Percorso("program\\Projects") + "\r\n[Config]\r\n");
+  b.C.Stato.FileLingua = b.Percorso("program/Language/Italiano.lan");
+  frmConfig& form = Apri();
+  ASSERT_EQ(form.cmbLanguage->currentText(), "English") << "the first of the folder";
+  EXPECT_EQ(form.lblNota->text(), "Lingua in uso ora: Italiano");
+  EXPECT_EQ(form.cmbLanguage->accessibleDescription(), form.lblNota->text());
+  form.cmbLanguage->setFocus();
+  Tasto(form, Qt::Key_Down);
+  ASSERT_EQ(form.cmbLanguage->currentText(), "Italiano");
+  EXPECT_EQ(form.lblNota->text(), "");
+}
+
+TEST_F(Configura, AFolderThatTheSettingsCannotKeepIsWarnedOf) {
+  frmConfig& form = Apri();
+  EXPECT_EQ(form.lblNota->text(), "");
+  const std::string root = b.Percorso("x").substr(0, b.Percorso("x").size() - 1);
+  for (const std::size_t length : {std::size_t{98}, std::size_t{99}}) {
+    std::string name;
+    for (std::size_t i = root.size(); i < length; ++i) name += "\u00E8";  // a character each
+    std::filesystem::create_directories(b.Cartella.Host() / name);
+    b.Finestre.ScegliCartella(root + name);
+    Clicca(*form.cmdSelPrjDir);
+    EXPECT_EQ(form.lblNota->text().isEmpty(), length == 98) << "with the closing backslash";
+  }
+  EXPECT_TRUE(form.lblNota->text().startsWith("The settings keep 99 characters of a path"));
+  EXPECT_EQ(form.txtProjectDir->accessibleDescription(), form.lblNota->text());
+}
+
 }  // namespace
 }  // namespace kvr5

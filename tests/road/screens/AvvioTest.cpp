@@ -107,6 +107,22 @@ TEST_F(Avvio, ANewLanguageCountsFromTheSecondSplashOn) {
   EXPECT_EQ(Scritta(Attendi<frmMain>(), "lblUscita"), "Uscire");
 }
 
+TEST_F(Avvio, AnotherPlayerCountsAfterTheSettingsWereLeft) {
+  ScriviImpostazioni();
+  Avvia("/C");
+  PassaLoSplash();
+  auto& settings = Attendi<frmConfig>();
+  Clicca(*settings.optExternal);
+  {
+    const Pilota<RiquadroMessaggio> pilot([](RiquadroMessaggio& box) { Clicca(box, "cmdOk"); });
+    Clicca(*settings.cmdSave);
+  }
+  EXPECT_FALSE(S().UsaPlayerEsterno) << "not before";
+  Clicca(*settings.cmdExit);
+  EXPECT_TRUE(S().UsaPlayerEsterno);
+  PassaLoSplash();
+}
+
 TEST_F(Avvio, AnotherProjectsFolderCountsAfterTheSettingsWereLeft) {
   ScriviImpostazioni();
   std::filesystem::create_directories(b.Cartella.Host() / "other");

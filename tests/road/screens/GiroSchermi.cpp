@@ -128,6 +128,9 @@ void GiroSchermi::NelleImpostazioni() {
   Mostra(settings, "frmConfig", true);
   (settings.optInternal->isChecked() ? settings.optExternal : settings.optInternal)->click();
   Vedi(settings, "frmConfig changed", true);
+  settings.cmbLanguage->setFocus();
+  Tasto(settings, settings.cmbLanguage->currentIndex() == 0 ? Qt::Key_Down : Qt::Key_Up);
+  Vedi(settings, "frmConfig with a note", true);
 }
 
 void GiroSchermi::AlNome() {

@@ -106,6 +106,7 @@ TEST(Words, ThatNobodyAsksForAreNotShipped) {
   for (const char* language : {"English.lan", "Italiano.lan"}) {
     for (const auto& [key, text] : TextsOf(language)) {
       EXPECT_TRUE(asked.contains(key) || waiting.contains(key)) << language << ": " << key;
+      EXPECT_LE(text.size(), 253U) << language << ": " << key;
     }
   }
   const Texts texts = TextsOf("English.lan");
