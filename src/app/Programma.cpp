@@ -13,11 +13,17 @@ namespace {
 /// The dialog that a recording opens when no card is chosen.
 class SceltaDalDialogo : public SelezioneFlash {
  public:
-  explicit SceltaDalDialogo(Navigazione& schermi) : schermi_(schermi) {}
+  SceltaDalDialogo(Navigazione& schermi, ServiziHub& servizi)
+      : schermi_(schermi), servizi_(servizi) {}
   void Scegli() override { schermi_.ScegliScheda(Schermata::Configurazione); }
+  bool Presente() const override {
+    const auto facts = servizi_.FattiDellaScheda();
+    return facts && facts->HasMedium;
+  }
 
  private:
   Navigazione& schermi_;
+  ServiziHub& servizi_;
 };
 
 }  // namespace
@@ -124,11 +130,11 @@ void Programma::AvviaTempoSplash() {
   splash_->tmrChiusura.start();
 }
 
-bool Programma::RegistraProgetto(TabellaIngressi& ingressi) {
-  SceltaDalDialogo choice(*this);
+EsitoScheda Programma::RegistraProgetto(TabellaIngressi& ingressi) {
+  SceltaDalDialogo choice(*this, *this);
   const auto end = RegistraProgettoSuFlash(contesto_, ingressi, progresso_, choice);
   AvvisaNonLetti(contesto_, end);
-  return end.Fine == FineRegistrazione::Annullata;
+  return {end.Fine == FineRegistrazione::Annullata, end.Intera() ? end.Scheda : std::string()};
 }
 
 std::optional<Drive> Programma::FattiDellaScheda() {

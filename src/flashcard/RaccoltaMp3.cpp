@@ -16,7 +16,7 @@ EsitoPassata CollectRow(Contesto& context, Passata pass, const Recordset& rows, 
   const std::string folder = rows.Text("FilePath");
   const std::string name = rows.Text("FileName");
   const std::string tested = AggiungiBarra(folder) + name;
-  EsitoPassata missing{false, pass == Passata::Ingressi ? name : tested};
+  EsitoPassata missing{false, pass == Passata::Ingressi ? name : tested, false};
   // Every file sits in the card's root: a name that leads elsewhere is no alias. And the bar
   // divides the lists.
   if (!readable || alias.find_first_of("\\|") != std::string::npos) return missing;
@@ -49,7 +49,9 @@ EsitoPassata RaccogliMp3(Contesto& contesto, Passata passata, Recordset& righe, 
     return outcome.Riuscita;
   });
   // A database that can't be read to its end would leave files off the card in silence.
-  if (error && outcome.Riuscita) outcome = {false, FileDelProgetto(contesto, database)};
+  if (error && outcome.Riuscita) {
+    outcome = {false, FileDelProgetto(contesto, database), true};
+  }
   return outcome;
 }
 

@@ -16,8 +16,9 @@ enum class Passata { Ingressi, Playlist, Palinsesto };
 struct EsitoPassata {
   bool Riuscita = true;
   /// The file that can't be had, as the message names it: its name alone in the input pass, its
-  /// full path in the others.
+  /// full path in the others; the database's, where that can't be read on.
   std::string FileMancante;
+  bool DatabaseIlleggibile = false;
 };
 
 /// Adds a source file for each row of `righe` to the lists, under the row's alias in the root

@@ -46,7 +46,7 @@ class Recording {
   void NoteUnread(const std::string& database, const Recordset& rows);
   void CopyMp3();
   void TellUnwritable();
-  void TellMissing(const std::string& file);
+  void TellStop(const EsitoPassata& pass);
   void TellCancelled();
   void Notice(const char* titleKey, const std::string& text, bool orange);
 
@@ -70,7 +70,7 @@ class Recording {
 EsitoRegistrazione Recording::Run() {
   context_.Stato.AnnullatoDaUtente = false;
   if (!HasCard()) return {FineRegistrazione::SenzaScheda};
-  card_ = context_.Stato.PercorsoMemoryCard;
+  card_ = outcome_.Scheda = context_.Stato.PercorsoMemoryCard;
   if (!CardIsWritable()) {
     TellUnwritable();
     return {FineRegistrazione::NonScrivibile};
@@ -104,6 +104,7 @@ bool Recording::HasCard() {
 bool Recording::CardIsWritable() {
   auto& error = context_.Errore;
   error.Clear();
+  if (!choice_.Presente()) return false;
   const std::string path = Card("\\test.txt");  // the doubled backslash counts as one
   // A link of that name is the card's own; what it leads to isn't.
   if (context_.Files.BehindLink(path) != path) Ignora(context_.Files.Delete(path));
@@ -193,11 +194,7 @@ bool Recording::CollectInputs() {
   }
   const auto pass =
       RaccogliMp3(context_, Passata::Ingressi, inputs_.Cursore(), list_, "inputcfg.mdb", card_);
-  if (!pass.Riuscita) {
-    // a row's own FileName, or the path of a database that can't be read on
-    const bool isPath = PathMap::IsSystemForm(pass.FileMancante);
-    TellMissing(isPath ? PercorsoPerPersone(context_, pass.FileMancante) : pass.FileMancante);
-  }
+  if (!pass.Riuscita) TellStop(pass);
   return pass.Riuscita;
 }
 
@@ -209,7 +206,7 @@ bool Recording::CollectFrom(Passata pass, const char* database) {
   Ignora(rows_.Open(connection_, kQuery));
   NoteUnread(database, rows_);
   const auto result = RaccogliMp3(context_, pass, rows_, list_, database, card_);
-  if (!result.Riuscita) TellMissing(PercorsoPerPersone(context_, result.FileMancante));
+  if (!result.Riuscita) TellStop(result);
   return result.Riuscita;
 }
 
@@ -235,6 +232,7 @@ void Recording::Copy(const std::string& from, const std::string& to) {
   const CopyOutcome copied = CopiaFileShell(context_, from, to);
   outcome_.File += copied.FilesCopied;
   outcome_.Byte += copied.BytesCopied;
+  if (copied.Result != 0 && copied.Result != errors::Cancelled) ++outcome_.CopieFallite;
 }
 
 void Recording::CopyIfThere(std::string_view name) {
@@ -250,10 +248,14 @@ void Recording::TellUnwritable() {
          false);
 }
 
-void Recording::TellMissing(const std::string& file) {
+void Recording::TellStop(const EsitoPassata& pass) {
   progress_.Scarica();
   // The run ends here and sets no pointer back; the notice's own load does, where there is one.
-  Notice("0070009", TestoLingua(context_, "0070019") + ":\r\n" + file, true);
+  // A row's own FileName stands as it is.
+  const std::string& file = pass.FileMancante;
+  const std::string named = PathMap::IsSystemForm(file) ? PercorsoPerPersone(context_, file) : file;
+  const char* key = pass.DatabaseIlleggibile ? "0130263" : "0070019";
+  Notice("0070009", TestoLingua(context_, key) + ":\r\n" + named, true);
 }
 
 void Recording::TellCancelled() {

@@ -9,6 +9,9 @@ class SelezioneFlash {
   /// Shows the dialog modally: sets SelezioneFlashAnnullata, and PercorsoMemoryCard when a card
   /// was confirmed.
   virtual void Scegli() = 0;
+  /// Whether the host has the chosen card still. A folder that a card was mounted at may outlive it
+  /// and take files by itself.
+  virtual bool Presente() const = 0;
 };
 
 }  // namespace kvr5

@@ -54,15 +54,10 @@ void CodiceScelto::Imposta(std::size_t indice, bool spuntato) {
   ingressi_[indice].ColoreLampada = spuntato ? kRed : kWhite;
 }
 
-void CodiceScelto::DopoLaSpunta() {
-  associato_ = false;
-  AggiornaIngressoSelezionato();
-}
-
 void CodiceScelto::Spunta(int numero, bool spuntato) {
   if (numero < 1 || numero > 8 || !Ingresso(numero).Abilitato) return;
   Imposta(static_cast<std::size_t>(numero - 1), spuntato);
-  DopoLaSpunta();
+  AggiornaIngressoSelezionato();
 }
 
 bool CodiceScelto::Scegli(std::int64_t codice) {
@@ -75,7 +70,7 @@ bool CodiceScelto::Scegli(std::int64_t codice) {
   for (std::size_t i = 0; i < ingressi_.size(); ++i) {
     if (ingressi_[i].Abilitato) Imposta(i, wanted(i));
   }
-  DopoLaSpunta();
+  AggiornaIngressoSelezionato();
   return true;
 }
 
@@ -89,22 +84,22 @@ bool CodiceScelto::AbilitaIngressiRs485() {
     if (link) Imposta(i, false);
   }
   if (Codice() == before) return false;
-  DopoLaSpunta();
+  AggiornaIngressoSelezionato();
   return true;
 }
 
 void CodiceScelto::AggiornaIngressoSelezionato() {
   daScegliere_.reset();
+  cartella_.clear();
   titolo_ = prefisso_;
-  associato_ = false;
   const std::int16_t code = Codice();
   if (code == 0) return;
   titolo_ += AliasIngresso(code);
   etichetta_ = TestoLingua(contesto_, "0040032");
   if (!tabella_.Cerca(code)) return;
   daScegliere_ = tabella_.Cursore().Text("FileName");
+  cartella_ = tabella_.Cursore().Text("FilePath");
   etichetta_ += *daScegliere_;
-  associato_ = true;
 }
 
 void CodiceScelto::Conferma(const std::string& file, const std::string& cartella) {
@@ -113,8 +108,8 @@ void CodiceScelto::Conferma(const std::string& file, const std::string& cartella
   if (file == " ") {
     tabella_.Libera(code);
     if (contesto_.Errore) return;  // it is still there
-    associato_ = false;
     daScegliere_.reset();
+    cartella_.clear();
   } else if (!Rifila(file).empty()) {
     tabella_.Assegna(code, file, cartella);
     AggiornaIngressoSelezionato();

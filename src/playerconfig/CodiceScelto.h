@@ -57,26 +57,27 @@ class CodiceScelto {
 
   /// "FileName - 5.mp3"; nothing behind the blank without a code.
   const std::string& lblfraFileName() const { return titolo_; }
-  bool fraFileAssociatoVisibile() const { return associato_; }
+  bool fraFileAssociatoVisibile() const { return daScegliere_.has_value(); }
   /// The caption, which is the label's tooltip too.
   const std::string& lblFileAssociato() const { return etichetta_; }
   /// "..." is shown for a caption of 39 characters or more.
   bool lblEtichettaTroppoLungaVisibile() const;
   /// What the last look-up sets cmbFileMp3 to, after " "; nothing when it leaves the list alone.
   const std::optional<std::string>& DaScegliere() const { return daScegliere_; }
+  /// The folder of that file, as its row has it; "" for none.
+  const std::string& Cartella() const { return cartella_; }
 
  private:
   void Imposta(std::size_t indice, bool spuntato);
-  void DopoLaSpunta();
 
   Contesto& contesto_;
   TabellaIngressi& tabella_;
   std::array<StatoIngresso, 8> ingressi_;
   std::string prefisso_;  // of titolo_, up to and including "- "
   std::string titolo_;
-  bool associato_ = false;
   std::string etichetta_;
   std::optional<std::string> daScegliere_;
+  std::string cartella_;
 };
 
 /// Whether a caption of lblFileAssociato is too long for its label: 39 characters or more.

@@ -20,7 +20,10 @@ class SceltaFinta : public SelezioneFlash {
     if (!Card.empty()) state_.PercorsoMemoryCard = Card;
   }
 
+  bool Presente() const override { return !Gone; }
+
   int Times = 0;
+  bool Gone = false;
   bool Cancelled = false;
   std::string Card;
 

@@ -19,6 +19,7 @@ using Contents = std::map<std::string, std::string>;
 class NoChoice : public SelezioneFlash {
  public:
   void Scegli() override {}
+  bool Presente() const override { return true; }
 };
 
 /// A project with two inputs, recorded once with other files, so that there is something to lose.

@@ -10,10 +10,11 @@
 namespace kvr5::cli {
 namespace {
 
-/// The card is on the command line; there is nothing to choose.
+/// The card is on the command line: there is nothing to choose, and any folder will do.
 class NoChoice : public SelezioneFlash {
  public:
   void Scegli() override {}
+  bool Presente() const override { return true; }
 };
 
 /// A card given as a letter: "E:", "E:\\" or "E" in either case; '\0' for anything else.

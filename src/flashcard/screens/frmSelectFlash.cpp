@@ -117,6 +117,7 @@ void frmSelectFlash::MostraFatti() {
   const bool out = card.Uscita || (card.Fatti && !card.Fatti->HasMedium);
   Veste(*lblFatti, Carattere::Corpo, out ? Ruolo::Avviso : Ruolo::Testo);
   lblContenuto->setText(out ? QString() : Qs(ProgettoSullaScheda(C(), card.Radice)));
+  cmdFlash->setAccessibleDescription(lblFatti->text() + ' ' + lblContenuto->text());
 }
 
 void frmSelectFlash::AlloScarico() {

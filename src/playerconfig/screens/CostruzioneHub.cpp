@@ -149,6 +149,7 @@ void frmPlayerConfig::Collega() {
   fraIngressiLogici->SuSpunta = [this](int input, bool on) {
     CambiaCodice([&] { codice_->Spunta(input, on); });
   };
+  fraIngressiLogici->SuVaiAlFile = [this] { VaiAlFile(); };
   Assegnazioni->SuScelta = [this](std::int64_t code) {
     CambiaCodice([&] { codice_->Scegli(code); });
   };

@@ -9,6 +9,7 @@
 
 #include "core/Lingua.h"
 #include "core/Parole.h"
+#include "core/ParoleCopia.h"
 #include "core/screens/Avvisi.h"
 #include "core/screens/EtichettaElisa.h"
 #include "core/screens/LocalizzaForm.h"
@@ -108,10 +109,15 @@ QWidget* IngressiLogici::CostruisciAssociato() {
                                   "ascolta", 36, fraFileAssociato);
   cmdMp3Preview_Stop = new Coppia("cmdMp3Preview_Stop", "", {}, "ferma", -1, fraFileAssociato);
   lblPreview = cmdMp3Preview_Play->Etichetta();
+  cmdVaiAlFile = new Coppia("cmdVaiAlFile", "lblVaiAlFile", {}, "cartella", -1, fraFileAssociato);
+  cmdVaiAlFile->hide();
+  connect(cmdVaiAlFile, &QAbstractButton::clicked, this, [this] {
+    if (SuVaiAlFile) SuVaiAlFile();
+  });
   words->addWidget(lblFileAssociato, 1);
   words->addWidget(lblEtichettaTroppoLunga);
   lines->addLayout(words);
-  lines->addLayout(Riga({cmdMp3Preview_Play, cmdMp3Preview_Stop, nullptr}));
+  lines->addLayout(Riga({cmdMp3Preview_Play, cmdMp3Preview_Stop, nullptr, cmdVaiAlFile}));
   fraFileAssociato->hide();
   lblEtichettaTroppoLunga->hide();
   return fraFileAssociato;
@@ -147,6 +153,11 @@ void IngressiLogici::Mostra(const CodiceScelto& codice) {
   lblEtichettaTroppoLunga->setVisible(codice.lblEtichettaTroppoLungaVisibile());
 }
 
+void IngressiLogici::OffriCartella(const std::string& cartella) {
+  cmdVaiAlFile->setVisible(!cartella.empty());
+  cmdVaiAlFile->setToolTip(Suggerimento(Qs(PercorsoPerPersone(contesto_, cartella))));
+}
+
 void IngressiLogici::Localizza() {
   const std::string name = TestoLinguaO(contesto_, "0130178", "Input %1");
   for (std::size_t i = 0; i < chkIn.size(); ++i) {
@@ -155,6 +166,7 @@ void IngressiLogici::Localizza() {
   ImpostaNumero(1, Qs(TestoLingua(contesto_, "0130123")));
   cmdMp3Preview_Play->setToolTip(Qs(TestoLingua(contesto_, "0130243")));
   cmdMp3Preview_Stop->ImpostaScritta(Qs(TestoLingua(contesto_, "0130169")));
+  cmdVaiAlFile->ImpostaScritta(Qs(TestoLinguaO(contesto_, "0130257", "Show its folder")));
 }
 
 }  // namespace kvr5

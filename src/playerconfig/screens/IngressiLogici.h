@@ -40,11 +40,16 @@ class IngressiLogici : public Riquadro {
   Coppia* cmdMp3Preview_Play;
   Coppia* cmdMp3Preview_Stop;
   QLabel* lblPreview;
+  Coppia* cmdVaiAlFile;
 
   /// Called for a click on a box: input and new state.
   std::function<void(int, bool)> SuSpunta;
+  /// Called for a click on cmdVaiAlFile.
+  std::function<void()> SuVaiAlFile;
   /// Shows what the model tells.
   void Mostra(const CodiceScelto& codice);
+  /// Offers the way to the folder of the combination's file, or doesn't where it is "".
+  void OffriCartella(const std::string& cartella);
   void Localizza();
 
  protected:

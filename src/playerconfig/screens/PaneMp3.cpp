@@ -139,12 +139,8 @@ void PaneMp3::Scegli(const std::string& nome) {
   Clic();
 }
 
-std::tuple<bool, std::string, bool> PaneMp3::OkFa() const {
-  return {!cmdOkFileMp3->isHidden(), Scelto(), toglie_};
-}
-
 void PaneMp3::OkCambiato() {
-  SospendiOk();
+  sospeso_.start();
   if (OkConTastiera()) cmbFileMp3->setFocus();
 }
 
@@ -153,7 +149,6 @@ bool PaneMp3::Sospeso() const {
 }
 
 void PaneMp3::MostraTogliere(bool toglie) {
-  toglie_ = toglie;
   cmdOkFileMp3->ImpostaScritta(Qs(toglie ? TestoLinguaO(contesto_, "0130251", "Remove file")
                                          : TestoLinguaO(contesto_, "0040031", "OK")));
   cmdOkFileMp3->ImpostaIcona(toglie ? "rimuovi" : "fatto");

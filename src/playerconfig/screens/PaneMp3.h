@@ -5,7 +5,6 @@
 #include <QLabel>
 #include <functional>
 #include <string>
-#include <tuple>
 
 #include "core/screens/Coppia.h"
 #include "core/screens/ElencoCartelle.h"
@@ -32,15 +31,12 @@ class PaneMp3 : public Riquadro {
 
   /// Fills cmbFileMp3 from the folder; the selection is that of a fresh list.
   void RiempiElencoMp3();
-  /// Whether cmdOkFileMp3 is there, and what it does: its item, and whether it removes.
-  std::tuple<bool, std::string, bool> OkFa() const;
-  /// To be called where that changed in place: holds the button up, and takes the keyboard off it.
+  /// To be called where what cmdOkFileMp3 does has changed in place, without the user: the button
+  /// ignores the presses of the next moment, those that were on their way and the second half of a
+  /// double click, and the keyboard leaves it.
   void OkCambiato();
   /// Whether cmdOkFileMp3 has the keyboard, or will have it when its window comes to the front.
   bool OkConTastiera() const { return window()->focusWidget() == cmdOkFileMp3; }
-  /// Has cmdOkFileMp3 ignore the presses of the next moment: those that were on their way, or the
-  /// second half of a double click, when what it would do has changed in place.
-  void SospendiOk() { sospeso_.start(); }
   /// Whether a press of cmdOkFileMp3 that has just ended is to be ignored.
   bool OkSospeso() const { return pressioneSospesa_ || Sospeso(); }
   /// Looks into the folder again; where it has changed, fills cmbFileMp3 and keeps what is selected
@@ -48,12 +44,12 @@ class PaneMp3 : public Riquadro {
   bool Rileggi();
   /// The selected item; " " for no file.
   std::string Scelto() const;
-  /// Whether the user picked it, and nothing has been ticked since. A confirm is a pick, too.
+  /// Whether the user picked it, and nothing has been ticked since. One whose confirm failed stays
+  /// a pick.
   bool SceltoDallUtente() const { return sceltoDallUtente_; }
-  void DimenticaScelta() { sceltoDallUtente_ = false; }
+  void SegnaScelta(bool dallUtente) { sceltoDallUtente_ = dallUtente; }
   /// The user has chosen what cmdOkFileMp3 does now: it isn't held up any longer.
   void LiberaOk() { sospeso_.invalidate(); }
-  void TieniScelta() { sceltoDallUtente_ = true; }
   /// Sets cmbFileMp3 to " " and then to this file, which stays at " " where the list lacks it.
   void Scegli(const std::string& nome);
   /// Has cmdOkFileMp3 say that it takes an assignment away, which the blank item does, or that it
@@ -84,7 +80,6 @@ class PaneMp3 : public Riquadro {
   QLabel* numero_;
   ElencoMp3 elenco_;
   bool sceltoDallUtente_ = false;
-  bool toglie_ = false;
   QElapsedTimer sospeso_;
   bool pressioneSospesa_ = false;
 };

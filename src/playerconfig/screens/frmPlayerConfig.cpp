@@ -67,12 +67,12 @@ void frmPlayerConfig::AlCaricamento() {
   LeggiControlli();
   Opzioni->ImpostaAnalyzer(state.Analyzer == 1);
   state.FileReport = AggiungiBarra(state.CartellaProgetto) + state.ProjectName + ".htm";
+  MostraCodice();
   fraFileName->DirDirectoryMp3->ImpostaPercorso(folder);
   Disponi();
   MostraModo();
   constexpr std::int16_t kKvr5 = 4;
   if (state.PlayerType == kKvr5) state.Usa485 = LeggiUse485(C());
-  MostraCodice();
   AggiornaElenco();
   modifiche_.Rileggi(C());
   AggiornaNonSalvato();
@@ -148,18 +148,20 @@ void frmPlayerConfig::AllAttivazione() {
   }
   fraIngressiLogici->Mostra(*codice_);
   if (changed) {
-    fraFileName->DimenticaScelta();
+    fraFileName->SegnaScelta(false);
     MostraCodice();
-    SceltoFile();
   }
 }
 
 void frmPlayerConfig::RileggiCartella() {
+  const std::string before = fraFileName->Scelto();
   if (!fraFileName->Rileggi()) return;
   const auto& assigned = codice_->DaScegliere();
   const bool free = Rifila(fraFileName->Scelto()).empty() && !fraFileName->SceltoDallUtente();
   if (free && assigned) return fraFileName->Scegli(*assigned);
-  SceltoFile();
+  // Not for a file that stays picked: the click that brings the hub to the front may be its
+  // confirm.
+  if (fraFileName->Scelto() != before) SceltoFile();
 }
 
 void frmPlayerConfig::CambiaCodice(const std::function<void()>& cambia) {
@@ -167,10 +169,9 @@ void frmPlayerConfig::CambiaCodice(const std::function<void()>& cambia) {
   C().Errore.Clear();
   cambia();
   const bool failed{C().Errore};
-  fraFileName->DimenticaScelta();
+  fraFileName->SegnaScelta(false);
   fraFileName->LiberaOk();
   MostraCodice();
-  SceltoFile();
   if (!failed) return;
   // Not from within the list's own signal: it is emptied where it can't be read.
   QMetaObject::invokeMethod(
@@ -187,14 +188,14 @@ frmPlayerConfig::OkInPosto::~OkInPosto() {
 }
 
 frmPlayerConfig::FattoDaOk frmPlayerConfig::OkFa() const {
-  return {fraFileName->OkFa(), codice_->Codice(), codice_->DaScegliere()};
+  return {!fraFileName->cmdOkFileMp3->isHidden(), fraFileName->Scelto(), codice_->Codice(),
+          codice_->DaScegliere()};
 }
 
 void frmPlayerConfig::RivediCodice() {
   const OkInPosto same(*this);
   codice_->AggiornaIngressoSelezionato();
   MostraCodice(!fraFileName->SceltoDallUtente());
-  SceltoFile();
 }
 
 void frmPlayerConfig::NonSiLegge() {
@@ -220,7 +221,8 @@ void frmPlayerConfig::MostraCodice(bool scegli) {
   Assegnazioni->Evidenzia(codice_->Codice());
   fraFileName->lblfraFileName->setText(Qs(codice_->lblfraFileName()));
   const auto& file = codice_->DaScegliere();
-  if (scegli && file) fraFileName->Scegli(*file);
+  if (scegli && file) return fraFileName->Scegli(*file);
+  SceltoFile();
 }
 
 void frmPlayerConfig::AggiornaElenco(bool inVista) {
@@ -262,6 +264,26 @@ void frmPlayerConfig::SceltoFile() {
   fraFileName->MostraOk(false);
   ValutaScelta();
   if (keyboard && fraFileName->cmdOkFileMp3->isVisible()) fraFileName->cmdOkFileMp3->setFocus();
+  OffriCartella();
+}
+
+void frmPlayerConfig::OffriCartella() {
+  if (!codice_) return;
+  const std::string name = codice_->DaScegliere().value_or("");
+  const std::string there = AggiungiBarra(codice_->Cartella());
+  const std::string here = AggiungiBarra(fraFileName->DirDirectoryMp3->Percorso());
+  const FileSystem& files = C().Files;
+  const bool away = FileExists(files, there + name) && !files.SameFile(there + name, here + name);
+  fraIngressiLogici->OffriCartella(away ? there : "");
+}
+
+void frmPlayerConfig::VaiAlFile() {
+  const Impegno stays(*this);
+  fraFileName->LiberaOk();
+  const std::string name = codice_->DaScegliere().value_or("");
+  fraFileName->DirDirectoryMp3->ImpostaPercorso(codice_->Cartella());
+  fraFileName->cmbFileMp3->setFocus();
+  fraFileName->Scegli(name);
 }
 
 void frmPlayerConfig::ValutaScelta() {
@@ -275,8 +297,6 @@ void frmPlayerConfig::ValutaScelta() {
     return;
   }
   fraFileName->MostraTogliere(false);
-  if (!FileExists(C().Files, AggiungiBarra(fraFileName->DirDirectoryMp3->Percorso()) + item))
-    return;
   fraFileInfo->tmrInfoMp3.stop();
   MostraInfoMp3();
   fraFileInfo->tmrInfoMp3.start();
@@ -298,9 +318,10 @@ void frmPlayerConfig::MostraInfoMp3() {
   const EtichetteMp3& labels = panel.Etichette;
   fraFileInfo->Mostra(Qs(labels.lblVersioneMpeg), Qs(labels.lblBitrate), Qs(labels.lblFreq),
                       Qs(labels.lblDurata));
-  fraFileInfo->MostraAvviso(
-      panel.lblBadFileType,
-      Qs(ParoleRifiuto(C(), MotivoPerIngressi(info, lettore_.Ricerca()), info)));
+  const std::string reason =
+      file ? ParoleRifiuto(C(), MotivoPerIngressi(info, lettore_.Ricerca()), info)
+           : TestoLinguaO(C(), "0130258", "This file isn't there any more, or it can't be read.");
+  fraFileInfo->MostraAvviso(panel.lblBadFileType, Qs(reason));
   fraFileName->MostraOk(!panel.lblBadFileType && codice_ && codice_->Codice() >= 1);
 }
 
@@ -310,19 +331,14 @@ void frmPlayerConfig::ConfermaFile() {
   const bool blank = Rifila(item).empty();
   C().Errore.Clear();
   if (blank && !AncoraCosi()) {
-    // Nothing is taken away but what was shown, and not by the second half of a double click.
-    ingressi_.AnnotaErrore(item);
-    return fraFileName->SospendiOk();
+    return ingressi_.AnnotaErrore(item);  // nothing is taken away but what was shown
   }
   C().Errore.Clear();
-  fraFileName->TieniScelta();
   codice_->Conferma(item, fraFileName->DirDirectoryMp3->Percorso());
   const bool failed{C().Errore};
-  if (blank && !failed) fraFileName->DimenticaScelta();
+  fraFileName->SegnaScelta(failed);
   MostraCodice(!failed);  // what wasn't kept stays picked, to be confirmed once more
   if (!blank && Rifila(fraFileName->Scelto()).empty()) fraFileName->OkCambiato();
-  fraFileName->MostraTogliere(Rifila(fraFileName->Scelto()).empty() &&
-                              codice_->fraFileAssociatoVisibile());
   AggiornaElenco(true);
   CominciaConto();
 }
@@ -382,9 +398,9 @@ void frmPlayerConfig::Registra() {
   const Impegno stays(*this);  // a close that is asked for meanwhile comes at the end
   lavora_ = true;
   conto_.Interrompi();  // no database is open while it is copied
-  const bool cancelled = servizi_.RegistraProgetto(ingressi_);
+  const EsitoScheda end = servizi_.RegistraProgetto(ingressi_);
   lavora_ = false;
-  if (cancelled) {
+  if (end.Annullata) {
     show();
     setEnabled(true);
   }
@@ -392,6 +408,7 @@ void frmPlayerConfig::Registra() {
   RileggiCartella();
   AggiornaElenco();
   CominciaConto();
+  Scheda->Registrata(end.Scheda);
   Scheda->MostraStato(servizi_.FattiDellaScheda());
 }
 

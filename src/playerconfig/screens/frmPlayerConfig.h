@@ -4,7 +4,6 @@
 #include <QTimer>
 #include <optional>
 #include <string>
-#include <tuple>
 
 #include "core/screens/Form.h"
 #include "core/screens/PannelloInfo.h"
@@ -63,9 +62,14 @@ class frmPlayerConfig : public Form {
   void AlloScarico() override;
 
  private:
-  /// What a press of cmdOkFileMp3 would do: as the button looks, for which inputs, to which file.
-  using FattoDaOk =
-      std::tuple<std::tuple<bool, std::string, bool>, std::int16_t, std::optional<std::string>>;
+  /// What a press of cmdOkFileMp3 would do.
+  struct FattoDaOk {
+    bool SiVede = false;
+    std::string File;  ///< " " takes away
+    std::int16_t Codice = 0;
+    std::optional<std::string> Assegnato;  ///< what the code has by now
+    bool operator==(const FattoDaOk&) const = default;
+  };
 
   /// Watches over cmdOkFileMp3 while what is shown changes without the user: where a press would do
   /// something else afterwards, the button is held up, and the keyboard leaves it.
@@ -97,7 +101,8 @@ class frmPlayerConfig : public Form {
   void RileggiCartella();
   /// Has `cambia` tick other inputs, and shows what they have.
   void CambiaCodice(const std::function<void()>& cambia);
-  /// Shows the ticked inputs; `scegli`: their file is picked, too, where the folder has it.
+  /// Shows the ticked inputs and judges the picked file; `scegli`: picks theirs before, where they
+  /// have one.
   void MostraCodice(bool scegli = true);
   /// Shows the table as it is now; `inVista` brings the ticked inputs' row into view.
   void AggiornaElenco(bool inVista = false);
@@ -109,6 +114,10 @@ class frmPlayerConfig : public Form {
   /// Reads again what could not be read; called every other second.
   void Ritenta();
   void SceltoFile();
+  /// Offers the way to the ticked inputs' file where it is there, in another folder.
+  void OffriCartella();
+  /// Shows that folder, with the file picked.
+  void VaiAlFile();
   void ValutaScelta();
   void MostraInfoMp3();
   void ConfermaFile();

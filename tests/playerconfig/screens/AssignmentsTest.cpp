@@ -215,5 +215,37 @@ TEST_F(Assignments, ANameWithALineBreakStaysInItsLine) {
   EXPECT_EQ(row.count('\n'), 1) << "before its mark: " << row.toStdString();
 }
 
+TEST_F(Assignments, AFileThatLiesElsewhereIsOneClickAway) {
+  b.ScriviMp3("other/far.mp3");
+  b.ScriviMp3("other/a.mp3");
+  b.AggiungiRiga("inputcfg.mdb", 1, 1, "far.mp3", b.Percorso("other") + "\\", "1.mp3");
+  b.AggiungiRiga("inputcfg.mdb", 1, 2, "a.mp3", Music(), "2.mp3");
+  b.AggiungiRiga("inputcfg.mdb", 1, 3, "gone.mp3", b.Percorso("other") + "\\", "3.mp3");
+  Apri(0);
+  auto& list = Trova<QListWidget>("lstAssegnati");
+  ClicRiga(list, 1);
+  EXPECT_FALSE(SiVede("cmdVaiAlFile")) << "it is in the folder that is shown";
+  ClicRiga(list, 2);
+  EXPECT_FALSE(SiVede("cmdVaiAlFile")) << "there is no way to a missing one";
+  ClicRiga(list, 0);
+  EXPECT_EQ(Testo("lblOkFileMp3"), "Remove file");
+  ASSERT_TRUE(SiVede("cmdVaiAlFile"));
+  EXPECT_EQ(Testo("lblVaiAlFile"), "Show its folder");
+  EXPECT_EQ(Trova<QWidget>("cmdVaiAlFile").toolTip().toStdString(),
+            (b.Cartella.Host() / "other").string());
+  Trova<QWidget>("cmdVaiAlFile").setFocus();
+  QTest::keyClick(&Trova<QWidget>("cmdVaiAlFile"), Qt::Key_Space);
+  EXPECT_EQ(hub->fraFileName->DirDirectoryMp3->Percorso(), b.Percorso("other"));
+  EXPECT_EQ(Trova<QComboBox>("cmbFileMp3").currentText(), QStringLiteral("far.mp3"));
+  EXPECT_EQ(Testo("lblOkFileMp3"), "Confirm");
+  EXPECT_FALSE(SiVede("cmdVaiAlFile"));
+  EXPECT_EQ(hub->focusWidget(), &Trova<QWidget>("cmbFileMp3"));
+  EXPECT_EQ(Riga(1), "far.mp3|" + b.Percorso("other") + "\\|1.mp3|1") << "nothing has changed";
+  ClicRiga(list, 1);
+  EXPECT_TRUE(SiVede("cmdVaiAlFile")) << "the folder before is another one by now";
+  Clic("cmdOkFileMp3");
+  EXPECT_FALSE(SiVede("cmdVaiAlFile")) << "of what was taken away";
+}
+
 }  // namespace
 }  // namespace kvr5

@@ -23,15 +23,15 @@ namespace kvr5::test {
 /// there as the test says.
 class ServiziFinti : public ServiziHub {
  public:
-  bool RegistraProgetto(TabellaIngressi& /*ingressi*/) override {
+  EsitoScheda RegistraProgetto(TabellaIngressi& /*ingressi*/) override {
     ++Registrazioni;
     if (SuRegistra) SuRegistra();
-    return Annullata;
+    return Esito;
   }
   std::optional<Drive> FattiDellaScheda() override { return Scheda; }
 
   int Registrazioni = 0;
-  bool Annullata = false;
+  EsitoScheda Esito;
   std::function<void()> SuRegistra;
   std::optional<Drive> Scheda;
 };

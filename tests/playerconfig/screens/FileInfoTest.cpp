@@ -153,9 +153,42 @@ TEST_F(FileInfo, BitRateAndSampleRateOutOfRangeAreRefusedWithTheirFigures) {
 
 TEST_F(FileInfo, TheReasonOfARefusalIsItsToolTip) {
   Scrivi("a.mp3", "\xFF\xFB\x94\x64", 384);
+  // A tag whose text looks like a header: the search stops there, in front of the real one.
+  std::string tagged = std::string("ID3\x03\0\0\0\0\0\x7F", 10) + std::string(40, ' ') + "\xFF\xFB";
+  tagged.resize(10 + 127, ' ');
+  b.ScriviMp3("music/good.mp3");
+  b.Cartella.Write("music/b.mp3", tagged + b.Cartella.Read("music/good.mp3"));
   Apri(0);
+  const QWidget& warning = Trova<QWidget>("lblBadFileType");
+  const auto reason = [&] {
+    EXPECT_EQ(warning.accessibleDescription(), warning.toolTip());
+    return warning.toolTip().toStdString();
+  };
   ScegliFile("a.mp3");
-  EXPECT_NE(Trova<QWidget>("lblBadFileType").toolTip(), QString());
+  EXPECT_EQ(reason(), "48,000 Hz; the player takes 22,050 to 44,100 Hz");
+  ScegliFile("b.mp3");
+  EXPECT_EQ(reason(),
+            "The tag at the start of this file hides its first frame. Save the file without tags, "
+            "then choose it again.");
+  ScegliFile("good.mp3");
+  EXPECT_FALSE(Refused());
+  EXPECT_EQ(reason(), "");
+}
+
+TEST_F(FileInfo, APickedFileThatIsGoneShowsNoOthersFiguresAndSaysSo) {
+  b.ScriviMp3("music/a.mp3", 0, 100);
+  b.ScriviMp3("music/b.mp3", 0, 100);
+  Apri(0);
+  Spunta(1);
+  ScegliFile("a.mp3");
+  ASSERT_NE(Figures(), kNoFigures);
+  std::filesystem::remove(b.Cartella.Host() / "music/b.mp3");
+  ScegliFile("b.mp3");
+  EXPECT_EQ(Figures(), kNoFigures);
+  EXPECT_TRUE(Refused());
+  EXPECT_EQ(Trova<QWidget>("lblBadFileType").toolTip(),
+            "This file isn't there any more, or it can't be read.");
+  EXPECT_FALSE(Ok());
 }
 
 TEST_F(FileInfo, TheBlankLineClearsThePanel) {

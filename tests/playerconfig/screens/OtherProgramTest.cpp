@@ -30,6 +30,18 @@ class OtherProgram : public test::HubConMusica {
   void Adds(int code, const std::string& name) {
     b.AggiungiRiga("inputcfg.mdb", 1, code, name, Music(), std::to_string(code) + ".mp3");
   }
+  /// Counts how often a widget is hidden.
+  class Hides : public QObject {
+   public:
+    explicit Hides(QWidget& widget) { widget.installEventFilter(this); }
+    int Times = 0;
+
+   protected:
+    bool eventFilter(QObject* /*object*/, QEvent* event) override {
+      if (event->type() == QEvent::HideToParent) ++Times;
+      return false;
+    }
+  };
   /// As long as a person needs to see what has changed.
   static void LookAtIt() { QTest::qWait(QApplication::doubleClickInterval() + 50); }
   std::string Plays() { return SiVede("fraFileAssociato") ? Testo("lblFileAssociato") : ""; }
@@ -257,6 +269,55 @@ TEST_F(OtherProgram, APressThatBeganTooSoonDoesNothingHoweverLateItEnds) {
   EXPECT_NE(Riga(1), "");
   QTest::mouseClick(&ok, Qt::LeftButton);
   EXPECT_EQ(Riga(1), "") << "the next one does";
+}
+
+TEST_F(OtherProgram, ATickOfTheUsersOwnLetsTheNextClickCountAtOnce) {
+  Adds(1, "a.mp3");
+  Adds(2, "a.mp3");
+  Apri(0);
+  Attiva();
+  Spunta(1);
+  ScegliFile(" ");
+  Sql("UPDATE List SET FileName='b.mp3' WHERE Pos=1");
+  Attiva();
+  Conferma();
+  ASSERT_NE(Riga(1), "") << "held up";
+  Spunta(1);
+  Spunta(2);
+  ScegliFile(" ");
+  Conferma();
+  EXPECT_EQ(Riga(2), "");
+}
+
+TEST_F(OtherProgram, ThatPutsAFileIntoTheFolderDoesNotTakeTheButtonFromUnderTheClick) {
+  Apri(0);
+  Attiva();
+  Spunta(1);
+  ScegliFile("b.mp3");
+  b.ScriviMp3("music/0.mp3");
+  const Hides hides(Trova<QWidget>("cmdOkFileMp3"));
+  Attiva();
+  EXPECT_EQ(hides.Times, 0);
+  EXPECT_EQ(Trova<QComboBox>("cmbFileMp3").currentText(), "b.mp3");
+  EXPECT_NE(Trova<QComboBox>("cmbFileMp3").findText("0.mp3"), -1);
+  Conferma();
+  EXPECT_EQ(Plays(), "Plays: b.mp3");
+}
+
+TEST_F(OtherProgram, ThatChangesAFileDuringARecordingIsSeenBeforeItIsTakenAway) {
+  Adds(1, "a.mp3");
+  Apri(0);
+  Attiva();
+  Spunta(1);
+  ScegliFile(" ");
+  servizi.SuRegistra = [this] { Sql("UPDATE List SET FileName='b.mp3' WHERE Pos=1"); };
+  Clic("picRecordFlash");
+  Conferma();
+  EXPECT_NE(Riga(1), "");
+  LookAtIt();
+  EXPECT_EQ(Plays(), "Plays: b.mp3");
+  Conferma();
+  EXPECT_EQ(Riga(1), "");
 }
 
 TEST_F(OtherProgram, ThatAssignsAgainWhatWasRemovedIsPicked) {

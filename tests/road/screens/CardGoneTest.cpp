@@ -79,6 +79,18 @@ TEST_F(CardGone, BetweenItsChoiceAndTheRecordingIsTold) {
   ExpectWholeRecording();
 }
 
+TEST_F(CardGone, WhileTheFolderItWasMountedAtStaysIsToldAndTheFolderGetsNothing) {
+  CreaHall();
+  ScegliScheda();
+  const std::string drives = b.Cartella.Read("program/Drives.ini");
+  b.Cartella.Write("program/Drives.ini", "");  // the host has no such drive any more
+  EXPECT_EQ(Registra(), kNotStarted);
+  EXPECT_TRUE(fs::is_empty(Host("card")));
+  EXPECT_EQ(Stato(), "taken out: put it back in");
+  b.Cartella.Write("program/Drives.ini", drives);
+  ExpectWholeRecording();
+}
+
 TEST_F(CardGone, AtAnyMomentOfTheRecordingLeavesTheHubAtWork) {
   CreaHall();
   ScegliScheda();

@@ -77,6 +77,7 @@ TEST_F(RecordingEnds, AFileThatCannotBeHadStopsItWithItsNameAndNoMp3) {
   Record();
   EXPECT_FALSE(OnCard("1.mp3")) << "not even the one that is there";
   EXPECT_TRUE(OnCard("Config.txt")) << "what the first stages copied stays";
+  EXPECT_FALSE(test::PuntatoreOccupato()) << "the notice's own load sets it back";
   LasciaHall();
 }
 
@@ -101,6 +102,7 @@ TEST_F(RecordingEnds, AGoodOneThatBeganWithTheDialogSaysNothingAndNamesTheCard) 
   Record();
   EXPECT_TRUE(b.Cartella.Same("card/5.mp3", "music/b.mp3"));
   EXPECT_EQ(test::Scritta(Hub(), "lblPathMemoryCard"), "Memory card: E:\\");
+  EXPECT_EQ(test::Scritta(Hub(), "lblStatoScheda").substr(0, 12), "recorded at ");
   EXPECT_FALSE(test::PuntatoreOccupato());
 }
 
