@@ -44,7 +44,8 @@ void LetItCount(const kvr5::frmPlayerConfig& hub) {
   }
 }
 
-/// The project of inputs once more: a file that the player can't play, a card, unsaved settings.
+/// The project of inputs once more: a file that the player can't play, a card, a file that lies in
+/// another folder, unsaved settings.
 void TakeStates(Photographer& camera) {
   camera.Project("Museum-Hall-3", 4, 1);
   AssignFiles(camera);
@@ -58,6 +59,11 @@ void TakeStates(Photographer& camera) {
   camera.Program().AggiornaPercorsoMemoryCard();
   LetItCount(hub);
   camera.Take(kHub, QStringLiteral("frmPlayerConfig-card"));
+  hub.fraFileName->DirDirectoryMp3->ImpostaPercorso(camera.Music() + "\\Jazz");
+  hub.fraIngressiLogici->chkIn[2]->click();
+  hub.Scheda->Registrata("E:\\");
+  camera.Program().AggiornaPercorsoMemoryCard();
+  camera.Take(kHub, QStringLiteral("frmPlayerConfig-elsewhere"));
   hub.fraOutputLevel->sliVolume->setValue(3);
   camera.Take(kHub, QStringLiteral("frmPlayerConfig-unsaved"));
   hub.resize(944, 500);  // what a screen of 1920x1080 has room for at 200 %

@@ -59,6 +59,10 @@ void TakeSettings(Photographer& camera) {
   camera.Take("frmConfig", QStringLiteral("frmConfig"));
   Find<kvr5::frmConfig>()->optInternal->click();
   camera.Take("frmConfig", QStringLiteral("frmConfig-changed"));
+  auto* languages = Find<kvr5::frmConfig>()->cmbLanguage;
+  languages->setCurrentIndex(1 - languages->currentIndex());
+  emit languages->activated(languages->currentIndex());
+  camera.Take("frmConfig", QStringLiteral("frmConfig-note"));
 }
 
 }  // namespace

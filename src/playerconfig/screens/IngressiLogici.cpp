@@ -109,7 +109,7 @@ QWidget* IngressiLogici::CostruisciAssociato() {
                                   "ascolta", 36, fraFileAssociato);
   cmdMp3Preview_Stop = new Coppia("cmdMp3Preview_Stop", "", {}, "ferma", -1, fraFileAssociato);
   lblPreview = cmdMp3Preview_Play->Etichetta();
-  cmdVaiAlFile = new Coppia("cmdVaiAlFile", "lblVaiAlFile", {}, "cartella", -1, fraFileAssociato);
+  cmdVaiAlFile = new Coppia("cmdVaiAlFile", "", {}, "cartella", -1, fraFileAssociato);
   cmdVaiAlFile->hide();
   connect(cmdVaiAlFile, &QAbstractButton::clicked, this, [this] {
     if (SuVaiAlFile) SuVaiAlFile();
@@ -155,7 +155,8 @@ void IngressiLogici::Mostra(const CodiceScelto& codice) {
 
 void IngressiLogici::OffriCartella(const std::string& cartella) {
   cmdVaiAlFile->setVisible(!cartella.empty());
-  cmdVaiAlFile->setToolTip(Suggerimento(Qs(PercorsoPerPersone(contesto_, cartella))));
+  const QString folder = Qs(PercorsoPerPersone(contesto_, cartella));
+  cmdVaiAlFile->setToolTip(Suggerimento(cmdVaiAlFile->Scritta() + ": " + folder));
 }
 
 void IngressiLogici::Localizza() {

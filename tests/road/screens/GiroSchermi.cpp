@@ -281,6 +281,10 @@ void GiroSchermi::NellHubInUso() {
   ASSERT_TRUE(hub->fraFileInfo->lblBadFileType->isVisible());
   ASSERT_FALSE(hub->fraFileInfo->lblFreq->text().isEmpty());
   Vedi(*hub, "frmPlayerConfig with a refused file");
+  hub->fraFileName->DirDirectoryMp3->ImpostaPercorso(b.Percorso(""));
+  hub->fraIngressiLogici->chkIn[2]->click();
+  ASSERT_TRUE(hub->fraIngressiLogici->cmdVaiAlFile->isVisible());
+  Vedi(*hub, "frmPlayerConfig with a file elsewhere");
 }
 
 void GiroSchermi::NellHubConScheda() {
