@@ -130,11 +130,11 @@ void Programma::AvviaTempoSplash() {
   splash_->tmrChiusura.start();
 }
 
-EsitoScheda Programma::RegistraProgetto(TabellaIngressi& ingressi) {
+bool Programma::RegistraProgetto(TabellaIngressi& ingressi) {
   SceltaDalDialogo choice(*this, *this);
   const auto end = RegistraProgettoSuFlash(contesto_, ingressi, progresso_, choice);
   AvvisaNonLetti(contesto_, end);
-  return {end.Fine == FineRegistrazione::Annullata, end.Intera() ? end.Scheda : std::string()};
+  return end.Fine == FineRegistrazione::Annullata;
 }
 
 std::optional<Drive> Programma::FattiDellaScheda() {

@@ -51,7 +51,7 @@ class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
   void MostraSplash(Schermata successivo) override;
   void AvviaTempoSplash() override;
 
-  EsitoScheda RegistraProgetto(TabellaIngressi& ingressi) override;
+  bool RegistraProgetto(TabellaIngressi& ingressi) override;
   std::optional<Drive> FattiDellaScheda() override;
 
  private:

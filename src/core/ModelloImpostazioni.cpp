@@ -68,7 +68,7 @@ std::string ModelloImpostazioni::CartellaPerPersone() const {
 }
 
 std::string ModelloImpostazioni::AltraInUso() const {
-  if (!scelta_) return {};
+  if (!scelta_ || !FileExists(contesto_.Files, contesto_.Stato.FileLingua)) return {};
   const std::string used = TogliEstensione(EstraiNomeFile(contesto_.Stato.FileLingua));
   return EqualFold(used, lingue_.at(*scelta_)) ? std::string() : used;
 }

@@ -70,7 +70,7 @@ class Recording {
 EsitoRegistrazione Recording::Run() {
   context_.Stato.AnnullatoDaUtente = false;
   if (!HasCard()) return {FineRegistrazione::SenzaScheda};
-  card_ = outcome_.Scheda = context_.Stato.PercorsoMemoryCard;
+  card_ = context_.Stato.PercorsoMemoryCard;
   if (!CardIsWritable()) {
     TellUnwritable();
     return {FineRegistrazione::NonScrivibile};
@@ -104,7 +104,11 @@ bool Recording::HasCard() {
 bool Recording::CardIsWritable() {
   auto& error = context_.Errore;
   error.Clear();
-  if (!choice_.Presente()) return false;
+  // The folder that a card was mounted at may outlive it, and take the file.
+  if (!choice_.Presente()) {
+    error.Record(Error(errors::DeviceUnavailable));
+    return false;
+  }
   const std::string path = Card("\\test.txt");  // the doubled backslash counts as one
   // A link of that name is the card's own; what it leads to isn't.
   if (context_.Files.BehindLink(path) != path) Ignora(context_.Files.Delete(path));
@@ -232,7 +236,6 @@ void Recording::Copy(const std::string& from, const std::string& to) {
   const CopyOutcome copied = CopiaFileShell(context_, from, to);
   outcome_.File += copied.FilesCopied;
   outcome_.Byte += copied.BytesCopied;
-  if (copied.Result != 0 && copied.Result != errors::Cancelled) ++outcome_.CopieFallite;
 }
 
 void Recording::CopyIfThere(std::string_view name) {
@@ -254,8 +257,11 @@ void Recording::TellStop(const EsitoPassata& pass) {
   // A row's own FileName stands as it is.
   const std::string& file = pass.FileMancante;
   const std::string named = PathMap::IsSystemForm(file) ? PercorsoPerPersone(context_, file) : file;
-  const char* key = pass.DatabaseIlleggibile ? "0130263" : "0070019";
-  Notice("0070009", TestoLingua(context_, key) + ":\r\n" + named, true);
+  const std::string what =
+      pass.DatabaseIlleggibile
+          ? TestoLinguaO(context_, "0130263", "No MP3 was copied. This database can't be read")
+          : TestoLingua(context_, "0070019");
+  Notice("0070009", what + ":\r\n" + named, true);
 }
 
 void Recording::TellCancelled() {

@@ -29,13 +29,6 @@ struct EsitoRegistrazione {
   /// The project's databases that are there but can't be read: their passes were skipped in
   /// silence, as if they were missing.
   std::vector<std::string> NonLetti{};
-  std::size_t CopieFallite = 0;  ///< copies that the copy window told of as failed
-  std::string Scheda{};          ///< root of the card; "" without one
-
-  /// Whether all that the project needs is on the card.
-  bool Intera() const {
-    return Fine == FineRegistrazione::Compiuta && CopieFallite == 0 && NonLetti.empty();
-  }
 };
 
 /// Turns the project's folder, as it stands on the disk, into the card's contents: a write test,

@@ -9,8 +9,7 @@ class SelezioneFlash {
   /// Shows the dialog modally: sets SelezioneFlashAnnullata, and PercorsoMemoryCard when a card
   /// was confirmed.
   virtual void Scegli() = 0;
-  /// Whether the host has the chosen card still. A folder that a card was mounted at may outlive it
-  /// and take files by itself.
+  /// Whether the host has the chosen card still; one of Drives.ini as long as its folder is there.
   virtual bool Presente() const = 0;
 };
 

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "core/Aiuti.h"
+#include "core/Impostazioni.h"
 #include "core/Lingua.h"
 #include "platform/CodePage.h"
 #include "platform/FileOps.h"
@@ -129,12 +130,12 @@ std::string DescrizioneKvr5(std::int16_t playerMode, const ScritteWizard& scritt
 }
 
 DifettoNome DifettoDelNome(const Contesto& contesto, std::string_view nome) {
-  constexpr std::size_t kLongest = 255;
   if (nome.find_first_of(kCaratteriVietati) != std::string_view::npos) {
     return DifettoNome::Carattere;
   }
   if (!CanBeKept(contesto, nome)) return DifettoNome::Lettera;
-  if (nome.size() > kLongest) return DifettoNome::Lungo;
+  const CodePage page(contesto.Luogo.AnsiCodePage);
+  if (page.Length(page.Encode(nome)) > kCaratteriImpostazione) return DifettoNome::Lungo;
   if (CardCanHold(nome)) return DifettoNome::Nessuno;
   if (nome.ends_with(' ') || nome.ends_with('.')) return DifettoNome::Fine;
   // With nothing but a letter in front, what remains can only be a character.

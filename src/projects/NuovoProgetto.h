@@ -46,10 +46,11 @@ enum class DifettoNome {
   Fine,       ///< a blank or a dot at its end
   Riservato,  ///< a device's name
   Lettera,    ///< one that the descriptor's code page lacks
-  Lungo,      ///< more than 255 bytes of UTF-8, as much as disks keep
+  Lungo,      ///< more characters than the descriptor keeps
 };
 
-/// What is wrong with a name, if anything: PreparaCartella tells the number alone.
+/// What is wrong with a name that isn't blank, if anything. A long one is made and comes back cut;
+/// of the rest PreparaCartella tells the number alone.
 DifettoNome DifettoDelNome(const Contesto& contesto, std::string_view nome);
 
 /// The checks of a name and the making of the folder, the same for the wizard and for the name

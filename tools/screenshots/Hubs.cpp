@@ -61,8 +61,6 @@ void TakeStates(Photographer& camera) {
   camera.Take(kHub, QStringLiteral("frmPlayerConfig-card"));
   hub.fraFileName->DirDirectoryMp3->ImpostaPercorso(camera.Music() + "\\Jazz");
   hub.fraIngressiLogici->chkIn[2]->click();
-  hub.Scheda->Registrata("E:\\");
-  camera.Program().AggiornaPercorsoMemoryCard();
   camera.Take(kHub, QStringLiteral("frmPlayerConfig-elsewhere"));
   hub.fraOutputLevel->sliVolume->setValue(3);
   camera.Take(kHub, QStringLiteral("frmPlayerConfig-unsaved"));

@@ -167,7 +167,8 @@ void frmConfig::MostraNota() {
   const std::string inUse = modello_.AltraInUso();
   lblNota->ImpostaAvviso(cut);
   if (cut) {
-    lblNota->setText(Qs(TestoLingua(C(), "0130265")));
+    lblNota->setText(
+        Qs(TestoLinguaO(C(), "0130265", "This path is too long. Choose a shorter one.")));
   } else if (!inUse.empty()) {
     lblNota->setText(
         Qs(ConValori(TestoLinguaO(C(), "0130264", "Language in use now: %1"), {inUse})));

@@ -117,7 +117,9 @@ void frmSelectFlash::MostraFatti() {
   const bool out = card.Uscita || (card.Fatti && !card.Fatti->HasMedium);
   Veste(*lblFatti, Carattere::Corpo, out ? Ruolo::Avviso : Ruolo::Testo);
   lblContenuto->setText(out ? QString() : Qs(ProgettoSullaScheda(C(), card.Radice)));
-  cmdFlash->setAccessibleDescription(lblFatti->text() + ' ' + lblContenuto->text());
+  QStringList heard{lblFatti->text(), lblContenuto->text()};
+  heard.removeAll(QString());
+  cmdFlash->setAccessibleDescription(heard.join(QLatin1String(". ")));
 }
 
 void frmSelectFlash::AlloScarico() {

@@ -154,6 +154,7 @@ void frmPlayerConfig::Collega() {
     CambiaCodice([&] { codice_->Scegli(code); });
   };
   fraFileName->SuScelta = [this] { SceltoFile(); };
+  fraFileName->SuCartella = [this] { OffriCartella(); };
   fraFileName->SuSfoglia = [this] { SfogliaMp3(); };
   connect(fraFileName->cmdOkFileMp3, &QAbstractButton::clicked, this, [this] {
     if (!fraFileName->OkSospeso()) ConfermaFile();

@@ -50,6 +50,7 @@ class IngressiLogici : public Riquadro {
   void Mostra(const CodiceScelto& codice);
   /// Offers the way to the folder of the combination's file, or doesn't where it is "".
   void OffriCartella(const std::string& cartella);
+  bool OffreCartella() const { return !cmdVaiAlFile->isHidden(); }
   void Localizza();
 
  protected:

@@ -36,6 +36,7 @@ PaneMp3::PaneMp3(Contesto& contesto, QWidget* padre)
     const QString folder = Qs(PercorsoPerPersone(contesto_, DirDirectoryMp3->Percorso()));
     lblPercorso->setText(folder);
     lblPercorso->setToolTip(Suggerimento(folder));
+    if (SuCartella) SuCartella();
     RiempiElencoMp3();
   };
 }

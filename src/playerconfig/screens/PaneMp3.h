@@ -62,6 +62,8 @@ class PaneMp3 : public Riquadro {
 
   /// Called for every choice of an item, by the user or by code, the same one too.
   std::function<void()> SuScelta;
+  /// Called when another folder is shown, before its files are.
+  std::function<void()> SuCartella;
   /// Called for a double click on the label of the folder, or its picture.
   std::function<void()> SuSfoglia;
 

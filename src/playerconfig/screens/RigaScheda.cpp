@@ -77,11 +77,6 @@ void RigaScheda::MostraStato(const std::optional<Drive>& fatti) {
   const std::string& root = contesto_.Stato.PercorsoMemoryCard;
   const CardState state = StateOf(root, fatti);
   std::string words = TestoLingua(contesto_, state.Key);
-  if (root != registrata_ || !fatti || !fatti->HasMedium) {
-    registrata_.clear();
-  } else if (state.Role == Ruolo::Buono) {
-    words = ConValori(TestoLinguaO(contesto_, "0130262", "recorded at %1"), {alle_});
-  }
   // A card that was chosen before this project was opened isn't in the label: it is named here.
   if (!root.empty() && !Std(lblPathMemoryCard->text()).ends_with(root)) words = root + " " + words;
   if (fatti && fatti->HasMedium) {
@@ -97,12 +92,6 @@ void RigaScheda::MostraStato(const std::optional<Drive>& fatti) {
   segno_->setPixmap(DisegnoDi(QLatin1String(state.Icon), {kSign, kSign},
                               lblStato->palette().color(QPalette::WindowText),
                               devicePixelRatioF()));
-}
-
-void RigaScheda::Registrata(const std::string& scheda) {
-  const std::tm now = contesto_.Ora.Adesso();
-  registrata_ = scheda;
-  alle_ = FormatDigits(now.tm_hour, 2) + ":" + FormatDigits(now.tm_min, 2);
 }
 
 void RigaScheda::ImpostaBisogno(std::uint64_t byte) {

@@ -3,7 +3,6 @@
 #include <QLabel>
 #include <functional>
 #include <optional>
-#include <string>
 
 #include "core/Contesto.h"
 #include "core/screens/Avvisi.h"
@@ -27,9 +26,6 @@ class RigaScheda : public QWidget {
   /// The path as the form shows it, and what the host tells of the card now.
   void Mostra(const QString& percorso, const std::optional<Drive>& fatti);
   void MostraStato(const std::optional<Drive>& fatti);
-  /// The root of the card that has the project since now, "" for none; said until the card goes or
-  /// another is chosen.
-  void Registrata(const std::string& scheda);
   /// The bytes that the project takes, for the gauge; 0: none is shown.
   void ImpostaBisogno(std::uint64_t byte);
   void Localizza();
@@ -46,8 +42,6 @@ class RigaScheda : public QWidget {
   QLabel* segno_;
   std::optional<Drive> fatti_;
   std::uint64_t bisogno_ = 0;
-  std::string registrata_;  ///< the card that was recorded, and the time of day
-  std::string alle_;
 };
 
 }  // namespace kvr5

@@ -30,12 +30,14 @@ constexpr std::size_t kRowsRead = 500;
 constexpr std::size_t kFilesSeen = 100;
 constexpr int kLongestPause = 15;  // rounds of the watch between two tries to read
 
-/// The file that the rows have for a code, as it is shown; nothing for a code without a row.
-std::optional<std::string> FileOf(const std::vector<RigaIngresso>& rows, std::int16_t code) {
-  const auto row = std::find_if(rows.begin(), rows.end(),
-                                [code](const RigaIngresso& each) { return each.Pos == code; });
-  if (code == 0 || row == rows.end()) return {};
-  return row->FileName.value_or("");
+/// Whether the rows have for a code what is shown of it.
+bool IsShown(const std::vector<RigaIngresso>& rows, const CodiceScelto& code) {
+  const auto row = std::find_if(rows.begin(), rows.end(), [&](const RigaIngresso& each) {
+    return each.Pos == code.Codice();
+  });
+  if (code.Codice() == 0 || row == rows.end()) return !code.DaScegliere();
+  return code.DaScegliere() == row->FileName.value_or("") &&
+         code.Cartella() == row->FilePath.value_or("");
 }
 
 }  // namespace
@@ -142,8 +144,8 @@ void frmPlayerConfig::AllAttivazione() {
   const bool changed = codice_->AbilitaIngressiRs485();
   // Files come and go while another window is in front. At the first time the load has just looked.
   if (std::exchange(lasciata_, true) && !lavora_) {
+    AggiornaElenco();  // first: a button that has changed is held up before any event runs
     RileggiCartella();
-    AggiornaElenco();
     CominciaConto(false);
   }
   fraIngressiLogici->Mostra(*codice_);
@@ -155,13 +157,14 @@ void frmPlayerConfig::AllAttivazione() {
 
 void frmPlayerConfig::RileggiCartella() {
   const std::string before = fraFileName->Scelto();
-  if (!fraFileName->Rileggi()) return;
-  const auto& assigned = codice_->DaScegliere();
-  const bool free = Rifila(fraFileName->Scelto()).empty() && !fraFileName->SceltoDallUtente();
-  if (free && assigned) return fraFileName->Scegli(*assigned);
-  // Not for a file that stays picked: the click that brings the hub to the front may be its
-  // confirm.
-  if (fraFileName->Scelto() != before) SceltoFile();
+  if (fraFileName->Rileggi()) {
+    const auto& assigned = codice_->DaScegliere();
+    const bool free = Rifila(fraFileName->Scelto()).empty() && !fraFileName->SceltoDallUtente();
+    if (free && assigned) return fraFileName->Scegli(*assigned);
+    if (fraFileName->Scelto() != before) return SceltoFile();
+  }
+  // The button stays meanwhile: the click that brings the hub to the front may be meant for it.
+  MostraInfoMp3();
 }
 
 void frmPlayerConfig::CambiaCodice(const std::function<void()>& cambia) {
@@ -217,6 +220,7 @@ void frmPlayerConfig::Ritenta() {
 }
 
 void frmPlayerConfig::MostraCodice(bool scegli) {
+  OffriCartella();
   fraIngressiLogici->Mostra(*codice_);
   Assegnazioni->Evidenzia(codice_->Codice());
   fraFileName->lblfraFileName->setText(Qs(codice_->lblfraFileName()));
@@ -245,7 +249,8 @@ void frmPlayerConfig::AggiornaElenco(bool inVista) {
     Assegnazioni->Evidenzia(codice_->Codice(), inVista);
   }
   // What is ticked has another file by now, or could not be looked up before.
-  if (FileOf(rows, codice_->Codice()) != codice_->DaScegliere()) RivediCodice();
+  if (!IsShown(rows, *codice_)) return RivediCodice();
+  OffriCartella();
 }
 
 bool frmPlayerConfig::AncoraCosi() {
@@ -264,7 +269,6 @@ void frmPlayerConfig::SceltoFile() {
   fraFileName->MostraOk(false);
   ValutaScelta();
   if (keyboard && fraFileName->cmdOkFileMp3->isVisible()) fraFileName->cmdOkFileMp3->setFocus();
-  OffriCartella();
 }
 
 void frmPlayerConfig::OffriCartella() {
@@ -273,17 +277,22 @@ void frmPlayerConfig::OffriCartella() {
   const std::string there = AggiungiBarra(codice_->Cartella());
   const std::string here = AggiungiBarra(fraFileName->DirDirectoryMp3->Percorso());
   const FileSystem& files = C().Files;
-  const bool away = FileExists(files, there + name) && !files.SameFile(there + name, here + name);
+  const bool isName = !name.empty() && FaultOf(name) == NameFault::None;
+  const bool away =
+      isName && FileExists(files, there + name) && !files.SameFile(there + name, here + name);
+  if (!away && focusWidget() == fraIngressiLogici->cmdVaiAlFile) {
+    fraFileName->cmbFileMp3->setFocus();
+  }
   fraIngressiLogici->OffriCartella(away ? there : "");
 }
 
 void frmPlayerConfig::VaiAlFile() {
   const Impegno stays(*this);
+  OffriCartella();  // it may have gone since it was offered
+  if (!fraIngressiLogici->OffreCartella()) return;
   fraFileName->LiberaOk();
-  const std::string name = codice_->DaScegliere().value_or("");
   fraFileName->DirDirectoryMp3->ImpostaPercorso(codice_->Cartella());
-  fraFileName->cmbFileMp3->setFocus();
-  fraFileName->Scegli(name);
+  MostraCodice();
 }
 
 void frmPlayerConfig::ValutaScelta() {
@@ -318,11 +327,18 @@ void frmPlayerConfig::MostraInfoMp3() {
   const EtichetteMp3& labels = panel.Etichette;
   fraFileInfo->Mostra(Qs(labels.lblVersioneMpeg), Qs(labels.lblBitrate), Qs(labels.lblFreq),
                       Qs(labels.lblDurata));
-  const std::string reason =
-      file ? ParoleRifiuto(C(), MotivoPerIngressi(info, lettore_.Ricerca()), info)
-           : TestoLinguaO(C(), "0130258", "This file isn't there any more, or it can't be read.");
-  fraFileInfo->MostraAvviso(panel.lblBadFileType, Qs(reason));
+  fraFileInfo->MostraAvviso(panel.lblBadFileType,
+                            panel.lblBadFileType ? Qs(Motivo(info, !file)) : QString());
   fraFileName->MostraOk(!panel.lblBadFileType && codice_ && codice_->Codice() >= 1);
+}
+
+std::string frmPlayerConfig::Motivo(const InfoMp3& info, bool manca) {
+  const bool closed = std::ranges::any_of(
+      lettore_.Errori(), [](const ErroreMp3& each) { return each.Luogo == "LeggiInfoMp3.Open"; });
+  if (manca || closed) {
+    return TestoLinguaO(C(), "0130258", "This file isn't there any more, or it can't be read.");
+  }
+  return ParoleRifiuto(C(), MotivoPerIngressi(info, lettore_.Ricerca()), info);
 }
 
 void frmPlayerConfig::ConfermaFile() {
@@ -398,17 +414,16 @@ void frmPlayerConfig::Registra() {
   const Impegno stays(*this);  // a close that is asked for meanwhile comes at the end
   lavora_ = true;
   conto_.Interrompi();  // no database is open while it is copied
-  const EsitoScheda end = servizi_.RegistraProgetto(ingressi_);
+  const bool cancelled = servizi_.RegistraProgetto(ingressi_);
   lavora_ = false;
-  if (end.Annullata) {
+  if (cancelled) {
     show();
     setEnabled(true);
   }
   const OkInPosto same(*this);
-  RileggiCartella();
   AggiornaElenco();
+  RileggiCartella();
   CominciaConto();
-  Scheda->Registrata(end.Scheda);
   Scheda->MostraStato(servizi_.FattiDellaScheda());
 }
 

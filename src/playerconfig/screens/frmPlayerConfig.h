@@ -120,6 +120,8 @@ class frmPlayerConfig : public Form {
   void VaiAlFile();
   void ValutaScelta();
   void MostraInfoMp3();
+  /// Why the picked file is refused.
+  std::string Motivo(const InfoMp3& info, bool manca);
   void ConfermaFile();
   void SfogliaMp3();
   void Registra();

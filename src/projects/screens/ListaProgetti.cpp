@@ -26,8 +26,10 @@ QVariant ListaProgetti::data(const QModelIndex& indice, int ruolo) const {
   const auto row = static_cast<std::size_t>(indice.row());
   if (row >= righe_.Quante()) return {};
   if (ruolo == Qt::FontRole && indice.column() == Nome) return FontDi(Carattere::Riquadro);
-  if (ruolo == Qt::ToolTipRole && indice.column() == Nome) return Qs(righe_.Nome(row));
-  if (ruolo == Qt::ToolTipRole && indice.column() == Player) return Qs(righe_.Modello(row));
+  if (ruolo == Qt::ToolTipRole) {
+    if (indice.column() == Nome) return Suggerimento(Qs(righe_.Nome(row)));
+    if (indice.column() == Player) return Suggerimento(Qs(righe_.Modello(row)));
+  }
   if (ruolo != Qt::DisplayRole) return {};
   switch (indice.column()) {
     case Nome:

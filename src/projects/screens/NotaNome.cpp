@@ -16,21 +16,24 @@ void Scrivi(QLabel& line, Ruolo role, const QString& text) {
   line.setToolTip(Suggerimento(text));
 }
 
+/// What to do about a name; "" for a good one.
 QString Avvertenza(Contesto& contesto, const std::string& nome) {
-  const auto words = [&](const char* key) { return Qs(TestoLingua(contesto, key)); };
+  const auto words = [&](const char* key, const char* fallback) {
+    return Qs(TestoLinguaO(contesto, key, fallback));
+  };
   switch (DifettoDelNome(contesto, nome)) {
     case DifettoNome::Nessuno:
-      return {};
+      break;
     case DifettoNome::Carattere:
-      return words("0130108");
+      return words("0130108", "This name holds a character that isn't allowed");
     case DifettoNome::Fine:
-      return words("0130253");
+      return words("0130253", "Take away the blank or dot at the end of this name");
     case DifettoNome::Riservato:
-      return words("0130259");
+      return words("0130259", "This name is kept for a device. Choose another one.");
     case DifettoNome::Lungo:
-      return words("0130260");
+      return words("0130260", "This name is too long. Choose a shorter one.");
     case DifettoNome::Lettera:
-      return words("0130261");
+      return words("0130261", "This name holds a character that the project can't keep");
   }
   return {};
 }

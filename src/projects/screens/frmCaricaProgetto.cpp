@@ -21,6 +21,17 @@ namespace {
 constexpr std::int16_t kForm = 8;
 constexpr std::int16_t kFromDisk = 1;
 
+/// Letters typed look for a name, wherever in its row the mouse was.
+class TabellaProgetti : public QTableView {
+ public:
+  using QTableView::QTableView;
+  void keyboardSearch(const QString& text) override {
+    const QModelIndex name = currentIndex().siblingAtColumn(ListaProgetti::Nome);
+    if (name.isValid()) selectionModel()->setCurrentIndex(name, QItemSelectionModel::NoUpdate);
+    QTableView::keyboardSearch(text);
+  }
+};
+
 }  // namespace
 
 frmCaricaProgetto::frmCaricaProgetto(Ambiente& ambiente)
@@ -66,7 +77,7 @@ void frmCaricaProgetto::Costruisci() {
 }
 
 void frmCaricaProgetto::CostruisciElenco() {
-  lstProgetti = new QTableView(this);
+  lstProgetti = new TabellaProgetti(this);
   lstProgetti->setObjectName(QStringLiteral("lstProgetti"));
   lstProgetti->setModel(&lista_);
   lstProgetti->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -88,13 +99,6 @@ void frmCaricaProgetto::CostruisciElenco() {
 void frmCaricaProgetto::Collega() {
   connect(picOpen, &QAbstractButton::clicked, this, [this] { ApriScelto(); });
   connect(lstProgetti, &QTableView::doubleClicked, this, [this] { ApriScelto(); });
-  // Letters typed look for a name, wherever in its row the mouse was.
-  connect(lstProgetti->selectionModel(), &QItemSelectionModel::currentChanged, this,
-          [this](const QModelIndex& now) {
-            if (now.column() <= ListaProgetti::Nome) return;
-            lstProgetti->selectionModel()->setCurrentIndex(now.siblingAtColumn(ListaProgetti::Nome),
-                                                           QItemSelectionModel::NoUpdate);
-          });
   connect(picLoad, &QAbstractButton::clicked, this, [this] { ApriAltraCartella(); });
   connect(picindietro, &QAbstractButton::clicked, this, [this] { Indietro(); });
   connect(picHelp, &QAbstractButton::clicked, this, [this] { Aiuto(); });

@@ -64,9 +64,11 @@ TEST_F(Configura, WithoutAStoredLanguageTheChoiceCanBeStoredAtOnce) {
 
 TEST_F(Configura, ALanguageThatIsNotThereLeavesTheFirstItemShown) {
   Scrivi("[Config]\r\nLanguageFile=Esperanto.lan\r\n");
+  b.C.Stato.FileLingua = b.Percorso("program/Language/Esperanto.lan");
   frmConfig& form = Apri();
   EXPECT_EQ(form.cmbLanguage->currentIndex(), 0);
   EXPECT_EQ(form.cmbLanguage->currentText(), form.cmbLanguage->itemText(0));
+  EXPECT_EQ(form.lblNota->text(), "") << "no language is in use";
   EXPECT_FALSE(Modificato());
 }
 
@@ -332,7 +334,7 @@ TEST_F(Configura, AFolderThatTheSettingsCannotKeepIsWarnedOf) {
     Clicca(*form.cmdSelPrjDir);
     EXPECT_EQ(form.lblNota->text().isEmpty(), length == 98) << "with the closing backslash";
   }
-  EXPECT_TRUE(form.lblNota->text().startsWith("The settings keep 99 characters of a path"));
+  EXPECT_TRUE(form.lblNota->text().startsWith("This path is longer than the settings can keep"));
   EXPECT_EQ(form.txtProjectDir->accessibleDescription(), form.lblNota->text());
 }
 

@@ -218,6 +218,21 @@ TEST_F(SelectFlash, EachItemOfTheListCarriesItsCardsFacts) {
   });
 }
 
+TEST_F(SelectFlash, AScreenReaderHearsTheFactsOfTheSelectedCardWithTheList) {
+  drives.Aggiungi("e:");
+  drives.Aggiungi("f:");
+  Show([this](frmSelectFlash& dialog) {
+    const auto heard = [&] { return dialog.cmdFlash->accessibleDescription().toStdString(); };
+    EXPECT_TRUE(heard().starts_with("CARD-E")) << heard();
+    EXPECT_TRUE(heard().ends_with(". No project is on it.")) << heard();
+    QTest::keyClick(dialog.cmdFlash, Qt::Key_Down);
+    EXPECT_TRUE(heard().starts_with("CARD-F")) << heard();
+    drives.Estratta = "F:\\";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return heard() == "taken out: put it back in"; }, 6000));
+    test::Clicca(dialog, "picCancel");
+  });
+}
+
 TEST_F(SelectFlash, ACardThatIsTakenOutWhileTheDialogStandsSaysSoAndStaysChosen) {
   drives.Aggiungi("e:");
   Show([this](frmSelectFlash& dialog) {

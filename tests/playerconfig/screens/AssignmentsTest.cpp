@@ -6,6 +6,7 @@
 #include <QScrollBar>
 #include <QTest>
 
+#include "platform/db/Connection.h"
 #include "playerconfig/screens/BancoHub.h"
 
 // The list of all assigned combinations.
@@ -244,6 +245,42 @@ TEST_F(Assignments, AFileThatLiesElsewhereIsOneClickAway) {
   EXPECT_TRUE(SiVede("cmdVaiAlFile")) << "the folder before is another one by now";
   Clic("cmdOkFileMp3");
   EXPECT_FALSE(SiVede("cmdVaiAlFile")) << "of what was taken away";
+}
+
+TEST_F(Assignments, TheWayToAFileIsOfferedAsLongAsItLeadsThere) {
+  b.ScriviMp3("other/far.mp3");
+  b.ScriviMp3("third/far.mp3");
+  b.AggiungiRiga("inputcfg.mdb", 1, 1, "far.mp3", b.Percorso("other") + "\\", "1.mp3");
+  b.AggiungiRiga("inputcfg.mdb", 1, 2, "", b.Percorso("other") + "\\", "2.mp3");
+  b.AggiungiRiga("inputcfg.mdb", 1, 3, "*.mp3", b.Percorso("other") + "\\", "3.mp3");
+  Apri(0);
+  Attiva();
+  auto& list = Trova<QListWidget>("lstAssegnati");
+  for (const int nameless : {1, 2}) {
+    ClicRiga(list, nameless);
+    EXPECT_FALSE(SiVede("cmdVaiAlFile")) << nameless;
+  }
+  ClicRiga(list, 0);
+  ASSERT_TRUE(SiVede("cmdVaiAlFile"));
+  ScegliFile("b.mp3");
+  std::filesystem::remove(b.Cartella.Host() / "other/far.mp3");
+  Clic("cmdVaiAlFile");
+  EXPECT_EQ(Trova<QComboBox>("cmbFileMp3").currentText(), "b.mp3") << "nothing to go to";
+  EXPECT_EQ(Testo("lblOkFileMp3"), "Confirm");
+  EXPECT_FALSE(SiVede("cmdVaiAlFile"));
+  b.ScriviMp3("other/far.mp3");
+  Attiva();
+  EXPECT_TRUE(SiVede("cmdVaiAlFile")) << "it is back";
+  {
+    Connection other(b.Disco);
+    ASSERT_FALSE(other.Open(b.Percorso("program/Projects/Hall/inputcfg.mdb")));
+    ASSERT_FALSE(other.Execute("UPDATE [List] SET [FilePath]='" + b.Percorso("third") +
+                               "\\' WHERE [Pos]=1"));
+  }
+  Attiva();
+  Clic("cmdVaiAlFile");
+  EXPECT_EQ(hub->fraFileName->DirDirectoryMp3->Percorso(), b.Percorso("third"));
+  EXPECT_EQ(Trova<QComboBox>("cmbFileMp3").currentText(), "far.mp3");
 }
 
 }  // namespace

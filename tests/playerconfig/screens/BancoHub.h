@@ -23,15 +23,15 @@ namespace kvr5::test {
 /// there as the test says.
 class ServiziFinti : public ServiziHub {
  public:
-  EsitoScheda RegistraProgetto(TabellaIngressi& /*ingressi*/) override {
+  bool RegistraProgetto(TabellaIngressi& /*ingressi*/) override {
     ++Registrazioni;
     if (SuRegistra) SuRegistra();
-    return Esito;
+    return Annullata;
   }
   std::optional<Drive> FattiDellaScheda() override { return Scheda; }
 
   int Registrazioni = 0;
-  EsitoScheda Esito;
+  bool Annullata = false;
   std::function<void()> SuRegistra;
   std::optional<Drive> Scheda;
 };

@@ -188,32 +188,5 @@ TEST_F(UnsavedSign, AssignmentsAreKeptAtOnceAndRaiseNone) {
   EXPECT_FALSE(Shown());
 }
 
-TEST_F(CardLine, SaysWhenTheCardWasRecordedUntilItGoesOrAnotherIsChosen) {
-  servizi.Scheda = Card();
-  servizi.Esito.Scheda = "E:\\";
-  Open("E:\\");
-  hub->AggiornaPercorsoMemoryCard();
-  const auto state = [this] { return Testo("lblStatoScheda"); };
-  const std::string facts = ", SHOP, 1.9 GB, 1.4 GB free";
-  Clic("picRecordFlash");
-  EXPECT_EQ(state(), "recorded at 08:05" + facts);
-  servizi.Esito.Scheda.clear();  // told by a box: not all of it is there
-  Clic("picRecordFlash");
-  EXPECT_EQ(state(), "ready" + facts);
-  servizi.Esito.Scheda = "E:\\";
-  Clic("picRecordFlash");
-  servizi.Scheda->HasMedium = false;
-  hub->AggiornaPercorsoMemoryCard();
-  servizi.Scheda->HasMedium = true;
-  hub->AggiornaPercorsoMemoryCard();
-  EXPECT_EQ(state(), "ready" + facts) << "it may be another card";
-  Clic("picRecordFlash");
-  b.C.Stato.PercorsoMemoryCard = "F:\\";
-  hub->AggiornaPercorsoMemoryCard();
-  EXPECT_EQ(state(), "ready" + facts);
-  Clic("picRecordFlash");
-  EXPECT_EQ(state(), "ready" + facts) << "the recording went to the card before";
-}
-
 }  // namespace
 }  // namespace kvr5

@@ -243,5 +243,30 @@ TEST_F(FileInfo, APickThatComesWhileEventsRunIsTheOneThatIsJudged) {
   EXPECT_FALSE(Ok()) << "b.mp3 would be assigned";
 }
 
+TEST_F(FileInfo, AFileThatWasStillBeingCopiedIsJudgedAgainWhenTheHubComesBack) {
+  b.ScriviMp3("whole.mp3", 0, 100);
+  b.Cartella.Write("music/a.mp3", "");
+  b.ScriviMp3("music/b.mp3");
+  Apri(0);
+  const auto activate = [this] {
+    QEvent activation(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(hub, &activation);
+  };
+  activate();
+  Spunta(1);
+  ScegliFile("b.mp3");
+  ScegliFile("a.mp3");
+  ASSERT_TRUE(Refused());
+  b.Cartella.Write("music/a.mp3", b.Cartella.Read("whole.mp3"));
+  activate();
+  EXPECT_FALSE(Refused());
+  EXPECT_NE(Figures(), kNoFigures);
+  EXPECT_TRUE(Ok());
+  b.Cartella.Write("music/a.mp3", std::string(5000, 'x'));
+  activate();
+  EXPECT_TRUE(Refused());
+  EXPECT_FALSE(Ok());
+}
+
 }  // namespace
 }  // namespace kvr5

@@ -19,15 +19,18 @@ template <class Schermo>
 void ProvaNomiSenzaCartella(Schermo& form) {
   const auto colour = [&] { return form.lblCartella->palette().color(QPalette::WindowText); };
   const std::string end = "No folder can be called so: take away the blank or dot at its end";
-  const std::string kept = "No folder can be called so: this name is kept for a device";
+  const std::string kept =
+      "No folder can be called so: this name is kept for a device. Choose another one.";
   const std::vector<std::pair<std::string, std::string>> cases{
       {"Hall ", end},
       {"Hall.", end},
       {"CON", kept},
       {"nul.txt", kept},
       {"a*b", "This name holds a character that isn't allowed"},
-      {"\u65E5", "A project's file can't keep a letter of this name. Use others."},
-      {std::string(300, 'x'), "This name is too long"}};
+      {"\u65E5", "The project's file can't keep a character of this name. Choose other letters."},
+      {std::string(100, 'x'),
+       "This name is too long: the project's file keeps 99 characters of it. Choose a shorter "
+       "one."}};
   for (const auto& [name, words] : cases) {
     form.txtNomeProgetto->setText(Qs(name));
     EXPECT_EQ(Scritta(form, "lblCartella"), words) << name;

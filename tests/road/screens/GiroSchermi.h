@@ -22,7 +22,7 @@ struct SchermoVisto {
 /// What the hub has done by others on a walk: nothing, and a card that is there as the walk says.
 class ServiziDelGiro : public ServiziHub {
  public:
-  EsitoScheda RegistraProgetto(TabellaIngressi& /*ingressi*/) override { return {}; }
+  bool RegistraProgetto(TabellaIngressi& /*ingressi*/) override { return false; }
   std::optional<Drive> FattiDellaScheda() override { return Scheda; }
   std::optional<Drive> Scheda;
 };
