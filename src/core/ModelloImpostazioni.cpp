@@ -75,7 +75,8 @@ std::string ModelloImpostazioni::AltraInUso() const {
 
 bool ModelloImpostazioni::CartellaTroppoLunga() const {
   const CodePage page = PaginaDelFile(contesto_, FileImpostazioni(contesto_));
-  return page.Length(page.Encode(AggiungiBarra(cartella_))) > kCaratteriImpostazione;
+  constexpr std::size_t kBar = 1;  // the closing one is no loss
+  return page.Length(page.Encode(AggiungiBarra(cartella_))) > kCaratteriImpostazione + kBar;
 }
 
 void ModelloImpostazioni::CambiaCartella(std::string_view cartella) {

@@ -157,6 +157,7 @@ void IngressiLogici::OffriCartella(const std::string& cartella) {
   cmdVaiAlFile->setVisible(!cartella.empty());
   const QString folder = Qs(PercorsoPerPersone(contesto_, cartella));
   cmdVaiAlFile->setToolTip(Suggerimento(cmdVaiAlFile->Scritta() + ": " + folder));
+  cmdVaiAlFile->setAccessibleDescription(folder);
 }
 
 void IngressiLogici::Localizza() {

@@ -141,17 +141,16 @@ void frmPlayerConfig::AllAttivazione() {
   if (!codice_) return;
   const Impegno stays(*this);
   const OkInPosto same(*this);  // the click that brings the hub to the front comes next
-  const bool changed = codice_->AbilitaIngressiRs485();
+  if (codice_->AbilitaIngressiRs485()) {
+    fraFileName->SegnaScelta(false);
+    MostraCodice();
+  }
+  fraIngressiLogici->Mostra(*codice_);
   // Files come and go while another window is in front. At the first time the load has just looked.
   if (std::exchange(lasciata_, true) && !lavora_) {
     AggiornaElenco();  // first: a button that has changed is held up before any event runs
     RileggiCartella();
     CominciaConto(false);
-  }
-  fraIngressiLogici->Mostra(*codice_);
-  if (changed) {
-    fraFileName->SegnaScelta(false);
-    MostraCodice();
   }
 }
 
@@ -164,6 +163,7 @@ void frmPlayerConfig::RileggiCartella() {
     if (fraFileName->Scelto() != before) return SceltoFile();
   }
   // The button stays meanwhile: the click that brings the hub to the front may be meant for it.
+  fraFileInfo->tmrInfoMp3.stop();
   MostraInfoMp3();
 }
 
@@ -192,7 +192,7 @@ frmPlayerConfig::OkInPosto::~OkInPosto() {
 
 frmPlayerConfig::FattoDaOk frmPlayerConfig::OkFa() const {
   return {!fraFileName->cmdOkFileMp3->isHidden(), fraFileName->Scelto(), codice_->Codice(),
-          codice_->DaScegliere()};
+          codice_->DaScegliere(), codice_->Cartella()};
 }
 
 void frmPlayerConfig::RivediCodice() {
@@ -254,13 +254,13 @@ void frmPlayerConfig::AggiornaElenco(bool inVista) {
 }
 
 bool frmPlayerConfig::AncoraCosi() {
-  const auto shown = codice_->DaScegliere();
+  const FattoDaOk shown = OkFa();
   if (lavora_ && !ingressi_.Aperta()) {
     C().Errore.Record(Error(errors::ObjectClosed));  // for the while that it is copied
     return false;
   }
   AggiornaElenco();
-  return !illeggibile_ && codice_->DaScegliere() == shown;
+  return !illeggibile_ && OkFa() == shown;
 }
 
 void frmPlayerConfig::SceltoFile() {
@@ -333,9 +333,8 @@ void frmPlayerConfig::MostraInfoMp3() {
 }
 
 std::string frmPlayerConfig::Motivo(const InfoMp3& info, bool manca) {
-  const bool closed = std::ranges::any_of(
-      lettore_.Errori(), [](const ErroreMp3& each) { return each.Luogo == "LeggiInfoMp3.Open"; });
-  if (manca || closed) {
+  // Nothing was found and something failed: it was the reading.
+  if (manca || (!info.Valid && !lettore_.Errori().empty())) {
     return TestoLinguaO(C(), "0130258", "This file isn't there any more, or it can't be read.");
   }
   return ParoleRifiuto(C(), MotivoPerIngressi(info, lettore_.Ricerca()), info);

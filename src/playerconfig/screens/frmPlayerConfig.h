@@ -67,7 +67,8 @@ class frmPlayerConfig : public Form {
     bool SiVede = false;
     std::string File;  ///< " " takes away
     std::int16_t Codice = 0;
-    std::optional<std::string> Assegnato;  ///< what the code has by now
+    std::optional<std::string> Assegnato;  ///< what the code has by now, and its folder
+    std::string Cartella;
     bool operator==(const FattoDaOk&) const = default;
   };
 

@@ -326,13 +326,13 @@ TEST_F(Configura, AFolderThatTheSettingsCannotKeepIsWarnedOf) {
   frmConfig& form = Apri();
   EXPECT_EQ(form.lblNota->text(), "");
   const std::string root = b.Percorso("x").substr(0, b.Percorso("x").size() - 1);
-  for (const std::size_t length : {std::size_t{98}, std::size_t{99}}) {
+  for (const std::size_t length : {std::size_t{99}, std::size_t{100}}) {
     std::string name;
     for (std::size_t i = root.size(); i < length; ++i) name += "\u00E8";  // a character each
     std::filesystem::create_directories(b.Cartella.Host() / name);
     b.Finestre.ScegliCartella(root + name);
     Clicca(*form.cmdSelPrjDir);
-    EXPECT_EQ(form.lblNota->text().isEmpty(), length == 98) << "with the closing backslash";
+    EXPECT_EQ(form.lblNota->text().isEmpty(), length == 99) << length;
   }
   EXPECT_TRUE(form.lblNota->text().startsWith("This path is longer than the settings can keep"));
   EXPECT_EQ(form.txtProjectDir->accessibleDescription(), form.lblNota->text());

@@ -254,6 +254,22 @@ TEST_F(OtherProgram, ThatChangesAFileIsSeenBeforeTheClickThatBringsTheHubBackRem
   }
 }
 
+TEST_F(OtherProgram, ThatMovesAFileToAnotherFolderIsSeenBeforeItIsTakenAway) {
+  Adds(1, "a.mp3");
+  b.ScriviMp3("other/a.mp3");
+  Apri(0);
+  Spunta(1);
+  ScegliFile(" ");
+  Sql("UPDATE List SET FilePath='" + b.Percorso("other") + "\\' WHERE Pos=1");
+  Conferma();
+  EXPECT_NE(Riga(1), "");
+  LookAtIt();
+  EXPECT_TRUE(SiVede("cmdVaiAlFile"));
+  ScegliFile(" ");
+  Conferma();
+  EXPECT_EQ(Riga(1), "");
+}
+
 TEST_F(OtherProgram, APressThatBeganTooSoonDoesNothingHoweverLateItEnds) {
   Adds(1, "a.mp3");
   Apri(0);
