@@ -63,7 +63,7 @@ std::string ProgettoSullaScheda(Contesto& contesto, std::string_view radice) {
                                : facts->Nome;
   const std::string when =
       facts->Modificato ? QuandoInParole(contesto, *facts->Modificato) : std::string();
-  return ConValori(TestoLinguaO(contesto, "0130027", "On it: %1, written %2"), {name, when});
+  return ConValori(TestoLinguaO(contesto, "0130027", "On it: %1, changed %2"), {name, when});
 }
 
 }  // namespace kvr5

@@ -70,7 +70,7 @@ TEST_F(CardFacts, NameTheProjectOnTheCardAndItsDay) {
   ASSERT_FALSE(file.Value()->SetModified(1'000'000'000));
   ASSERT_FALSE(file.Value()->Close());
   EXPECT_EQ(ProgettoSullaScheda(b.C, b.Percorso("card")),
-            "On it: Museum-Hall-2, written 2001-09-09");
+            "On it: Museum-Hall-2, changed 2001-09-09");
 }
 
 TEST_F(CardFacts, SayThatNoProjectIsOnTheCard) {
@@ -81,7 +81,7 @@ TEST_F(CardFacts, SayThatNoProjectIsOnTheCard) {
 TEST_F(CardFacts, OfADescriptorWithoutANameStillTellTheProject) {
   b.Cartella.Write("card/Config.cfg", "garbage");
   EXPECT_TRUE(ProgettoSullaScheda(b.C, b.Percorso("card"))
-                  .starts_with("On it: a project without a name, written "));
+                  .starts_with("On it: a project without a name, changed "));
 }
 
 TEST(CardFactsOfABadCard, AreToldWithoutHarm) {

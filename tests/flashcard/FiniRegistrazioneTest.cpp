@@ -39,8 +39,8 @@ TEST_F(Recording, TheSameMp3OnTwoInputsStopsTheRunWithoutAnyMp3) {
   inputs.Assegna(2, "a.mp3", Music());
   EXPECT_EQ(Record(), FineRegistrazione::FileMancante);
   ExpectBox("MP3 files not copied",
-            "No MP3 was copied. This file can't be found, or a second input uses it too (give "
-            "that one a copy under another name):\r\na.mp3",
+            "No MP3 was copied, so the card isn't complete. This file can't be found, or a second "
+            "input uses it too (give that one a copy under another name):\r\na.mp3",
             kOrange);
   EXPECT_EQ(Card(), (Names{"Config.cfg", "Config.txt", "inputcfg.mdb"}));
   EXPECT_EQ(b.Messaggi.Ora, Puntatore::Attesa) << "the wait pointer is left on";
@@ -53,8 +53,8 @@ TEST_F(Recording, AMissingTrackStopsTheRunWithItsPath) {
   b.AggiungiRiga("playlist.mdb", 1, 2, "gone.mp3", Music(), "P01-002.mp3");
   EXPECT_EQ(Record(), FineRegistrazione::FileMancante);
   ExpectBox("MP3 files not copied",
-            "No MP3 was copied. This file can't be found, or a second input uses it too (give "
-            "that one a copy under another name):\r\n" +
+            "No MP3 was copied, so the card isn't complete. This file can't be found, or a second "
+            "input uses it too (give that one a copy under another name):\r\n" +
                 (b.Cartella.Host() / "music/gone.mp3").string(),
             kOrange);
   EXPECT_EQ(Card(), (Names{"Config.cfg", "Config.txt", "playlist.mdb"}));
@@ -106,8 +106,8 @@ TEST_F(Recording, ACardThatIsNotThereIsToldBeforeAnythingElse) {
     EXPECT_EQ(Record(), FineRegistrazione::NonScrivibile);
     ExpectBox(
         "Recording not started",
-        "Nothing was copied: this card isn't there or can't be written. Open its lock, put it in, "
-        "choose it again.",
+        "Nothing was copied: this card isn't there or can't be written. Open its lock or put it "
+        "back in, then repeat.",
         0);
     EXPECT_FALSE(progress.Caricata());
   }
@@ -288,11 +288,12 @@ TEST_F(Recording, ARowThatCannotBeReadStopsTheRunNamingItsDatabase) {
   bytes.replace(page, 4, "\xFF\xFF\xFF\xFF");
   b.Cartella.Write(name, bytes);
   EXPECT_EQ(Record(), FineRegistrazione::FileMancante);
-  ExpectBox("MP3 files not copied",
-            "No MP3 was copied. This database can't be read to its end. Close other programs that "
-            "use this project, then record again:\r\n" +
-                b.Disco.HostPath(b.Percorso(name)),
-            kOrange);
+  ExpectBox(
+      "MP3 files not copied",
+      "No MP3 was copied, so the card isn't complete. This database can't be read to its end. "
+      "Close other programs that use this project, then record again:\r\n" +
+          b.Disco.HostPath(b.Percorso(name)),
+      kOrange);
 }
 
 TEST_F(Recording, ACardThatIsChosenMeanwhileIsTheNextOnes) {

@@ -2,6 +2,9 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QHeaderView>
+#include <QTimer>
+#include <QTreeView>
 
 #include "core/Lingua.h"
 #include "core/screens/Davanti.h"
@@ -26,6 +29,16 @@ class PlainPointer {
  private:
   bool busy_;
 };
+
+/// Gives the column of the dates the room that they need.
+void MostraDate(const QFileDialog& box) {
+  const auto* details = box.findChild<QTreeView*>(QStringLiteral("treeView"));
+  if (details == nullptr) return;
+  constexpr int kName = 0;
+  constexpr int kDate = 3;
+  details->header()->setSectionResizeMode(kName, QHeaderView::Stretch);
+  details->header()->setSectionResizeMode(kDate, QHeaderView::ResizeToContents);
+}
 
 }  // namespace
 
@@ -60,6 +73,8 @@ std::string FinestreQt::SfogliaCartella(const std::string& titolo, const std::st
   box.setFileMode(QFileDialog::Directory);
   box.setOption(QFileDialog::ShowDirsOnly);
   box.setOption(QFileDialog::ReadOnly);  // a folder is chosen, none renamed or deleted
+  // Where the desktop has no chooser of its own the toolkit's comes up, with its dates cut.
+  QTimer::singleShot(0, &box, [&box] { MostraDate(box); });
   MettiDavanti(box, FinestraSotto());
   if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) return {};
   const auto path = files.SystemPath(Std(box.selectedFiles().first()));

@@ -331,6 +331,20 @@ void Stile::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
   QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
+void Stile::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                        const QWidget* widget) const {
+  const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+  if (element != CE_ComboBoxLabel || combo == nullptr) {
+    return QProxyStyle::drawControl(element, option, painter, widget);
+  }
+  // By itself a long text ends in the middle of a letter.
+  QStyleOptionComboBox whole = *combo;
+  const QRect field = subControlRect(CC_ComboBox, combo, SC_ComboBoxEditField, widget);
+  whole.currentText = combo->fontMetrics.elidedText(combo->currentText, Qt::ElideMiddle,
+                                                    field.width() - spazi::kStretto);
+  QProxyStyle::drawControl(element, &whole, painter, widget);
+}
+
 void Stile::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                QPainter* painter, const QWidget* widget) const {
   if (const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option)) {

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <map>
 
+#include "core/Aiuti.h"
 #include "core/Lingua.h"
 #include "core/Parole.h"
 #include "core/ParoleCopia.h"
@@ -22,6 +23,8 @@ namespace kvr5 {
 PaneMp3::PaneMp3(Contesto& contesto, QWidget* padre)
     : Riquadro("fraFileName", {}, -1, padre), contesto_(contesto) {
   Costruisci();
+  connect(cmbFileMp3, &QComboBox::currentTextChanged, this,
+          [this](const QString& name) { cmbFileMp3->setToolTip(Suggerimento(name)); });
   connect(cmbFileMp3, &QComboBox::activated, this, [this] {
     sceltoDallUtente_ = true;
     LiberaOk();
@@ -76,7 +79,7 @@ void PaneMp3::Costruisci() {
   cmdStopMp3 = new Coppia("cmdStopMp3", "", {}, "ferma", -1, this);
   cmdOkFileMp3 =
       new Coppia("cmdOkFileMp3", "lblOkFileMp3", QStringLiteral("OK"), "fatto", 31, this);
-  // The numeral comes and goes with the button that it leads to.
+  // The numeral comes and goes with the button that it leads to; a removal is no step.
   numero_ = NumeroDiPasso(3, {}, this);
   cmdOkFileMp3->installEventFilter(this);
   // The time of a double click is that between two presses.
@@ -153,7 +156,10 @@ void PaneMp3::MostraTogliere(bool toglie) {
   cmdOkFileMp3->ImpostaScritta(Qs(toglie ? TestoLinguaO(contesto_, "0130251", "Remove file")
                                          : TestoLinguaO(contesto_, "0040031", "OK")));
   cmdOkFileMp3->ImpostaIcona(toglie ? "rimuovi" : "fatto");
-  cmdOkFileMp3->ImpostaGenere(toglie ? Coppia::Genere::Pericolo : Coppia::Genere::Normale);
+  // It calls for attention where the user asked for it by the blank item, and not where the folder
+  // merely lacks the file.
+  const auto removal = sceltoDallUtente_ ? Coppia::Genere::Pericolo : Coppia::Genere::Quieto;
+  cmdOkFileMp3->ImpostaGenere(toglie ? removal : Coppia::Genere::Normale);
   cmdOkFileMp3->setToolTip(Qs(TestoLingua(contesto_, toglie ? "0130252" : "0130136")));
 }
 
@@ -170,7 +176,7 @@ bool PaneMp3::eventFilter(QObject* object, QEvent* event) {
   }
   if (object == cmdOkFileMp3 &&
       (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent)) {
-    numero_->setVisible(!cmdOkFileMp3->isHidden());
+    numero_->setVisible(!cmdOkFileMp3->isHidden() && !Rifila(Scelto()).empty());
   }
   return Riquadro::eventFilter(object, event);
 }

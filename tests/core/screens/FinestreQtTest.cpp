@@ -1,4 +1,6 @@
 #include <QFileDialog>
+#include <QTest>
+#include <QTreeView>
 
 #include "core/screens/FinestreQt.h"
 #include "core/screens/RiquadroMessaggio.h"
@@ -34,6 +36,24 @@ TEST_F(Cartelle, AFolderThatNoPathCanNameIsToldAndNotTaken) {
     Clicca(box, "cmdOk");
   });
   EXPECT_EQ(b.C.Finestre.SfogliaCartella("Pick one", b.Percorso("")), "");
+}
+
+TEST_F(Cartelle, TheChooserShowsItsDatesWhole) {
+  std::filesystem::create_directory(b.Cartella.Host() / "a folder");
+  const Pilota<QFileDialog> pilot([](QFileDialog& chooser) {
+    auto* details = chooser.findChild<QTreeView*>(QStringLiteral("treeView"));
+    ASSERT_NE(details, nullptr);
+    constexpr int kDate = 3;
+    const QModelIndex first = details->model()->index(0, 0, details->rootIndex());
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+      const QModelIndex date = details->model()->index(0, kDate, details->rootIndex());
+      const int wanted = details->fontMetrics().horizontalAdvance(date.data().toString());
+      return wanted > 0 && details->columnWidth(kDate) >= wanted;
+    }));
+    EXPECT_GT(details->columnWidth(0), 200) << first.data().toString().toStdString();
+    chooser.close();
+  });
+  b.C.Finestre.SfogliaCartella("Pick one", b.Percorso(""));
 }
 
 TEST_F(Cartelle, ACancelGivesTheEmptyText) {

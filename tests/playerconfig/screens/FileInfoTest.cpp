@@ -67,6 +67,25 @@ TEST_F(FileInfo, TheThirdNumeralComesAndGoesWithTheButtonItLeadsTo) {
   Spunta(1);
   EXPECT_FALSE(Ok());
   EXPECT_FALSE(numeral());
+  Spunta(1);
+  ScegliFile(" ");
+  EXPECT_TRUE(Ok());
+  EXPECT_FALSE(numeral()) << "to take away is no step";
+}
+
+TEST_F(FileInfo, ARemovalCallsForAttentionOnlyWhereTheBlankLineWasPicked) {
+  b.ScriviMp3("music/a.mp3", 0, 100);
+  b.AggiungiRiga("inputcfg.mdb", 1, 1, "far.mp3", "C:\\far\\", "1.mp3");
+  Apri(0);
+  Spunta(1);
+  const auto& ok = Trova<Coppia>("cmdOkFileMp3");
+  EXPECT_EQ(Testo("lblOkFileMp3"), "Remove file");
+  EXPECT_EQ(ok.GenereOra(), Coppia::Genere::Quieto) << "the folder merely lacks the file";
+  ScegliFile("a.mp3");
+  EXPECT_EQ(ok.GenereOra(), Coppia::Genere::Normale);
+  EXPECT_EQ(Trova<QComboBox>("cmbFileMp3").toolTip(), "a.mp3");
+  ScegliFile(" ");
+  EXPECT_EQ(ok.GenereOra(), Coppia::Genere::Pericolo);
 }
 
 TEST_F(FileInfo, AFolderWithoutFilesSaysSo) {

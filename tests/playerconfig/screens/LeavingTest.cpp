@@ -33,7 +33,8 @@ class LeavingHub : public test::Hub {
 
 TEST_F(LeavingHub, IsAskedAboutInFourLines) {
   EXPECT_EQ(Leave("cmdCancel"),
-            "Leave project|Leave the project? Nothing is saved now.\nYes: main menu\n"
+            "Leave project|Leave the project? Assignments stay; levels and options that aren't "
+            "saved are lost.\nYes: main menu\n"
             "No: end the program\nCancel: stay");
 }
 
