@@ -259,7 +259,9 @@ void Recording::TellStop(const EsitoPassata& pass) {
   const std::string named = PathMap::IsSystemForm(file) ? PercorsoPerPersone(context_, file) : file;
   const std::string what =
       pass.DatabaseIlleggibile
-          ? TestoLinguaO(context_, "0130263", "No MP3 was copied. This database can't be read")
+          ? TestoLinguaO(
+                context_, "0130263",
+                "No MP3 was copied, so the card isn't complete. This database can't be read")
           : TestoLingua(context_, "0070019");
   Notice("0070009", what + ":\r\n" + named, true);
 }

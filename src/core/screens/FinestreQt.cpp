@@ -30,14 +30,15 @@ class PlainPointer {
   bool busy_;
 };
 
-/// Gives the column of the dates the room that they need.
-void MostraDate(const QFileDialog& box) {
+/// How wide the columns of names and dates are in the toolkit's own chooser.
+void ImpostaColonne(const QFileDialog& box, QHeaderView::ResizeMode nomi,
+                    QHeaderView::ResizeMode date) {
   const auto* details = box.findChild<QTreeView*>(QStringLiteral("treeView"));
   if (details == nullptr) return;
   constexpr int kName = 0;
   constexpr int kDate = 3;
-  details->header()->setSectionResizeMode(kName, QHeaderView::Stretch);
-  details->header()->setSectionResizeMode(kDate, QHeaderView::ResizeToContents);
+  details->header()->setSectionResizeMode(kName, nomi);
+  details->header()->setSectionResizeMode(kDate, date);
 }
 
 }  // namespace
@@ -74,9 +75,14 @@ std::string FinestreQt::SfogliaCartella(const std::string& titolo, const std::st
   box.setOption(QFileDialog::ShowDirsOnly);
   box.setOption(QFileDialog::ReadOnly);  // a folder is chosen, none renamed or deleted
   // Where the desktop has no chooser of its own the toolkit's comes up, with its dates cut.
-  QTimer::singleShot(0, &box, [&box] { MostraDate(box); });
+  QTimer::singleShot(0, &box, [&box] {
+    ImpostaColonne(box, QHeaderView::Stretch, QHeaderView::ResizeToContents);
+  });
   MettiDavanti(box, FinestraSotto());
-  if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) return {};
+  const bool chosen = box.exec() == QDialog::Accepted;
+  // It keeps its columns for all programs of the user, which are to find them as they were.
+  ImpostaColonne(box, QHeaderView::Interactive, QHeaderView::Interactive);
+  if (!chosen || box.selectedFiles().isEmpty()) return {};
   const auto path = files.SystemPath(Std(box.selectedFiles().first()));
   if (path) return path.Value();
   DiciCartellaInadatta();

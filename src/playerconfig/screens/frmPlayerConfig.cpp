@@ -141,9 +141,12 @@ void frmPlayerConfig::AllAttivazione() {
   if (!codice_) return;
   const Impegno stays(*this);
   const OkInPosto same(*this);  // the click that brings the hub to the front comes next
-  if (codice_->AbilitaIngressiRs485()) {
-    fraFileName->SegnaScelta(false);
-    MostraCodice();
+  {
+    const OkInPosto link(*this);
+    if (codice_->AbilitaIngressiRs485()) {
+      fraFileName->SegnaScelta(false);
+      MostraCodice();
+    }
   }
   fraIngressiLogici->Mostra(*codice_);
   // Files come and go while another window is in front. At the first time the load has just looked.
@@ -333,8 +336,10 @@ void frmPlayerConfig::MostraInfoMp3() {
 }
 
 std::string frmPlayerConfig::Motivo(const InfoMp3& info, bool manca) {
-  // Nothing was found and something failed: it was the reading.
-  if (manca || (!info.Valid && !lettore_.Errori().empty())) {
+  const bool unread = std::ranges::any_of(lettore_.Errori(), [](const ErroreMp3& each) {
+    return each.Luogo.ends_with(".Open") || each.Luogo.ends_with(".Get");
+  });
+  if (manca || (unread && !info.Valid)) {
     return TestoLinguaO(C(), "0130258", "This file isn't there any more, or it can't be read.");
   }
   return ParoleRifiuto(C(), MotivoPerIngressi(info, lettore_.Ricerca()), info);
@@ -351,7 +356,7 @@ void frmPlayerConfig::ConfermaFile() {
   C().Errore.Clear();
   codice_->Conferma(item, fraFileName->DirDirectoryMp3->Percorso());
   const bool failed{C().Errore};
-  fraFileName->SegnaScelta(failed);
+  if (!blank || !failed) fraFileName->SegnaScelta(failed);
   MostraCodice(!failed);  // what wasn't kept stays picked, to be confirmed once more
   if (!blank && Rifila(fraFileName->Scelto()).empty()) fraFileName->OkCambiato();
   AggiornaElenco(true);

@@ -1,4 +1,5 @@
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QTest>
 #include <QTreeView>
 
@@ -54,6 +55,26 @@ TEST_F(Cartelle, TheChooserShowsItsDatesWhole) {
     chooser.close();
   });
   b.C.Finestre.SfogliaCartella("Pick one", b.Percorso(""));
+}
+
+TEST_F(Cartelle, TheChoosersColumnsStayTheUsersForOtherPrograms) {
+  {
+    const Pilota<QFileDialog> pilot([](QFileDialog& chooser) {
+      const auto* details = chooser.findChild<QTreeView*>(QStringLiteral("treeView"));
+      EXPECT_TRUE(QTest::qWaitFor(
+          [&] { return details->header()->sectionResizeMode(0) == QHeaderView::Stretch; }));
+      chooser.close();
+    });
+    b.C.Finestre.SfogliaCartella("Pick one", b.Percorso(""));
+  }
+  QFileDialog other(nullptr, {}, QString::fromStdString(b.Cartella.Host().string()));
+  other.setOption(QFileDialog::DontUseNativeDialog);
+  other.show();
+  const auto* details = other.findChild<QTreeView*>(QStringLiteral("treeView"));
+  ASSERT_NE(details, nullptr);
+  for (const int column : {0, 3}) {
+    EXPECT_EQ(details->header()->sectionResizeMode(column), QHeaderView::Interactive) << column;
+  }
 }
 
 TEST_F(Cartelle, ACancelGivesTheEmptyText) {

@@ -86,6 +86,7 @@ TEST_F(FileInfo, ARemovalCallsForAttentionOnlyWhereTheBlankLineWasPicked) {
   EXPECT_EQ(Trova<QComboBox>("cmbFileMp3").toolTip(), "a.mp3");
   ScegliFile(" ");
   EXPECT_EQ(ok.GenereOra(), Coppia::Genere::Pericolo);
+  EXPECT_EQ(Trova<QComboBox>("cmbFileMp3").toolTip(), "");
 }
 
 TEST_F(FileInfo, AFolderWithoutFilesSaysSo) {

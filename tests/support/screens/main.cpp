@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <cstdio>
 
@@ -38,6 +40,9 @@ int main(int argc, char** argv) {
   QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
+  // The toolkit's chooser keeps the user's ways in his settings; a test's are none of them.
+  const QTemporaryDir settings;
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
   kvr5::ApplicaTema(application, false);
   testing::UnitTest::GetInstance()->listeners().Append(new LoopAfresh);
   return RUN_ALL_TESTS();
