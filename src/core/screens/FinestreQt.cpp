@@ -30,15 +30,22 @@ class PlainPointer {
   bool busy_;
 };
 
-/// How wide the columns of names and dates are in the toolkit's own chooser.
-void ImpostaColonne(const QFileDialog& box, QHeaderView::ResizeMode nomi,
-                    QHeaderView::ResizeMode date) {
+/// The columns of the toolkit's own chooser; null where the desktop's is shown.
+QHeaderView* ColonneDi(const QFileDialog& box) {
   const auto* details = box.findChild<QTreeView*>(QStringLiteral("treeView"));
-  if (details == nullptr) return;
+  return details == nullptr ? nullptr : details->header();
+}
+
+/// Gives the dates, which it cuts by itself, the room that they need; the columns as they were.
+QByteArray AllargaDate(const QFileDialog& box) {
+  QHeaderView* columns = ColonneDi(box);
+  if (columns == nullptr) return {};
   constexpr int kName = 0;
   constexpr int kDate = 3;
-  details->header()->setSectionResizeMode(kName, nomi);
-  details->header()->setSectionResizeMode(kDate, date);
+  QByteArray before = columns->saveState();
+  columns->setSectionResizeMode(kName, QHeaderView::Stretch);
+  columns->setSectionResizeMode(kDate, QHeaderView::ResizeToContents);
+  return before;
 }
 
 }  // namespace
@@ -74,14 +81,12 @@ std::string FinestreQt::SfogliaCartella(const std::string& titolo, const std::st
   box.setFileMode(QFileDialog::Directory);
   box.setOption(QFileDialog::ShowDirsOnly);
   box.setOption(QFileDialog::ReadOnly);  // a folder is chosen, none renamed or deleted
-  // Where the desktop has no chooser of its own the toolkit's comes up, with its dates cut.
-  QTimer::singleShot(0, &box, [&box] {
-    ImpostaColonne(box, QHeaderView::Stretch, QHeaderView::ResizeToContents);
-  });
+  QByteArray columns;
+  QTimer::singleShot(0, &box, [&] { columns = AllargaDate(box); });
   MettiDavanti(box, FinestraSotto());
   const bool chosen = box.exec() == QDialog::Accepted;
   // It keeps its columns for all programs of the user, which are to find them as they were.
-  ImpostaColonne(box, QHeaderView::Interactive, QHeaderView::Interactive);
+  if (!columns.isEmpty()) ColonneDi(box)->restoreState(columns);
   if (!chosen || box.selectedFiles().isEmpty()) return {};
   const auto path = files.SystemPath(Std(box.selectedFiles().first()));
   if (path) return path.Value();

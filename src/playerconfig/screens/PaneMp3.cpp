@@ -23,8 +23,10 @@ namespace kvr5 {
 PaneMp3::PaneMp3(Contesto& contesto, QWidget* padre)
     : Riquadro("fraFileName", {}, -1, padre), contesto_(contesto) {
   Costruisci();
-  connect(cmbFileMp3, &QComboBox::currentTextChanged, this,
-          [this](const QString& name) { cmbFileMp3->setToolTip(Suggerimento(name.trimmed())); });
+  connect(cmbFileMp3, &QComboBox::currentTextChanged, this, [this](const QString& name) {
+    const bool blank = name == QLatin1String(" ");
+    cmbFileMp3->setToolTip(blank ? QString() : Suggerimento(name));
+  });
   connect(cmbFileMp3, &QComboBox::activated, this, [this] {
     sceltoDallUtente_ = true;
     LiberaOk();

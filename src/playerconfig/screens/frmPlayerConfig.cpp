@@ -142,7 +142,7 @@ void frmPlayerConfig::AllAttivazione() {
   const Impegno stays(*this);
   const OkInPosto same(*this);  // the click that brings the hub to the front comes next
   {
-    const OkInPosto link(*this);
+    const OkInPosto link(*this);  // held up before the rereading below lets events run
     if (codice_->AbilitaIngressiRs485()) {
       fraFileName->SegnaScelta(false);
       MostraCodice();

@@ -58,23 +58,31 @@ TEST_F(Cartelle, TheChooserShowsItsDatesWhole) {
 }
 
 TEST_F(Cartelle, TheChoosersColumnsStayTheUsersForOtherPrograms) {
+  const int kWidth = 137;
+  const auto columns = [](const QFileDialog& chooser) {
+    return chooser.findChild<QTreeView*>(QStringLiteral("treeView"))->header();
+  };
+  const auto asOtherProgram = [&](const std::function<void(QHeaderView&)>& use) {
+    QFileDialog other(nullptr, {}, QString::fromStdString(b.Cartella.Host().string()));
+    other.setOption(QFileDialog::DontUseNativeDialog);
+    other.show();
+    use(*columns(other));
+  };
+  asOtherProgram([=](QHeaderView& header) { header.resizeSection(0, kWidth); });
   {
-    const Pilota<QFileDialog> pilot([](QFileDialog& chooser) {
-      const auto* details = chooser.findChild<QTreeView*>(QStringLiteral("treeView"));
+    const Pilota<QFileDialog> pilot([&](QFileDialog& chooser) {
       EXPECT_TRUE(QTest::qWaitFor(
-          [&] { return details->header()->sectionResizeMode(0) == QHeaderView::Stretch; }));
+          [&] { return columns(chooser)->sectionResizeMode(0) == QHeaderView::Stretch; }));
       chooser.close();
     });
     b.C.Finestre.SfogliaCartella("Pick one", b.Percorso(""));
   }
-  QFileDialog other(nullptr, {}, QString::fromStdString(b.Cartella.Host().string()));
-  other.setOption(QFileDialog::DontUseNativeDialog);
-  other.show();
-  const auto* details = other.findChild<QTreeView*>(QStringLiteral("treeView"));
-  ASSERT_NE(details, nullptr);
-  for (const int column : {0, 3}) {
-    EXPECT_EQ(details->header()->sectionResizeMode(column), QHeaderView::Interactive) << column;
-  }
+  asOtherProgram([=](const QHeaderView& header) {
+    EXPECT_EQ(header.sectionSize(0), kWidth);
+    for (const int column : {0, 3}) {
+      EXPECT_EQ(header.sectionResizeMode(column), QHeaderView::Interactive) << column;
+    }
+  });
 }
 
 TEST_F(Cartelle, ACancelGivesTheEmptyText) {
