@@ -52,6 +52,7 @@ class Silent : public Dialoghi,
   }
   [[noreturn]] void Termina(MotivoFine /*motivo*/) override { std::abort(); }
   void Scegli() override {}
+  bool Presente() const override { return true; }
 };
 
 /// The real disk and a silent user.
