@@ -13,17 +13,15 @@ namespace {
 /// The dialog that a recording opens when no card is chosen.
 class SceltaDalDialogo : public SelezioneFlash {
  public:
-  SceltaDalDialogo(Navigazione& schermi, ServiziHub& servizi)
-      : schermi_(schermi), servizi_(servizi) {}
-  void Scegli() override { schermi_.ScegliScheda(Schermata::Configurazione); }
+  explicit SceltaDalDialogo(Programma& programma) : programma_(programma) {}
+  void Scegli() override { programma_.ScegliScheda(Schermata::Configurazione); }
   bool Presente() const override {
-    const auto facts = servizi_.FattiDellaScheda();
+    const auto facts = programma_.FattiDellaScheda();
     return facts && facts->HasMedium;
   }
 
  private:
-  Navigazione& schermi_;
-  ServiziHub& servizi_;
+  Programma& programma_;
 };
 
 }  // namespace
@@ -131,7 +129,7 @@ void Programma::AvviaTempoSplash() {
 }
 
 bool Programma::RegistraProgetto(TabellaIngressi& ingressi) {
-  SceltaDalDialogo choice(*this, *this);
+  SceltaDalDialogo choice(*this);
   const auto end = RegistraProgettoSuFlash(contesto_, ingressi, progresso_, choice);
   AvvisaNonLetti(contesto_, end);
   return end.Fine == FineRegistrazione::Annullata;

@@ -16,7 +16,7 @@ EsitoPassata CollectRow(Contesto& context, Passata pass, const Recordset& rows, 
   const std::string folder = rows.Text("FilePath");
   const std::string name = rows.Text("FileName");
   const std::string tested = AggiungiBarra(folder) + name;
-  EsitoPassata missing{false, pass == Passata::Ingressi ? name : tested, false};
+  EsitoPassata missing{false, pass == Passata::Ingressi ? name : tested};
   // Every file sits in the card's root: a name that leads elsewhere is no alias. And the bar
   // divides the lists.
   if (!readable || alias.find_first_of("\\|") != std::string::npos) return missing;

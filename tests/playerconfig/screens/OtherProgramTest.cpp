@@ -44,6 +44,14 @@ class OtherProgram : public test::HubConMusica {
   };
   /// As long as a person needs to see what has changed.
   static void LookAtIt() { QTest::qWait(QApplication::doubleClickInterval() + 50); }
+  /// The hub with the removal of input 1's file, a.mp3, picked.
+  void PickRemoval() {
+    Adds(1, "a.mp3");
+    Apri(0);
+    Attiva();
+    Spunta(1);
+    ScegliFile(" ");
+  }
   std::string Plays() { return SiVede("fraFileAssociato") ? Testo("lblFileAssociato") : ""; }
 
   Connection other_{b.Disco};
@@ -237,11 +245,7 @@ TEST_F(OtherProgram, AClickThatBringsTheHubBackDoesNotPressAButtonThatChangedWit
 TEST_F(OtherProgram, ThatChangesAFileIsSeenBeforeTheClickThatBringsTheHubBackRemovesIt) {
   for (const char* name : {"b.mp3", "far.mp3"}) {  // in the folder that is shown, and elsewhere
     SCOPED_TRACE(name);
-    Adds(1, "a.mp3");
-    Apri(0);
-    Attiva();
-    Spunta(1);
-    ScegliFile(" ");
+    PickRemoval();
     Sql(std::string("UPDATE List SET FileName='") + name + "' WHERE Pos=1");
     Trova<QWidget>("cmdOkFileMp3").setFocus();
     Attiva();
@@ -271,11 +275,7 @@ TEST_F(OtherProgram, ThatMovesAFileToAnotherFolderIsSeenBeforeItIsTakenAway) {
 }
 
 TEST_F(OtherProgram, APressThatBeganTooSoonDoesNothingHoweverLateItEnds) {
-  Adds(1, "a.mp3");
-  Apri(0);
-  Attiva();
-  Spunta(1);
-  ScegliFile(" ");
+  PickRemoval();
   Sql("UPDATE List SET FileName='b.mp3' WHERE Pos=1");
   Attiva();
   QWidget& ok = Trova<QWidget>("cmdOkFileMp3");
@@ -288,12 +288,8 @@ TEST_F(OtherProgram, APressThatBeganTooSoonDoesNothingHoweverLateItEnds) {
 }
 
 TEST_F(OtherProgram, ATickOfTheUsersOwnLetsTheNextClickCountAtOnce) {
-  Adds(1, "a.mp3");
   Adds(2, "a.mp3");
-  Apri(0);
-  Attiva();
-  Spunta(1);
-  ScegliFile(" ");
+  PickRemoval();
   Sql("UPDATE List SET FileName='b.mp3' WHERE Pos=1");
   Attiva();
   Conferma();
@@ -321,11 +317,7 @@ TEST_F(OtherProgram, ThatPutsAFileIntoTheFolderDoesNotTakeTheButtonFromUnderTheC
 }
 
 TEST_F(OtherProgram, ThatChangesAFileDuringARecordingIsSeenBeforeItIsTakenAway) {
-  Adds(1, "a.mp3");
-  Apri(0);
-  Attiva();
-  Spunta(1);
-  ScegliFile(" ");
+  PickRemoval();
   servizi.SuRegistra = [this] { Sql("UPDATE List SET FileName='b.mp3' WHERE Pos=1"); };
   Clic("picRecordFlash");
   Conferma();
