@@ -81,13 +81,21 @@ std::string LeggiIniSemplice(Contesto& contesto, std::string_view file, std::str
 
 void ScriviParametroIni(Contesto& contesto, std::string_view file, std::string_view sezione,
                         std::string_view chiave, std::string_view valore) {
+  const IniValue one{chiave, std::string(valore)};
+  ScriviParametriIni(contesto, file, sezione, std::span(&one, 1));
+}
+
+void ScriviParametriIni(Contesto& contesto, std::string_view file, std::string_view sezione,
+                        std::span<const IniValue> valori) {
   if (IsThere(contesto, file)) {
     IniFile ini(contesto.Files, std::string(file), PaginaDelFile(contesto, file));
-    contesto.Errore.Record(ini.Write(sezione, chiave, valore));
-  } else if (contesto.Stato.DebugAbilitato) {
+    contesto.Errore.Record(ini.Write(sezione, valori));
+    return;
+  }
+  if (!contesto.Stato.DebugAbilitato) return;
+  for (const IniValue& each : valori) {
     ScriviLog(contesto, "Scrittura file " + std::string(file) + "Sezione [" + std::string(sezione) +
-                            "] Parametro=" + std::string(chiave) +
-                            " Valore=" + std::string(valore) +
+                            "] Parametro=" + std::string(each.Key) + " Valore=" + each.Value +
                             " : Errore lettura parametri - errore:file inesistente");
   }
 }

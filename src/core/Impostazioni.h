@@ -1,11 +1,13 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
 
 #include "core/Contesto.h"
 #include "platform/CodePage.h"
+#include "platform/IniFile.h"
 
 namespace kvr5 {
 
@@ -30,6 +32,10 @@ std::string LeggiIniSemplice(Contesto& contesto, std::string_view file, std::str
 /// A write that fails is the pending error.
 void ScriviParametroIni(Contesto& contesto, std::string_view file, std::string_view sezione,
                         std::string_view chiave, std::string_view valore);
+
+/// The same for several keys of one section, in this order and in one rewrite of the file.
+void ScriviParametriIni(Contesto& contesto, std::string_view file, std::string_view sezione,
+                        std::span<const IniValue> valori);
 
 /// Full path of KVR5Software.ini, beside the program.
 std::string FileImpostazioni(const Contesto& contesto);

@@ -57,15 +57,27 @@ std::string IniFile::Read(std::string_view section, std::string_view key, std::s
 }
 
 Error IniFile::Write(std::string_view section, std::string_view key, std::string_view value) {
+  const IniValue one{key, std::string(value)};
+  return Write(section, std::span(&one, 1));
+}
+
+Error IniFile::Write(std::string_view section, std::span<const IniValue> values) {
   Result<std::string> content = ReadWhole(files_, path_);
   if (!content && !IsMissing(content.Err())) return content.Err();
   const std::string before = content ? content.Value() : std::string();
-  const auto after =
-      ini::Changed(before, page_.Encode(section), page_.Encode(key), page_.Encode(value), page_);
-  if (!after) return {};
-  Error error = ReplaceWhole(files_, path_, *after);
+  std::string after = before;
+  bool changed = false;
+  for (const IniValue& each : values) {
+    auto next = ini::Changed(after, page_.Encode(section), page_.Encode(each.Key),
+                             page_.Encode(each.Value), page_);
+    if (!next) continue;
+    after = std::move(*next);
+    changed = true;
+  }
+  if (!changed) return {};
+  Error error = ReplaceWhole(files_, path_, after);
   if (error && content && IsFolderLocked(files_, path_)) {
-    return WriteInPlace(files_, path_, before, *after);
+    return WriteInPlace(files_, path_, before, after);
   }
   return error;
 }

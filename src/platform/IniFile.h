@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -33,6 +34,12 @@ std::optional<std::string> Changed(std::string_view content,
 
 }  // namespace ini
 
+/// A key and its new value, both UTF-8.
+struct IniValue {
+  std::string_view Key;
+  std::string Value;
+};
+
 /// An INI file on the disk, read afresh at each call; nothing is held open or cached.
 class IniFile {
  public:
@@ -47,6 +54,9 @@ class IniFile {
   /// the old one is written in its place. A file that is there but can't be read is left alone, and
   /// that error returned.
   Error Write(std::string_view section, std::string_view key, std::string_view value);
+  /// Writes several keys of one section as a Write of each in this order would, but reads and
+  /// replaces the file once: a crash leaves all of the old values or all of the new ones.
+  Error Write(std::string_view section, std::span<const IniValue> values);
 
  private:
   FileSystem& files_;

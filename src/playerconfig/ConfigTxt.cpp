@@ -1,5 +1,7 @@
 #include "playerconfig/ConfigTxt.h"
 
+#include <vector>
+
 #include "core/Impostazioni.h"
 #include "projects/CartellaProgetto.h"
 
@@ -23,6 +25,10 @@ void ScriviChiaveConfig(Contesto& contesto, std::string_view chiave, std::string
   ScriviParametroIni(contesto, FileDelProgetto(contesto, "Config.txt"), "Config", chiave, valore);
 }
 
+void ScriviChiaviConfig(Contesto& contesto, std::span<const IniValue> valori) {
+  ScriviParametriIni(contesto, FileDelProgetto(contesto, "Config.txt"), "Config", valori);
+}
+
 ControlliHub::ControlliHub() {
   // All of the table's: whoever goes through that finds a control for each.
   for (const auto& parameter : Parametri()) {
@@ -39,11 +45,13 @@ void ControlliHub::Leggi(Contesto& contesto) {
 }
 
 void ControlliHub::AggiornaFile_ConfigTXT(Contesto& contesto) const {
+  std::vector<IniValue> values;
   for (const auto& parameter : Parametri()) {
     if (!IsOfTheHub(parameter)) continue;
     if (parameter.Tipo == TipoParametro::MaiLetto && !MpllVisibile) continue;
-    ScriviChiaveConfig(contesto, parameter.Chiave, PerIlFile(parameter, (*this)[parameter.Chiave]));
+    values.push_back({parameter.Chiave, PerIlFile(parameter, (*this)[parameter.Chiave])});
   }
+  ScriviChiaviConfig(contesto, values);
 }
 
 }  // namespace kvr5

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <map>
+#include <span>
 #include <string>
 #include <string_view>
 
 #include "core/Contesto.h"
+#include "platform/IniFile.h"
 #include "playerconfig/Parametri.h"
 
 namespace kvr5 {
@@ -14,6 +16,10 @@ std::string LeggiChiaveConfig(Contesto& contesto, std::string_view chiave);
 
 /// Writes a key into the open project's Config.txt; a missing file stays missing.
 void ScriviChiaveConfig(Contesto& contesto, std::string_view chiave, std::string_view valore);
+
+/// Writes several keys in this order, in one rewrite of the file; a missing file stays missing, a
+/// failure is the pending error and leaves all values as they were.
+void ScriviChiaviConfig(Contesto& contesto, std::span<const IniValue> valori);
 
 /// The controls of the hub that stand for parameters, as a save finds them.
 class ControlliHub {

@@ -2,6 +2,7 @@
 #include <optional>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "cli/verbs/Verb.h"
 #include "core/Aiuti.h"
@@ -115,9 +116,9 @@ int Set(Session& session, const std::vector<std::string>& arguments) {
     AvvisaIngressiBassi(context);
   }
   context.Errore.Clear();
-  for (const auto& [parameter, value] : changes) {
-    ScriviChiaveConfig(context, parameter->Chiave, value);
-  }
+  std::vector<IniValue> values;
+  for (const auto& [parameter, value] : changes) values.push_back({parameter->Chiave, value});
+  ScriviChiaviConfig(context, values);
   if (context.Errore) {
     session.Out().Say("Config.txt: " + context.Errore.Last().Description());
     return kRefused;
