@@ -30,7 +30,7 @@ Programma::Programma(const std::string& cartella, Processo& processo)
     : cartella_(cartella),
       contesto_{files_, finestre_, eventi_, copia_, ora_, processo, {}, Locale::Host(), {}, {}},
       vita_([this] { TerminaProgramma(); }),
-      ambiente_{contesto_, *this, documenti_, vita_},
+      ambiente_{contesto_, *this, documenti_, vita_, suono_},
       drives_(percorsi_, *volumi_, [this] { return TestoDrives(); }),
       progresso_(ambiente_) {
   const auto folder = files_.SystemPath(cartella);
@@ -108,6 +108,19 @@ void Programma::ScegliScheda(Schermata chiamante) {
 
 void Programma::AggiornaPercorsoMemoryCard() {
   hub_->AggiornaPercorsoMemoryCard();
+}
+
+void Programma::ApriTempiFade() {}
+
+void Programma::ApriPanelExtra() {}
+
+void Programma::ApriConfig485(bool /*modoRS232*/) {}
+
+void Programma::ChiediSalvataggio(Schermata chiamante, std::function<void(bool)> annulla) {
+  if (salva_.Caricata()) return;
+  salva_->FormChiamante = chiamante;
+  salva_->AnnullaSalvataggio = std::move(annulla);
+  salva_->MostraModale();
 }
 
 void Programma::RiavviaMain() {

@@ -5,6 +5,7 @@
 
 #include "core/Main.h"
 #include "core/Orologio.h"
+#include "core/screens/AnteprimeAudio.h"
 #include "core/screens/EsecutoreQt.h"
 #include "core/screens/EventiQt.h"
 #include "core/screens/FinestraCopia.h"
@@ -13,6 +14,7 @@
 #include "core/screens/TestiQt.h"
 #include "core/screens/frmConfig.h"
 #include "core/screens/frmMain.h"
+#include "core/screens/frmSalva.h"
 #include "core/screens/frmSplash.h"
 #include "flashcard/screens/frmProgress.h"
 #include "flashcard/screens/frmSelectFlash.h"
@@ -37,6 +39,7 @@ class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
   /// work in its folder: that was told, and nothing has begun.
   bool Avvia(const std::string& rigaDiComando);
   Contesto& C() { return contesto_; }
+  Anteprime& Suono() { return suono_; }
   /// Drops the hub without its question, so that the next project opens in a fresh one.
   void DimenticaConfigurazione() { hub_.Dimentica(); }
 
@@ -45,6 +48,10 @@ class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
   void ApriConfigurazione(std::int16_t apreDaFlash) override;
   void ScegliScheda(Schermata chiamante) override;
   void AggiornaPercorsoMemoryCard() override;
+  void ApriTempiFade() override;
+  void ApriPanelExtra() override;
+  void ApriConfig485(bool modoRS232) override;
+  void ChiediSalvataggio(Schermata chiamante, std::function<void(bool)> annulla) override;
   void RiavviaMain() override;
   void TerminaProgramma() override;
 
@@ -52,6 +59,7 @@ class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
   void AvviaTempoSplash() override;
 
   bool RegistraProgetto(TabellaIngressi& ingressi) override;
+  FinestraProgresso& Progresso() override { return progresso_; }
   std::optional<Drive> FattiDellaScheda() override;
 
  private:
@@ -69,6 +77,7 @@ class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
   EsecutoreQt documenti_{contesto_};
   TestiQt testi_{contesto_};
   VitaForme vita_;
+  AnteprimeAudio suono_{contesto_};
   Ambiente ambiente_;
   std::unique_ptr<VolumeSource> volumi_ = HostVolumes();
   Drives drives_;
@@ -81,6 +90,7 @@ class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
   FormPredefinita<frmWizardPanel1> wizard_{[this] { return new frmWizardPanel1(ambiente_); }};
   FormPredefinita<frmCaricaProgetto> elenco_{[this] { return new frmCaricaProgetto(ambiente_); }};
   FormPredefinita<frmPlayerConfig> hub_{[this] { return new frmPlayerConfig(ambiente_, *this); }};
+  FormPredefinita<frmSalva> salva_{[this] { return new frmSalva(ambiente_); }};
   FormPredefinita<frmSelectFlash> scheda_{
       [this] { return new frmSelectFlash(ambiente_, driveDelComputer_); }};
 };

@@ -8,9 +8,10 @@ namespace kvr5 {
 class Esecutore {
  public:
   virtual ~Esecutore() = default;
-  /// `percorso` is in the system's form. False when the host found nothing to open it with; most
+  /// `percorso` is in the system's form. `parametri` go to the program that opens it, where the
+  /// host has a way to hand them over. False when the host found nothing to open it with; most
   /// callers don't look.
-  virtual bool Apri(const std::string& percorso) = 0;
+  virtual bool Apri(const std::string& percorso, const std::string& parametri = {}) = 0;
 };
 
 }  // namespace kvr5

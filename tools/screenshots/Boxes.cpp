@@ -98,7 +98,7 @@ void TakeBoxes(Photographer& camera) {
   // A life of their own: the program must not end with the last of these.
   kvr5::VitaForme life;
   kvr5::EsecutoreQt documents(camera.C());
-  kvr5::Ambiente ambiente{camera.C(), camera.Program(), documents, life};
+  kvr5::Ambiente ambiente{camera.C(), camera.Program(), documents, life, camera.Program().Suono()};
   TakeCards(camera);
   TakeQuestions(camera);
   TakeWork(camera, ambiente);

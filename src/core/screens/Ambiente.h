@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/Anteprima.h"
 #include "core/Contesto.h"
 #include "core/Esecutore.h"
 #include "core/screens/Navigazione.h"
@@ -13,6 +14,7 @@ struct Ambiente {
   Navigazione& Schermi;
   Esecutore& Documenti;
   VitaForme& Vita;
+  Anteprime& Suono;
 };
 
 }  // namespace kvr5

@@ -7,7 +7,7 @@
 
 namespace kvr5 {
 
-bool EsecutoreQt::Apri(const std::string& percorso) {
+bool EsecutoreQt::Apri(const std::string& percorso, const std::string& /*parametri*/) {
   return QDesktopServices::openUrl(QUrl::fromLocalFile(Qs(contesto_.Files.HostPath(percorso))));
 }
 

@@ -9,7 +9,8 @@ namespace kvr5 {
 class EsecutoreQt : public Esecutore {
  public:
   explicit EsecutoreQt(Contesto& contesto) : contesto_(contesto) {}
-  bool Apri(const std::string& percorso) override;
+  /// The desktop takes no parameters for a document: they go nowhere.
+  bool Apri(const std::string& percorso, const std::string& parametri = {}) override;
 
  private:
   Contesto& contesto_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 #include "core/Schermata.h"
 
@@ -21,6 +22,12 @@ class Navigazione {
   virtual void ScegliScheda(Schermata chiamante) = 0;
   /// Has frmPlayerConfig show the chosen card anew.
   virtual void AggiornaPercorsoMemoryCard() = 0;
+  /// Shows frmTempiFade, frmPanelExtra or frmConfig485 modally over the hub.
+  virtual void ApriTempiFade() = 0;
+  virtual void ApriPanelExtra() = 0;
+  virtual void ApriConfig485(bool modoRS232) = 0;
+  /// Shows frmSalva modally for `chiamante`, and hands its answer to `annulla`: true is cancel.
+  virtual void ChiediSalvataggio(Schermata chiamante, std::function<void(bool)> annulla) = 0;
   /// Runs Main once more, as every visit to the settings ends.
   virtual void RiavviaMain() = 0;
   /// Ends the whole program, whatever screens are loaded.

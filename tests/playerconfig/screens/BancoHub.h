@@ -23,17 +23,20 @@ namespace kvr5::test {
 /// there as the test says.
 class ServiziFinti : public ServiziHub {
  public:
+  explicit ServiziFinti(Contesto& contesto) : Avanzamento(contesto) {}
   bool RegistraProgetto(TabellaIngressi& /*ingressi*/) override {
     ++Registrazioni;
     if (SuRegistra) SuRegistra();
     return Annullata;
   }
+  FinestraProgresso& Progresso() override { return Avanzamento; }
   std::optional<Drive> FattiDellaScheda() override { return Scheda; }
 
   int Registrazioni = 0;
   bool Annullata = false;
   std::function<void()> SuRegistra;
   std::optional<Drive> Scheda;
+  FinestraProgresso Avanzamento;
 };
 
 /// The hub of a project named Hall.
@@ -77,7 +80,7 @@ class Hub : public testing::Test {
   int Righe();
 
   BancoSchermi b;
-  ServiziFinti servizi;
+  ServiziFinti servizi{b.C};
   QPointer<frmPlayerConfig> hub;
 };
 

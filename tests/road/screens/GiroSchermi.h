@@ -22,9 +22,14 @@ struct SchermoVisto {
 /// What the hub has done by others on a walk: nothing, and a card that is there as the walk says.
 class ServiziDelGiro : public ServiziHub {
  public:
+  explicit ServiziDelGiro(Contesto& contesto) : avanzamento_(contesto) {}
   bool RegistraProgetto(TabellaIngressi& /*ingressi*/) override { return false; }
+  FinestraProgresso& Progresso() override { return avanzamento_; }
   std::optional<Drive> FattiDellaScheda() override { return Scheda; }
   std::optional<Drive> Scheda;
+
+ private:
+  FinestraProgresso avanzamento_;
 };
 
 /// A walk past every window of the program, in one language: each as it comes up, and in the states
@@ -65,7 +70,7 @@ class GiroSchermi {
   std::string Testo(const char* chiave);
 
   BancoSchermi b{Boxes::Veri};
-  ServiziDelGiro servizi_;
+  ServiziDelGiro servizi_{b.C};
   Guarda guarda_;
 };
 

@@ -5,6 +5,7 @@
 #include "core/screens/FinestraCopia.h"
 #include "core/screens/FinestreQt.h"
 #include "core/screens/VitaForme.h"
+#include "support/AnteprimeFinte.h"
 #include "support/Banco.h"
 #include "support/EsecutoreFinto.h"
 #include "support/screens/NavigazioneFinta.h"
@@ -47,7 +48,8 @@ class BancoSchermi : private PorteQt, public Banco {
   /// How often the last loaded form went.
   int UltimeScaricate = 0;
   VitaForme Vita{[this] { ++UltimeScaricate; }};
-  Ambiente A{C, Schermi, Documenti, Vita};
+  AnteprimeFinte Suono;
+  Ambiente A{C, Schermi, Documenti, Vita, Suono};
 };
 
 /// True while the busy pointer is on.

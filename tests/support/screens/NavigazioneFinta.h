@@ -23,6 +23,14 @@ class NavigazioneFinta : public Navigazione {
     if (SuScegliScheda) SuScegliScheda();
   }
   void AggiornaPercorsoMemoryCard() override { ++PercorsiAggiornati; }
+  void ApriTempiFade() override { ++TempiFade; }
+  void ApriPanelExtra() override { ++PannelliExtra; }
+  void ApriConfig485(bool modoRS232) override { Seriali.push_back(modoRS232); }
+  void ChiediSalvataggio(Schermata /*chiamante*/, std::function<void(bool)> annulla) override {
+    ++Domande;
+    if (SuDomanda) SuDomanda();
+    annulla(AnnullaSalvataggio);
+  }
   void RiavviaMain() override { ++Riavvii; }
   void TerminaProgramma() override { ++Fini; }
 
@@ -30,6 +38,12 @@ class NavigazioneFinta : public Navigazione {
   std::vector<Schermata> ElenchiPer;   ///< the callers of frmCaricaProgetto
   std::vector<std::int16_t> Aperture;  ///< the ApreDaFlash of each opening of the hub
   std::vector<Schermata> SchedePer;    ///< the callers of frmSelectFlash
+  int TempiFade = 0;
+  int PannelliExtra = 0;
+  std::vector<bool> Seriali;  ///< the form of the serial screen at each opening: true is RS-232
+  int Domande = 0;            ///< how often frmSalva was shown
+  bool AnnullaSalvataggio = false;  ///< what it answers
+  std::function<void()> SuDomanda;
   int PercorsiAggiornati = 0;
   int Riavvii = 0;
   int Fini = 0;
