@@ -1,7 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
+
+#include "platform/FileSystem.h"
 
 namespace kvr5 {
 
@@ -50,8 +53,11 @@ struct StatoApplicazione {
   std::uint32_t LinguaUtente = 0;
   /// Gates the failure lines of the settings store; never becomes true, on purpose.
   bool DebugAbilitato = false;
-  /// The report being written.
+  /// The report being written: its full path, its open file (shared, so that the state can be
+  /// copied), and whether one is open.
   std::string FileReport;
+  std::shared_ptr<File> CanaleReport;
+  bool ReportAperto = false;
 };
 
 }  // namespace kvr5

@@ -34,7 +34,7 @@ void Banco::Prepara() {
   const fs::path program = Cartella.Host() / "program";
   fs::create_directories(program / "Projects");
   fs::create_directories(Cartella.Host() / "card");
-  for (const char* name : {"Defaults", "Language", "Pictures"}) {
+  for (const char* name : {"Defaults", "Language", "Pictures", "Report"}) {
     fs::copy(staged / name, program / name, fs::copy_options::recursive);
   }
   fs::copy(staged / "source.mdb", program / "source.mdb");

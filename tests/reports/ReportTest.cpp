@@ -1,0 +1,214 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+#include "reports/Report.h"
+#include "support/Banco.h"
+
+namespace kvr5 {
+namespace {
+
+constexpr const char* kTail = "</BODY>\r\n</HTML>\r\n";
+
+/// A project named Hall, with a template of the test's own.
+class Reports : public testing::Test {
+ protected:
+  void SetUp() override {
+    b.CreaProgetto("Hall", 4, 1);
+    Template("<HTML>\r\n<HEAD>\r\n</HEAD>\r\n<BODY>\r\n</BODY>\r\n</HTML>\r\n");
+  }
+  /// The template in use, and images beside it.
+  void Template(const std::string& text) { b.Cartella.Write("program/Report/report.htm", text); }
+  void InProject(const std::string& name, const std::string& text) {
+    b.Cartella.Write("program/Projects/Hall/" + name, text);
+  }
+  std::string Project(const std::string& name) const {
+    return b.Percorso("program/Projects/Hall/" + name);
+  }
+  std::string Read(const std::string& name) const {
+    return b.Cartella.Read("program/Projects/Hall/" + name);
+  }
+  /// What a report consists of when `fill` has run, without the template's and the closing lines.
+  template <typename Fill>
+  std::string Lines(Fill fill) {
+    Template("");
+    ApriReport(b.C, "x", "");
+    fill();
+    ChiudiReport(b.C);
+    std::string text = Read("x.htm");
+    EXPECT_TRUE(text.ends_with(kTail)) << text;
+    return text.substr(0, text.size() - std::string(kTail).size());
+  }
+
+  test::Banco b;
+};
+
+TEST_F(Reports, AreNamedAfterTheProjectWhereNoNameIsGiven) {
+  b.C.Stato.ProjectName = "Museum";
+  ApriReport(b.C, "", "no effect");
+  EXPECT_EQ(b.C.Stato.FileReport, Project("Museum.htm"));
+  EXPECT_TRUE(b.C.Stato.ReportAperto);
+  ScriviRigaReport(b.C, "a line");
+  ChiudiReport(b.C);
+  EXPECT_FALSE(b.C.Stato.ReportAperto);
+  EXPECT_EQ(Read("Museum.htm"),
+            "<HTML>\r\n<HEAD>\r\n</HEAD>\r\n<BODY>\r\na line\r\n</BODY>\r\n</HTML>\r\n");
+  EXPECT_FALSE(b.C.Errore);
+}
+
+TEST_F(Reports, TheSecondOfTwoOfOneNameIsTheOnlyOne) {
+  for (const char* line : {"first, and longer", "second"}) {
+    ApriReport(b.C, "x", "");
+    ScriviRigaReport(b.C, line);
+    ChiudiReport(b.C);
+  }
+  EXPECT_EQ(Read("x.htm").find("first"), std::string::npos);
+  EXPECT_NE(Read("x.htm").find("second\r\n"), std::string::npos);
+}
+
+TEST_F(Reports, BringTheImagesOfTheTemplateIntoAFolderThatLacksThem) {
+  b.Cartella.Write("program/Report/logo_menu.jpg", "logo");
+  b.Cartella.Write("program/Report/sf_menu.jpg", "ground");
+  InProject("sf_menu.jpg", "the user's own");
+  ApriReport(b.C, "x", "");
+  ChiudiReport(b.C);
+  EXPECT_EQ(Read("logo_menu.jpg"), "logo");
+  EXPECT_EQ(Read("sf_menu.jpg"), "the user's own");
+}
+
+TEST_F(Reports, AnImageThatTheProgramLacksIsAPendingErrorAndNoMore) {
+  ASSERT_FALSE(b.Disco.Delete(b.Percorso("program/Report/logo_menu.jpg")));
+  ApriReport(b.C, "x", "");
+  ChiudiReport(b.C);
+  EXPECT_EQ(b.C.Errore.Last().Number(), errors::FileNotFound);
+  EXPECT_TRUE(Read("x.htm").ends_with(kTail));
+}
+
+TEST_F(Reports, WithoutATemplateHaveNoHead) {
+  ASSERT_FALSE(b.Disco.Delete(b.Percorso("program/Report/report.htm")));
+  ApriReport(b.C, "x", "");
+  ScriviRigaReport(b.C, "a line");
+  ChiudiReport(b.C);
+  EXPECT_EQ(Read("x.htm"), std::string("a line\r\n") + kTail);
+  EXPECT_FALSE(b.C.Errore);
+}
+
+TEST_F(Reports, ATemplateIsKeptUpToItsClosingTagAndTrimmed) {
+  Template("  <HTML>  \n<HEAD>\r\n  <div>\r\n\r\n <Body> \r\n   </body>  \r\nnever\r\n");
+  ApriReport(b.C, "x", "");
+  ScriviRigaReport(b.C, "more");
+  ChiudiReport(b.C);
+  EXPECT_EQ(Read("x.htm"),
+            std::string("<HTML>\r\n<HEAD>\r\n<div>\r\n\r\n<Body>\r\nmore\r\n") + kTail);
+}
+
+TEST_F(Reports, ADivOnOneOfTheFirstTwoLinesOfATemplateIsDroppedAndOnTheThirdKept) {
+  Template("<HTML>\r\n<div>\r\n<div>\r\n");
+  EXPECT_EQ(Lines([] {}), "") << "the helper empties the template";
+  Template("<HTML>\r\nan inDIVidual <DIV>\r\n<div>\r\n");
+  ApriReport(b.C, "y", "");
+  ChiudiReport(b.C);
+  EXPECT_EQ(Read("y.htm"), std::string("<HTML>\r\n<div>\r\n") + kTail);
+}
+
+TEST_F(Reports, AnEmptyTemplateAndOneWithoutABodyAreCopiedAsFarAsTheyGo) {
+  EXPECT_EQ(Lines([] {}), "");
+  Template("one\r\ntwo\r\nthree");
+  ApriReport(b.C, "y", "");
+  ChiudiReport(b.C);
+  EXPECT_EQ(Read("y.htm"), std::string("one\r\ntwo\r\nthree\r\n") + kTail);
+}
+
+TEST_F(Reports, AHugeTemplateIsCopiedWhole) {
+  std::string big;
+  for (int i = 0; i < 200000; ++i) big += "<!-- a line of a template -->\r\n";
+  Template(big);
+  ApriReport(b.C, "x", "");
+  ChiudiReport(b.C);
+  EXPECT_EQ(Read("x.htm"), big + kTail);
+}
+
+TEST_F(Reports, TakeTheBodyOfAnotherReport) {
+  InProject("other.htm",
+            "<HTML>\r\nhead\r\n <body> \r\n<DIV>band</DIV>\r\none\r\n<DIV>kept</DIV>\r\n "
+            "</BODY>\r\nno\r\n");
+  EXPECT_EQ(Lines([&] { IncludiCorpoHtml(b.C, Project("other.htm")); }),
+            "one\r\n<DIV>kept</DIV>\r\n");
+}
+
+TEST_F(Reports, TakeNothingOfAReportWithoutABody) {
+  InProject("other.htm", "<HTML>\r\n<BODY class='x'>\r\nline\r\n</BODY>\r\n");
+  EXPECT_EQ(Lines([&] { IncludiCorpoHtml(b.C, Project("other.htm")); }), "");
+  EXPECT_EQ(Lines([&] { IncludiCorpoHtml(b.C, Project("nowhere.htm")); }), "");
+  EXPECT_FALSE(b.C.Errore);
+}
+
+TEST_F(Reports, ShowATextWithoutItsSectionLineAndItsBlankLines) {
+  InProject("t.txt", "[config]\r\n  LOUT=14  \r\n\r\n   \r\nx[CoNfIg]y\r\nLBAS=10\n");
+  EXPECT_EQ(Lines([&] { IncludiFileTesto(b.C, Project("t.txt"), true); }),
+            "LOUT=14<BR>\r\nLBAS=10<BR>\r\n");
+  EXPECT_EQ(Lines([&] { IncludiFileTesto(b.C, Project("t.txt"), false); }),
+            "LOUT=14\r\nLBAS=10\r\n");
+}
+
+TEST_F(Reports, ShowATextAsItIsAlsoWhereItLooksLikeMarkup) {
+  InProject("t.txt", "A=<b>&\"'\xE9\r\n");
+  EXPECT_EQ(Lines([&] { IncludiFileTesto(b.C, Project("t.txt"), true); }),
+            "A=&lt;b&gt;&amp;&quot;&#39;\xE9<BR>\r\n");
+}
+
+TEST_F(Reports, InclusionsDoNothingWhileNoReportIsOpen) {
+  InProject("t.txt", "line\r\n");
+  const auto before = b.Nomi("program/Projects/Hall");
+  IncludiFileTesto(b.C, Project("t.txt"), true);
+  IncludiCorpoHtml(b.C, Project("t.txt"));
+  IncludiTemplate(b.C, Project("t.txt"));
+  EXPECT_FALSE(b.C.Errore);
+  EXPECT_EQ(b.Nomi("program/Projects/Hall"), before);
+}
+
+TEST_F(Reports, ALineBeforeTheOpeningGoesNowhere) {
+  ScriviRigaReport(b.C, "lost");
+  EXPECT_EQ(b.C.Errore.Last().Number(), errors::BadFileName);
+}
+
+TEST_F(Reports, LetEventsRunWhenTheyAreClosed) {
+  ApriReport(b.C, "x", "");
+  const int before = b.Messaggi.Volte;
+  ChiudiReport(b.C);
+  EXPECT_EQ(b.Messaggi.Volte, before + 1);
+}
+
+TEST_F(Reports, ANameThatLeadsOutOfTheFolderWritesNothing) {
+  b.C.Stato.ProjectName = "..\\..\\evil";
+  ApriReport(b.C, "", "");
+  ScriviRigaReport(b.C, "line");
+  ChiudiReport(b.C);
+  EXPECT_EQ(b.C.Errore.Last().Number(), errors::BadFileName);
+  EXPECT_FALSE(b.Cartella.Exists("program/evil.htm"));
+}
+
+TEST_F(Reports, AReadOnlyReportStaysAndIsTold) {
+  InProject("x.htm", "old");
+  std::filesystem::permissions(b.Cartella.Host() / "program/Projects/Hall/x.htm",
+                               std::filesystem::perms::owner_read);
+  ApriReport(b.C, "x", "");
+  ScriviRigaReport(b.C, "new");
+  ChiudiReport(b.C);
+  EXPECT_EQ(Read("x.htm"), "old");
+  EXPECT_TRUE(b.C.Errore);
+}
+
+TEST_F(Reports, KeepCharactersThatThePageLacks) {
+  EXPECT_EQ(Lines([&] { ScriviRigaReport(b.C, "Caffè €, ř, 日本"); }),
+            "Caff\xE8 \x80, &#345;, &#26085;&#26412;\r\n");
+}
+
+TEST_F(Reports, OnAHostOfAnotherPageOnlyAsciiIsWrittenAsItIs) {
+  b.C.Luogo.AnsiCodePage = 1250;
+  EXPECT_EQ(Lines([&] { ScriviRigaReport(b.C, "Caffè, ř"); }), "Caff&#232;, &#345;\r\n");
+}
+
+}  // namespace
+}  // namespace kvr5
