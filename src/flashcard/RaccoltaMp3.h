@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "core/Contesto.h"
-#include "flashcard/ListaCopia.h"
+#include "core/ListaCopia.h"
 #include "platform/db/Recordset.h"
 
 namespace kvr5 {

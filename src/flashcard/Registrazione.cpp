@@ -7,7 +7,7 @@
 #include "core/CopiaFileShell.h"
 #include "core/Lingua.h"
 #include "core/ParoleCopia.h"
-#include "flashcard/ListaCopia.h"
+#include "core/ListaCopia.h"
 #include "flashcard/RaccoltaMp3.h"
 #include "platform/FileOps.h"
 #include "projects/CartellaProgetto.h"

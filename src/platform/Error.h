@@ -95,4 +95,18 @@ class ErrorState {
   Error last_;
 };
 
+/// Gives what the user does amid the events of a long routine a pending error of its own, so that
+/// it neither adds to that of the routine nor clears it.
+class OwnError {
+ public:
+  explicit OwnError(ErrorState& state) : state_(state), outer_(std::exchange(state, {})) {}
+  ~OwnError() { state_ = outer_; }
+  OwnError(const OwnError&) = delete;
+  OwnError& operator=(const OwnError&) = delete;
+
+ private:
+  ErrorState& state_;
+  ErrorState outer_;
+};
+
 }  // namespace kvr5

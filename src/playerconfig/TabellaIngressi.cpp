@@ -2,6 +2,7 @@
 
 #include "core/Aiuti.h"
 #include "core/Registro.h"
+#include "platform/FileOps.h"
 #include "platform/db/Walk.h"
 #include "playerconfig/CodiceIngressi.h"
 #include "projects/CartellaProgetto.h"
@@ -41,6 +42,15 @@ void TabellaIngressi::Riapri() {
   if (percorso_ != FileDelProgetto(contesto_, "inputcfg.mdb")) return;  // another project's
   Ignora(connessione_.Open(percorso_));
   Ignora(righe_.Open(connessione_, kAllRows));
+}
+
+void TabellaIngressi::RiapriRighe() {
+  righe_.Close();
+  const std::string path = FileDelProgetto(contesto_, "inputcfg.mdb");
+  if (!FileExists(contesto_.Files, path)) return;
+  auto& error = contesto_.Errore;
+  if (!connessione_.IsOpen() && !error.Record(connessione_.Open(path))) return;
+  error.Record(righe_.Open(connessione_, kAllRows));
 }
 
 bool TabellaIngressi::Cerca(std::int16_t codice) {

@@ -36,6 +36,9 @@ class TabellaIngressi {
   /// Opens what Apri opened once more, and the recordset on all rows; nothing when another project
   /// is open by now.
   void Riapri();
+  /// Opens the recordset once more, so that it reads the current table; the connection too, where
+  /// it isn't open. Nothing is opened, and nothing fails, where the project has no such database.
+  void RiapriRighe();
   bool Aperta() const { return righe_.IsOpen(); }
 
   /// Goes to the row of a code; false when it has none or the search

@@ -26,6 +26,11 @@ constexpr std::array kVerbs{
          "Lists, assigns and frees combinations of logic inputs. CODE is 1 to 255 or such as "
          "IN1+IN3.",
          true, RunInputs},
+    Verb{"save", "PROJECT [--copy-inputs]",
+         "Writes descriptor, Config.txt and report of a project, as the program's Save does right\n"
+         "after opening it. With --copy-inputs the MP3 files of the inputs are copied into it too.",
+         true, RunSave},
+    Verb{"report", "PROJECT", "Writes the project report and prints its path.", true, RunReport},
     Verb{"record", "PROJECT CARD...",
          "Records a project onto one card after another. CARD is a drive letter or a folder.", true,
          RunRecord},

@@ -35,7 +35,7 @@ TEST_F(LeavingHub, IsAskedAboutInFourLines) {
   EXPECT_EQ(Leave("cmdCancel"),
             "Leave project|Leave the project? Assignments stay; levels and options that aren't "
             "saved are lost.\nYes: main menu\n"
-            "No: end the program\nCancel: stay");
+            "No: end the program\nCancel: stay, to save first");
 }
 
 TEST_F(LeavingHub, CancelStays) {

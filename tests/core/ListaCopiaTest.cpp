@@ -3,7 +3,7 @@
 #include <random>
 #include <vector>
 
-#include "flashcard/ListaCopia.h"
+#include "core/ListaCopia.h"
 #include "platform/Fold.h"
 
 namespace kvr5 {
@@ -24,6 +24,15 @@ TEST(ListaCopia, FindsASourceWithoutRegardToCase) {
   EXPECT_TRUE(list.Contiene("c:\\CITTÀ\\a.MP3"));
   EXPECT_FALSE(list.Contiene("C:\\Citta\\A.mp3"));
   EXPECT_FALSE(list.Contiene("E:\\1.mp3")) << "destinations aren't looked at";
+}
+
+TEST(ListaCopia, FindsADestinationWithoutRegardToCaseAndByItsBeginning) {
+  ListaCopia list;
+  EXPECT_FALSE(list.ContieneDestinazione(""));
+  list.Aggiungi("C:\\a.mp3", "C:\\Hall\\Città.mp3.mp3");
+  EXPECT_TRUE(list.ContieneDestinazione("c:\\hall\\CITTÀ.mp3.MP3"));
+  EXPECT_TRUE(list.ContieneDestinazione("C:\\Hall\\Città.mp3"));
+  EXPECT_FALSE(list.ContieneDestinazione("C:\\a.mp3")) << "sources aren't looked at";
 }
 
 TEST(ListaCopia, ThePartOfAListedPathCountsAsListed) {

@@ -1,4 +1,4 @@
-#include "flashcard/ListaCopia.h"
+#include "core/ListaCopia.h"
 
 #include "platform/Fold.h"
 
@@ -21,6 +21,11 @@ void ListaCopia::Aggiungi(std::string_view sorgente, std::string_view destinazio
   ripiegati_.append("|").append(folded);
   regolari_ = regolari_ && IsRegular(folded);
   percorsi_.insert(std::move(folded));
+}
+
+bool ListaCopia::ContieneDestinazione(std::string_view percorso) const {
+  return !destinazioni_.empty() &&
+         FoldCase(destinazioni_).find(FoldCase(percorso)) != std::string::npos;
 }
 
 bool ListaCopia::Contiene(std::string_view percorso) const {

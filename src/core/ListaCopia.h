@@ -22,6 +22,9 @@ class ListaCopia {
   /// one.
   bool Contiene(std::string_view percorso) const;
 
+  /// The same search in the list of destinations, in its plain text: for lists of a few hundred.
+  bool ContieneDestinazione(std::string_view percorso) const;
+
   const std::string& ListaSorgenti() const { return sorgenti_; }
   const std::string& ListaDestinazioni() const { return destinazioni_; }
 
