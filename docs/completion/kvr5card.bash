@@ -56,16 +56,17 @@ _kvr5card() {
   esac
   if [[ -z $verb ]]; then
     _kvr5card_words "$word" --program --lang --json --yes --no --help --version \
-      mp3 new projects show config inputs record
+      mp3 new projects show config inputs save report record
     return
   fi
   if [[ $word == -* && $n == 0 ]]; then
     _kvr5card_words "$word" --help
     [[ $verb == new ]] && _kvr5card_words "$word" --mode
+    [[ $verb == save ]] && _kvr5card_words "$word" --copy-inputs
     return
   fi
   case $verb:$n in
-    show:0 | config:0 | inputs:0 | record:0)
+    show:0 | config:0 | inputs:0 | save:0 | report:0 | record:0)
       _kvr5card_offer "$word" < <("$command" "${program[@]}" projects 2>/dev/null)
       ;;
     config:1) _kvr5card_words "$word" get set ;;
@@ -76,7 +77,8 @@ _kvr5card() {
       ;;
     inputs:1) _kvr5card_words "$word" list set clear ;;
     new:*) _kvr5card_words "$word" --mode ;;
-    projects:* | show:*) ;;
+    save:*) _kvr5card_words "$word" --copy-inputs ;;
+    projects:* | show:* | report:*) ;;
     *) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
   esac
 }

@@ -67,6 +67,9 @@ TEST_F(Completion, OffersVerbsAndOptions) {
   EXPECT_EQ(Offered({"show", "--"}), Words{"--help"});
   EXPECT_EQ(Offered({"config", "it's", "g"}), Words{"get"});
   EXPECT_EQ(Offered({"inputs", "it's", "s"}), Words{"set"});
+  EXPECT_EQ(Offered({"sa"}), Words{"save"});
+  EXPECT_EQ(Offered({"save", "it's", "--"}), Words{"--copy-inputs"});
+  EXPECT_EQ(Offered({"report", "My"}), Words{"My Hall"});
 }
 
 TEST_F(Completion, OffersValues) {

@@ -12,7 +12,8 @@ TEST(Usage, HelpGoesToStandardOutputWithStatus0) {
   const Compagno k;
   const auto run = k.Esegui({"--help"});
   EXPECT_EQ(run.Stato, 0);
-  for (const char* verb : {"mp3", "new", "projects", "show", "config", "inputs", "record"}) {
+  for (const char* verb :
+       {"mp3", "new", "projects", "show", "config", "inputs", "save", "report", "record"}) {
     EXPECT_NE(run.Uscita.find(verb), std::string::npos) << verb;
     const auto help = k.Esegui({verb, "--help"});
     EXPECT_EQ(help.Stato, 0) << verb;
