@@ -50,6 +50,8 @@ bool SalvaDescrittoreProgetto(Contesto& contesto) {
   if (!contesto.Errore.Record(file.Err())) return true;
   const CodePage page(contesto.Luogo.AnsiCodePage);
   contesto.Errore.Record(file.Value()->Write(page.Encode(DescriptorText(state))));
+  // The old one is gone: a power cut must not find neither.
+  contesto.Errore.Record(file.Value()->Flush());
   contesto.Errore.Record(file.Value()->Close());
   return true;
 }

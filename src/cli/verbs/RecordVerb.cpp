@@ -29,7 +29,7 @@ char LetterGiven(const std::string& card) {
 /// can't be one. A letter means a drive that the card dialog would offer, never the host's root.
 std::string CardRoot(Session& session, const std::string& card) {
   const auto folder = session.Context().Files.SystemPath(card);
-  const std::string root = folder && !card.empty() ? AggiungiBarra(folder.Value()) : std::string();
+  std::string root = folder && !card.empty() ? AggiungiBarra(folder.Value()) : std::string();
   const char letter = LetterGiven(card);
   const bool bare = card.size() == 1;  // may be a folder's name as well
   if (letter == '\0' || (bare && FolderExists(session.Context().Files, root))) return root;

@@ -268,12 +268,10 @@ int Stile::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
 QSize Stile::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                               const QWidget* widget) const {
   QSize result = QProxyStyle::sizeFromContents(type, option, size, widget);
-  if (type == CT_LineEdit || type == CT_ComboBox) {
+  if (type == CT_LineEdit || type == CT_ComboBox || type == CT_HeaderSection) {
     result.setHeight(std::max(result.height(), spazi::kControllo));
   } else if (type == CT_ItemViewItem) {
     result.setHeight(std::max(result.height() + 4, 28));
-  } else if (type == CT_HeaderSection) {
-    result.setHeight(std::max(result.height(), spazi::kControllo));
   }
   return result;
 }
@@ -302,8 +300,6 @@ void Stile::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
         DrawField(*painter, *option, (option->state & State_HasFocus) != 0);
       }
       return;
-    case PE_FrameLineEdit:
-      return;
     case PE_IndicatorCheckBox:
     case PE_IndicatorRadioButton:
       DrawIndicator(*painter, *option, element == PE_IndicatorRadioButton);
@@ -320,11 +316,11 @@ void Stile::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
         return;
       }
       break;
+    case PE_FrameLineEdit:
     case PE_PanelItemViewRow:
     case PE_PanelScrollAreaCorner:
+    case PE_FrameFocusRect:  // every control shows its focus itself
       return;
-    case PE_FrameFocusRect:
-      return;  // every control shows its focus itself
     default:
       break;
   }

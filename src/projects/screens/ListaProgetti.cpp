@@ -46,7 +46,7 @@ QVariant ListaProgetti::data(const QModelIndex& indice, int ruolo) const {
 QVariant ListaProgetti::headerData(int sezione, Qt::Orientation verso, int ruolo) const {
   constexpr std::array<const char*, Colonne> kKeys{"0130117", "0130118", "0130119"};
   if (verso != Qt::Horizontal || sezione < 0 || sezione >= Colonne) return {};
-  if (ruolo == Qt::TextAlignmentRole) return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+  if (ruolo == Qt::TextAlignmentRole) return {Qt::AlignLeft | Qt::AlignVCenter};
   if (ruolo != Qt::DisplayRole) return {};
   return Qs(TestoLingua(contesto_, kKeys.at(static_cast<std::size_t>(sezione))));
 }
