@@ -68,10 +68,13 @@ function(kvr5_add_library name)
   target_link_libraries(kvr5_${name} PUBLIC ${ARG_DEPENDS} ${ARG_LINK} PRIVATE kvr5_options)
 endfunction()
 
-# kvr5_add_test(<name> LINK <target>...)
+# kvr5_add_test(<name> LINK <target>... [HEADERS <kind>])
 # The GoogleTest program test_<name> of all sources of the current folder.
 function(kvr5_add_test name)
-  cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
+  cmake_parse_arguments(ARG "" "HEADERS" "LINK" ${ARGN})
+  if(NOT ARG_HEADERS)
+    set(ARG_HEADERS tests)
+  endif()
   file(GLOB sources CONFIGURE_DEPENDS
     "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp" "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
   add_executable(test_${name} ${sources})
@@ -80,7 +83,7 @@ function(kvr5_add_test name)
     ${ARG_LINK} kvr5_test_support GTest::gtest GTest::gmock kvr5_options)
   target_compile_definitions(test_${name} PRIVATE
     KVR5_TEST_DATA="${CMAKE_CURRENT_SOURCE_DIR}/data")
-  kvr5_take_headers(test_${name} tests)
+  kvr5_take_headers(test_${name} ${ARG_HEADERS})
   include(GoogleTest)
   gtest_discover_tests(test_${name} TEST_PREFIX "${name}/" DISCOVERY_MODE PRE_TEST
     PROPERTIES TIMEOUT 300)
