@@ -1,0 +1,25 @@
+#include "core/Ascolto.h"
+
+#include "platform/FileOps.h"
+
+namespace kvr5 {
+
+void Ascolto::ApriFuori(Esecutore& documenti, const std::string& file) {
+  documenti.Apri(file, " /PLAY");
+}
+
+void Ascolto::Suona(Anteprima& player, const std::string& file) {
+  Ignora(player.Open(file));
+  Ignora(player.Play());
+}
+
+void Ascolto::Zittisci(Anteprima& player) {
+  player.Stop();
+  player.Close();
+}
+
+bool Ascolto::Esiste(const std::string& cartella, const std::string& nome) const {
+  return !nome.empty() && FileExists(contesto_.Files, cartella + nome);
+}
+
+}  // namespace kvr5
