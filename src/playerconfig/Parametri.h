@@ -110,6 +110,9 @@ std::string ParoleDelFile(Contesto& contesto, const Parametro& parametro, std::s
 /// work out.
 std::vector<std::string> ChiaviDelleVoci();
 
+/// The values that the items of a parameter's list stand for, by list index, in the file's terms.
+std::vector<int> ValoriDelleVoci(const Parametro& parametro);
+
 /// The words that the screen shows for a state.
 std::string ParoleDelValore(Contesto& contesto, const Parametro& parametro,
                             const StatoParametro& stato);

@@ -68,12 +68,18 @@ std::string OptionCaption(Words words, int value) {
 
 }  // namespace
 
+std::vector<int> ValoriDelleVoci(const Parametro& parametro) {
+  if (!parametro.Dati.empty()) return {parametro.Dati.begin(), parametro.Dati.end()};
+  std::vector<int> values;
+  for (int value = parametro.Minimo; value <= parametro.Massimo; ++value) values.push_back(value);
+  return values;
+}
+
 std::vector<std::string> ChiaviDelleVoci() {
   std::vector<std::string> keys;
   for (const Parametro& parameter : Parametri()) {
     if (parameter.PrimaChiave == 0) continue;
-    const int items = parameter.Dati.empty() ? parameter.Massimo - parameter.Minimo + 1
-                                             : static_cast<int>(parameter.Dati.size());
+    const int items = static_cast<int>(ValoriDelleVoci(parameter).size());
     for (int i = 0; i < items; ++i) keys.push_back(LanguageKey(parameter.PrimaChiave + i));
   }
   return keys;

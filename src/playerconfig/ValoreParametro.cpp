@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <charconv>
 
+#include "playerconfig/CasellaNumero.h"
 #include "playerconfig/Parametri.h"
 
 namespace kvr5 {
@@ -23,13 +24,10 @@ StatoParametro TakeNumber(const Parametro& parameter, std::string_view text,
   return {number.Value(), {}};
 }
 
-/// The check of a box for seconds: no number and less than 1 become 1, 31 and more become 30; a
-/// number inside stays as it is written.
-StatoParametro TakeSeconds(std::string_view text, const Locale& locale) {
-  const auto number = TextToNumber(text, locale);
-  if (!number || *number < 1) return {0, "1"};
-  if (*number >= 31) return {0, "30"};
-  return {0, std::string(text)};
+/// The check of the box runs on the file's value, too.
+StatoParametro TakeSeconds(const Parametro& parameter, std::string_view text,
+                           const Locale& locale) {
+  return {0, NumeroControllato(text, parameter.Minimo, parameter.Massimo, locale)};
 }
 
 /// TPCM: anything but "0" is put into the box as a number; what is no number leaves the box.
@@ -73,7 +71,7 @@ StatoParametro DalFile(const Parametro& parametro, std::string_view testo,
     case Kind::MaiLetto:
       return prima;
     case Kind::Secondi:
-      return TakeSeconds(testo, luogo);
+      return TakeSeconds(parametro, testo, luogo);
     default:
       break;
   }

@@ -86,7 +86,17 @@ TEST(Parameters, SecondsAreCheckedOnReading) {
     EXPECT_EQ(Saved(key, "31"), "30");
     EXPECT_EQ(Saved(key, "99"), "30");
     EXPECT_EQ(Saved(key, "abc"), "1");
+    EXPECT_EQ(Saved(key, "1e1"), "10");
+    EXPECT_EQ(Saved(key, "007"), "007") << "digits stay as they are written";
   }
+}
+
+TEST(Parameters, TheItemsOfAListStandForTheirValuesInOrder) {
+  EXPECT_EQ(ValoriDelleVoci(Find("TAVC")), (std::vector{0, 1, 2, 3, 4}));
+  EXPECT_EQ(ValoriDelleVoci(Find("CMDB")), (std::vector{7, 8}));
+  EXPECT_EQ(ValoriDelleVoci(Find("PYDL")),
+            (std::vector{0, 1, 2, 3, 4, 5, 10, 20, 30, 60, 120, 180, 240}));
+  EXPECT_EQ(ValoriDelleVoci(Find("RSPL")).size(), 50U);
 }
 
 TEST(Parameters, ListsWithAnOffsetKeepTheirNumbers) {
@@ -120,7 +130,7 @@ TEST(Parameters, FractionsAreRoundedToEvenWithTheLocalesMark) {
   italian.DecimalMark = ",";
   italian.GroupMark = ".";
   EXPECT_EQ(DalFile(Find("LTRE"), "3,5", StatoIniziale(Find("LTRE")), italian).Numero, 4);
-  EXPECT_EQ(Saved("TFIN", "5.5"), "5.5") << "a text inside the limits stays as it is";
+  EXPECT_EQ(Saved("TFIN", "5.5"), "6") << "the file takes digits only";
 }
 
 TEST(Parameters, AnEmptyValueLeavesWhatIsThereButForTheOnesThatReadItAsOff) {

@@ -41,5 +41,25 @@ TEST(Ponte, AChoiceBeforeItIsTickedIsWhatItGoesBackTo) {
   EXPECT_EQ(bridge.Omon(), 1);
 }
 
+TEST(Ponte, TheDefaultsRunNoneOfTheClicksLogic) {
+  Ponte bridge(true, 1);
+  bridge.Predefinisci();
+  EXPECT_FALSE(bridge.Acceso());
+  EXPECT_EQ(bridge.Omon(), 0);
+  EXPECT_FALSE(bridge.OmonLibero()) << "until the box is clicked";
+  bridge.Spunta(true);
+  EXPECT_EQ(bridge.Omon(), 1);
+  bridge.Spunta(false);
+  EXPECT_EQ(bridge.Omon(), 0) << "what it was when the box was clicked";
+  EXPECT_TRUE(bridge.OmonLibero());
+}
+
+TEST(Ponte, TheDefaultsLeaveAFreeListFree) {
+  Ponte bridge(false, 1);
+  bridge.Predefinisci();
+  EXPECT_EQ(bridge.Omon(), 0);
+  EXPECT_TRUE(bridge.OmonLibero());
+}
+
 }  // namespace
 }  // namespace kvr5
