@@ -117,6 +117,7 @@ int Set(Session& session, const std::vector<std::string>& arguments) {
   }
   context.Errore.Clear();
   std::vector<IniValue> values;
+  values.reserve(changes.size());
   for (const auto& [parameter, value] : changes) values.push_back({parameter->Chiave, value});
   ScriviChiaviConfig(context, values);
   if (context.Errore) {
