@@ -19,9 +19,8 @@ class RealSound : public testing::Test {
     Use("dummy");
   }
   ~RealSound() override {
-    for (const char* name : {"SDL_AUDIODRIVER", "SDL_DISKAUDIOFILE", "SDL_DISKAUDIODELAY"}) {
-      qunsetenv(name);
-    }
+    Use("dummy");
+    for (const char* name : {"SDL_DISKAUDIOFILE", "SDL_DISKAUDIODELAY"}) qunsetenv(name);
   }
   static void Use(const char* driver) { qputenv("SDL_AUDIODRIVER", driver); }
   /// A quick device that writes what it is given into a file, whose path it is.

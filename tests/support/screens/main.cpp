@@ -37,6 +37,8 @@ int main(int argc, char** argv) {
   if (platform.isEmpty() || platform == "offscreen") {
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" KVR5_TEST_SCREEN);
   }
+  // What plays in a test is heard by nobody.
+  if (qEnvironmentVariableIsEmpty("SDL_AUDIODRIVER")) qputenv("SDL_AUDIODRIVER", "dummy");
   QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
