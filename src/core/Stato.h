@@ -58,6 +58,8 @@ struct StatoApplicazione {
   std::string FileReport;
   std::shared_ptr<File> CanaleReport;
   bool ReportAperto = false;
+  /// Every line of it has got into its file; stays after the close.
+  bool ReportIntero = false;
 };
 
 }  // namespace kvr5

@@ -28,10 +28,24 @@ bool Holds(std::string_view line, std::string_view smallLetters) {
   return FoldCase(line).find(smallLetters) != std::string::npos;
 }
 
-/// Prints bytes of the report's page as a line.
+/// Prints bytes of the report's page as a line. A page that couldn't be opened has told why: its
+/// lines are lost in silence.
 void PrintLine(Contesto& contesto, std::string bytes) {
-  auto& file = contesto.Stato.CanaleReport;
-  contesto.Errore.Record(file ? file->Write(bytes += "\r\n") : Error(errors::BadFileName));
+  auto& state = contesto.Stato;
+  if (!state.CanaleReport) {
+    if (!state.ReportAperto) contesto.Errore.Record(Error(errors::BadFileName));
+    return;
+  }
+  if (!contesto.Errore.Record(state.CanaleReport->Write(bytes += "\r\n"))) {
+    state.ReportIntero = false;
+  }
+}
+
+/// Opens the file anew. An old one goes first, a hidden one too: nothing is added to it.
+Result<std::unique_ptr<File>> OpenAnew(Contesto& contesto, const std::string& path) {
+  const auto old = contesto.Files.Info(path);
+  if (old && !old.Value().IsFolder) contesto.Errore.Record(contesto.Files.Delete(path));
+  return contesto.Files.Open(path, OpenMode::Append);
 }
 
 /// Hands the trimmed lines of a file, as bytes, to `visit`, which gives false to stop.
@@ -80,15 +94,14 @@ void ApriReport(Contesto& contesto, std::string_view nome, std::string_view /*ti
   state.FileReport = FileDelProgetto(contesto, name);
   state.CanaleReport.reset();
   state.ReportAperto = true;
-  if (!CardCanHold(name)) {  // it might lead out of the folder
-    contesto.Errore.Record(Error(errors::BadFileName));
-  } else {
-    if (FileExists(contesto.Files, state.FileReport)) {
-      contesto.Errore.Record(contesto.Files.Delete(state.FileReport));
-    }
-    auto file = contesto.Files.Open(state.FileReport, OpenMode::Append);
+  if (CardCanHold(name)) {
+    auto file = OpenAnew(contesto, state.FileReport);
     if (contesto.Errore.Record(file.Err())) state.CanaleReport = std::move(file.Value());
+  } else {
+    contesto.Errore.Record(Error(errors::BadFileName));
+    state.FileReport.clear();  // it might lead out of the folder
   }
+  state.ReportIntero = state.CanaleReport != nullptr;
   IncludiTemplate(contesto, InReportFolder(contesto, "report.htm"));
   CopyUnlessThere(contesto, "logo_menu.jpg");
   CopyUnlessThere(contesto, "sf_menu.jpg");
@@ -102,7 +115,9 @@ void ChiudiReport(Contesto& contesto) {
   auto& state = contesto.Stato;
   ScriviRigaReport(contesto, kClose);
   ScriviRigaReport(contesto, "</HTML>");
-  if (state.CanaleReport) contesto.Errore.Record(state.CanaleReport->Close());
+  if (state.CanaleReport && !contesto.Errore.Record(state.CanaleReport->Close())) {
+    state.ReportIntero = false;
+  }
   state.CanaleReport.reset();
   contesto.Messaggi.LasciaCorrere();
   state.ReportAperto = false;

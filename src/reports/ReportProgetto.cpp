@@ -74,7 +74,7 @@ void ScriviReportProgetto(Contesto& contesto, const FontiReport& fonti) {
 void MostraReportProgetto(Contesto& contesto, Esecutore& esecutore, const FontiReport& fonti) {
   contesto.Messaggi.ImpostaPuntatore(Puntatore::Attesa);
   ScriviReportProgetto(contesto, fonti);
-  esecutore.Apri(contesto.Stato.FileReport);
+  if (!contesto.Stato.FileReport.empty()) esecutore.Apri(contesto.Stato.FileReport);
   contesto.Messaggi.ImpostaPuntatore(Puntatore::Normale);
 }
 

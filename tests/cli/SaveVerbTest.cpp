@@ -127,6 +127,15 @@ TEST_F(ReportVerb, ThatCantBeWrittenIsStatus1AndNamed) {
   EXPECT_NE(run.Box().at(0)["text"].get<std::string>().find("Hall.htm: "), std::string::npos);
 }
 
+TEST_F(ReportVerb, ThatIsWrittenWithoutSomethingThatBelongsToItIsTold) {
+  std::filesystem::remove(k.Host("program/Report/logo_menu.jpg"));
+  const auto run = k.EseguiJson({"report", "Hall"});
+  EXPECT_EQ(run.Stato, 1);
+  EXPECT_EQ(run.Oggetti().at(0)["report"], Project() + "/Hall.htm");
+  EXPECT_EQ(run.Box().at(0)["text"],
+            "the report is written, but not all that belongs to it was found: File not found");
+}
+
 TEST_F(ReportVerb, AProjectThatIsNotThereIsStatus3) {
   EXPECT_EQ(k.Esegui({"report", "Nowhere"}).Stato, 3);
   EXPECT_EQ(k.Esegui({"report"}).Stato, 2);

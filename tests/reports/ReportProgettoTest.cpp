@@ -146,10 +146,26 @@ TEST_F(ProjectReports, AreShownByTheHostWithTheBusyPointerOnMeanwhile) {
 }
 
 TEST_F(ProjectReports, ThatCantBeWrittenLeaveAnErrorAndTheProjectAsItWas) {
+  Write({});  // brings the images
+  Ignora(b.Disco.Delete(b.Percorso("program/Projects/Hall/Hall.htm")));
   ASSERT_FALSE(b.Disco.CreateFolder(b.Percorso("program/Projects/Hall/Hall.htm")));
+  const auto names = b.Nomi("program/Projects/Hall");
+  const std::string config = b.Cartella.Read("program/Projects/Hall/Config.txt");
+  b.C.Errore.Clear();
   ScriviReportProgetto(b.C, {});
-  EXPECT_TRUE(b.C.Errore);
+  EXPECT_EQ(b.C.Errore.Last().Number(), errors::PathFileAccess);
   EXPECT_FALSE(b.C.Stato.ReportAperto);
+  EXPECT_EQ(b.Nomi("program/Projects/Hall"), names);
+  EXPECT_EQ(b.Cartella.Read("program/Projects/Hall/Config.txt"), config);
+}
+
+TEST_F(ProjectReports, OfANameThatLeadsOutOfTheFolderOpenNothing) {
+  b.Cartella.Write("program/x.htm", "somebody's page");
+  b.C.Stato.ProjectName = "..\\..\\x";
+  test::EsecutoreFinto documents;
+  MostraReportProgetto(b.C, documents, {});
+  EXPECT_TRUE(documents.Aperti.empty());
+  EXPECT_EQ(b.Cartella.Read("program/x.htm"), "somebody's page");
 }
 
 }  // namespace

@@ -104,12 +104,15 @@ TEST_F(Reports, ATemplateIsKeptUpToItsClosingTagAndTrimmed) {
 }
 
 TEST_F(Reports, ADivOnOneOfTheFirstTwoLinesOfATemplateIsDroppedAndOnTheThirdKept) {
-  Template("<HTML>\r\n<div>\r\n<div>\r\n");
-  EXPECT_EQ(Lines([] {}), "") << "the helper empties the template";
-  Template("<HTML>\r\nan inDIVidual <DIV>\r\n<div>\r\n");
-  ApriReport(b.C, "y", "");
-  ChiudiReport(b.C);
-  EXPECT_EQ(Read("y.htm"), std::string("<HTML>\r\n<div>\r\n") + kTail);
+  const auto page = [this](const std::string& text) {
+    Template(text);
+    ApriReport(b.C, "y", "");
+    ChiudiReport(b.C);
+    return Read("y.htm");
+  };
+  EXPECT_EQ(page("<HTML>\r\n<div>\r\n<div>\r\n"), std::string("<HTML>\r\n<div>\r\n") + kTail);
+  EXPECT_EQ(page("<div>\r\n<HTML>\r\n<div>\r\n"), std::string("<HTML>\r\n<div>\r\n") + kTail);
+  EXPECT_EQ(page("inDIVidual\r\n<DIV>\r\n<div>\r\n"), std::string("<div>\r\n") + kTail);
 }
 
 TEST_F(Reports, AnEmptyTemplateAndOneWithoutABodyAreCopiedAsFarAsTheyGo) {
@@ -186,6 +189,7 @@ TEST_F(Reports, ANameThatLeadsOutOfTheFolderWritesNothing) {
   ScriviRigaReport(b.C, "line");
   ChiudiReport(b.C);
   EXPECT_EQ(b.C.Errore.Last().Number(), errors::BadFileName);
+  EXPECT_EQ(b.C.Stato.FileReport, "");
   EXPECT_FALSE(b.Cartella.Exists("program/evil.htm"));
 }
 
@@ -198,6 +202,37 @@ TEST_F(Reports, AReadOnlyReportStaysAndIsTold) {
   ChiudiReport(b.C);
   EXPECT_EQ(Read("x.htm"), "old");
   EXPECT_TRUE(b.C.Errore);
+}
+
+TEST_F(Reports, OfAHiddenNameReplaceTheOldOneToo) {
+  for (const char* line : {"first", "second"}) {
+    ApriReport(b.C, ".Hall", "");
+    ScriviRigaReport(b.C, line);
+    ChiudiReport(b.C);
+  }
+  EXPECT_EQ(Read(".Hall.htm").find("first"), std::string::npos);
+}
+
+TEST_F(Reports, TellWhetherTheyAreWhole) {
+  ApriReport(b.C, "x", "");
+  ChiudiReport(b.C);
+  EXPECT_TRUE(b.C.Stato.ReportIntero);
+  ASSERT_FALSE(b.Disco.CreateFolder(Project("y.htm")));
+  ApriReport(b.C, "y", "");
+  ChiudiReport(b.C);
+  EXPECT_FALSE(b.C.Stato.ReportIntero);
+  EXPECT_EQ(b.C.Errore.Last().Number(), errors::PathFileAccess) << "the cause, not its followers";
+}
+
+TEST_F(Reports, ShowATextOfAHundredThousandLinesWhole) {
+  std::string text;
+  std::string shown;
+  for (int i = 0; i < 100000; ++i) {
+    text += "K" + std::to_string(i) + "=1\r\n";
+    shown += "K" + std::to_string(i) + "=1<BR>\r\n";
+  }
+  InProject("t.txt", text);
+  EXPECT_EQ(Lines([&] { IncludiFileTesto(b.C, Project("t.txt"), true); }), shown);
 }
 
 TEST_F(Reports, KeepCharactersThatThePageLacks) {

@@ -18,8 +18,9 @@ int RunReport(Session& session, const std::vector<std::string>& arguments) {
   context.Errore.Clear();
   ScriviReportProgetto(context, {&inputs.Cursore(), analyzer});
   const std::string path = PercorsoPerPersone(context, state.FileReport);
-  if (context.Errore) {
-    session.Out().Say(path + ": " + context.Errore.Last().Description());
+  const std::string why = context.Errore.Last().Description();
+  if (!state.ReportIntero) {
+    session.Out().Say((path.empty() ? state.ProjectName : path) + ": " + why);
     return kRefused;
   }
   if (session.Out().IsJson()) {
@@ -27,7 +28,9 @@ int RunReport(Session& session, const std::vector<std::string>& arguments) {
   } else {
     session.Out().Line(path);
   }
-  return kDone;
+  if (!context.Errore) return kDone;
+  session.Out().Say("the report is written, but not all that belongs to it was found: " + why);
+  return kRefused;
 }
 
 }  // namespace kvr5::cli
