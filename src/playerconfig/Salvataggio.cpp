@@ -6,6 +6,7 @@
 #include "core/CopiaFileShell.h"
 #include "core/Lingua.h"
 #include "core/ListaCopia.h"
+#include "core/ParoleCopia.h"
 #include "platform/FileOps.h"
 #include "platform/db/Walk.h"
 #include "projects/CartellaProgetto.h"
@@ -106,7 +107,7 @@ bool Saving::ListRow() {
   // A bar divides the lists; and a row without a name would stand for its whole folder.
   const bool usable = !name.empty() && source.find('|') == std::string::npos;
   if (!usable || !FileExists(context_.Files, source)) {
-    missing_ = name.empty() ? source : name;
+    missing_ = name.empty() ? PercorsoPerPersone(context_, source) : name;
     return false;
   }
   // By their places in the project: of two files of one name the first is copied.

@@ -71,6 +71,18 @@ TEST_F(OnATerminal, CtrlCAtAStageLetsTheMp3CopyRunAndIsToldAtTheEnd) {
   EXPECT_TRUE(k.Nomi("card2").empty());
 }
 
+TEST_F(OnATerminal, CtrlCEndsTheCopyOfASave) {
+  std::filesystem::resize_file(k.Host("music/a.mp3"), std::uintmax_t{3} << 30U);
+  Terminale terminal(k.Lavoro({"save", "Hall", "--copy-inputs"}));
+  ASSERT_TRUE(terminal.Aspetta("MB/s")) << terminal.Schermo();
+  terminal.Scrivi("\x03");
+  EXPECT_EQ(terminal.Fine(), 1) << terminal.Schermo();
+  EXPECT_NE(terminal.Schermo().find("not everything was saved"), std::string::npos)
+      << terminal.Schermo();
+  EXPECT_FALSE(k.Cartella.Exists("program/Projects/Hall/a.mp3"));
+  EXPECT_TRUE(k.Cartella.Exists("program/Projects/Hall/Hall.htm"));
+}
+
 TEST_F(OnATerminal, TheProgressLineFitsItsWidth) {
   constexpr unsigned short kNarrow = 12;
   Terminale terminal(k.Lavoro({"record", "Hall", k.Host("card")}, k.Host("out")), kNarrow);

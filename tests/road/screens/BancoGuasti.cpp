@@ -57,6 +57,11 @@ void Guasti::PremiTutto() {
     if (!each || !each->isVisible() || !each->isEnabled()) continue;
     const QString name = each->objectName();
     if (name == QLatin1String("picEsci") || name == QLatin1String("picDisk")) continue;
+    // They read a file that is made where it is missing; where it can't be the program says so, and
+    // ends.
+    const bool reads =
+        name == QLatin1String("picConfiguraFade") || name == QLatin1String("cmdConfigureExtra");
+    if (reads && !b.Cartella.Exists(DelProgetto(""))) continue;
     if (name == QLatin1String("cmdScegliScheda")) {
       ScegliScheda();
       continue;

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <algorithm>
+#include <set>
 
 #include "core/screens/RiquadroMessaggio.h"
 #include "core/screens/frmSiNo.h"
@@ -12,6 +13,14 @@ namespace kvr5::test {
 namespace {
 
 constexpr int kPatience = 3000;  // milliseconds
+
+/// The screens over the hub that Esc leaves without saving anything.
+bool IsLeftByEsc(const QWidget& window) {
+  static const std::set<QString> kNames{QStringLiteral("frmSalva"), QStringLiteral("frmTempiFade"),
+                                        QStringLiteral("frmPanelExtra"),
+                                        QStringLiteral("frmConfig485")};
+  return kNames.contains(window.objectName());
+}
 
 }  // namespace
 
@@ -30,6 +39,7 @@ void Risponditore::Guarda() {
     Tasto(*window, Qt::Key_Escape);
     return;
   }
+  if (IsLeftByEsc(*window)) return Tasto(*window, Qt::Key_Escape);
   if (!attesa_.isValid()) attesa_.start();
   if (attesa_.elapsed() < kPatience) return;
   attesa_.invalidate();

@@ -15,8 +15,9 @@ struct BoxLetto {
 };
 
 /// Sends away every box that comes up within its life, with the button that changes nothing, and
-/// remembers what it said: for tests that can't know which boxes come, or how many. Other windows
-/// are left to a Pilota; one that stays for 3 s is closed and fails the test.
+/// remembers what it said; the screens over the hub, such as that of the fades, too: for tests that
+/// can't know which boxes come, or how many. Other windows are left to a Pilota; one that stays for
+/// 3 s is closed and fails the test.
 class Risponditore {
  public:
   Risponditore();

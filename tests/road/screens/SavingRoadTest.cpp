@@ -1,0 +1,122 @@
+#include <QCheckBox>
+#include <QDir>
+#include <QRadioButton>
+#include <QSlider>
+#include <QTimer>
+#include <filesystem>
+
+#include "core/screens/RiquadroMessaggio.h"
+#include "core/screens/frmSalva.h"
+#include "flashcard/screens/frmProgress.h"
+#include "road/screens/BancoStrada.h"
+
+// "Save" in the whole program: the real question, the real progress and copy windows, and what is
+// there when the project is opened again.
+
+namespace kvr5 {
+namespace {
+
+using test::Clicca;
+using test::Pilota;
+
+class SavingRoad : public test::Strada {
+ protected:
+  void SetUp() override {
+    Strada::SetUp();
+    Avvia();
+    NuovoProgetto(QStringLiteral("Hall"));
+  }
+  /// Presses "Save" on the hub, leaves the question in its own way, and gives the closing words.
+  std::string Save(bool copies) {
+    std::string told;
+    const Pilota<frmSalva> question([&](frmSalva& form) {
+      if (form.chkSaveMp3Inputs->isChecked() != copies) Clicca(*form.lblSaveMp3Inputs);
+      Clicca(*form.picSalva);
+    });
+    const Pilota<RiquadroMessaggio> closing([&](RiquadroMessaggio& box) {
+      told = test::Scritta(box, "lblTesto");
+      Clicca(box, "cmdOk");
+    });
+    Clic("frmPlayerConfig", "picSave");
+    return told;
+  }
+  template <class T>
+  T& Of(const char* name) {
+    return test::Controllo<T>(Schermo("frmPlayerConfig"), name);
+  }
+  bool Exists(const std::string& name) const {
+    return b.Cartella.Exists("program/Projects/Hall/" + name);
+  }
+};
+
+TEST_F(SavingRoad, WhatIsSavedIsThereWhenTheProjectIsOpenedAgain) {
+  for (const char* slider : {"sliVolume", "sliLoudness", "sliTreble", "sliBass"}) {
+    Of<QSlider>(slider).setFocus();
+    test::Tasto(Schermo("frmPlayerConfig"), Qt::Key_Up);
+  }
+  for (const char* option : {"optMICP_ContinuosPlay", "optTPCM_On"})
+    Clic("frmPlayerConfig", option);
+  test::Riscrivi(Of<QWidget>("lstTPCM"), QStringLiteral("120"));
+  EXPECT_EQ(Save(false), "Saved.");
+  TornaAlMenu();
+  ApriProgetto(0);
+  EXPECT_EQ(Of<QSlider>("sliVolume").value(), 15);
+  EXPECT_EQ(Of<QSlider>("sliLoudness").value(), 1);
+  EXPECT_EQ(Of<QSlider>("sliTreble").value(), 11);
+  EXPECT_EQ(Of<QSlider>("sliBass").value(), 11);
+  EXPECT_TRUE(Of<QRadioButton>("optMICP_ContinuosPlay").isChecked());
+  EXPECT_TRUE(Of<QRadioButton>("optTPCM_On").isChecked());
+  EXPECT_EQ(Of<QLineEdit>("lstTPCM").text(), "120");
+  EXPECT_FALSE(Of<QWidget>("lblNonSalvato").isVisible());
+}
+
+TEST_F(SavingRoad, TheBoxOfTheQuestionDecidesOnTheCopiesAndIsKept) {
+  VaiAllaMusica();
+  Assegna({1}, "welcome.mp3");
+  EXPECT_EQ(Save(false), "Saved.");
+  EXPECT_FALSE(Exists("welcome.mp3"));
+  bool ticked = true;
+  {
+    const Pilota<frmSalva> question([&](frmSalva& form) {
+      ticked = form.chkSaveMp3Inputs->isChecked();
+      test::Tasto(form, Qt::Key_Escape);
+    });
+    Clic("frmPlayerConfig", "picSave");
+  }
+  EXPECT_FALSE(ticked) << "as it was left";
+  EXPECT_EQ(Save(true), "Saved.");
+  EXPECT_TRUE(b.Cartella.Same("program/Projects/Hall/welcome.mp3", "music/welcome.mp3"));
+}
+
+TEST_F(SavingRoad, AQuestionThatIsLeftByItsWindowSavesNothing) {
+  Of<QSlider>("sliVolume").setFocus();
+  test::Tasto(Schermo("frmPlayerConfig"), Qt::Key_Up);
+  {
+    const Pilota<frmSalva> question([](frmSalva& form) { form.close(); });
+    Clic("frmPlayerConfig", "picSave");
+  }
+  EXPECT_TRUE(Of<QWidget>("lblNonSalvato").isVisible());
+  EXPECT_FALSE(Exists("Hall.htm"));
+  EXPECT_TRUE(Schermo("frmPlayerConfig").isEnabled());
+}
+
+TEST_F(SavingRoad, ACancelInTheProgressWindowEndsItBetweenTwoSteps) {
+  bool pressed = false;
+  QTimer watch;
+  QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      auto* progress = dynamic_cast<frmProgress*>(window);
+      if (pressed || progress == nullptr || !progress->isVisible()) continue;
+      pressed = true;
+      progress->picAnnulla->click();
+    }
+  });
+  watch.start(0);
+  EXPECT_EQ(Save(false), "Cancelled: not everything was saved. Save again to complete it.");
+  EXPECT_TRUE(pressed);
+  watch.stop();
+  EXPECT_EQ(Save(false), "Saved.") << "the next one isn't cancelled";
+}
+
+}  // namespace
+}  // namespace kvr5
