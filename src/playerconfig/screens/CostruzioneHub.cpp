@@ -147,17 +147,18 @@ void frmPlayerConfig::Disponi() {
 
 void frmPlayerConfig::Collega() {
   fraIngressiLogici->SuSpunta = [this](int input, bool on) {
-    CambiaCodice([&] { codice_->Spunta(input, on); });
+    CambiaCodice([this, input, on] { codice_->Spunta(input, on); });
   };
   fraIngressiLogici->SuVaiAlFile = [this] { VaiAlFile(); };
   Assegnazioni->SuScelta = [this](std::int64_t code) {
-    CambiaCodice([&] { codice_->Scegli(code); });
+    CambiaCodice([this, code] { codice_->Scegli(code); }, code != codice_->Codice());
   };
   fraFileName->SuScelta = [this] { SceltoFile(); };
   fraFileName->SuCartella = [this] { OffriCartella(); };
   fraFileName->SuSfoglia = [this] { SfogliaMp3(); };
   connect(fraFileName->cmdOkFileMp3, &QAbstractButton::clicked, this, [this] {
-    if (!fraFileName->OkSospeso()) ConfermaFile();
+    // While the inputs change, a press was meant for those before.
+    if (!fraFileName->OkSospeso() && cambi_.empty()) ConfermaFile();
   });
   connect(&fraFileInfo->tmrInfoMp3, &QTimer::timeout, this, [this] {
     const Impegno stays(*this);
@@ -186,23 +187,39 @@ void frmPlayerConfig::Collega() {
 }
 
 void frmPlayerConfig::CollegaComandi() {
+  CollegaAscolto();
+  connect(Barra->picSave, &QAbstractButton::clicked, this, [this] { Salva(); });
+  connect(Barra->picReport, &QAbstractButton::clicked, this, [this] { MostraReport(); });
   connect(Barra->picRecordFlash, &QAbstractButton::clicked, this, [this] { Registra(); });
   connect(Barra->picEsci, &QAbstractButton::clicked, this, [this] { Scarica(); });
   connect(picHelp, &QAbstractButton::clicked, this, [this] { Aiuto(); });
   SuTasto(Qt::Key_F1, [this] { Aiuto(); });
+  CollegaParametri();
+}
+
+void frmPlayerConfig::CollegaParametri() {
+  // A modal screen lets events run: the hub stays until it is gone.
+  const auto leads = [this](QAbstractButton* button, void (*open)(Navigazione&)) {
+    connect(button, &QAbstractButton::clicked, this, [this, open] {
+      if (lavora_) return;  // it would hold the work up, out of reach of its cancel
+      const Impegno stays(*this);
+      open(ambiente_.Schermi);
+    });
+  };
+  leads(Opzioni->picConfiguraFade, [](Navigazione& screens) { screens.ApriTempiFade(); });
+  leads(Opzioni->cmdConfigureExtra, [](Navigazione& screens) { screens.ApriPanelExtra(); });
+  for (auto* button : {Seriali->cmdConfigure232, Seriali->cmdConfigure232bis}) {
+    leads(button, [](Navigazione& screens) { screens.ApriConfig485(true); });
+  }
+  for (auto* button : {Seriali->picConfig485, Seriali->picConfig485bis}) {
+    leads(button, [](Navigazione& screens) { screens.ApriConfig485(false); });
+  }
 }
 
 void frmPlayerConfig::DisabilitaFuturi() {
   for (QWidget* control :
-       {static_cast<QWidget*>(Barra->picSave), static_cast<QWidget*>(Barra->picReport),
-        static_cast<QWidget*>(Barra->picPlaylist), static_cast<QWidget*>(Barra->picPalinsesto),
-        static_cast<QWidget*>(Barra->picCancellaFlash), static_cast<QWidget*>(Barra->picVerifica),
-        static_cast<QWidget*>(Opzioni->picConfiguraFade),
-        static_cast<QWidget*>(Opzioni->cmdConfigureExtra),
-        static_cast<QWidget*>(fraFileName->cmdPlayMp3),
-        static_cast<QWidget*>(fraFileName->cmdStopMp3),
-        static_cast<QWidget*>(fraIngressiLogici->cmdMp3Preview_Play),
-        static_cast<QWidget*>(fraIngressiLogici->cmdMp3Preview_Stop)}) {
+       {static_cast<QWidget*>(Barra->picPlaylist), static_cast<QWidget*>(Barra->picPalinsesto),
+        static_cast<QWidget*>(Barra->picCancellaFlash), static_cast<QWidget*>(Barra->picVerifica)}) {
     control->setEnabled(false);
     control->setToolTip(Qs(TestoLingua(C(), "0130244")));
   }

@@ -16,6 +16,7 @@
 #include "core/screens/Pagina.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
+#include "playerconfig/screens/PulsanteAscolto.h"
 
 namespace kvr5 {
 namespace {
@@ -160,14 +161,20 @@ void IngressiLogici::OffriCartella(const std::string& cartella) {
   cmdVaiAlFile->setAccessibleDescription(folder);
 }
 
+void IngressiLogici::MostraAscolto(bool on) {
+  const bool outside = contesto_.Stato.UsaPlayerEsterno;
+  ImpostaAscolto(contesto_, *cmdMp3Preview_Play, on, outside ? "0130271" : "0130243");
+}
+
 void IngressiLogici::Localizza() {
   const std::string name = TestoLinguaO(contesto_, "0130178", "Input %1");
   for (std::size_t i = 0; i < chkIn.size(); ++i) {
     chkIn[i]->setAccessibleName(Qs(ConValori(name, {std::to_string(i + 1)})));
   }
   ImpostaNumero(1, Qs(TestoLingua(contesto_, "0130123")));
-  cmdMp3Preview_Play->setToolTip(Qs(TestoLingua(contesto_, "0130243")));
+  MostraAscolto(false);
   cmdMp3Preview_Stop->ImpostaScritta(Qs(TestoLingua(contesto_, "0130169")));
+  cmdMp3Preview_Stop->setToolTip(Qs(TestoLingua(contesto_, "0130269")));
   cmdVaiAlFile->ImpostaScritta(Qs(TestoLinguaO(contesto_, "0130257", "Show its folder")));
 }
 

@@ -51,6 +51,8 @@ class IngressiLogici : public Riquadro {
   /// Offers the way to the folder of the combination's file, or doesn't where it is "".
   void OffriCartella(const std::string& cartella);
   bool OffreCartella() const { return !cmdVaiAlFile->isHidden(); }
+  /// cmdMp3Preview_Play shows that the combination's file plays, or that it doesn't.
+  void MostraAscolto(bool on);
   void Localizza();
 
  protected:

@@ -17,6 +17,7 @@
 #include "core/screens/SenzaRotella.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
+#include "playerconfig/screens/PulsanteAscolto.h"
 
 namespace kvr5 {
 
@@ -30,6 +31,7 @@ PaneMp3::PaneMp3(Contesto& contesto, QWidget* padre)
   connect(cmbFileMp3, &QComboBox::activated, this, [this] {
     sceltoDallUtente_ = true;
     LiberaOk();
+    AggiornaPlay();
     Clic();
   });
   // A button in the tab order answers to one click and to the keyboard; the label, which looks like
@@ -98,6 +100,7 @@ void PaneMp3::RiempiElencoMp3() {
   sceltoDallUtente_ = false;
   MostraElenco();
   cmbFileMp3->setCurrentIndex(static_cast<int>(elenco_.Scelto));
+  AggiornaPlay();
   Clic();
 }
 
@@ -108,6 +111,7 @@ bool PaneMp3::Rileggi() {
   const auto still = picked == " " ? std::optional<std::size_t>(0) : elenco_.Indice(picked);
   if (!still) sceltoDallUtente_ = false;
   cmbFileMp3->setCurrentIndex(static_cast<int>(still.value_or(0)));
+  AggiornaPlay();
   return true;
 }
 
@@ -140,14 +144,28 @@ void PaneMp3::Scegli(const std::string& nome) {
   cmbFileMp3->setCurrentIndex(0);
   Clic();
   const auto index = elenco_.Indice(nome);
-  if (!index) return;
+  if (!index) return AggiornaPlay();
   cmbFileMp3->setCurrentIndex(static_cast<int>(*index));
+  AggiornaPlay();
   Clic();
 }
 
 void PaneMp3::OkCambiato() {
   sospeso_.start();
   if (OkConTastiera()) cmbFileMp3->setFocus();
+}
+
+void PaneMp3::MostraAscolto(bool on) {
+  inAscolto_ = on;
+  AggiornaPlay();
+}
+
+void PaneMp3::AggiornaPlay() {
+  const bool picked = !Rifila(Scelto()).empty();
+  if (!picked && window()->focusWidget() == cmdPlayMp3) cmbFileMp3->setFocus();
+  cmdPlayMp3->setEnabled(picked);
+  const char* plays = contesto_.Stato.UsaPlayerEsterno ? "0130270" : "0130268";
+  ImpostaAscolto(contesto_, *cmdPlayMp3, inAscolto_, picked ? plays : "0130272");
 }
 
 bool PaneMp3::Sospeso() const {
@@ -188,6 +206,8 @@ void PaneMp3::Localizza() {
   picDisk->ImpostaScritta(Qs(TestoLingua(contesto_, "0130171")));
   cmdPlayMp3->ImpostaScritta(Qs(TestoLingua(contesto_, "0130168")));
   cmdStopMp3->ImpostaScritta(Qs(TestoLingua(contesto_, "0130169")));
+  cmdStopMp3->setToolTip(Qs(TestoLingua(contesto_, "0130269")));
+  AggiornaPlay();
   MostraTogliere(false);
   numero_->setToolTip(Qs(TestoLingua(contesto_, "0130125")));
   numero_->setAccessibleName(numero_->toolTip());

@@ -58,6 +58,8 @@ class PaneMp3 : public Riquadro {
   /// Shows cmdOkFileMp3, ready to be pressed, or hides it; the keyboard goes to cmbFileMp3 then,
   /// and never to a button further on.
   void MostraOk(bool mostra);
+  /// cmdPlayMp3 shows that the picked file plays, or that it doesn't.
+  void MostraAscolto(bool on);
   void Localizza();
 
   /// Called for every choice of an item, by the user or by code, the same one too.
@@ -73,6 +75,8 @@ class PaneMp3 : public Riquadro {
  private:
   void Costruisci();
   void MostraElenco();
+  /// cmdPlayMp3 is off while no file is picked; the keyboard goes to cmbFileMp3 then.
+  void AggiornaPlay();
   bool Sospeso() const;
   void Clic() const {
     if (SuScelta) SuScelta();
@@ -82,6 +86,7 @@ class PaneMp3 : public Riquadro {
   QLabel* numero_;
   ElencoMp3 elenco_;
   bool sceltoDallUtente_ = false;
+  bool inAscolto_ = false;
   QElapsedTimer sospeso_;
   bool pressioneSospesa_ = false;
 };

@@ -16,8 +16,10 @@
 #include "playerconfig/CartellaMp3.h"
 #include "playerconfig/ModoDelPlayer.h"
 #include "playerconfig/RientroDaScheda.h"
+#include "playerconfig/Salvataggio.h"
 #include "projects/CartellaProgetto.h"
 #include "projects/Descrittore.h"
+#include "reports/ReportProgetto.h"
 
 namespace kvr5 {
 namespace {
@@ -29,6 +31,22 @@ constexpr int kTypeRoom = 420;
 constexpr std::size_t kRowsRead = 500;
 constexpr std::size_t kFilesSeen = 100;
 constexpr int kLongestPause = 15;  // rounds of the watch between two tries to read
+
+/// frmSalva, shown over the hub.
+class DomandaDelSalva : public DomandaSalva {
+ public:
+  DomandaDelSalva(Navigazione& schermi, bool& annulla) : schermi_(schermi), annulla_(annulla) {}
+  bool Annulla() override {
+    annulla_ = true;
+    schermi_.ChiediSalvataggio(Schermata::Configurazione,
+                               [this](bool cancel) { annulla_ = cancel; });
+    return annulla_;
+  }
+
+ private:
+  Navigazione& schermi_;
+  bool& annulla_;
+};
 
 /// Whether the rows have for a code what is shown of it.
 bool IsShown(const std::vector<RigaIngresso>& rows, const CodiceScelto& code) {
@@ -140,9 +158,11 @@ void frmPlayerConfig::MostraModo() {
 void frmPlayerConfig::AllAttivazione() {
   if (!codice_) return;
   const Impegno stays(*this);
+  const OwnError own(C().Errore);
   const OkInPosto same(*this);  // the click that brings the hub to the front comes next
   {
     const OkInPosto link(*this);  // held up before the rereading below lets events run
+    ZittiscePerRs485();
     if (codice_->AbilitaIngressiRs485()) {
       fraFileName->SegnaScelta(false);
       MostraCodice();
@@ -168,25 +188,6 @@ void frmPlayerConfig::RileggiCartella() {
   // The button stays meanwhile: the click that brings the hub to the front may be meant for it.
   fraFileInfo->tmrInfoMp3.stop();
   MostraInfoMp3();
-}
-
-void frmPlayerConfig::CambiaCodice(const std::function<void()>& cambia) {
-  const Impegno stays(*this);
-  C().Errore.Clear();
-  cambia();
-  const bool failed{C().Errore};
-  fraFileName->SegnaScelta(false);
-  fraFileName->LiberaOk();
-  MostraCodice();
-  if (!failed) return;
-  // Not from within the list's own signal: it is emptied where it can't be read.
-  QMetaObject::invokeMethod(
-      this,
-      [this] {
-        const Impegno there(*this);
-        if (Caricata()) AggiornaElenco();
-      },
-      Qt::QueuedConnection);
 }
 
 frmPlayerConfig::OkInPosto::~OkInPosto() {
@@ -216,6 +217,7 @@ void frmPlayerConfig::Ritenta() {
   // Each try may wait a while for a lock: they come less and less often.
   if (!unread || ++giri_ < pausa_) return;
   const Impegno stays(*this);
+  const OwnError own(C().Errore);
   giri_ = 0;
   pausa_ = std::min(2 * pausa_, kLongestPause);
   if (illeggibile_) AggiornaElenco();
@@ -347,9 +349,9 @@ std::string frmPlayerConfig::Motivo(const InfoMp3& info, bool manca) {
 
 void frmPlayerConfig::ConfermaFile() {
   const Impegno stays(*this);
+  const OwnError own(C().Errore);
   const std::string item = fraFileName->Scelto();
   const bool blank = Rifila(item).empty();
-  C().Errore.Clear();
   if (blank && !AncoraCosi()) {
     return ingressi_.AnnotaErrore(item);  // nothing is taken away but what was shown
   }
@@ -390,6 +392,7 @@ void frmPlayerConfig::Conta() {
 
 void frmPlayerConfig::SfogliaMp3() {
   const Impegno stays(*this);
+  const OwnError own(C().Errore);
   const std::string chosen = C().Finestre.SfogliaCartella(TestoLingua(C(), "50014"),
                                                           fraFileName->DirDirectoryMp3->Percorso());
   const auto folder = ScegliCartella(C(), chosen);
@@ -413,22 +416,45 @@ void frmPlayerConfig::AggiornaNonSalvato() {
                                                : Coppia::Genere::Primario);
 }
 
-void frmPlayerConfig::Registra() {
-  if (lavora_) return;         // events run during a recording, this button among them
+void frmPlayerConfig::Lavora(const std::function<void()>& lavoro) {
+  if (lavora_) return;         // events run during a long work, these buttons among them
   const Impegno stays(*this);  // a close that is asked for meanwhile comes at the end
   lavora_ = true;
   conto_.Interrompi();  // no database is open while it is copied
-  const bool cancelled = servizi_.RegistraProgetto(ingressi_);
+  lavoro();
   lavora_ = false;
-  if (cancelled) {
-    show();
-    setEnabled(true);
-  }
   const OkInPosto same(*this);
+  const OwnError own(C().Errore);
   AggiornaElenco();
   RileggiCartella();
   CominciaConto();
+}
+
+void frmPlayerConfig::Registra() {
+  Lavora([this] {
+    if (!servizi_.RegistraProgetto(ingressi_)) return;
+    show();
+    setEnabled(true);
+  });
   Scheda->MostraStato(servizi_.FattiDellaScheda());
+}
+
+void frmPlayerConfig::Salva() {
+  Lavora([this] {
+    fraOutputLevel->Raccogli(controlli_);
+    Opzioni->Raccogli(controlli_);
+    DomandaDelSalva question(ambiente_.Schermi, AnnullaSalvataggio);
+    SalvaConfigurazione(C(), {controlli_, ingressi_, layout_.fraAnalyzer}, servizi_.Progresso(),
+                        question);
+    modifiche_.Rileggi(C());
+    AggiornaNonSalvato();
+  });
+}
+
+void frmPlayerConfig::MostraReport() {
+  Lavora([this] {
+    MostraReportProgetto(C(), ambiente_.Documenti, {&ingressi_.Cursore(), layout_.fraAnalyzer});
+  });
 }
 
 bool frmPlayerConfig::PuoChiudere(Causa /*causa*/) {
@@ -446,6 +472,7 @@ bool frmPlayerConfig::PuoChiudere(Causa /*causa*/) {
 
 void frmPlayerConfig::AlloScarico() {
   guardia_.stop();
+  FineAscolto();
   conta_.stop();
   conto_.Interrompi();
   fraFileInfo->tmrInfoMp3.stop();

@@ -2,12 +2,17 @@
 
 #include <QLabel>
 #include <QTimer>
+#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
+#include "core/Anteprima.h"
 #include "core/screens/Form.h"
 #include "core/screens/PannelloInfo.h"
 #include "mp3/modMp3Infos.h"
+#include "playerconfig/AscoltoHub.h"
 #include "playerconfig/CodiceScelto.h"
 #include "playerconfig/LayoutHub.h"
 #include "playerconfig/ModificheHub.h"
@@ -54,6 +59,9 @@ class frmPlayerConfig : public Form {
       *lblModoOstrelBig;
   CollegamentiSeriali* Seriali;
   Comandi* Barra;
+  /// The players of the picked file and of the assigned one.
+  std::unique_ptr<Anteprima> mPlayer = ambiente_.Suono.Nuova();
+  std::unique_ptr<Anteprima> mciPreview = ambiente_.Suono.Nuova();
 
  protected:
   void AlCaricamento() override;
@@ -93,6 +101,9 @@ class frmPlayerConfig : public Form {
   void CostruisciNascosti();
   void Collega();
   void CollegaComandi();
+  /// The ways to the screens of parameters.
+  void CollegaParametri();
+  void CollegaAscolto();
   void Localizza();
   void ApriIngressi();
   void LeggiControlli();
@@ -100,8 +111,16 @@ class frmPlayerConfig : public Form {
   void MostraModo();
   /// Shows what the folder of the MP3 files holds by now.
   void RileggiCartella();
-  /// Has `cambia` tick other inputs, and shows what they have.
-  void CambiaCodice(const std::function<void()>& cambia);
+  /// Has `cambia` tick other inputs, and shows what they have. `spunta`: boxes change, and what
+  /// plays falls silent before.
+  void CambiaCodice(std::function<void()> cambia, bool spunta = true);
+  void EseguiCambio(const std::function<void()>& cambia);
+  void PlayAssegnato();
+  void ZittiscePerSpunta();
+  /// Before the link takes a tick away.
+  void ZittiscePerRs485();
+  /// Nothing plays on.
+  void FineAscolto();
   /// Shows the ticked inputs and judges the picked file; `scegli`: picks theirs before, where they
   /// have one.
   void MostraCodice(bool scegli = true);
@@ -125,7 +144,11 @@ class frmPlayerConfig : public Form {
   std::string Motivo(const InfoMp3& info, bool manca);
   void ConfermaFile();
   void SfogliaMp3();
+  /// Runs a long work that lets events run, one at a time, and shows then what it has changed.
+  void Lavora(const std::function<void()>& lavoro);
   void Registra();
+  void Salva();
+  void MostraReport();
   void AggiornaNonSalvato();
   /// Counts the project at the next free moment; not `daCapo`: rows that haven't changed since the
   /// last count aren't read again.
@@ -137,6 +160,8 @@ class frmPlayerConfig : public Form {
   ServiziHub& servizi_;
   TabellaIngressi ingressi_;
   std::optional<CodiceScelto> codice_;
+  AscoltoHub ascolto_{C(), ambiente_.Documenti, *mPlayer, *mciPreview};
+  std::vector<std::function<void()>> cambi_;  ///< of the ticked inputs, to be made after a stop
   ControlliHub controlli_;
   ModificheHub modifiche_;
   modMp3Infos lettore_;
@@ -151,7 +176,7 @@ class frmPlayerConfig : public Form {
   bool illeggibile_ = false;  ///< the table was there and couldn't be read
   QTimer conta_;              ///< counts a little whenever nothing else is to be done
   bool lasciata_ = false;     ///< it was in front before
-  bool lavora_ = false;       ///< a recording is under way
+  bool lavora_ = false;       ///< a recording, a save or a report is under way
   int pausa_ = 1;             ///< rounds of the watch between two tries to read, and those since
   int giri_ = 0;
   bool finePrograma_ = false;
