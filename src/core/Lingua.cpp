@@ -2,6 +2,7 @@
 
 #include "core/Aiuti.h"
 #include "core/Impostazioni.h"
+#include "core/LinguaLetta.h"
 #include "platform/FileOps.h"
 
 namespace kvr5 {
@@ -33,6 +34,9 @@ void ImpostaFileLingua(Contesto& contesto) {
 }
 
 std::string TestoLingua(Contesto& contesto, std::string_view chiave) {
+  if (const LinguaLetta* read = LinguaLetta::Per(contesto)) {
+    if (auto text = read->Testo(chiave)) return *text;
+  }
   if (!FileExists(contesto.Files, contesto.Stato.FileLingua)) return {};
   return LeggiIniSemplice(contesto, contesto.Stato.FileLingua, "Strings", chiave);
 }
