@@ -1,13 +1,21 @@
 // How quick the screens are, as ratios of one run: the start against an empty window with one
 // button, the hub of a full project against that of an empty one, the file pane of 5,000 files
-// against reading the folder. Needs no display: QT_QPA_PLATFORM=offscreen is set where there is
+// against reading the folder, each screen of parameters against an empty form with as many
+// controls. Needs no display: QT_QPA_PLATFORM=offscreen is set where there is
 // none.
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QSlider>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <chrono>
@@ -16,6 +24,7 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -197,6 +206,103 @@ void Pane(kvr5::Programma& program, const std::string& staged) {
               Median(shown) / Median(read), Median(shown), Median(read));
 }
 
+/// How many controls of a kind a window holds.
+template <class T>
+int CountOf(const QWidget& window) {
+  const auto all = window.findChildren<QWidget*>();
+  return static_cast<int>(std::count_if(all.begin(), all.end(), [](const QWidget* each) {
+    return dynamic_cast<const T*>(each) != nullptr;
+  }));
+}
+
+/// A form with as many controls of each kind as a screen has, frames included, in a window of its
+/// size: captions, nothing behind them.
+class EmptyForm : public QWidget {
+ public:
+  explicit EmptyForm(const QWidget& like) {
+    auto* page = new QVBoxLayout(this);
+    for (int i = CountOf<kvr5::Riquadro>(like); i > 0; --i) {
+      auto* frame = new kvr5::Riquadro("fra", {}, -1, this);
+      page->addWidget(frame);
+      frames_.push_back(frame);
+      grids_.push_back(new QGridLayout());
+      frame->Corpo()->addLayout(grids_.back());
+    }
+    Add<QLabel>(like);
+    Add<QComboBox>(like);
+    Add<QLineEdit>(like);
+    Add<QSlider>(like);
+    Add<QCheckBox>(like);
+    Add<QToolButton>(like);
+    for (int i = CountOf<kvr5::Coppia>(like); i > 0; --i) {
+      Place(new kvr5::Coppia("pic", "lbl", QStringLiteral("Caption"), "salva", -1, Next()));
+    }
+    resize(like.size());
+  }
+
+ private:
+  template <class T>
+  void Add(const QWidget& like) {
+    for (int i = CountOf<T>(like); i > 0; --i) {
+      auto* control = new T(Next());
+      if constexpr (requires { control->setText(QString()); }) {
+        control->setText(QStringLiteral("Caption"));
+      }
+      if constexpr (requires { control->addItem(QString()); }) {
+        control->addItem(QStringLiteral("Caption"));
+      }
+      Place(control);
+    }
+  }
+  void Place(QWidget* control) {
+    constexpr int kColumns = 4;
+    const auto cell = static_cast<int>(placed_ / grids_.size());
+    grids_[placed_ % grids_.size()]->addWidget(control, cell / kColumns, cell % kColumns);
+    ++placed_;
+  }
+  QWidget* Next() const { return frames_[placed_ % frames_.size()]; }
+
+  std::vector<QWidget*> frames_;
+  std::vector<QGridLayout*> grids_;
+  std::size_t placed_ = 0;
+};
+
+template <class T>
+void Parameters(kvr5::Ambiente& ambiente, const char* name) {
+  std::vector<double> loads;
+  std::vector<double> empties;
+  for (int i = 0; i < 25; ++i) {
+    std::unique_ptr<T> form;
+    loads.push_back(Milliseconds([&] {
+      form = std::make_unique<T>(ambiente);
+      form->Mostra();
+      Paint();
+    }));
+    form->hide();
+    std::unique_ptr<EmptyForm> empty;
+    empties.push_back(Milliseconds([&] {
+      empty = std::make_unique<EmptyForm>(*form);
+      empty->show();
+      Paint();
+    }));
+  }
+  std::printf("%s/empty form: %.2f (at most 2; %.1f and %.1f ms)\n", name,
+              Median(loads) / Median(empties), Median(loads), Median(empties));
+}
+
+/// The three screens of parameters. The serial one is that of an Ostrel: no notice comes first.
+void Parameters(kvr5::Programma& program) {
+  constexpr std::int16_t kOstrel = 3;
+  kvr5::EsecutoreQt documents(program.C());
+  kvr5::VitaForme life([] {});
+  kvr5::Ambiente ambiente{program.C(), program, documents, life, program.Suono()};
+  MakeProject(program.C(), "Parameters");
+  Parameters<kvr5::frmTempiFade>(ambiente, "fades");
+  Parameters<kvr5::frmPanelExtra>(ambiente, "extras");
+  program.C().Stato.PlayerType = kOstrel;
+  Parameters<kvr5::frmConfig485>(ambiente, "serial link");
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -212,4 +318,5 @@ int main(int argc, char** argv) {
   program.Avvia({});
   Hub(program);
   Pane(program, staged.Path());
+  Parameters(program);
 }

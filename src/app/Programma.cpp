@@ -110,11 +110,19 @@ void Programma::AggiornaPercorsoMemoryCard() {
   hub_->AggiornaPercorsoMemoryCard();
 }
 
-void Programma::ApriTempiFade() {}
+void Programma::ApriTempiFade() {
+  if (!tempiFade_.Caricata()) tempiFade_->MostraModale();
+}
 
-void Programma::ApriPanelExtra() {}
+void Programma::ApriPanelExtra() {
+  if (!panelExtra_.Caricata()) panelExtra_->MostraModale();
+}
 
-void Programma::ApriConfig485(bool /*modoRS232*/) {}
+void Programma::ApriConfig485(bool modoRS232) {
+  if (config485_.Caricata()) return;  // its load shows a notice and lets events run
+  config485_->ModoRS232 = modoRS232;
+  config485_->MostraModale();
+}
 
 void Programma::ChiediSalvataggio(Schermata chiamante, std::function<void(bool)> annulla) {
   if (salva_.Caricata()) return;

@@ -20,7 +20,10 @@
 #include "flashcard/screens/frmSelectFlash.h"
 #include "platform/Drives.h"
 #include "platform/HostFileSystem.h"
+#include "playerconfig/screens/frmConfig485.h"
+#include "playerconfig/screens/frmPanelExtra.h"
 #include "playerconfig/screens/frmPlayerConfig.h"
+#include "playerconfig/screens/frmTempiFade.h"
 #include "projects/screens/frmCaricaProgetto.h"
 #include "projects/screens/frmRichiestaNomeForm.h"
 #include "projects/screens/frmWizardPanel1.h"
@@ -90,6 +93,9 @@ class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
   FormPredefinita<frmWizardPanel1> wizard_{[this] { return new frmWizardPanel1(ambiente_); }};
   FormPredefinita<frmCaricaProgetto> elenco_{[this] { return new frmCaricaProgetto(ambiente_); }};
   FormPredefinita<frmPlayerConfig> hub_{[this] { return new frmPlayerConfig(ambiente_, *this); }};
+  FormPredefinita<frmTempiFade> tempiFade_{[this] { return new frmTempiFade(ambiente_); }};
+  FormPredefinita<frmPanelExtra> panelExtra_{[this] { return new frmPanelExtra(ambiente_); }};
+  FormPredefinita<frmConfig485> config485_{[this] { return new frmConfig485(ambiente_); }};
   FormPredefinita<frmSalva> salva_{[this] { return new frmSalva(ambiente_); }};
   FormPredefinita<frmSelectFlash> scheda_{
       [this] { return new frmSelectFlash(ambiente_, driveDelComputer_); }};

@@ -112,6 +112,18 @@ TEST_F(ScreenValues, AMissingFileStaysMissingAtASave) {
   EXPECT_FALSE(std::filesystem::exists(b.Cartella.Host() / kConfig));
 }
 
+TEST_F(ScreenValues, AReadOnlyFileStaysAsItIsAndIsAPendingError) {
+  Config("LMP3=3\r\n");
+  std::filesystem::permissions(b.Cartella.Host() / kConfig, std::filesystem::perms::owner_read);
+  ValoriSchermo values(Screen::Fade);
+  values.Leggi(b.C);
+  values["LMP3"].Numero = 9;
+  b.C.Errore.Clear();
+  values.Scrivi(b.C);
+  EXPECT_TRUE(b.C.Errore);
+  EXPECT_EQ(Config(), "[Config]\r\nLMP3=3\r\n");
+}
+
 TEST_F(ScreenValues, TheSerialPortIsResetToWhatThePlayersComeWith) {
   Config(
       "CMAD=3\r\nCMCK=0\r\nCMCL=1\r\nCMBR=0\r\nCMPR=2\r\nCMSB=2\r\nCMDB=7\r\nCMDR=9\r\nCMI3=1\r\n"

@@ -34,6 +34,8 @@ class Photographer {
 
 /// The hub of each model, and that of inputs with a refused file, with a card, unsaved.
 void TakeHubs(Photographer& camera);
+/// The modal screens of parameters, in their forms and states.
+void TakeParameters(Photographer& camera);
 /// The boxes and the windows that stand before others.
 void TakeBoxes(Photographer& camera);
 

@@ -88,6 +88,7 @@ int main(int argc, char** argv) {
   TakeWizard(camera);
   TakeSettings(camera);
   TakeHubs(camera);
+  TakeParameters(camera);
   TakeList(camera, QStringLiteral("frmCaricaProgetto"));
   TakeBoxes(camera);
   return EXIT_SUCCESS;

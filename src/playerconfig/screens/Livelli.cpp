@@ -7,7 +7,6 @@
 #include "core/Lingua.h"
 #include "core/screens/Avvisi.h"
 #include "core/screens/Pagina.h"
-#include "core/screens/SenzaRotella.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
 #include "playerconfig/Scale.h"
@@ -15,20 +14,10 @@
 namespace kvr5 {
 namespace {
 
-constexpr int kTop = 20;
-constexpr int kPage = 4;
-
 QLabel* NewPicture(const char* name, const char* icon, QWidget* parent) {
   auto* picture = SegnoDi(icon, Tema::Corrente().Attenuato, 20, parent);
   picture->setObjectName(QLatin1String(name));
   return picture;
-}
-
-QLabel* NewLevel(const char* name, QWidget* parent) {
-  auto* label = NuovaEtichetta(name, QStringLiteral("+12 dB"), -1, parent);
-  label->setAlignment(Qt::AlignCenter);
-  label->setMinimumWidth(62);
-  return label;
 }
 
 }  // namespace
@@ -39,21 +28,10 @@ Livelli::Livelli(Contesto& contesto, QWidget* padre)
   Veste(*lblTitoloFrame, Carattere::Riquadro);
   Corpo()->addWidget(lblTitoloFrame);
   auto* picVolume = NewPicture("picVolume", "volume", this);
-  sliVolume = NuovoCursore("sliVolume", 14);
-  lblVolume_DB = NewLevel("lblVolume_DB", this);
   picLoudness = NewPicture("picLoudness", "loudness", this);
-  sliLoudness = NuovoCursore("sliLoudness", 0);
-  lblLoudness_dB = NewLevel("lblLoudness_dB", this);
   picTreble = NewPicture("picTreble", "acuti", this);
-  sliTreble = NuovoCursore("sliTreble", 10);
-  lblTreble_dB = NewLevel("lblTreble_dB", this);
   picBass = NewPicture("picBass", "bassi", this);
-  sliBass = NuovoCursore("sliBass", 10);
-  lblBass_dB = NewLevel("lblBass_dB", this);
-  cursori_ = {Cursore{"LOUT", sliVolume, lblVolume_DB, TestoScalaVolume},
-              Cursore{"LLOU", sliLoudness, lblLoudness_dB, TestoScalaLoudness},
-              Cursore{"LTRE", sliTreble, lblTreble_dB, TestoScalaToni},
-              Cursore{"LBAS", sliBass, lblBass_dB, TestoScalaToni}};
+  CostruisciCursori();
   const std::array<QLabel*, 4> pictures{picVolume, picLoudness, picTreble, picBass};
   auto* grid = new QGridLayout();
   grid->setVerticalSpacing(4);
@@ -64,39 +42,37 @@ Livelli::Livelli(Contesto& contesto, QWidget* padre)
     grid->addWidget(each.Valore, 2, i, Qt::AlignHCenter);
     grid->setColumnStretch(i, 1);
     connect(each.Slider, &QSlider::valueChanged, this, [this, each] {
-      Aggiorna(each);
+      each.Aggiorna();
       if (SuCambio) SuCambio();
     });
   }
   Corpo()->addLayout(grid, 1);
 }
 
-QSlider* Livelli::NuovoCursore(const char* nome, int iniziale) {
-  auto* slider = new QSlider(Qt::Vertical, this);
-  slider->setObjectName(QLatin1String(nome));
-  slider->setRange(0, kTop);
-  slider->setSingleStep(1);
-  slider->setPageStep(kPage);
-  slider->setValue(iniziale);
-  slider->setMinimumHeight(96);
-  SenzaRotella(*slider);
-  return slider;
-}
-
-void Livelli::Aggiorna(const Cursore& cursore) {
-  cursore.Valore->setText(Qs(cursore.Scala(cursore.Slider->value())));
-  cursore.Slider->setAccessibleDescription(cursore.Valore->text());
+void Livelli::CostruisciCursori() {
+  cursori_ = {NuovoCursore({"LOUT", "sliVolume", "lblVolume_DB", TestoScalaVolume}, this),
+              NuovoCursore({"LLOU", "sliLoudness", "lblLoudness_dB", TestoScalaLoudness}, this),
+              NuovoCursore({"LTRE", "sliTreble", "lblTreble_dB", TestoScalaToni}, this),
+              NuovoCursore({"LBAS", "sliBass", "lblBass_dB", TestoScalaToni}, this)};
+  sliVolume = cursori_[0].Slider;
+  lblVolume_DB = cursori_[0].Valore;
+  sliLoudness = cursori_[1].Slider;
+  lblLoudness_dB = cursori_[1].Valore;
+  sliTreble = cursori_[2].Slider;
+  lblTreble_dB = cursori_[2].Valore;
+  sliBass = cursori_[3].Slider;
+  lblBass_dB = cursori_[3].Valore;
 }
 
 void Livelli::AggiornaTutti() {
-  for (const auto& each : {cursori_[0], cursori_[1], cursori_[3], cursori_[2]}) Aggiorna(each);
+  for (const auto& each : {cursori_[0], cursori_[1], cursori_[3], cursori_[2]}) each.Aggiorna();
 }
 
 void Livelli::Mostra(const ControlliHub& controlli) {
   for (const auto& each : cursori_) {
     const QSignalBlocker quiet(each.Slider);  // no events run while the hub loads
     each.Slider->setValue(controlli[each.Chiave].Numero);
-    Aggiorna(each);
+    each.Aggiorna();
   }
 }
 

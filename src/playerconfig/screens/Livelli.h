@@ -7,6 +7,7 @@
 
 #include "core/screens/Riquadro.h"
 #include "playerconfig/ConfigTxt.h"
+#include "playerconfig/screens/Cursore.h"
 
 namespace kvr5 {
 
@@ -38,14 +39,7 @@ class Livelli : public Riquadro {
   void Localizza();
 
  private:
-  struct Cursore {
-    const char* Chiave;
-    QSlider* Slider;
-    QLabel* Valore;
-    std::string_view (*Scala)(int);
-  };
-  QSlider* NuovoCursore(const char* nome, int iniziale);
-  void Aggiorna(const Cursore& cursore);
+  void CostruisciCursori();
 
   Contesto& contesto_;
   std::array<Cursore, 4> cursori_;

@@ -1,15 +1,14 @@
 #include "playerconfig/screens/OpzioniIngressi.h"
 
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QVariant>
+#include <memory>
+#include <utility>
 
 #include "core/Lingua.h"
-#include "core/screens/Form.h"
-#include "core/screens/Icona.h"
 #include "core/screens/LocalizzaForm.h"
 #include "core/screens/Pagina.h"
 #include "core/screens/Tema.h"
@@ -17,33 +16,9 @@
 #include "playerconfig/AvvisoIngressi.h"
 
 namespace kvr5 {
-namespace {
-
-StatoParametro DesignedTpcm() {
-  return StatoIniziale(*TrovaParametro("TPCM"));
-}
-
-/// A menu over the field or another program's window is no leaving.
-bool LeavesTheField(const QFocusEvent& event) {
-  return event.reason() != Qt::PopupFocusReason && event.reason() != Qt::ActiveWindowFocusReason;
-}
-
-QToolButton* NewArrow(const char* name, const char* icon, QWidget* parent) {
-  auto* arrow = new QToolButton(parent);
-  arrow->setObjectName(QLatin1String(name));
-  arrow->setIcon(IconaDi(QLatin1String(icon), Tema::Corrente().Testo));
-  arrow->setIconSize({12, 12});
-  arrow->setFixedSize(20, spazi::kControllo / 2);
-  arrow->setAutoRepeat(true);
-  arrow->setAutoRaise(true);
-  arrow->setFocusPolicy(Qt::NoFocus);  // the box has the arrow keys
-  return arrow;
-}
-
-}  // namespace
 
 OpzioniIngressi::OpzioniIngressi(Contesto& contesto, QWidget* padre)
-    : QWidget(padre), contesto_(contesto), tpcm_(DesignedTpcm(), contesto.Luogo) {
+    : QWidget(padre), contesto_(contesto) {
   pila_ = new QVBoxLayout(this);
   pila_->setContentsMargins(0, 0, 0, 0);
   pila_->setSpacing(4);
@@ -100,22 +75,15 @@ void OpzioniIngressi::CostruisciTpcm() {
   auto* line = new QHBoxLayout(choices);
   line->setContentsMargins(0, 0, 0, 0);
   line->setSpacing(4);
-  lstTPCM = new QLineEdit(choices);
-  lstTPCM->setObjectName(QStringLiteral("lstTPCM"));
-  lstTPCM->setFixedWidth(46);
-  lstTPCM->setAlignment(Qt::AlignRight);
-  lstTPCM->installEventFilter(this);
-  lstTPCM->setProperty(kLasciaAlClic, true);
-  lstTPCM->setAttribute(Qt::WA_InputMethodEnabled, false);  // digits are typed key by key
-  u_dTPCM_su = NewArrow("u_dTPCM_su", "su", choices);
-  u_dTPCM_giu = NewArrow("u_dTPCM_giu", "giu", choices);
-  auto* arrows = new QVBoxLayout();
-  arrows->setSpacing(0);
-  arrows->addWidget(u_dTPCM_su);
-  arrows->addWidget(u_dTPCM_giu);
+  auto time =
+      std::make_unique<CasellaPersistenza>(StatoIniziale(*TrovaParametro("TPCM")), contesto_.Luogo);
+  tpcm_ = time.get();
+  casella_ = new CasellaCifre(std::move(time), "lstTPCM", "u_dTPCM", choices);
+  lstTPCM = casella_->Campo;
+  u_dTPCM_su = casella_->Su;
+  u_dTPCM_giu = casella_->Giu;
   lblMillisecondi = NuovaEtichetta("lblMillisecondi", QStringLiteral("Millisecond"), 12, choices);
-  line->addWidget(lstTPCM);
-  line->addLayout(arrows);
+  line->addWidget(casella_);
   line->addWidget(lblMillisecondi);
   line->addWidget(
       NuovaStriscia(optTPCM_Off, optTPCM_On, "optTPCM_Off", "OFF", 4, "optTPCM_On", "ON", 3));
@@ -155,68 +123,25 @@ void OpzioniIngressi::Collega() {
   connect(opt_Analizer_On, &QRadioButton::toggled, this,
           [this](bool on) { contesto_.Stato.Analyzer = on ? 1 : 0; });
   connect(optTPCM_Off, &QRadioButton::clicked, this, [this] {
-    tpcm_.ClicOff();
+    tpcm_->ClicOff();
     MostraTpcm();
     Cambiato();
   });
   connect(optTPCM_On, &QRadioButton::clicked, this, [this] {
-    tpcm_.ClicOn();
+    tpcm_->ClicOn();
     MostraTpcm();
     Cambiato();
   });
-  connect(lstTPCM, &QLineEdit::textChanged, this, [this](const QString& text) {
-    if (mostra_) return;
-    tpcm_.Cambia(Std(text));
+  casella_->SuCambio = [this] {
     MostraTpcm();
     Cambiato();
-  });
-  connect(u_dTPCM_su, &QToolButton::clicked, this, [this] {
-    tpcm_.Su();
-    MostraTpcm();
-    Cambiato();
-  });
-  connect(u_dTPCM_giu, &QToolButton::clicked, this, [this] {
-    tpcm_.Giu();
-    MostraTpcm();
-    Cambiato();
-  });
-}
-
-bool OpzioniIngressi::eventFilter(QObject* object, QEvent* event) {
-  if (object != lstTPCM) return QWidget::eventFilter(object, event);
-  if (event->type() == QEvent::KeyPress) {
-    const auto* key = static_cast<QKeyEvent*>(event);
-    if (key->key() == Qt::Key_Up || key->key() == Qt::Key_Down) {
-      (key->key() == Qt::Key_Up ? u_dTPCM_su : u_dTPCM_giu)->click();
-      return true;
-    }
-    const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
-    // Editing keys and shortcuts aren't characters that are typed; with the modifier that types
-    // the third character of a key (Ctrl and Alt at once, or Alt alone) they are.
-    const bool shortcut =
-        (key->modifiers() & Qt::ControlModifier) != 0 && (key->modifiers() & Qt::AltModifier) == 0;
-    const bool edits = key->key() == Qt::Key_Delete || key->key() == Qt::Key_Escape || shortcut;
-    const QString text = edits ? QString() : key->text();
-    const char32_t character = enter ? U'\r' : text.isEmpty() ? 0 : text.toUcs4().first();
-    const bool passes = character == 0 || tpcm_.Tasto(character);
-    if (enter) {
-      MostraTpcm();
-      Cambiato();
-    }
-    return !passes;
-  }
-  if (event->type() == QEvent::FocusOut && LeavesTheField(*static_cast<QFocusEvent*>(event))) {
-    tpcm_.PerdeFuoco();
-    MostraTpcm();
-    Cambiato();
-  }
-  return QWidget::eventFilter(object, event);
+  };
 }
 
 void OpzioniIngressi::MostraTpcm() {
   const bool before = std::exchange(mostra_, true);
-  if (lstTPCM->text() != Qs(tpcm_.Testo())) lstTPCM->setText(Qs(tpcm_.Testo()));
-  (tpcm_.Acceso() ? optTPCM_On : optTPCM_Off)->setChecked(true);
+  casella_->Mostra();
+  (tpcm_->Acceso() ? optTPCM_On : optTPCM_Off)->setChecked(true);
   mostra_ = before;
 }
 
@@ -227,7 +152,7 @@ void OpzioniIngressi::Mostra(const ControlliHub& controlli) {
   };
   set("MOMN", optMonitor_Off, optMonitor_On);
   set("IMOD", optIMOD_ActiveHigh, optIMOD_ActiveLow);
-  tpcm_ = CasellaPersistenza(controlli["TPCM"], contesto_.Luogo);
+  *tpcm_ = CasellaPersistenza(controlli["TPCM"], contesto_.Luogo);
   MostraTpcm();
   set("MICP", optMICP_Zero, optMICP_ContinuosPlay);
   set("MIRS", optMirs_Zero, optMIRS_Restart);
@@ -237,7 +162,7 @@ void OpzioniIngressi::Mostra(const ControlliHub& controlli) {
 void OpzioniIngressi::Raccogli(ControlliHub& controlli) const {
   controlli["MOMN"].Numero = optMonitor_On->isChecked() ? 1 : 0;
   controlli["IMOD"].Numero = optIMOD_ActiveLow->isChecked() ? 1 : 0;
-  controlli["TPCM"] = tpcm_.Stato();
+  controlli["TPCM"] = tpcm_->Stato();
   controlli["MICP"].Numero = optMICP_ContinuosPlay->isChecked() ? 1 : 0;
   controlli["MIRS"].Numero = optMIRS_Restart->isChecked() ? 1 : 0;
 }
@@ -275,8 +200,7 @@ void OpzioniIngressi::NominaScelte() {
 
 void OpzioniIngressi::Localizza() {
   NominaScelte();
-  lstTPCM->setToolTip(Qs(TestoLingua(contesto_, "0130182")));
-  lstTPCM->setAccessibleName(lstTPCM->toolTip());
+  casella_->ImpostaNome(Qs(TestoLingua(contesto_, "0130182")));
   picConfiguraFade->setToolTip(Qs(TestoLingua(contesto_, "0130172")));
   cmdConfigureExtra->setToolTip(Qs(TestoLingua(contesto_, "0130173")));
 }

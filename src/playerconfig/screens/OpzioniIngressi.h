@@ -10,6 +10,7 @@
 #include "playerconfig/CasellaPersistenza.h"
 #include "playerconfig/ConfigTxt.h"
 #include "playerconfig/LayoutHub.h"
+#include "playerconfig/screens/CasellaCifre.h"
 
 class QLabel;
 class QToolButton;
@@ -47,9 +48,6 @@ class OpzioniIngressi : public QWidget {
   /// Called after each change.
   std::function<void()> SuCambio;
 
- protected:
-  bool eventFilter(QObject* object, QEvent* event) override;
-
  private:
   QWidget* NuovaRiga(const char* nome, const char* descrizione, const char* scritta, int tag,
                      QWidget* scelte);
@@ -68,8 +66,9 @@ class OpzioniIngressi : public QWidget {
 
   Contesto& contesto_;
   QVBoxLayout* pila_;
-  CasellaPersistenza tpcm_;
-  bool mostra_ = false;  ///< the controls are being set by code
+  CasellaPersistenza* tpcm_;  ///< in casella_
+  CasellaCifre* casella_;     ///< lstTPCM and its arrows
+  bool mostra_ = false;       ///< the controls are being set by code
 };
 
 }  // namespace kvr5

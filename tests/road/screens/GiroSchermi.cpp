@@ -1,5 +1,6 @@
 #include "road/screens/GiroSchermi.h"
 
+#include <QCheckBox>
 #include <QTest>
 
 #include "core/Aiuti.h"
@@ -13,6 +14,9 @@
 #include "core/screens/frmSplash.h"
 #include "flashcard/screens/frmProgress.h"
 #include "flashcard/screens/frmSelectFlash.h"
+#include "playerconfig/screens/frmConfig485.h"
+#include "playerconfig/screens/frmPanelExtra.h"
+#include "playerconfig/screens/frmTempiFade.h"
 #include "projects/NuovoProgetto.h"
 #include "projects/screens/frmCaricaProgetto.h"
 #include "projects/screens/frmRichiestaNomeForm.h"
@@ -82,6 +86,9 @@ void GiroSchermi::Percorri(const Guarda& guarda) {
   NegliHub();
   NellHubInUso();
   NellHubConScheda();
+  NelleDissolvenze();
+  NegliExtra();
+  NelSeriale();
   NellElenco(true);
   NelleSchede();
   NelLavoro();
@@ -307,6 +314,44 @@ void GiroSchermi::NellHubConScheda() {
   hub->AggiornaPercorsoMemoryCard();
   Vedi(*hub, "frmPlayerConfig, its card gone");
   b.C.Stato.PercorsoMemoryCard.clear();
+}
+
+void GiroSchermi::NelleDissolvenze() {
+  frmTempiFade fades(b.A);
+  Mostra(fades, "frmTempiFade");
+}
+
+void GiroSchermi::NegliExtra() {
+  b.C.Stato.PlayerMode = 1;
+  {
+    frmPanelExtra extras(b.A);
+    Mostra(extras, "frmPanelExtra of inputs");
+    extras.chkPonte->click();
+    Vedi(extras, "frmPanelExtra in bridge mode");
+  }
+  b.C.Stato.PlayerMode = 2;
+  frmPanelExtra extras(b.A);
+  Mostra(extras, "frmPanelExtra of a schedule");
+}
+
+void GiroSchermi::NelSeriale() {
+  constexpr std::int16_t kOstrel = 3;
+  constexpr std::int16_t kKvr5 = 4;
+  for (const bool rs232 : {false, true}) {
+    for (const std::int16_t type : std::initializer_list<std::int16_t>{kOstrel, kKvr5}) {
+      b.C.Stato.PlayerType = type;
+      const std::string name = std::string("frmConfig485, ") + (rs232 ? "RS-232" : "RS-485") +
+                               ", model " + std::to_string(type);
+      frmConfig485 serial(b.A);
+      serial.ModoRS232 = rs232;
+      std::optional<Pilota<frmSiNo>> notice;
+      if (type == kKvr5) notice.emplace([](frmSiNo& box) { box.Scarica(); });
+      Mostra(serial, name);
+      if (type == kKvr5) continue;
+      serial.imgPagina2->click();
+      Vedi(serial, name + ", page 2");
+    }
+  }
 }
 
 }  // namespace kvr5::test

@@ -59,6 +59,9 @@ class GiroSchermi {
   void NegliHub();
   void NellHubInUso();
   void NellHubConScheda();
+  void NelleDissolvenze();
+  void NegliExtra();
+  void NelSeriale();
 
   void Mostra(Form& form, const std::string& nome, bool piccolo = false);
   void Vedi(QWidget& finestra, const std::string& nome, bool piccolo = false,

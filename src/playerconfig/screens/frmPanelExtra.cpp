@@ -1,0 +1,126 @@
+#include "playerconfig/screens/frmPanelExtra.h"
+
+#include <QCheckBox>
+#include <QEvent>
+#include <QGridLayout>
+#include <QMouseEvent>
+#include <QVBoxLayout>
+
+#include "core/Lingua.h"
+#include "core/screens/LocalizzaForm.h"
+#include "core/screens/Pagina.h"
+#include "core/screens/Riquadro.h"
+#include "core/screens/Tema.h"
+#include "core/screens/Testo.h"
+
+namespace kvr5 {
+namespace {
+
+constexpr std::int16_t kForm = 19;
+constexpr std::int16_t kByInputs = 1;
+constexpr int kTagDefaults = 4;
+constexpr int kLowWithoutSensor = 290;
+
+}  // namespace
+
+frmPanelExtra::frmPanelExtra(Ambiente& ambiente)
+    : SchermoParametri(ambiente, "frmPanelExtra", SchermoParametro::Extra, kForm) {
+  setWindowTitle(QStringLiteral("KVR5 extra parameters"));
+  resize(700, 500);
+  auto* body = new QWidget(this);
+  auto* rows = new QVBoxLayout(body);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(spazi::kMedio);
+  rows->addWidget(CostruisciUscita(body));
+  rows->addWidget(CostruisciSensore(body));
+  rows->addStretch();
+  picDefaults = new Coppia("picDefaults", "lblDefaults", QStringLiteral("Defaults"), "opzioni",
+                           kTagDefaults, this);
+  lblDefaults = picDefaults->Etichetta();
+  CostruisciPagina(nullptr, body, picDefaults);
+  OrdineTab({picHelp, chkPonte, cmbOMON, cmbMomd, cmbPYDT, cmbPYDL, cmbTAPL, cmbRSPL, picCancel,
+             picDefaults, picSave});
+  Collega();
+  chkPonte->setFocus();
+}
+
+QWidget* frmPanelExtra::CostruisciUscita(QWidget* corpo) {
+  auto* frame = new Riquadro("fraUscita", {}, -1, corpo);
+  auto* grid = new QGridLayout();
+  chkPonte = new QCheckBox(frame);
+  chkPonte->setObjectName(QStringLiteral("chkPonte"));
+  Lega("INVR", *chkPonte);
+  lblPonte = AggiungiRiga(*grid, "INVR", "Bridge mode", 5, chkPonte);
+  lblPonte->setObjectName(QStringLiteral("lblPonte"));
+  lblPonte->installEventFilter(this);
+  cmbOMON = NuovoElenco("cmbOMON", "OMON", frame);
+  AggiungiRiga(*grid, "OMON", "Output", 6, cmbOMON);
+  cmbMomd = NuovoElenco("cmbMomd", "MOMD", frame);
+  AggiungiRiga(*grid, "MOMD", "Sound", 7, cmbMomd);
+  frame->Corpo()->addLayout(grid);
+  return frame;
+}
+
+QWidget* frmPanelExtra::CostruisciSensore(QWidget* corpo) {
+  auto* frame = new Riquadro("picIR", {}, -1, corpo);
+  picIR = frame;
+  lblParametriIR = NuovaEtichetta(
+      "lblParametriIR", QStringLiteral("Parametri gestione sensore movimento ad infrarossi"), 8,
+      frame);
+  Veste(*lblParametriIR, Carattere::Riquadro);
+  frame->Corpo()->addWidget(lblParametriIR);
+  auto* grid = new QGridLayout();
+  cmbPYDT = NuovoElenco("cmbPYDT", "PYDT", frame);
+  AggiungiRiga(*grid, "PYDT", "Motion sensor", 9, cmbPYDT);
+  cmbPYDL = NuovoElenco("cmbPYDL", "PYDL", frame);
+  AggiungiRiga(*grid, "PYDL", "Delay", 10, cmbPYDL);
+  cmbTAPL = NuovoElenco("cmbTAPL", "TAPL", frame);
+  AggiungiRiga(*grid, "TAPL", "Pause", 11, cmbTAPL);
+  cmbRSPL = NuovoElenco("cmbRSPL", "RSPL", frame);
+  AggiungiRiga(*grid, "RSPL", "Detections", 12, cmbRSPL);
+  frame->Corpo()->addLayout(grid);
+  return frame;
+}
+
+void frmPanelExtra::Collega() {
+  connect(chkPonte, &QAbstractButton::clicked, this, [this](bool on) {
+    ponte_.Spunta(on);
+    MostraPonte();
+  });
+  connect(cmbOMON, &QComboBox::activated, this, [this](int index) { ponte_.ScegliOmon(index); });
+  connect(picDefaults, &QAbstractButton::clicked, this, [this] {
+    Predefinisci();
+    ponte_.Predefinisci();
+    MostraPonte();
+  });
+}
+
+void frmPanelExtra::MostraPonte() {
+  cmbOMON->setCurrentIndex(ponte_.Omon());
+  cmbOMON->setEnabled(ponte_.OmonLibero());
+  cmbOMON->setToolTip(ponte_.OmonLibero() ? QString() : Qs(TestoLingua(C(), "0130277")));
+  cmbOMON->setAccessibleDescription(cmbOMON->toolTip());
+}
+
+void frmPanelExtra::AlCaricamento() {
+  C().Messaggi.ImpostaPuntatore(Puntatore::Attesa);
+  Localizza();
+  chkPonte->setAccessibleName(lblPonte->text());
+  Leggi();
+  ponte_ = Ponte(Valori()["INVR"].Numero != 0, Valori()["OMON"].Numero);
+  MostraPonte();
+  picIR->setVisible(C().Stato.PlayerMode == kByInputs);
+  if (picIR->isHidden()) resize(width(), kLowWithoutSensor);
+  C().Messaggi.ImpostaPuntatore(Puntatore::Normale);
+}
+
+bool frmPanelExtra::eventFilter(QObject* object, QEvent* event) {
+  const bool press = event->type() == QEvent::MouseButtonPress ||
+                     event->type() == QEvent::MouseButtonDblClick;  // the second of a quick pair
+  if (object == lblPonte && press && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+    chkPonte->click();
+  }
+  return SchermoParametri::eventFilter(object, event);
+}
+
+}  // namespace kvr5
