@@ -219,7 +219,8 @@ void frmPlayerConfig::CollegaParametri() {
 void frmPlayerConfig::DisabilitaFuturi() {
   for (QWidget* control :
        {static_cast<QWidget*>(Barra->picPlaylist), static_cast<QWidget*>(Barra->picPalinsesto),
-        static_cast<QWidget*>(Barra->picCancellaFlash), static_cast<QWidget*>(Barra->picVerifica)}) {
+        static_cast<QWidget*>(Barra->picCancellaFlash),
+        static_cast<QWidget*>(Barra->picVerifica)}) {
     control->setEnabled(false);
     control->setToolTip(Qs(TestoLingua(C(), "0130244")));
   }
