@@ -8,9 +8,10 @@ void Ascolto::ApriFuori(Esecutore& documenti, const std::string& file) {
   documenti.Apri(file, " /PLAY");
 }
 
-void Ascolto::Suona(Anteprima& player, const std::string& file) {
-  Ignora(player.Open(file));
-  Ignora(player.Play());
+bool Ascolto::Suona(Anteprima& player, const std::string& file) {
+  const Error opened = player.Open(file);
+  const Error played = player.Play();
+  return !opened && !played;
 }
 
 void Ascolto::Zittisci(Anteprima& player) {

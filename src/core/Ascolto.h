@@ -17,8 +17,8 @@ class Ascolto {
  public:
   /// Starts a file (system form) in the host's player for it, and forgets it.
   static void ApriFuori(Esecutore& documenti, const std::string& file);
-  /// Sets a player's file and plays it. A file that is refused stays silent.
-  static void Suona(Anteprima& player, const std::string& file);
+  /// Sets a player's file and plays it. False for one that is refused, which stays silent.
+  static bool Suona(Anteprima& player, const std::string& file);
   /// Silences a player and lets its file go.
   static void Zittisci(Anteprima& player);
 

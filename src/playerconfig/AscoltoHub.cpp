@@ -47,12 +47,12 @@ void AscoltoHub::Fine() {
 }
 
 void AscoltoHub::Cambia(Anteprima& player, const std::function<void(bool)>& immagine,
-                        const std::string& path) {
+                        const std::function<void()>& muto, const std::string& path) {
   const unsigned mine = Comando();
   Ferma();
   if (UltimoComando() != mine) return;
   Show(immagine, true);
-  Suona(player, path);
+  if (!Suona(player, path) && muto) muto();
 }
 
 void AscoltoHub::PlayMp3(const std::string& cartella, const std::string& file) {
@@ -62,7 +62,7 @@ void AscoltoHub::PlayMp3(const std::string& cartella, const std::string& file) {
     if (Fuori()) {
       ApriFuori(documenti_, folder + file);
     } else {
-      Cambia(mPlayer_, SuPlayMp3, folder + file);
+      Cambia(mPlayer_, SuPlayMp3, SuMutoMp3, folder + file);
     }
   }
   Fine();
@@ -85,7 +85,7 @@ void AscoltoHub::PlayTrovato(const std::string& trovato, const std::string& orig
   if (Fuori()) {
     ApriFuori(documenti_, trovato);
   } else {
-    Cambia(mciPreview_, SuPlayAssegnato, origine);
+    Cambia(mciPreview_, SuPlayAssegnato, SuMutoAssegnato, origine);
   }
   Fine();
 }

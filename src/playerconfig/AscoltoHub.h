@@ -20,6 +20,10 @@ class AscoltoHub : public Ascolto {
   std::function<void(bool on)> SuPlayMp3;
   /// cmdMp3Preview_Play does.
   std::function<void(bool on)> SuPlayAssegnato;
+  /// What cmdPlayMp3, or cmdMp3Preview_Play, was to play stays silent; its picture is PlayOn none
+  /// the less, until the next stop.
+  std::function<void()> SuMutoMp3;
+  std::function<void()> SuMutoAssegnato;
 
   /// cmdStopMp3 and cmdMp3Preview_Stop, and a tick of an input: stops both. Nothing with the
   /// external player. Harmless when nothing plays.
@@ -41,7 +45,7 @@ class AscoltoHub : public Ascolto {
   void PlayTrovato(const std::string& trovato, const std::string& origine);
   /// Stops both and plays a file, unless another command comes meanwhile: that one counts.
   void Cambia(Anteprima& player, const std::function<void(bool)>& immagine,
-              const std::string& path);
+              const std::function<void()>& muto, const std::string& path);
 
   Anteprima& mPlayer_;
   Anteprima& mciPreview_;

@@ -217,6 +217,43 @@ TEST_F(HubListening, ACommandThatComesWhileTheFirstOneStopsIsTheOneThatCounts) {
   EXPECT_EQ(b.Messaggi.Ora, Puntatore::Normale);
 }
 
+TEST_F(HubListening, AStopThatComesWhileAPlayStopsIsTheOneThatCounts) {
+  bool once = true;
+  b.Messaggi.Accade = [&] {
+    if (std::exchange(once, false)) listening.Stop();
+  };
+  listening.PlayMp3(b.Percorso("music"), "a.mp3");
+  EXPECT_THAT(Said(), testing::Not(testing::Contains("1 Play")));
+  EXPECT_EQ(b.Messaggi.Ora, Puntatore::Normale);
+}
+
+TEST_F(HubListening, APlayWithinTheStopOfAnEndGoesOn) {
+  bool once = true;
+  b.Messaggi.Accade = [&] {
+    if (std::exchange(once, false)) listening.PlayMp3(b.Percorso("music"), "a.mp3");
+  };
+  listening.Notifica(Anteprima::kFinita);
+  EXPECT_EQ(Said().back(), "1 Play");
+}
+
+TEST_F(HubListening, AFileThatIsRefusedKeepsItsPictureAndIsToldToBeSilent) {
+  int silent = 0;
+  listening.SuMutoMp3 = [&] { ++silent; };
+  listening.SuMutoAssegnato = [&] { silent += 10; };
+  listening.PlayMp3(b.Percorso("music"), "a.mp3");
+  EXPECT_EQ(silent, 0);
+  sound.SuOpen = Error(errors::TypeMismatch);
+  Said();
+  listening.PlayMp3(b.Percorso("music"), "a.mp3");
+  EXPECT_EQ(silent, 1);
+  const Lines said = Said();
+  EXPECT_GT(std::ranges::find(said, "list on") - said.begin(),
+            std::ranges::find(said, "list off") - said.begin());
+  Assign(5, "a.mp3", Music());
+  PlayAssigned(5);
+  EXPECT_EQ(silent, 11);
+}
+
 TEST_F(HubListening, AnEndThatIsToldDuringAStopDoesntKeepTheNextFileFromPlaying) {
   bool once = true;
   b.Messaggi.Accade = [&] {

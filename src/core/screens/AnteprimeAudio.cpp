@@ -26,7 +26,7 @@ class AnteprimeAudio::Lettore : public Anteprima {
   Error Open(const std::string& file) override {
     Close();
     Error error = player_.Open(file);
-    if (error.Number() == errors::DeviceUnavailable) tutte_.Annota(error);
+    if (player_.NoDevice()) tutte_.Annota(error);
     return error;
   }
   Error Play() override { return player_.Play(); }

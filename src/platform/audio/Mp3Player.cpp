@@ -20,8 +20,10 @@ Uint16 BufferFor(int rate) {
 
 Error Mp3Player::Open(std::string_view path) {
   Close();
+  noDevice_ = false;
   auto decoder = Mp3Decoder::Open(files_, path);
   if (!decoder) return decoder.Err();
+  noDevice_ = true;
   if (Error error = host_.Start()) return error;
   decoder_ = std::move(decoder.Value());
   ended_ = false;
@@ -37,7 +39,8 @@ Error Mp3Player::Open(std::string_view path) {
   };
   // No change of format is allowed: the layer below converts to what the device takes.
   device_ = SDL_OpenAudioDevice(nullptr, 0, &wanted, nullptr, 0);
-  if (device_ != 0) return {};
+  noDevice_ = device_ == 0;
+  if (!noDevice_) return {};
   decoder_.reset();
   return NoSound();
 }

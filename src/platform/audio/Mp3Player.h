@@ -25,6 +25,8 @@ class Mp3Player {
   /// Closes what was open and opens a file (system form): 53 or 76 where it isn't there, 75 for a
   /// folder, 13 where it holds no MPEG audio, 68 where the host has no device.
   Error Open(std::string_view path);
+  /// Whether it was the device, or its lack, that the last Open failed for, and not the file.
+  bool NoDevice() const { return noDevice_; }
   /// Plays from where it stands; 68 where no file is open.
   Error Play();
   /// Falls silent at once and keeps the place; nothing of the file is decoded when it returns.
@@ -44,7 +46,8 @@ class Mp3Player {
   SoundHost& host_;
   std::unique_ptr<Mp3Decoder> decoder_;
   std::uint32_t device_ = 0;  ///< 0 is none
-  bool ended_ = false;        ///< the end was told; the device's thread's own while one is open
+  bool noDevice_ = false;
+  bool ended_ = false;  ///< the end was told; the device's thread's own while one is open
 };
 
 }  // namespace kvr5

@@ -9,6 +9,8 @@ namespace kvr5 {
 void frmPlayerConfig::CollegaAscolto() {
   ascolto_.SuPlayMp3 = [this](bool on) { fraFileName->MostraAscolto(on); };
   ascolto_.SuPlayAssegnato = [this](bool on) { fraIngressiLogici->MostraAscolto(on); };
+  ascolto_.SuMutoMp3 = [this] { fraFileName->MostraAscolto(true, true); };
+  ascolto_.SuMutoAssegnato = [this] { fraIngressiLogici->MostraAscolto(true, true); };
   for (Anteprima* each : {mPlayer.get(), mciPreview.get()}) {
     each->SuNotifica = [this](int code) {
       const Impegno stays(*this);  // events run
@@ -30,7 +32,6 @@ void frmPlayerConfig::CollegaAscolto() {
 }
 
 void frmPlayerConfig::PlayAssegnato() {
-  if (lavora_) return;  // a save or a recording walks over the rows, and this would move it
   const Impegno stays(*this);
   const OwnError own(C().Errore);
   ascolto_.PlayAssegnato(ingressi_, codice_->Codice());

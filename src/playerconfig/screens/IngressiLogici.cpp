@@ -161,9 +161,9 @@ void IngressiLogici::OffriCartella(const std::string& cartella) {
   cmdVaiAlFile->setAccessibleDescription(folder);
 }
 
-void IngressiLogici::MostraAscolto(bool on) {
+void IngressiLogici::MostraAscolto(bool on, bool muto) {
   const bool outside = contesto_.Stato.UsaPlayerEsterno;
-  ImpostaAscolto(contesto_, *cmdMp3Preview_Play, on, outside ? "0130271" : "0130243");
+  ImpostaAscolto(contesto_, *cmdMp3Preview_Play, {on, muto}, outside ? "0130271" : "0130243");
 }
 
 void IngressiLogici::Localizza() {

@@ -52,7 +52,7 @@ class IngressiLogici : public Riquadro {
   void OffriCartella(const std::string& cartella);
   bool OffreCartella() const { return !cmdVaiAlFile->isHidden(); }
   /// cmdMp3Preview_Play shows that the combination's file plays, or that it doesn't.
-  void MostraAscolto(bool on);
+  void MostraAscolto(bool on, bool muto = false);
   void Localizza();
 
  protected:

@@ -17,7 +17,6 @@
 #include "core/screens/SenzaRotella.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
-#include "playerconfig/screens/PulsanteAscolto.h"
 
 namespace kvr5 {
 
@@ -155,8 +154,8 @@ void PaneMp3::OkCambiato() {
   if (OkConTastiera()) cmbFileMp3->setFocus();
 }
 
-void PaneMp3::MostraAscolto(bool on) {
-  inAscolto_ = on;
+void PaneMp3::MostraAscolto(bool on, bool muto) {
+  ascolto_ = {on, muto};
   AggiornaPlay();
 }
 
@@ -165,7 +164,8 @@ void PaneMp3::AggiornaPlay() {
   if (!picked && window()->focusWidget() == cmdPlayMp3) cmbFileMp3->setFocus();
   cmdPlayMp3->setEnabled(picked);
   const char* plays = contesto_.Stato.UsaPlayerEsterno ? "0130270" : "0130268";
-  ImpostaAscolto(contesto_, *cmdPlayMp3, inAscolto_, picked ? plays : "0130272");
+  ImpostaAscolto(contesto_, *cmdPlayMp3, ascolto_, plays);
+  if (!picked) cmdPlayMp3->setToolTip(Qs(TestoLingua(contesto_, "0130272")));
 }
 
 bool PaneMp3::Sospeso() const {

@@ -10,6 +10,7 @@
 #include "core/screens/ElencoCartelle.h"
 #include "core/screens/Riquadro.h"
 #include "playerconfig/ElencoMp3.h"
+#include "playerconfig/screens/PulsanteAscolto.h"
 
 namespace kvr5 {
 
@@ -59,7 +60,7 @@ class PaneMp3 : public Riquadro {
   /// and never to a button further on.
   void MostraOk(bool mostra);
   /// cmdPlayMp3 shows that the picked file plays, or that it doesn't.
-  void MostraAscolto(bool on);
+  void MostraAscolto(bool on, bool muto = false);
   void Localizza();
 
   /// Called for every choice of an item, by the user or by code, the same one too.
@@ -86,7 +87,7 @@ class PaneMp3 : public Riquadro {
   QLabel* numero_;
   ElencoMp3 elenco_;
   bool sceltoDallUtente_ = false;
-  bool inAscolto_ = false;
+  StatoAscolto ascolto_;
   QElapsedTimer sospeso_;
   bool pressioneSospesa_ = false;
 };

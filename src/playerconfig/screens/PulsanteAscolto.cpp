@@ -6,12 +6,19 @@
 
 namespace kvr5 {
 
-void ImpostaAscolto(Contesto& contesto, Coppia& pulsante, bool on, const char* suggerimento) {
+void ImpostaAscolto(Contesto& contesto, Coppia& pulsante, const StatoAscolto& stato,
+                    const char* suggerimento) {
   const std::string name = Std(pulsante.Scritta());
-  const std::string playing = ConValori(TestoLinguaO(contesto, "0130266", "%1, playing"), {name});
-  pulsante.ImpostaIcona(on ? "in-ascolto" : "ascolta");
-  pulsante.setAccessibleName(Qs(on ? playing : name));
-  pulsante.setToolTip(Qs(TestoLingua(contesto, on ? "0130267" : suggerimento)));
+  pulsante.ImpostaIcona(stato.On ? "in-ascolto" : "ascolta");
+  if (!stato.On) {
+    pulsante.setAccessibleName(Qs(name));
+    pulsante.setToolTip(Qs(TestoLingua(contesto, suggerimento)));
+    return;
+  }
+  const std::string words = stato.Muto ? TestoLinguaO(contesto, "0130273", "%1, silent")
+                                       : TestoLinguaO(contesto, "0130266", "%1, playing");
+  pulsante.setAccessibleName(Qs(ConValori(words, {name})));
+  pulsante.setToolTip(Qs(TestoLingua(contesto, stato.Muto ? "0130274" : "0130267")));
 }
 
 }  // namespace kvr5

@@ -54,6 +54,7 @@ class RealSound : public testing::Test {
     while (std::filesystem::file_size(UseFile()) < kBeyond && !waited.hasExpired(10000)) {
       QThread::yieldCurrentThread();
     }
+    ASSERT_GE(std::filesystem::file_size(UseFile()), kBeyond) << "the end was never reached";
     EXPECT_EQ(ends, 0) << "no event has run";
   }
   static void RunEvents() {

@@ -51,7 +51,7 @@ TEST_F(Listening, ThePickedFileIsPlayedAndStopped) {
   Clic("cmdPlayMp3");
   EXPECT_EQ(Told(), AfterStop({"1 Open " + Music() + "L'été.mp3", "1 Play"}));
   EXPECT_EQ(Name(Play()), "Play, playing");
-  EXPECT_EQ(Tip(Play()), "Playing. Press to hear it from the beginning.");
+  EXPECT_EQ(Tip(Play()), "Playing. Press to start again, with the file that is chosen now.");
   EXPECT_NE(Play().grab().toImage(), off) << "another picture";
   EXPECT_FALSE(Plays(PlayAssigned()));
   Clic("cmdStopMp3");
@@ -264,11 +264,54 @@ TEST_F(Listening, LeavingTheProjectSilencesIt) {
   EXPECT_THAT(Told(), ElementsAre("1 Stop", "1 Close", "2 Stop", "2 Close"));
 }
 
+TEST_F(Listening, EndingTheProgramSilencesItToo) {
+  ApriConAssegnato();
+  Spunta(1);
+  Clic("cmdMp3Preview_Play");
+  Told();
+  const auto end = test::RispondiMessaggio("cmdNo");
+  Clic("picEsci");
+  EXPECT_THAT(Told(), ElementsAre("1 Stop", "1 Close", "2 Stop", "2 Close"));
+}
+
+TEST_F(Listening, AHubThatIsClosedWhileAPlayStopsIsAskedAboutAfterwards) {
+  ApriConAssegnato();
+  const auto leave = test::RispondiMessaggio("cmdYes");
+  QTimer::singleShot(0, hub, [this] { hub->close(); });
+  Clic("cmdPlayMp3");
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !b.Schermi.Mostrate.empty(); }));
+  const auto told = Told();
+  ASSERT_FALSE(told.empty());
+  EXPECT_EQ(told.back(), "2 Close") << "nothing plays on";
+}
+
+TEST_F(Listening, GoesOnDuringARecording) {
+  ApriConAssegnato();
+  Spunta(1);
+  Told();
+  servizi.SuRegistra = [this] { Clic("cmdMp3Preview_Play"); };
+  Clic("picRecordFlash");
+  EXPECT_THAT(Told(), testing::Contains("2 Play"));
+}
+
+TEST_F(Listening, ARefusedFileIsSaidToBeSilent) {
+  b.Suono.SuOpen = Error(errors::TypeMismatch);
+  ApriConAssegnato();
+  Clic("cmdPlayMp3");
+  EXPECT_EQ(Play().accessibleName().toStdString(), "Play, silent");
+  EXPECT_TRUE(Play().toolTip().startsWith(QStringLiteral("Nothing is heard"))) << "and why";
+  b.Suono.SuOpen = {};
+  Clic("cmdPlayMp3");
+  EXPECT_EQ(Play().accessibleName().toStdString(), "Play, playing");
+  ScegliFile(" ");
+  EXPECT_EQ(Play().toolTip().toStdString(), "Pick a file to listen to");
+}
+
 TEST_F(Listening, AHostWithoutSoundLeavesEverythingUsable) {
   b.Suono.SuOpen = Error(errors::DeviceUnavailable);
   ApriConAssegnato();
   Clic("cmdPlayMp3");
-  EXPECT_TRUE(Plays(Play())) << "until the next stop";
+  EXPECT_EQ(Name(Play()), "Play, silent") << "until the next stop";
   Clic("cmdStopMp3");
   EXPECT_FALSE(Plays(Play()));
   Spunta(1);

@@ -1,0 +1,39 @@
+#include <gtest/gtest.h>
+
+#include <QDesktopServices>
+#include <QUrl>
+
+#include "core/screens/EsecutoreQt.h"
+#include "support/Banco.h"
+
+namespace kvr5 {
+
+/// Takes the documents that are opened in the desktop's place.
+class Desktop : public QObject {
+  Q_OBJECT
+ public:
+  Desktop() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "Take"); }
+  ~Desktop() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
+  Q_SLOT void Take(const QUrl& url) { Last = url; }
+  QUrl Last;
+};
+
+namespace {
+
+TEST(Opener, GivesTheDesktopEachNameAsItIs) {
+  test::Banco b;
+  Desktop desktop;
+  EsecutoreQt opener(b.C);
+  for (const char* name :
+       {"a b.mp3", "50%20.mp3", "#1.mp3", "L'été.mp3", "a&b;c.mp3", "日本.mp3"}) {
+    b.Cartella.Write(std::string("music/") + name, "x");
+    EXPECT_TRUE(opener.Apri(b.Percorso("music") + "\\" + name, " /PLAY"));
+    EXPECT_EQ(desktop.Last.toLocalFile().toStdString(),
+              (b.Cartella.Host() / "music" / name).string());
+  }
+}
+
+}  // namespace
+}  // namespace kvr5
+
+#include "EsecutoreQtTest.moc"
