@@ -16,12 +16,19 @@ bool Holds(const Parametro& parameter, int value) {
   return value >= parameter.Minimo && value <= parameter.Massimo;
 }
 
-/// A list or slider takes a value that it can hold and keeps its state otherwise.
+/// A list or slider takes a value that it can hold and keeps its state otherwise. An item's own
+/// value is looked for as it is; an index is what is left of the value without the list's offset,
+/// and is made whole only then.
 StatoParametro TakeNumber(const Parametro& parameter, std::string_view text,
                           const StatoParametro& before, const Locale& locale) {
-  const auto number = TextToInt16(text, locale);
-  if (!number || !Holds(parameter, number.Value())) return before;
-  return {number.Value(), {}};
+  const auto number = TextToNumber(text, locale);
+  constexpr double kLarge = 32767;
+  if (!number || *number < -kLarge || *number > kLarge) return before;
+  const bool own = parameter.Tipo == Kind::ListaDati;
+  const double whole = own ? *number : ArrotondaPari(*number - parameter.Minimo) + parameter.Minimo;
+  const int value = static_cast<int>(whole);
+  if (value != whole || !Holds(parameter, value)) return before;
+  return {value, {}};
 }
 
 /// The check of the box runs on the file's value, too.

@@ -131,6 +131,9 @@ TEST(Parameters, FractionsAreRoundedToEvenWithTheLocalesMark) {
   italian.GroupMark = ".";
   EXPECT_EQ(DalFile(Find("LTRE"), "3,5", StatoIniziale(Find("LTRE")), italian).Numero, 4);
   EXPECT_EQ(Saved("TFIN", "5.5"), "6") << "the file takes digits only";
+  EXPECT_EQ(Saved("CMDB", "7.5"), "7") << "without the list's offset it is a half, which is even";
+  EXPECT_EQ(Saved("RSPL", "2.5"), "3");
+  EXPECT_EQ(Saved("PYDL", "4.5"), "0") << "no item's own value";
 }
 
 TEST(Parameters, AnEmptyValueLeavesWhatIsThereButForTheOnesThatReadItAsOff) {

@@ -77,6 +77,10 @@ CasellaCifre::CasellaCifre(std::unique_ptr<CasellaNumero> numero, const char* ca
     numero_->Cambia(Std(text));
     Cambiata();
   });
+  for (const QToolButton* arrow : {Su, Giu}) {
+    // A field that is left by the press gets its check.
+    connect(arrow, &QToolButton::pressed, this, [this] { Campo->setFocus(Qt::MouseFocusReason); });
+  }
   connect(Su, &QToolButton::clicked, this, [this] {
     numero_->Su();
     Cambiata();
@@ -102,6 +106,8 @@ void CasellaCifre::Controlla() {
 void CasellaCifre::ImpostaNome(const QString& nome) {
   Campo->setToolTip(nome);
   Campo->setAccessibleName(nome);
+  Su->setAccessibleName(nome + QStringLiteral(": +1"));
+  Giu->setAccessibleName(nome + QStringLiteral(": -1"));
 }
 
 void CasellaCifre::Cambiata() {

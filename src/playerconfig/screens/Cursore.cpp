@@ -7,6 +7,7 @@
 #include "core/screens/SenzaRotella.h"
 #include "core/screens/Testo.h"
 #include "playerconfig/Parametri.h"
+#include "playerconfig/screens/VoceCursore.h"
 
 namespace kvr5 {
 namespace {
@@ -16,6 +17,7 @@ constexpr int kPage = 4;
 
 QSlider* NewSlider(const char* name, int position, QWidget* parent) {
   auto* slider = new QSlider(Qt::Vertical, parent);
+  ImpostaVoce(*slider, {});  // first: what a screen reader is given is made once
   slider->setObjectName(QLatin1String(name));
   slider->setRange(0, kTop);
   slider->setSingleStep(1);
@@ -37,7 +39,7 @@ QLabel* NewLevel(const char* name, QWidget* parent) {
 
 void Cursore::Aggiorna() const {
   Valore->setText(Qs(Scala(Slider->value())));
-  Slider->setAccessibleDescription(Valore->text());
+  ImpostaVoce(*Slider, Valore->text());
 }
 
 Cursore NuovoCursore(const NomiCursore& nomi, QWidget* padre) {

@@ -29,7 +29,6 @@ QScrollArea* Scrolling(QWidget* body, QWidget* parent) {
   area->setFrameShape(QFrame::NoFrame);
   area->setWidgetResizable(true);
   area->setFocusPolicy(Qt::NoFocus);
-  area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   area->setWidget(body);
   area->viewport()->setAutoFillBackground(false);
   body->setAutoFillBackground(false);

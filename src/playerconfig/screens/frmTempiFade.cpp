@@ -174,13 +174,16 @@ void frmTempiFade::AlCaricamento() {
   picGrafico->setAccessibleName(Qs(TestoLingua(C(), "0130276")));
   for (std::size_t i = 0; i < tempi_.size(); ++i) {
     const std::array<QLabel*, 3> words{lblTFOU, lblTFIN, lblTADU};
-    tempi_.at(i)->ImpostaNome(words.at(i)->text());
+    // With the letter that the words of the drawing speak of, and the unit.
+    tempi_.at(i)->ImpostaNome(QString(QLatin1Char(kTimes.at(i).Letter)) + QStringLiteral(": ") +
+                              words.at(i)->text() + QStringLiteral(", ") +
+                              lblMillisecondi.at(i)->text());
   }
   cmbTAVC->setAccessibleName(lblTAVC->text());
   const std::array<std::pair<QSlider*, QLabel*>, 3> sliders{
       {{sliLMP3, lblLMP3}, {sliLLIN, lblLLIN}, {sliLLI2, lblLLI2}}};
   for (const auto& [slider, words] : sliders) {
-    slider->setAccessibleName(words->text());
+    slider->setAccessibleName(QStringLiteral("A: ") + words->text());
     slider->setToolTip(words->text());
   }
   Leggi();

@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QLineEdit>
@@ -174,11 +175,33 @@ TEST_F(Fades, TheArrowsStepBetween1And30) {
   EXPECT_EQ(Text(forma->txtTADU), "5");
 }
 
+TEST_F(Fades, APressOnAnotherTimesArrowLeavesTheBoxFirst) {
+  frmTempiFade& form = Open("TFOU=2\r\nTFIN=2\r\n");
+  form.txtTFOU->setFocus();
+  form.txtTFOU->selectAll();
+  test::Scrivi(form, QStringLiteral("45"));
+  Clicca(*form.u_dTFIN_su);
+  EXPECT_EQ(Text(form.txtTFOU), "30");
+  EXPECT_EQ(Text(form.txtTFIN), "3");
+  EXPECT_TRUE(form.txtTFIN->hasFocus());
+}
+
+TEST_F(Fades, TheTimesAreReadOutWithTheLetterOfTheDrawingAndTheirUnit) {
+  const frmTempiFade& form = Open("");
+  EXPECT_EQ(form.txtTFIN->accessibleName().left(3), "C: ");
+  EXPECT_TRUE(form.txtTFIN->accessibleName().endsWith(QStringLiteral(", Sec")));
+  EXPECT_EQ(form.u_dTADU_giu->accessibleName(), form.txtTADU->accessibleName() + ": -1");
+}
+
 TEST_F(Fades, TheSlidersFollowTheKeysAndAreReadOutByTheirScale) {
   frmTempiFade& form = Open("");
   QTest::keyClick(form.sliLMP3, Qt::Key_Up);
   EXPECT_EQ(form.lblLMP3_DB->text(), "112%");
   EXPECT_EQ(form.sliLMP3->accessibleDescription(), "112%");
+  QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(form.sliLMP3);
+  EXPECT_EQ(spoken->text(QAccessible::Value), "112%");
+  EXPECT_EQ(spoken->role(), QAccessible::Slider);
+  EXPECT_EQ(spoken->valueInterface()->currentValue().toInt(), 15);
   QTest::keyClick(form.sliLMP3, Qt::Key_PageDown);
   EXPECT_EQ(form.sliLMP3->value(), 11) << "a page is four steps";
   EXPECT_EQ(form.lblLMP3_DB->text(), "66%");
@@ -186,7 +209,7 @@ TEST_F(Fades, TheSlidersFollowTheKeysAndAreReadOutByTheirScale) {
   EXPECT_EQ(form.lblLLIN_DB->text(), "+12 dB") << "the top";
   QTest::keyClick(form.sliLLI2, Qt::Key_Home);
   EXPECT_EQ(form.lblLLI2_DB->text(), "OFF");
-  EXPECT_EQ(form.sliLLI2->accessibleName(), "Line input 2");
+  EXPECT_EQ(form.sliLLI2->accessibleName(), "A: Line input 2");
 }
 
 TEST_F(Fades, AnItalianScreenSaysWhatEachIs) {
