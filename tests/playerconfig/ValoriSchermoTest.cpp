@@ -120,7 +120,7 @@ TEST_F(ScreenValues, AReadOnlyFileStaysAsItIsAndIsAPendingError) {
   values["LMP3"].Numero = 9;
   b.C.Errore.Clear();
   values.Scrivi(b.C);
-  EXPECT_TRUE(b.C.Errore);
+  EXPECT_EQ(b.C.Errore.Last().Number(), 75);
   EXPECT_EQ(Config(), "[Config]\r\nLMP3=3\r\n");
 }
 

@@ -259,6 +259,81 @@ TEST_F(Serial, EveryItemHasRoomInItsList) {
   }
 }
 
+TEST_F(Serial, EscAndTheWindowsOwnButtonAreTheCancel) {
+  for (const bool rs232 : {false, true}) {
+    for (const bool esc : {false, true}) {
+      Open("CMBR=2\r\n", 4, rs232);
+      Scegli(*forma->cmbCMBR, 0);
+      Clicca(*forma->chkUse485);
+      if (esc) {
+        test::Tasto(*forma, Qt::Key_Escape);
+      } else {
+        forma->close();
+      }
+      AttesoAlloHub();
+      EXPECT_EQ(Config(), "[Config]\r\nCMBR=2\r\n");
+      EXPECT_EQ(b.Cartella.Read(kDescriptor).find("Use485"), std::string::npos);
+      EXPECT_FALSE(b.C.Stato.Usa485);
+    }
+  }
+}
+
+TEST_F(Serial, EscLeavesAnOpenListFirst) {
+  Open("CMBR=2\r\n");
+  forma->cmbCMBR->showPopup();
+  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+  QTest::keyClick(forma->cmbCMBR->view(), Qt::Key_Escape);
+  EXPECT_TRUE(forma.Caricata());
+  test::Tasto(*forma, Qt::Key_Escape);
+  AttesoAlloHub();
+}
+
+TEST_F(Serial, WithoutALanguageTheBuiltInCaptionsStand) {
+  b.C.Stato.FileLingua = b.Percorso("program/Language/none.lan");
+  for (const std::int16_t type : std::initializer_list<std::int16_t>{3, 4}) {
+    Open("", type);
+    EXPECT_EQ(forma->lblCambiaPagina->text(), "Cambia Pagina");
+    EXPECT_EQ(forma->lblDescrizione->text(), "Use 485");
+    EXPECT_EQ(forma->windowTitle(), "RS485");
+    EXPECT_EQ(Voce(*forma->cmbCMAD), "31");
+    EXPECT_EQ(test::Scritta(*forma, "lblCMBR"), "CMBR");
+    Annulla();
+  }
+}
+
+TEST_F(Serial, OfAKeyThatStandsTwiceTheFirstLineCounts) {
+  Open("CMAD=7\r\nCMSB=2\r\nCMAD=9\r\nCMSB=1\r\n");
+  EXPECT_EQ(Voce(*forma->cmbCMAD), "7");
+  EXPECT_EQ(Voce(*forma->cmbCMSB), "2 - 2 StopBits");
+  Scegli(*forma->cmbCMAD, 12);
+  Salva();
+  EXPECT_TRUE(Config().starts_with("[Config]\r\nCMAD=12\r\nCMSB=2\r\nCMAD=9\r\nCMSB=1\r\n"))
+      << Config();
+  EXPECT_EQ(Voce(*Reopen().cmbCMAD), "12");
+}
+
+TEST_F(Serial, KeysInOtherSectionsAreOthers) {
+  const std::string others = "[Other]\r\nCMAD=7\r\nCMDB=8\r\n";
+  Progetto(4, 1);
+  b.Cartella.Write(kConfig, others + "[Config]\r\nCMBR=2\r\n[Last]\r\nCMBR=1\r\n");
+  Reopen();
+  EXPECT_EQ(Indexes(), (std::vector{31, 0, 0, 2, 0, 0, 0, 0, 0, 0}));
+  Salva();
+  EXPECT_EQ(Config(),
+            others +
+                "[Config]\r\nCMBR=2\r\nCMAD=31\r\nCMCK=0\r\nCMCL=0\r\nCMPR=0\r\nCMSB=1\r\n"
+                "CMDB=7\r\nCMDR=0\r\nCMI3=0\r\nORI3=0\r\n[Last]\r\nCMBR=1\r\n");
+}
+
+TEST_F(Serial, AUse485InAnotherSectionIsAnother) {
+  Progetto(4, 1);
+  const std::string before = b.Cartella.Read(kDescriptor);
+  b.Cartella.Write(kDescriptor, before + "[Other]\r\nUse485=1\r\n");
+  EXPECT_FALSE(Reopen().chkUse485->isChecked());
+  Salva();
+  EXPECT_EQ(b.Cartella.Read(kDescriptor), before + "Use485=0\r\n[Other]\r\nUse485=1\r\n");
+}
+
 TEST_F(Serial, F1AndTheButtonOpenTheHelp) {
   Open("");
   test::Tasto(*forma, Qt::Key_F1);

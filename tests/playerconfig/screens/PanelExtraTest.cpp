@@ -192,6 +192,52 @@ TEST_F(Extras, EscLeavesAnOpenListFirst) {
   AttesoAlloHub();
 }
 
+TEST_F(Extras, TheWindowsOwnButtonIsTheCancel) {
+  Open("RSPL=9\r\n");
+  Clicca(*forma->chkPonte);
+  Scegli(*forma->cmbRSPL, 49);
+  forma->close();
+  AttesoAlloHub();
+  EXPECT_EQ(Config(), "[Config]\r\nRSPL=9\r\n");
+}
+
+TEST_F(Extras, F1AndTheButtonOpenTheHelp) {
+  Open("");
+  test::Tasto(*forma, Qt::Key_F1);
+  EXPECT_EQ(b.Documenti.Aperti.size(), 1U);
+  Clicca(*forma->picHelp);
+  EXPECT_EQ(b.Documenti.Aperti.size(), 2U);
+  EXPECT_TRUE(forma.Caricata());
+}
+
+TEST_F(Extras, OfAKeyThatStandsTwiceTheFirstLineCounts) {
+  Open("RSPL=9\r\nINVR=1\r\nRSPL=12\r\nINVR=0\r\n");
+  EXPECT_EQ(Voce(*forma->cmbRSPL), "9 detections");
+  EXPECT_TRUE(forma->chkPonte->isChecked());
+  Scegli(*forma->cmbRSPL, 49);
+  Clicca(*forma->chkPonte);
+  Salva();
+  EXPECT_TRUE(Config().starts_with("[Config]\r\nRSPL=50\r\nINVR=0\r\nRSPL=12\r\nINVR=0\r\n"))
+      << Config();
+  EXPECT_EQ(Voce(*Apri().cmbRSPL), "50 detections");
+}
+
+TEST_F(Extras, KeysInOtherSectionsAreOthers) {
+  const std::string others = "[Other]\r\nRSPL=9\r\nINVR=1\r\nOMON=1\r\n";
+  Progetto(4, 1);
+  b.Cartella.Write(kConfig, others + "[Config]\r\nPYDL=60\r\n[Last]\r\nPYDL=30\r\n");
+  Apri();
+  EXPECT_EQ(forma->cmbRSPL->currentIndex(), 0);
+  EXPECT_EQ(forma->cmbOMON->currentIndex(), 0);
+  EXPECT_FALSE(forma->chkPonte->isChecked());
+  EXPECT_EQ(Voce(*forma->cmbPYDL), "60 seconds");
+  Salva();
+  EXPECT_EQ(Config(),
+            others +
+                "[Config]\r\nPYDL=60\r\nOMON=0\r\nINVR=0\r\nPYDT=0\r\nTAPL=0\r\nRSPL=1\r\n"
+                "MOMD=0\r\n[Last]\r\nPYDL=30\r\n");
+}
+
 TEST_F(Extras, EnterSavesFromAList) {
   Open("OMON=1\r\n");
   forma->cmbMomd->setFocus();
@@ -227,6 +273,8 @@ TEST_F(Extras, HaveTheirTitleAndBuiltInCaptions) {
   Annulla();
   b.C.Stato.FileLingua = b.Percorso("program/Language/none.lan");
   EXPECT_EQ(Apri().lblParametriIR->text(), "Parametri gestione sensore movimento ad infrarossi");
+  EXPECT_EQ(forma->windowTitle(), "KVR5 extra parameters");
+  EXPECT_EQ(forma->lblPonte->text(), "Bridge mode");
 }
 
 }  // namespace

@@ -9,7 +9,32 @@
 namespace kvr5 {
 namespace {
 
-class Ways : public test::Hub {};
+class Ways : public test::Hub {
+ protected:
+  /// Presses each button that leads to a screen of parameters, seen or not.
+  void PressAll() {
+    for (const char* name : {"picConfiguraFade", "cmdConfigureExtra", "cmdConfigure232",
+                             "cmdConfigure232bis", "picConfig485", "picConfig485bis"}) {
+      ++pressed_;
+      Trova<QAbstractButton>(name).click();
+    }
+  }
+  void ExpectNoneOpened() const {
+    EXPECT_EQ(pressed_, 6) << "they were pressed amid the work";
+    EXPECT_EQ(b.Schermi.TempiFade, 0);
+    EXPECT_EQ(b.Schermi.PannelliExtra, 0);
+    EXPECT_TRUE(b.Schermi.Seriali.empty());
+  }
+  void ExpectOpenAgain() {
+    PressAll();
+    EXPECT_EQ(b.Schermi.TempiFade, 1);
+    EXPECT_EQ(b.Schermi.PannelliExtra, 1);
+    EXPECT_EQ(b.Schermi.Seriali.size(), 4U);
+  }
+
+ private:
+  int pressed_ = 0;
+};
 
 TEST_F(Ways, LeadToTheFadesOnEveryModel) {
   Progetto(1, 0);
@@ -47,6 +72,28 @@ TEST_F(Ways, HiddenButtonsLeadToTheSerialLinkInItsTwoForms) {
     Trova<QAbstractButton>(name).click();
   }
   EXPECT_EQ(b.Schermi.Seriali, (std::vector{true, true, false, false}));
+}
+
+TEST_F(Ways, AreShutWhileTheProjectIsSaved) {
+  Progetto(4, 1);
+  Apri();
+  b.Schermi.SuDomanda = [this] { PressAll(); };
+  {
+    const auto closing = test::RispondiMessaggio("cmdOk");
+    Clic("picSave");
+  }
+  ExpectNoneOpened();
+  b.Schermi.SuDomanda = {};
+  ExpectOpenAgain();
+}
+
+TEST_F(Ways, AreShutWhileTheProjectIsRecorded) {
+  Progetto(4, 1);
+  Apri();
+  servizi.SuRegistra = [this] { PressAll(); };
+  Clic("picRecordFlash");
+  ExpectNoneOpened();
+  ExpectOpenAgain();
 }
 
 }  // namespace
