@@ -4,11 +4,7 @@
 #include <QSlider>
 #include <QToolButton>
 
-#include "core/screens/RiquadroMessaggio.h"
-#include "core/screens/frmSiNo.h"
-#include "playerconfig/ConfigTxt.h"
-#include "road/screens/BancoProgramma.h"
-#include "support/screens/Scelte.h"
+#include "road/screens/StradaParametri.h"
 
 // The screens of parameters in the whole program: every control of each is changed by mouse and
 // keys and saved; what was saved is there when the screen is opened again.
@@ -17,52 +13,12 @@ namespace kvr5 {
 namespace {
 
 using namespace test;
-using Names = std::vector<std::string>;
 
-class ParametersRoad : public BancoProgramma {
- protected:
-  frmPlayerConfig& Hub(bool playlist = false) {
-    ScriviImpostazioni();
-    Avvia();
-    PassaLoSplash();
-    Clicca(*Attendi<frmMain>().picNuovoProgetto);
-    auto& wizard = Attendi<frmWizardPanel1>();
-    Riscrivi(*wizard.txtNomeProgetto, QStringLiteral("Bar"));
-    if (playlist) Clicca(wizard, "optPanel_2");
-    Clicca(*wizard.picGoOn);
-    return Attendi<frmPlayerConfig>();
-  }
-  static frmPlayerConfig& BackAtTheHub() {
-    frmPlayerConfig* hub = Vista<frmPlayerConfig>();
-    if (hub == nullptr) throw std::logic_error("the hub isn't there");
-    EXPECT_EQ(Viste(), Names{"frmPlayerConfig"});
-    hub->activateWindow();
-    EXPECT_TRUE(Pronta(*hub));
-    return *hub;
-  }
-  /// Presses a button of the hub, and has `act` work on the screen that comes.
-  template <class T>
-  void On(QAbstractButton& button, const std::function<void(T&)>& act) {
-    const Pilota<T> user(act);
-    button.click();
-    BackAtTheHub();
-  }
-  /// The same on the serial screen, which begins with a notice.
-  void OnSerial(QAbstractButton& button, const std::function<void(frmConfig485&)>& act) {
-    const Pilota<frmSiNo> notice([](frmSiNo& box) { Clicca(*box.cmdSi); });
-    On<frmConfig485>(button, act);
-  }
-  std::string Key(const char* key) { return LeggiChiaveConfig(programma->C(), key); }
-  std::string Config() const { return b.Cartella.Read("program/Projects/Bar/Config.txt"); }
-
-  static void Pick(QComboBox& list, int index) {
-    ScegliVoce(list, list.itemText(index).toStdString());
-  }
-};
+class ParametersRoad : public StradaParametri {};
 
 TEST_F(ParametersRoad, TheFadesThatWereSavedAreThereAgain) {
   frmPlayerConfig& hub = Hub();
-  On<frmTempiFade>(*hub.Opzioni->picConfiguraFade, [](frmTempiFade& form) {
+  Su<frmTempiFade>(*hub.Opzioni->picConfiguraFade, [](frmTempiFade& form) {
     for (QSlider* slider : {form.sliLMP3, form.sliLLIN, form.sliLLI2}) {
       QTest::keyClick(slider, Qt::Key_PageDown);
     }
@@ -70,11 +26,11 @@ TEST_F(ParametersRoad, TheFadesThatWereSavedAreThereAgain) {
     Riscrivi(*form.txtTFOU, QStringLiteral("12"));
     Riscrivi(*form.txtTFIN, QStringLiteral("99"));
     Clicca(*form.u_dTADU_su);
-    Pick(*form.cmbTAVC, 4);
+    Scegli(*form.cmbTAVC, 4);
     Clicca(*form.picSave);
   });
-  EXPECT_EQ(Key("TFIN"), "30");
-  On<frmTempiFade>(*hub.Opzioni->picConfiguraFade, [](frmTempiFade& form) {
+  EXPECT_EQ(Chiave("TFIN"), "30");
+  Su<frmTempiFade>(*hub.Opzioni->picConfiguraFade, [](frmTempiFade& form) {
     EXPECT_EQ(form.sliLMP3->value(), 10);
     EXPECT_EQ(form.lblLMP3_DB->text(), "56%");
     EXPECT_EQ(form.sliLLIN->value(), 10);
@@ -90,13 +46,13 @@ TEST_F(ParametersRoad, TheFadesThatWereSavedAreThereAgain) {
 
 TEST_F(ParametersRoad, TheExtrasThatWereSavedAreThereAgain) {
   frmPlayerConfig& hub = Hub();
-  On<frmPanelExtra>(*hub.Opzioni->cmdConfigureExtra, [](frmPanelExtra& form) {
+  Su<frmPanelExtra>(*hub.Opzioni->cmdConfigureExtra, [](frmPanelExtra& form) {
     Clicca(*form.chkPonte);
-    Pick(*form.cmbMomd, 1);
-    Pick(*form.cmbPYDT, 1);
-    Pick(*form.cmbPYDL, 12);
-    Pick(*form.cmbTAPL, 8);
-    Pick(*form.cmbRSPL, 49);
+    Scegli(*form.cmbMomd, 1);
+    Scegli(*form.cmbPYDT, 1);
+    Scegli(*form.cmbPYDL, 12);
+    Scegli(*form.cmbTAPL, 8);
+    Scegli(*form.cmbRSPL, 49);
     Clicca(*form.picSave);
   });
   for (const auto& [key, value] : {std::pair{"OMON", "1"},
@@ -106,9 +62,9 @@ TEST_F(ParametersRoad, TheExtrasThatWereSavedAreThereAgain) {
                                    {"PYDL", "240"},
                                    {"TAPL", "18"},
                                    {"RSPL", "50"}}) {
-    EXPECT_EQ(Key(key), value) << key;
+    EXPECT_EQ(Chiave(key), value) << key;
   }
-  On<frmPanelExtra>(*hub.Opzioni->cmdConfigureExtra, [](frmPanelExtra& form) {
+  Su<frmPanelExtra>(*hub.Opzioni->cmdConfigureExtra, [](frmPanelExtra& form) {
     EXPECT_TRUE(form.chkPonte->isChecked());
     EXPECT_FALSE(form.cmbOMON->isEnabled());
     EXPECT_EQ(form.cmbOMON->currentIndex(), 1);
@@ -123,7 +79,7 @@ TEST_F(ParametersRoad, TheExtrasThatWereSavedAreThereAgain) {
 
 TEST_F(ParametersRoad, TheExtrasOfAScheduleHaveNoSensor) {
   frmPlayerConfig& hub = Hub(true);
-  On<frmPanelExtra>(*hub.Opzioni->cmdConfigureExtra, [](frmPanelExtra& form) {
+  Su<frmPanelExtra>(*hub.Opzioni->cmdConfigureExtra, [](frmPanelExtra& form) {
     EXPECT_FALSE(form.picIR->isVisible());
     Tasto(form, Qt::Key_Escape);
   });
@@ -131,10 +87,10 @@ TEST_F(ParametersRoad, TheExtrasOfAScheduleHaveNoSensor) {
 
 TEST_F(ParametersRoad, TheSerialLinkThatWasSavedIsThereAgainAndTakesItsInputs) {
   frmPlayerConfig& hub = Hub();
-  OnSerial(*hub.Seriali->picConfig485, [](frmConfig485& form) {
+  SuSeriale(*hub.Seriali->picConfig485, [](frmConfig485& form) {
     for (QComboBox* list : {form.cmbCMAD, form.cmbCMCK, form.cmbCMCL, form.cmbCMBR, form.cmbCMPR,
                             form.cmbCMSB, form.cmbCMDB, form.cmbCMDR}) {
-      Pick(*list, list->currentIndex() == 0 ? 1 : 0);
+      Scegli(*list, list->currentIndex() == 0 ? 1 : 0);
     }
     Clicca(*form.chkUse485);
     Clicca(*form.picSave);
@@ -143,7 +99,7 @@ TEST_F(ParametersRoad, TheSerialLinkThatWasSavedIsThereAgainAndTakesItsInputs) {
   EXPECT_FALSE(hub.fraIngressiLogici->chkIn[4]->isEnabled()) << "the link takes IN5";
   EXPECT_FALSE(hub.fraIngressiLogici->chkIn[5]->isEnabled());
   const std::string saved = Config();
-  OnSerial(*hub.Seriali->cmdConfigure232, [](frmConfig485& form) {
+  SuSeriale(*hub.Seriali->cmdConfigure232, [](frmConfig485& form) {
     EXPECT_EQ(form.windowTitle(), "RS-232 link");
     EXPECT_FALSE(form.cmbCMAD->isVisible());
     EXPECT_EQ(form.cmbCMBR->currentIndex(), 0);
@@ -152,7 +108,7 @@ TEST_F(ParametersRoad, TheSerialLinkThatWasSavedIsThereAgainAndTakesItsInputs) {
     Clicca(*form.picSave);
   });
   EXPECT_EQ(Config(), saved) << "the address too";
-  EXPECT_EQ(Key("CMAD"), "0");
+  EXPECT_EQ(Chiave("CMAD"), "0");
   EXPECT_TRUE(hub.fraIngressiLogici->chkIn[4]->isEnabled());
 }
 
@@ -160,12 +116,12 @@ TEST_F(ParametersRoad, ASaveLeavesTheHubsOwnChangesAndItsSignAlone) {
   frmPlayerConfig& hub = Hub();
   QTest::keyClick(hub.fraOutputLevel->sliVolume, Qt::Key_Up);
   ASSERT_TRUE(hub.lblNonSalvato->isVisible());
-  On<frmTempiFade>(*hub.Opzioni->picConfiguraFade, [](frmTempiFade& form) {
+  Su<frmTempiFade>(*hub.Opzioni->picConfiguraFade, [](frmTempiFade& form) {
     QTest::keyClick(form.sliLMP3, Qt::Key_Up);
     Clicca(*form.picSave);
   });
-  EXPECT_EQ(Key("LMP3"), "15");
-  EXPECT_EQ(Key("LOUT"), "14") << "that is kept by the project's own save";
+  EXPECT_EQ(Chiave("LMP3"), "15");
+  EXPECT_EQ(Chiave("LOUT"), "14") << "that is kept by the project's own save";
   EXPECT_EQ(hub.fraOutputLevel->sliVolume->value(), 15);
   EXPECT_TRUE(hub.lblNonSalvato->isVisible());
 }
