@@ -136,12 +136,7 @@ void Saving::TellMissing() {
 
 FineSalvataggio Saving::TellEnd() {
   if (context_.Errore) {
-    const Error& error = context_.Errore.Last();
-    context_.Finestre.MostraMessaggio({TestoLingua(context_, "0070007"),
-                                       TestoLingua(context_, "0030005") +
-                                           "\r\nN°:" + std::to_string(error.Number()) + "\r\n" +
-                                           error.Description(),
-                                       Icona::Avviso, Pulsanti::Ok, Risposta::Ok});
+    DiciErrore(context_);
     return FineSalvataggio::ConErrori;
   }
   const bool cancelled = Cancelled();
@@ -152,6 +147,15 @@ FineSalvataggio Saving::TellEnd() {
 }
 
 }  // namespace
+
+void DiciErrore(Contesto& contesto) {
+  const Error error = contesto.Errore.Last();  // what the user does under the box has others
+  contesto.Finestre.MostraMessaggio({TestoLingua(contesto, "0070007"),
+                                     TestoLingua(contesto, "0030005") +
+                                         "\r\nN°:" + std::to_string(error.Number()) + "\r\n" +
+                                         error.Description(),
+                                     Icona::Avviso, Pulsanti::Ok, Risposta::Ok});
+}
 
 FineSalvataggio SalvaConfigurazione(Contesto& contesto, const DaSalvare& cosa,
                                     FinestraProgresso& progresso, DomandaSalva& domanda) {

@@ -33,6 +33,9 @@ struct DaSalvare {
   bool AnalyzerVisibile = false;
 };
 
+/// The box of a step that failed: the pending error by its number and words.
+void DiciErrore(Contesto& contesto);
+
 /// Brings the project's folder up to date: the descriptor, Config.txt, the report, and, where the
 /// user wants it, copies of the MP3 files of the inputs; with the analyser on, its file. Each step
 /// stays as it landed, whatever becomes of a later one. The pending error is cleared at the start

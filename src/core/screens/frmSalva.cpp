@@ -59,6 +59,7 @@ frmSalva::frmSalva(Ambiente& ambiente) : Form(ambiente, "frmSalva") {
     Finisci(false);
   });
   connect(picHelp, &QAbstractButton::clicked, this, [this] { Aiuto(); });
+  SuInvio(*picSalva);
   SuTasto(Qt::Key_Escape, [this] { Finisci(true); });
   SuTasto(Qt::Key_F1, [this] { Aiuto(); });
 }

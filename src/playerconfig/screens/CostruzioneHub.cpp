@@ -203,7 +203,9 @@ void frmPlayerConfig::CollegaParametri() {
     connect(button, &QAbstractButton::clicked, this, [this, open] {
       if (lavora_) return;  // it would hold the work up, out of reach of its cancel
       const Impegno stays(*this);
+      const OwnError own(C().Errore);
       open(ambiente_.Schermi);
+      AvvisaNonScritto();
     });
   };
   leads(Opzioni->picConfiguraFade, [](Navigazione& screens) { screens.ApriTempiFade(); });

@@ -27,7 +27,7 @@ Livelli::Livelli(Contesto& contesto, QWidget* padre)
   lblTitoloFrame = NuovaEtichetta("lblTitoloFrame", QStringLiteral("Output"), 1, this);
   Veste(*lblTitoloFrame, Carattere::Riquadro);
   Corpo()->addWidget(lblTitoloFrame);
-  auto* picVolume = NewPicture("picVolume", "volume", this);
+  picVolume = NewPicture("picVolume", "volume", this);
   picLoudness = NewPicture("picLoudness", "loudness", this);
   picTreble = NewPicture("picTreble", "acuti", this);
   picBass = NewPicture("picBass", "bassi", this);
@@ -87,6 +87,7 @@ void Livelli::Localizza() {
     cursori_[i].Slider->setAccessibleName(name);
     cursori_[i].Slider->setToolTip(name);
   }
+  picVolume->setToolTip(sliVolume->toolTip());
   picLoudness->setToolTip(sliLoudness->toolTip());
   picTreble->setToolTip(sliTreble->toolTip());
   picBass->setToolTip(sliBass->toolTip());

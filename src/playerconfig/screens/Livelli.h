@@ -18,6 +18,7 @@ class Livelli : public Riquadro {
   explicit Livelli(Contesto& contesto, QWidget* padre = nullptr);
 
   QLabel* lblTitoloFrame;
+  QLabel* picVolume;
   QSlider* sliVolume;
   QLabel* lblVolume_DB;
   QLabel* picLoudness;

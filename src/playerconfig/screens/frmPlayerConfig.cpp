@@ -451,6 +451,10 @@ void frmPlayerConfig::Salva() {
   });
 }
 
+void frmPlayerConfig::AvvisaNonScritto() {
+  if (C().Errore) DiciErrore(C());
+}
+
 void frmPlayerConfig::MostraReport() {
   Lavora([this] {
     MostraReportProgetto(C(), ambiente_.Documenti, {&ingressi_.Cursore(), layout_.fraAnalyzer});

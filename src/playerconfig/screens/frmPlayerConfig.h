@@ -149,6 +149,8 @@ class frmPlayerConfig : public Form {
   void Registra();
   void Salva();
   void MostraReport();
+  /// Tells of what a screen of parameters couldn't write, which closes all the same.
+  void AvvisaNonScritto();
   void AggiornaNonSalvato();
   /// Counts the project at the next free moment; not `daCapo`: rows that haven't changed since the
   /// last count aren't read again.

@@ -8,6 +8,7 @@
 #include "core/screens/RiquadroMessaggio.h"
 #include "core/screens/frmSalva.h"
 #include "flashcard/screens/frmProgress.h"
+#include "playerconfig/screens/frmTempiFade.h"
 #include "road/screens/BancoStrada.h"
 
 // "Save" in the whole program: the real question, the real progress and copy windows, and what is
@@ -98,6 +99,35 @@ TEST_F(SavingRoad, AQuestionThatIsLeftByItsWindowSavesNothing) {
   EXPECT_TRUE(Of<QWidget>("lblNonSalvato").isVisible());
   EXPECT_FALSE(Exists("Hall.htm"));
   EXPECT_TRUE(Schermo("frmPlayerConfig").isEnabled());
+}
+
+TEST_F(SavingRoad, EnterAnswersTheQuestionWithSave) {
+  {
+    const Pilota<frmSalva> question([](frmSalva& form) { test::Tasto(form, Qt::Key_Return); });
+    const Pilota<RiquadroMessaggio> closing([](RiquadroMessaggio& box) { Clicca(box, "cmdOk"); });
+    Clic("frmPlayerConfig", "picSave");
+  }
+  EXPECT_TRUE(Exists("Hall.htm"));
+}
+
+TEST_F(SavingRoad, AScreenOfParametersThatCouldNotWriteIsToldOfWhenItIsClosed) {
+  const auto file = b.Cartella.Host() / "program/Projects/Hall/Config.txt";
+  std::filesystem::permissions(file, std::filesystem::perms::owner_read);
+  std::string told;
+  {
+    const Pilota<frmTempiFade> fades([](frmTempiFade& form) {
+      test::Tasto(form, Qt::Key_Up);
+      Clicca(*form.picSave);
+    });
+    const Pilota<RiquadroMessaggio> box([&](RiquadroMessaggio& words) {
+      told = test::Scritta(words, "lblTesto");
+      Clicca(words, "cmdOk");
+    });
+    Clic("frmPlayerConfig", "picConfiguraFade");
+  }
+  EXPECT_EQ(told, "This step could not be completed\nN°:75\nPath/File access error");
+  const Pilota<frmTempiFade> fades([](frmTempiFade& form) { Clicca(*form.picCancel); });
+  Clic("frmPlayerConfig", "picConfiguraFade");  // and nothing is told
 }
 
 TEST_F(SavingRoad, ACancelInTheProgressWindowEndsItBetweenTwoSteps) {
