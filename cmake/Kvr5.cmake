@@ -14,6 +14,13 @@ if(KVR5_CCACHE)
   set(CMAKE_CXX_COMPILER_LAUNCHER "${KVR5_CCACHE}")
 endif()
 
+# Some thirty programs are linked for the tests: the quick linker, where it is installed.
+find_program(KVR5_MOLD mold)
+if(KVR5_MOLD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_GREATER_EQUAL 12.1
+   AND NOT CMAKE_CROSSCOMPILING)
+  add_link_options(-fuse-ld=mold)
+endif()
+
 add_library(kvr5_options INTERFACE)
 target_compile_options(kvr5_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
@@ -36,6 +43,14 @@ endif()
 # all that they use none the less; the release build, which does without, keeps them honest.
 option(KVR5_PRECOMPILE "Read common headers once a build, not once a source" OFF)
 
+# Of the sanitized builds only what is tested is worth optimising: the tests themselves take twice the
+# time to compile then.
+function(kvr5_compile_quickly target kind)
+  if(KVR5_SANITIZE AND kind MATCHES "tests$")
+    target_compile_options(${target} PRIVATE -O0)
+  endif()
+endfunction()
+
 # kvr5_share_headers(<kind> HEADERS <header>... LINK <target>...): the headers of a kind of target.
 function(kvr5_share_headers kind)
   cmake_parse_arguments(ARG "" "" "HEADERS;LINK" ${ARGN})
@@ -44,11 +59,13 @@ function(kvr5_share_headers kind)
     add_library(kvr5_headers_${kind} OBJECT "${PROJECT_BINARY_DIR}/headers/${kind}.cpp")
     target_link_libraries(kvr5_headers_${kind} PRIVATE ${ARG_LINK} kvr5_options)
     target_precompile_headers(kvr5_headers_${kind} PRIVATE ${ARG_HEADERS})
+    kvr5_compile_quickly(kvr5_headers_${kind} ${kind})
   endif()
 endfunction()
 
 # kvr5_take_headers(<target> <kind>)
 function(kvr5_take_headers target kind)
+  kvr5_compile_quickly(${target} ${kind})
   if(KVR5_PRECOMPILE)
     target_precompile_headers(${target} REUSE_FROM kvr5_headers_${kind})
   endif()
