@@ -8,8 +8,8 @@
 namespace kvr5 {
 
 /// A text (UTF-8) as it is written into a page so that it is seen as it is, whatever it holds: the
-/// marks of markup become entities, quotes too, a control character U+FFFD; a blank that a page would
-/// swallow, the first one and each behind another, becomes one that it keeps.
+/// marks of markup become entities, quotes too, a control character U+FFFD; a blank that a page
+/// would swallow, the first one and each behind another, becomes one that it keeps.
 std::string TestoHtml(std::string_view testo);
 
 /// A line of markup (UTF-8) as bytes of a report. The template declares Windows-1252: of that page
