@@ -228,22 +228,27 @@ class EmptyForm : public QWidget {
       grids_.push_back(new QGridLayout());
       frame->Corpo()->addLayout(grids_.back());
     }
-    Add<QLabel>(like);
-    Add<QComboBox>(like);
-    Add<QLineEdit>(like);
-    Add<QSlider>(like);
-    Add<QCheckBox>(like);
-    Add<QToolButton>(like);
-    for (int i = CountOf<kvr5::Coppia>(like); i > 0; --i) {
-      Place(new kvr5::Coppia("pic", "lbl", QStringLiteral("Caption"), "salva", -1, Next()));
+    const QList<kvr5::Coppia*> pairs = like.findChildren<kvr5::Coppia*>();
+    const auto captions = std::ranges::count_if(
+        pairs, [](const kvr5::Coppia* pair) { return pair->Etichetta() != nullptr; });
+    // Frames and pairs bring the labels of theirs along.
+    Add<QLabel>(CountOf<QLabel>(like) - CountOf<kvr5::Riquadro>(like) - static_cast<int>(captions));
+    Add<QComboBox>(CountOf<QComboBox>(like));
+    Add<QLineEdit>(CountOf<QLineEdit>(like));
+    Add<QSlider>(CountOf<QSlider>(like));
+    Add<QCheckBox>(CountOf<QCheckBox>(like));
+    Add<QToolButton>(CountOf<QToolButton>(like));
+    for (const kvr5::Coppia* pair : pairs) {
+      const char* label = pair->Etichetta() != nullptr ? "lbl" : "";
+      Place(new kvr5::Coppia("pic", label, QStringLiteral("Caption"), "salva", -1, Next()));
     }
     resize(like.size());
   }
 
  private:
   template <class T>
-  void Add(const QWidget& like) {
-    for (int i = CountOf<T>(like); i > 0; --i) {
+  void Add(int count) {
+    for (int i = count; i > 0; --i) {
       auto* control = new T(Next());
       if constexpr (requires { control->setText(QString()); }) {
         control->setText(QStringLiteral("Caption"));

@@ -57,7 +57,7 @@ void AscoltoEditor::PlayFileSx(const std::string& cartella, const std::string& f
     ApriFuori(documenti_, path);
   } else if (FermaPerSuonare()) {
     MostraFileSx(true);
-    Suona(mci1_, path);
+    if (!Suona(mci1_, path) && SuMutoFileSx) SuMutoFileSx();
   }
   Fine();
 }
@@ -102,7 +102,7 @@ bool AscoltoEditor::Cerca(Recordset& rsDettaglio, std::size_t indice) {
 void AscoltoEditor::SuonaRiga(std::size_t indice, const std::string& path) {
   if (!FermaPerSuonare()) return;
   MostraRiga(indice, true);
-  Suona(mciPreview_, path);
+  if (!Suona(mciPreview_, path) && SuMutoRiga) SuMutoRiga(indice);
 }
 
 void AscoltoEditor::DiciMancante(const std::string& path) {

@@ -22,6 +22,9 @@ class AscoltoEditor : public Ascolto {
   std::function<void(bool on)> SuPlayFileSx;
   /// cmdPlayMp3 (`indice` 0), or picPlay(`indice`), does.
   std::function<void(std::size_t indice, bool on)> SuPlayRiga;
+  /// What cmdPlayFileSx, or the row's button, was to play stays silent, under the picture PlayOn.
+  std::function<void()> SuMutoFileSx;
+  std::function<void(std::size_t indice)> SuMutoRiga;
 
   /// cmdStopFileSx, cmdStopMp3, picStop: stops both, also with the external player.
   void Stop();

@@ -41,11 +41,12 @@ void PrintLine(Contesto& contesto, std::string bytes) {
   }
 }
 
-/// Opens the file anew. An old one goes first, a hidden one too: nothing is added to it.
+/// Opens the file anew. An old one goes first, a hidden one too; one that can't go, as in a locked
+/// folder, is emptied: nothing is added to it.
 Result<std::unique_ptr<File>> OpenAnew(Contesto& contesto, const std::string& path) {
   const auto old = contesto.Files.Info(path);
-  if (old && !old.Value().IsFolder) contesto.Errore.Record(contesto.Files.Delete(path));
-  return contesto.Files.Open(path, OpenMode::Append);
+  const bool there = old && !old.Value().IsFolder && contesto.Files.Delete(path);
+  return contesto.Files.Open(path, there ? OpenMode::Write : OpenMode::Append);
 }
 
 /// Hands the trimmed lines of a file, as bytes, to `visit`, which gives false to stop.
@@ -94,17 +95,19 @@ void ApriReport(Contesto& contesto, std::string_view nome, std::string_view /*ti
   state.FileReport = FileDelProgetto(contesto, name);
   state.CanaleReport.reset();
   state.ReportAperto = true;
+  Error opened(errors::BadFileName);
   if (CardCanHold(name)) {
     auto file = OpenAnew(contesto, state.FileReport);
-    if (contesto.Errore.Record(file.Err())) state.CanaleReport = std::move(file.Value());
+    opened = file.Err();
+    if (file) state.CanaleReport = std::move(file.Value());
   } else {
-    contesto.Errore.Record(Error(errors::BadFileName));
     state.FileReport.clear();  // it might lead out of the folder
   }
   state.ReportIntero = state.CanaleReport != nullptr;
   IncludiTemplate(contesto, InReportFolder(contesto, "report.htm"));
   CopyUnlessThere(contesto, "logo_menu.jpg");
   CopyUnlessThere(contesto, "sf_menu.jpg");
+  contesto.Errore.Record(opened);  // last: what followed from it says less
 }
 
 void ScriviRigaReport(Contesto& contesto, std::string_view testo) {

@@ -195,6 +195,19 @@ TEST_F(EditorListening, AFileThatIsRefusedLeavesTheButtonOnUntilTheNextStop) {
   EXPECT_EQ(Said(), AfterStop({"pane on", "1 Open " + Music("a.mp3"), "1 Play", "events"}));
 }
 
+TEST_F(EditorListening, AFileThatIsRefusedIsToldToBeSilent) {
+  std::string silent;
+  listening.SuMutoFileSx = [&] { silent += "pane "; };
+  listening.SuMutoRiga = [&](std::size_t index) { silent += std::to_string(index); };
+  listening.PlayFileSx(b.Percorso("music"), "a.mp3");
+  listening.PlayRiga(rows);
+  EXPECT_EQ(silent, "");
+  sound.SuOpen = Error(errors::TypeMismatch);
+  listening.PlayFileSx(b.Percorso("music"), "a.mp3");
+  listening.PlayRiga(rows);
+  EXPECT_EQ(silent, "pane 0");
+}
+
 TEST_F(EditorListening, ACommandThatComesWhileTheFirstOneStopsIsTheOneThatCounts) {
   bool once = true;
   b.Messaggi.Accade = [&] {

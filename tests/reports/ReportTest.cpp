@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <memory>
 #include <string>
 
 #include "reports/Report.h"
 #include "support/Banco.h"
+#include "support/FaultyFileSystem.h"
 
 namespace kvr5 {
 namespace {
@@ -233,6 +235,31 @@ TEST_F(Reports, ShowATextOfAHundredThousandLinesWhole) {
   }
   InProject("t.txt", text);
   EXPECT_EQ(Lines([&] { IncludiFileTesto(b.C, Project("t.txt"), true); }), shown);
+}
+
+TEST(ReportInALockedFolder, ReplacesTheOldOneWhereItCantBeDeleted) {
+  std::unique_ptr<test::FaultyFileSystem> faulty;
+  test::Banco b([&](FileSystem& disk) -> FileSystem& {
+    faulty = std::make_unique<test::FaultyFileSystem>(disk);
+    return *faulty;
+  });
+  b.CreaProgetto("Hall", 4, 1);
+  b.Cartella.Write("program/Projects/Hall/x.htm", "a longer page than the new one by far");
+  b.Cartella.Write("program/Report/report.htm", "");
+  faulty->FailOperation(b.Percorso("program/Projects/Hall/x.htm"), 1, errors::PathFileAccess);
+  ApriReport(b.C, "x", "");
+  EXPECT_EQ(faulty->FailedOperation(), "Delete");
+  ChiudiReport(b.C);
+  EXPECT_EQ(b.Cartella.Read("program/Projects/Hall/x.htm"), kTail);
+  EXPECT_TRUE(b.C.Stato.ReportIntero);
+}
+
+TEST_F(Reports, TellTheCauseAlsoWhereTheImagesAreMissingToo) {
+  ASSERT_FALSE(b.Disco.Delete(b.Percorso("program/Report/logo_menu.jpg")));
+  ASSERT_FALSE(b.Disco.CreateFolder(Project("y.htm")));
+  ApriReport(b.C, "y", "");
+  ChiudiReport(b.C);
+  EXPECT_EQ(b.C.Errore.Last().Number(), errors::PathFileAccess);
 }
 
 TEST_F(Reports, KeepCharactersThatThePageLacks) {

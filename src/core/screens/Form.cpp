@@ -1,7 +1,10 @@
 #include "core/screens/Form.h"
 
+#include <QCheckBox>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
+#include <QRadioButton>
 #include <QShortcut>
 #include <QWindow>
 #include <utility>
@@ -31,6 +34,18 @@ bool IsInput(QEvent::Type type) {
   }
 }
 
+bool IsEnter(const QEvent& event) {
+  if (event.type() != QEvent::KeyPress) return false;
+  const int key = static_cast<const QKeyEvent&>(event).key();
+  return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+/// Boxes and options, which some desktops have Enter press.
+bool IsChoice(const QObject* object) {
+  return qobject_cast<const QCheckBox*>(object) != nullptr ||
+         qobject_cast<const QRadioButton*>(object) != nullptr;
+}
+
 }  // namespace
 
 Form::Form(Ambiente& ambiente, const char* nome) : ambiente_(ambiente) {
@@ -46,6 +61,9 @@ void Form::Carica() {
   if (stato_ != Stato::Nuova) return;
   stato_ = Stato::Caricata;
   ambiente_.Vita.Caricata();
+  for (QAbstractButton* each : findChildren<QAbstractButton*>()) {
+    if (suInvio_ != nullptr && IsChoice(each)) each->installEventFilter(this);
+  }
   AlCaricamento();
 }
 
@@ -135,6 +153,10 @@ bool Form::eventFilter(QObject* object, QEvent* event) {
   // A click or key that was on its way when the window went would still reach its controls: a
   // second press of a button whose first one closed the window would run it once more.
   if (object == windowHandle() && !isVisible() && IsInput(event->type())) return true;
+  if (suInvio_ != nullptr && IsChoice(object) && IsEnter(*event)) {
+    keyPressEvent(static_cast<QKeyEvent*>(event));
+    return true;
+  }
   return QWidget::eventFilter(object, event);
 }
 

@@ -1,3 +1,5 @@
+#include <QCheckBox>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QTest>
@@ -115,6 +117,32 @@ TEST_F(VitaDiUnaForm, UnloadingAFormThatIsNotLoadedDoesNothing) {
   EXPECT_EQ(FormDiProva::Scarichi, 0);
   EXPECT_TRUE(FormDiProva::Cause.empty());
   EXPECT_EQ(b.UltimeScaricate, 0);
+}
+
+/// A box as on a desktop where Enter presses it.
+class EagerBox : public QCheckBox {
+ public:
+  using QCheckBox::QCheckBox;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Return) return click();
+    QCheckBox::keyPressEvent(event);
+  }
+};
+
+TEST_F(VitaDiUnaForm, EnterPressesItsButtonAlsoOnADesktopWhereBoxesTakeTheKey) {
+  auto* box = new EagerBox(&*forma);
+  auto* standard = new Coppia("cmdAvanti", "lblAvanti", "Next", "fatto", -1, &*forma);
+  int pressed = 0;
+  QObject::connect(standard, &QAbstractButton::clicked, &*forma, [&] { ++pressed; });
+  forma->SuInvio(*standard);
+  FormDiProva& form = Apri();
+  ASSERT_TRUE(Pronta(form));
+  box->setFocus();
+  Tasto(form, Qt::Key_Return);
+  EXPECT_EQ(pressed, 1);
+  EXPECT_FALSE(box->isChecked());
 }
 
 TEST_F(VitaDiUnaForm, EnterPressesItsButtonUnlessTheFocusIsOnOneThatTakesTheKey) {

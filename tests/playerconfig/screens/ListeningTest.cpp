@@ -307,6 +307,14 @@ TEST_F(Listening, ARefusedFileIsSaidToBeSilent) {
   EXPECT_EQ(Play().toolTip().toStdString(), "Pick a file to listen to");
 }
 
+TEST_F(Listening, AnAssignedFileOfWhichOnlyTheProjectsCopyIsLeftIsSaidToBeSilent) {
+  ApriConAssegnato();
+  Spunta(1);
+  b.Suono.SuOpen = Error(errors::FileNotFound);
+  Clic("cmdMp3Preview_Play");
+  EXPECT_EQ(Name(PlayAssigned()), "Listen, silent");
+}
+
 TEST_F(Listening, AHostWithoutSoundLeavesEverythingUsable) {
   b.Suono.SuOpen = Error(errors::DeviceUnavailable);
   ApriConAssegnato();
