@@ -15,6 +15,12 @@ namespace kvr5 {
 /// is done.
 class Ascolto {
  public:
+  /// A stop by the user: both players, harmless when nothing plays.
+  void Stop() {
+    Comando();
+    Ferma();
+  }
+
   /// Starts a file (system form) in the host's player for it, and forgets it.
   static void ApriFuori(Esecutore& documenti, const std::string& file);
   /// Sets a player's file and plays it. False for one that is refused, which stays silent.
@@ -24,22 +30,37 @@ class Ascolto {
 
  protected:
   Ascolto(Contesto& contesto, Esecutore& documenti) : contesto_(contesto), documenti_(documenti) {}
-  ~Ascolto() = default;
+  virtual ~Ascolto() = default;
+
+  /// Stops both players; a command that comes meanwhile counts.
+  virtual void Ferma() = 0;
+  /// A command to play begins: stops both. False when another came meanwhile, which counts.
+  bool FermaPerSuonare() {
+    const unsigned mine = Comando();
+    Ferma();
+    return comando_ == mine;
+  }
 
   bool Fuori() const { return contesto_.Stato.UsaPlayerEsterno; }
   /// Whether a file is there to be listened to; a nameless one isn't.
   bool Esiste(const std::string& cartella, const std::string& nome) const;
-  /// A command by the user begins; its number.
-  unsigned Comando() { return ++comando_; }
   unsigned UltimoComando() const { return comando_; }
   void Attesa() { contesto_.Messaggi.ImpostaPuntatore(Puntatore::Attesa); }
   void Normale() { contesto_.Messaggi.ImpostaPuntatore(Puntatore::Normale); }
   void LasciaCorrere() { contesto_.Messaggi.LasciaCorrere(); }
+  /// The last steps of every play.
+  void Fine() {
+    LasciaCorrere();
+    Normale();
+  }
 
   Contesto& contesto_;
   Esecutore& documenti_;
 
  private:
+  /// A command by the user begins; its number.
+  unsigned Comando() { return ++comando_; }
+
   unsigned comando_ = 0;
 };
 

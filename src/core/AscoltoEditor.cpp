@@ -30,24 +30,8 @@ void AscoltoEditor::Ferma() {
   Zittisci(mciPreview_);
 }
 
-void AscoltoEditor::Stop() {
-  Comando();
-  Ferma();
-}
-
 void AscoltoEditor::Notifica(int codice) {
   if (codice == Anteprima::kFinita) Ferma();
-}
-
-bool AscoltoEditor::FermaPerSuonare() {
-  const unsigned mine = Comando();
-  Ferma();
-  return UltimoComando() == mine;
-}
-
-void AscoltoEditor::Fine() {
-  LasciaCorrere();
-  Normale();
 }
 
 void AscoltoEditor::PlayFileSx(const std::string& cartella, const std::string& file) {

@@ -26,8 +26,8 @@ class AscoltoEditor : public Ascolto {
   std::function<void()> SuMutoFileSx;
   std::function<void(std::size_t indice)> SuMutoRiga;
 
-  /// cmdStopFileSx, cmdStopMp3, picStop: stops both, also with the external player.
-  void Stop();
+  // Stop: cmdStopFileSx, cmdStopMp3 and picStop; stops both, also with the external player.
+
   /// The notification of a player; a file that was played to its end stops both.
   void Notifica(int codice);
   /// cmdPlayFileSx: the selected file of the pane, be it there or not.
@@ -41,16 +41,13 @@ class AscoltoEditor : public Ascolto {
                 const std::string& file);
 
  private:
-  void Ferma();
-  /// Stops both; false when another command came meanwhile, which is the one that counts.
-  bool FermaPerSuonare();
+  void Ferma() override;
   void MostraFileSx(bool on) const;
   void MostraRiga(std::size_t indice, bool on) const;
   /// Goes to the row of a slot; false when there is none.
   static bool Cerca(Recordset& rsDettaglio, std::size_t indice);
   void SuonaRiga(std::size_t indice, const std::string& path);
   void DiciMancante(const std::string& path);
-  void Fine();
 
   Anteprima& mci1_;
   Anteprima& mciPreview_;

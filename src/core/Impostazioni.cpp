@@ -10,7 +10,7 @@ namespace kvr5 {
 namespace {
 
 constexpr std::size_t kSettingBuffer = kCaratteriImpostazione + 1;  // the closing NUL
-constexpr std::size_t kTextBuffer = 254;
+constexpr std::size_t kTextBuffer = kCaratteriTesto + 1;
 
 Error MakeEmptySettings(Contesto& contesto, std::string_view file) {
   auto opened = contesto.Files.Open(file, OpenMode::Append);

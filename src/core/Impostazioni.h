@@ -14,6 +14,9 @@ namespace kvr5 {
 /// As many characters as a value of an INI file comes back with, but for a language file's.
 inline constexpr std::size_t kCaratteriImpostazione = 99;
 
+/// As many as a text of a language file comes back with.
+inline constexpr std::size_t kCaratteriTesto = 253;
+
 /// Reads a value of an INI file: the settings, the descriptor, the device file, the help section
 /// of a language file. At most kCaratteriImpostazione come back, the rest is lost without a word.
 ///

@@ -11,7 +11,6 @@ namespace kvr5 {
 namespace {
 
 constexpr const char* kSection = "Strings";
-constexpr std::size_t kTextBuffer = 254;  // what LeggiIniSemplice reads a text into
 
 LinguaLetta* g_ultima = nullptr;
 
@@ -64,7 +63,7 @@ std::optional<std::string> LinguaLetta::Testo(std::string_view chiave) const {
   if (found == righe_.end()) return std::string();
   // By the rules of a reading, on a file of this line alone.
   const std::string alone = std::string("[") + kSection + "]\r\n" + std::string(found->second);
-  return pagina_.Decode(ini::Read(alone, kSection, chiave, "", kTextBuffer, pagina_));
+  return pagina_.Decode(ini::Read(alone, kSection, chiave, "", kCaratteriTesto + 1, pagina_));
 }
 
 }  // namespace kvr5

@@ -30,27 +30,15 @@ void AscoltoHub::Ferma() {
   Normale();
 }
 
-void AscoltoHub::Stop() {
-  Comando();
-  Ferma();
-}
-
 void AscoltoHub::Notifica(int codice) {
   if (codice != Anteprima::kFinita) return;
   Ferma();
   LasciaCorrere();
 }
 
-void AscoltoHub::Fine() {
-  LasciaCorrere();
-  Normale();
-}
-
 void AscoltoHub::Cambia(Anteprima& player, const std::function<void(bool)>& immagine,
                         const std::function<void()>& muto, const std::string& path) {
-  const unsigned mine = Comando();
-  Ferma();
-  if (UltimoComando() != mine) return;
+  if (!FermaPerSuonare()) return;
   Show(immagine, true);
   if (!Suona(player, path) && muto) muto();
 }

@@ -25,9 +25,9 @@ class AscoltoHub : public Ascolto {
   std::function<void()> SuMutoMp3;
   std::function<void()> SuMutoAssegnato;
 
-  /// cmdStopMp3 and cmdMp3Preview_Stop, and a tick of an input: stops both. Nothing with the
-  /// external player. Harmless when nothing plays.
-  void Stop();
+  // Stop: cmdStopMp3 and cmdMp3Preview_Stop, and a tick of an input; nothing with the external
+  // player.
+
   /// The notification of a player; a file that was played to its end stops both.
   void Notifica(int codice);
   /// cmdPlayMp3: a file of the folder shown. One that isn't there stays silent, and what plays goes
@@ -40,8 +40,7 @@ class AscoltoHub : public Ascolto {
   void PlayAssegnato(TabellaIngressi& ingressi, std::int16_t codice);
 
  private:
-  void Ferma();
-  void Fine();
+  void Ferma() override;
   void PlayTrovato(const std::string& trovato, const std::string& origine);
   /// Stops both and plays a file, unless another command comes meanwhile: that one counts.
   void Cambia(Anteprima& player, const std::function<void(bool)>& immagine,

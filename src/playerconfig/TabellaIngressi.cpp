@@ -32,6 +32,10 @@ void TabellaIngressi::Apri() {
   Riapri();
 }
 
+void TabellaIngressi::ApriSeCiSono() {
+  if (!SenzaIngressi(contesto_.Stato.PlayerType, contesto_.Stato.PlayerMode)) Apri();
+}
+
 void TabellaIngressi::Chiudi() {
   righe_.Close();
   connessione_.Close();

@@ -31,6 +31,8 @@ class TabellaIngressi {
 
   /// Opens the open project's inputcfg.mdb with all rows by Pos.
   void Apri();
+  /// Apri, where the open project has inputs at all.
+  void ApriSeCiSono();
   /// Closes the recordset and then the connection.
   void Chiudi();
   /// Opens what Apri opened once more, and the recordset on all rows; nothing when another project

@@ -1,48 +1,37 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "core/AscoltoEditor.h"
 #include "platform/db/Connection.h"
 #include "projects/CartellaProgetto.h"
-#include "support/AnteprimeFinte.h"
-#include "support/Banco.h"
-#include "support/EsecutoreFinto.h"
+#include "support/BancoAscolto.h"
 
 namespace kvr5 {
 namespace {
 
-using test::Banco;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using Lines = std::vector<std::string>;
 
-/// An editor of eight slots: what its players and buttons are told, in one list. Player 1 is mci1,
+/// An editor of two slots: what its players and buttons are told, in one list. Player 1 is mci1,
 /// player 2 mciPreview.
-class EditorListening : public testing::Test {
+class EditorListening : public test::BancoAscolto {
  protected:
   void SetUp() override {
     b.CreaProgetto("Hall", 4, 5);
-    b.ScriviMp3("music/a.mp3");
     b.ScriviMp3("music/spot.mp3");
     b.AggiungiRiga("playlist.mdb", 1, 1, "a.mp3", b.Percorso("music") + "\\", "");
     b.AggiungiRiga("playlist.mdb", 1, 2, "gone.mp3", b.Percorso("music") + "\\", "");
     b.AggiungiRiga("playlist.mdb", 1, 3, "spot.mp3", b.Percorso("music"), "");
     ASSERT_FALSE(connection.Open(FileDelProgetto(b.C, "playlist.mdb")));
     ASSERT_FALSE(rows.Open(connection, "SELECT * FROM [List] ORDER BY [Pos] ASC"));
-    listening.SuPlayFileSx = [this](bool on) { Said(on ? "pane on" : "pane off"); };
+    listening.SuPlayFileSx = [this](bool on) { Say(on ? "pane on" : "pane off"); };
     listening.SuPlayRiga = [this](std::size_t index, bool on) {
-      Said(std::to_string(index) + (on ? " on" : " off"));
+      Say(std::to_string(index) + (on ? " on" : " off"));
     };
     b.Messaggi.Accade = [this] {
-      Said("events");
+      Say("events");
       busy = b.Messaggi.Ora == Puntatore::Attesa;
     };
   }
-  void Said(const std::string& what) { sound.Comandi.push_back(what); }
-  /// What was said since the last look.
-  Lines Said() { return std::exchange(sound.Comandi, {}); }
   bool busy = false;  ///< the pointer, while events ran the last time
-  std::string Music(const char* name) const { return b.Percorso("music") + "\\" + name; }
   /// The pointer was busy while the command worked, and is plain behind it.
   void PointerIsPlain() const {
     EXPECT_TRUE(busy);
@@ -61,12 +50,7 @@ class EditorListening : public testing::Test {
     EXPECT_EQ(box.TestoOk, "OK");
   }
 
-  Banco b;
-  test::EsecutoreFinto documents;
-  test::AnteprimeFinte sound;
-  std::unique_ptr<Anteprima> mci1 = sound.Nuova();
-  std::unique_ptr<Anteprima> mciPreview = sound.Nuova();
-  AscoltoEditor listening{b.C, documents, *mci1, *mciPreview, 2};
+  AscoltoEditor listening{b.C, documents, *first, *second, 2};
   Connection connection{b.C.Files};
   Recordset rows;
 };

@@ -1,34 +1,25 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "playerconfig/AscoltoHub.h"
-#include "support/AnteprimeFinte.h"
-#include "support/Banco.h"
-#include "support/EsecutoreFinto.h"
+#include "support/BancoAscolto.h"
 
 namespace kvr5 {
 namespace {
 
-using test::Banco;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using Lines = std::vector<std::string>;
 
 /// The hub's listening: what its players, buttons and the pointer are told, in one list. Player 1
 /// is mPlayer, player 2 mciPreview.
-class HubListening : public testing::Test {
+class HubListening : public test::BancoAscolto {
  protected:
   void SetUp() override {
     b.CreaProgetto("Hall", 4, 1);
-    b.ScriviMp3("music/a.mp3");
     listening.SuPlayMp3 = [this](bool on) { Say(on ? "list on" : "list off"); };
     listening.SuPlayAssegnato = [this](bool on) { Say(on ? "assigned on" : "assigned off"); };
     b.Messaggi.Accade = [this] {
       Say(b.Messaggi.Ora == Puntatore::Attesa ? "events, busy" : "events");
     };
   }
-  void Say(const std::string& what) { sound.Comandi.push_back(what); }
-  Lines Said() { return std::exchange(sound.Comandi, {}); }
   void Assign(int code, const std::string& name, const std::string& folder) {
     b.AggiungiRiga("inputcfg.mdb", 1, code, name, folder, std::to_string(code) + ".mp3");
   }
@@ -37,17 +28,11 @@ class HubListening : public testing::Test {
     listening.PlayAssegnato(table, code);
     EXPECT_EQ(b.Messaggi.Ora, Puntatore::Normale);
   }
-  std::string Music(const char* name = "") const { return b.Percorso("music") + "\\" + name; }
   std::string Hall(const char* name) const {
     return b.Percorso("program/Projects/Hall") + "\\" + name;
   }
 
-  Banco b;
-  test::EsecutoreFinto documents;
-  test::AnteprimeFinte sound;
-  std::unique_ptr<Anteprima> mPlayer = sound.Nuova();
-  std::unique_ptr<Anteprima> mciPreview = sound.Nuova();
-  AscoltoHub listening{b.C, documents, *mPlayer, *mciPreview};
+  AscoltoHub listening{b.C, documents, *first, *second};
   TabellaIngressi table{b.C};
 };
 
@@ -90,9 +75,9 @@ TEST_F(HubListening, TheListsFileIsPlayedAfterAStop) {
 
 TEST_F(HubListening, ASecondPlayStopsBothAndBeginsAgain) {
   listening.PlayMp3(b.Percorso("music"), "a.mp3");
-  const Lines first = Said();
+  const Lines once = Said();
   listening.PlayMp3(b.Percorso("music") + "\\", "a.mp3");
-  EXPECT_EQ(Said(), first);
+  EXPECT_EQ(Said(), once);
 }
 
 TEST_F(HubListening, TheExternalPlayerGetsTheFileAndIsForgotten) {

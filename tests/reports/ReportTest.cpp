@@ -31,6 +31,14 @@ class Reports : public testing::Test {
   std::string Read(const std::string& name) const {
     return b.Cartella.Read("program/Projects/Hall/" + name);
   }
+  /// Writes a report of one line, "first, and longer", then another of the same name, "second".
+  void WriteTwice(const std::string& name) {
+    for (const char* line : {"first, and longer", "second"}) {
+      ApriReport(b.C, name, "");
+      ScriviRigaReport(b.C, line);
+      ChiudiReport(b.C);
+    }
+  }
   /// What a report consists of when `fill` has run, without the template's and the closing lines.
   template <typename Fill>
   std::string Lines(Fill fill) {
@@ -60,11 +68,7 @@ TEST_F(Reports, AreNamedAfterTheProjectWhereNoNameIsGiven) {
 }
 
 TEST_F(Reports, TheSecondOfTwoOfOneNameIsTheOnlyOne) {
-  for (const char* line : {"first, and longer", "second"}) {
-    ApriReport(b.C, "x", "");
-    ScriviRigaReport(b.C, line);
-    ChiudiReport(b.C);
-  }
+  WriteTwice("x");
   EXPECT_EQ(Read("x.htm").find("first"), std::string::npos);
   EXPECT_NE(Read("x.htm").find("second\r\n"), std::string::npos);
 }
@@ -207,11 +211,7 @@ TEST_F(Reports, AReadOnlyReportStaysAndIsTold) {
 }
 
 TEST_F(Reports, OfAHiddenNameReplaceTheOldOneToo) {
-  for (const char* line : {"first", "second"}) {
-    ApriReport(b.C, ".Hall", "");
-    ScriviRigaReport(b.C, line);
-    ChiudiReport(b.C);
-  }
+  WriteTwice(".Hall");
   EXPECT_EQ(Read(".Hall.htm").find("first"), std::string::npos);
 }
 

@@ -86,9 +86,7 @@ int RunRecord(Session& session, const std::vector<std::string>& arguments) {
   auto& context = session.Context();
   const Interrupt cancel;
   TabellaIngressi inputs(context);
-  if (!TabellaIngressi::SenzaIngressi(context.Stato.PlayerType, context.Stato.PlayerMode)) {
-    inputs.Apri();
-  }
+  inputs.ApriSeCiSono();
   bool all = true;
   bool cancelled = false;
   for (std::size_t i = 1; i < arguments.size(); ++i) {

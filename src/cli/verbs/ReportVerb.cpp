@@ -12,7 +12,7 @@ int RunReport(Session& session, const std::vector<std::string>& arguments) {
   auto& context = session.Context();
   const auto& state = context.Stato;
   TabellaIngressi inputs(context);
-  if (!TabellaIngressi::SenzaIngressi(state.PlayerType, state.PlayerMode)) inputs.Apri();
+  inputs.ApriSeCiSono();
   const bool analyzer =
       LayoutDelHub(state.PlayerType, state.PlayerMode, state.UsaPlayerEsterno).fraAnalyzer;
   context.Errore.Clear();

@@ -30,7 +30,7 @@ FineSalvataggio Save(Session& session, bool copies) {
   ControlliHub controls;
   controls.Leggi(context);
   TabellaIngressi inputs(context);
-  if (!TabellaIngressi::SenzaIngressi(state.PlayerType, state.PlayerMode)) inputs.Apri();
+  inputs.ApriSeCiSono();
   const bool analyzer =
       LayoutDelHub(state.PlayerType, state.PlayerMode, state.UsaPlayerEsterno).fraAnalyzer;
   TerminalProgress progress(context, session.Line());

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 #include <QVariant>
 
+#include "core/screens/Disco.h"
 #include "core/screens/LocalizzaForm.h"
 #include "core/screens/Tema.h"
 
@@ -47,20 +48,11 @@ QLabel* NumeroDiPasso(int numero, const QString& passo, QWidget* padre) {
   auto* badge = new QLabel(padre);
   badge->setFixedSize(kSide, kSide);
   badge->setToolTip(passo);
-  const Tema& tema = Tema::Corrente();
   QPixmap picture(QSize(kSide, kSide) * padre->devicePixelRatioF());
   picture.setDevicePixelRatio(padre->devicePixelRatioF());
   picture.fill(Qt::transparent);
   QPainter painter(&picture);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(tema.Primario);
-  painter.drawEllipse(QRectF(0, 0, kSide, kSide));
-  painter.setPen(tema.SuPrimario);
-  QFont font = FontDi(Carattere::Suggerimento);
-  font.setBold(true);
-  painter.setFont(font);
-  painter.drawText(QRectF(0, 0, kSide, kSide), Qt::AlignCenter, QString::number(numero));
+  DipingiDisco(painter, QRectF(0, 0, kSide, kSide), QString::number(numero));
   painter.end();
   badge->setPixmap(picture);
   badge->setAccessibleName(passo);

@@ -1,14 +1,13 @@
 #include "core/screens/frmSalva.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
-#include <QMouseEvent>
 #include <QVBoxLayout>
 #include <QVariant>
 
 #include "core/screens/Avvisi.h"
 #include "core/screens/LocalizzaForm.h"
 #include "core/screens/Pagina.h"
+#include "core/screens/SpuntaAlClic.h"
 #include "core/screens/Tema.h"
 
 namespace kvr5 {
@@ -32,7 +31,7 @@ frmSalva::frmSalva(Ambiente& ambiente) : Form(ambiente, "frmSalva") {
   chkSaveMp3Inputs->setObjectName(QStringLiteral("chkSaveMp3Inputs"));
   lblSaveMp3Inputs = TestoLungo("lblSaveMp3Inputs", QStringLiteral("Save Mp3 Inputs"), this);
   lblSaveMp3Inputs->setProperty(kTag, 1);
-  lblSaveMp3Inputs->installEventFilter(this);
+  SpuntaAlClic(*lblSaveMp3Inputs, *chkSaveMp3Inputs);
   auto* choice = new QHBoxLayout();
   choice->addWidget(chkSaveMp3Inputs);
   choice->addWidget(lblSaveMp3Inputs, 1);
@@ -71,16 +70,6 @@ void frmSalva::AlCaricamento() {
   chkSaveMp3Inputs->setChecked(C().Stato.SalvaMp3Ingressi);
   chkSaveMp3Inputs->setAccessibleName(lblSaveMp3Inputs->text());
   C().Messaggi.ImpostaPuntatore(Puntatore::Normale);
-}
-
-bool frmSalva::eventFilter(QObject* object, QEvent* event) {
-  const bool press = event->type() == QEvent::MouseButtonPress ||
-                     event->type() == QEvent::MouseButtonDblClick;  // the second of a quick pair
-  if (object == lblSaveMp3Inputs && press &&
-      static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
-    chkSaveMp3Inputs->toggle();
-  }
-  return Form::eventFilter(object, event);
 }
 
 void frmSalva::Finisci(bool annulla) {

@@ -33,7 +33,6 @@ class frmSalva : public Form {
   void AlCaricamento() override;
   bool PuoChiudere(Causa causa) override;
   void AlloScarico() override;
-  bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
   void Finisci(bool annulla);

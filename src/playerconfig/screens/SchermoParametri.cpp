@@ -107,6 +107,17 @@ QComboBox* SchermoParametri::NuovoElenco(const char* nome, const char* chiave, Q
   return list;
 }
 
+QComboBox* SchermoParametri::RigaElenco(QGridLayout& griglia, const char* nome, const char* chiave,
+                                        const char* scritta, int tag, QWidget* padre) {
+  QComboBox* list = NuovoElenco(nome, chiave, padre);
+  AggiungiRiga(griglia, chiave, scritta, tag, list);
+  return list;
+}
+
+Coppia* SchermoParametri::NuoviPredefiniti(int tag) {
+  return new Coppia("picDefaults", "lblDefaults", QStringLiteral("Defaults"), "opzioni", tag, this);
+}
+
 void SchermoParametri::Lega(const char* chiave, QCheckBox& casella) {
   legami_.push_back(
       {TrovaParametro(chiave),

@@ -42,6 +42,11 @@ class SchermoParametri : public Form {
                        QWidget* controllo);
   /// A list for a parameter, in the table under its key.
   QComboBox* NuovoElenco(const char* nome, const char* chiave, QWidget* padre);
+  /// A list for a parameter on a row of its own, the grid being that of `padre`.
+  QComboBox* RigaElenco(QGridLayout& griglia, const char* nome, const char* chiave,
+                        const char* scritta, int tag, QWidget* padre);
+  /// The button that puts the defaults back on the screen, with its label's tag.
+  Coppia* NuoviPredefiniti(int tag);
   /// Has the table hold a parameter's control.
   void Lega(const char* chiave, QCheckBox& casella);
   void Lega(const Cursore& cursore);

@@ -1,9 +1,7 @@
 #include "playerconfig/screens/frmConfig485.h"
 
 #include <QCheckBox>
-#include <QEvent>
 #include <QGridLayout>
-#include <QMouseEvent>
 #include <QStackedLayout>
 #include <QVBoxLayout>
 
@@ -13,6 +11,7 @@
 #include "core/screens/LocalizzaForm.h"
 #include "core/screens/Pagina.h"
 #include "core/screens/Riquadro.h"
+#include "core/screens/SpuntaAlClic.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
 #include "playerconfig/LineaSeriale.h"
@@ -49,8 +48,7 @@ frmConfig485::frmConfig485(Ambiente& ambiente)
   rows->addWidget(CostruisciUso(body));
   rows->addWidget(CostruisciPagine(body));
   rows->addStretch();
-  picDefaults = new Coppia("picDefaults", "lblDefaults", QStringLiteral("Defaults"), "opzioni",
-                           kTagDefaults, this);
+  picDefaults = NuoviPredefiniti(kTagDefaults);
   lblDefaults = picDefaults->Etichetta();
   connect(picDefaults, &QAbstractButton::clicked, this, [this] { Predefinisci(); });
   CostruisciPagina(nullptr, body, picDefaults);
@@ -65,7 +63,7 @@ QWidget* frmConfig485::CostruisciUso(QWidget* corpo) {
   chkUse485->setObjectName(QStringLiteral("chkUse485"));
   lblDescrizione = TestoLungo("lblDescrizione", QStringLiteral("Use 485"), frame);
   lblDescrizione->setProperty(kTag, kTagUse485);
-  lblDescrizione->installEventFilter(this);
+  SpuntaAlClic(*lblDescrizione, *chkUse485);
   auto* line = Riga({chkUse485, lblDescrizione});
   line->setStretch(1, 1);
   frame->Corpo()->addLayout(line);
@@ -100,8 +98,7 @@ QWidget* frmConfig485::CostruisciPrima(QWidget* cornice) {
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(spazi::kStretto);
   indirizzo_ = new QWidget(page);
-  cmbCMAD = NuovoElenco("cmbCMAD", "CMAD", indirizzo_);
-  AggiungiRiga(*RowsOf(indirizzo_), "CMAD", "Address", 6, cmbCMAD);
+  cmbCMAD = RigaElenco(*RowsOf(indirizzo_), "cmbCMAD", "CMAD", "Address", 6, indirizzo_);
   picContenitore = new QWidget(page);
   picContenitore->setObjectName(QStringLiteral("picContenitore"));
   struct Row {
@@ -117,8 +114,7 @@ QWidget* frmConfig485::CostruisciPrima(QWidget* cornice) {
                          Row{&cmbCMSB, "cmbCMSB", "CMSB", "Stop bits", 11},
                          Row{&cmbCMDB, "cmbCMDB", "CMDB", "Data bits", 20},
                          Row{&cmbCMDR, "cmbCMDR", "CMDR", "Delay", 21}}) {
-    *row.List = NuovoElenco(row.Name, row.Key, picContenitore);
-    AggiungiRiga(*grid, row.Key, row.Words, row.Tag, *row.List);
+    *row.List = RigaElenco(*grid, row.Name, row.Key, row.Words, row.Tag, picContenitore);
   }
   rows->addWidget(indirizzo_);
   rows->addWidget(picContenitore);
@@ -130,10 +126,8 @@ QWidget* frmConfig485::CostruisciSeconda(QWidget* cornice) {
   picRele = new QWidget(cornice);
   picRele->setObjectName(QStringLiteral("picRele"));
   QGridLayout* grid = RowsOf(picRele);
-  cmbCMI3 = NuovoElenco("cmbCMI3", "CMI3", picRele);
-  AggiungiRiga(*grid, "CMI3", "Relay", 23, cmbCMI3);
-  cmbORI3 = NuovoElenco("cmbORI3", "ORI3", picRele);
-  AggiungiRiga(*grid, "ORI3", "Contact", 30, cmbORI3);
+  cmbCMI3 = RigaElenco(*grid, "cmbCMI3", "CMI3", "Relay", 23, picRele);
+  cmbORI3 = RigaElenco(*grid, "cmbORI3", "ORI3", "Contact", 30, picRele);
   grid->setRowStretch(grid->rowCount(), 1);
   picRele->hide();
   return picRele;
@@ -170,16 +164,6 @@ void frmConfig485::AlCaricamento() {
 
 void frmConfig485::SalvaAltro() {
   if (SceglieUse485(C())) ScriviUse485(C(), chkUse485->isChecked());
-}
-
-bool frmConfig485::eventFilter(QObject* object, QEvent* event) {
-  const bool press = event->type() == QEvent::MouseButtonPress ||
-                     event->type() == QEvent::MouseButtonDblClick;  // the second of a quick pair
-  if (object == lblDescrizione && press &&
-      static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
-    chkUse485->toggle();
-  }
-  return SchermoParametri::eventFilter(object, event);
 }
 
 }  // namespace kvr5

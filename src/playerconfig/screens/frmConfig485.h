@@ -35,7 +35,6 @@ class frmConfig485 : public SchermoParametri {
  protected:
   void AlCaricamento() override;
   void SalvaAltro() override;
-  bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
   QWidget* CostruisciUso(QWidget* corpo);

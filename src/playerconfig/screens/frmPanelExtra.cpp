@@ -1,15 +1,14 @@
 #include "playerconfig/screens/frmPanelExtra.h"
 
 #include <QCheckBox>
-#include <QEvent>
 #include <QGridLayout>
-#include <QMouseEvent>
 #include <QVBoxLayout>
 
 #include "core/Lingua.h"
 #include "core/screens/LocalizzaForm.h"
 #include "core/screens/Pagina.h"
 #include "core/screens/Riquadro.h"
+#include "core/screens/SpuntaAlClic.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
 
@@ -34,8 +33,7 @@ frmPanelExtra::frmPanelExtra(Ambiente& ambiente)
   rows->addWidget(CostruisciUscita(body));
   rows->addWidget(CostruisciSensore(body));
   rows->addStretch();
-  picDefaults = new Coppia("picDefaults", "lblDefaults", QStringLiteral("Defaults"), "opzioni",
-                           kTagDefaults, this);
+  picDefaults = NuoviPredefiniti(kTagDefaults);
   lblDefaults = picDefaults->Etichetta();
   CostruisciPagina(nullptr, body, picDefaults);
   OrdineTab({picHelp, chkPonte, cmbOMON, cmbMomd, cmbPYDT, cmbPYDL, cmbTAPL, cmbRSPL, picCancel,
@@ -52,11 +50,9 @@ QWidget* frmPanelExtra::CostruisciUscita(QWidget* corpo) {
   Lega("INVR", *chkPonte);
   lblPonte = AggiungiRiga(*grid, "INVR", "Bridge mode", 5, chkPonte);
   lblPonte->setObjectName(QStringLiteral("lblPonte"));
-  lblPonte->installEventFilter(this);
-  cmbOMON = NuovoElenco("cmbOMON", "OMON", frame);
-  AggiungiRiga(*grid, "OMON", "Output", 6, cmbOMON);
-  cmbMomd = NuovoElenco("cmbMomd", "MOMD", frame);
-  AggiungiRiga(*grid, "MOMD", "Sound", 7, cmbMomd);
+  SpuntaAlClic(*lblPonte, *chkPonte);
+  cmbOMON = RigaElenco(*grid, "cmbOMON", "OMON", "Output", 6, frame);
+  cmbMomd = RigaElenco(*grid, "cmbMomd", "MOMD", "Sound", 7, frame);
   frame->Corpo()->addLayout(grid);
   return frame;
 }
@@ -70,14 +66,10 @@ QWidget* frmPanelExtra::CostruisciSensore(QWidget* corpo) {
   Veste(*lblParametriIR, Carattere::Riquadro);
   frame->Corpo()->addWidget(lblParametriIR);
   auto* grid = new QGridLayout();
-  cmbPYDT = NuovoElenco("cmbPYDT", "PYDT", frame);
-  AggiungiRiga(*grid, "PYDT", "Motion sensor", 9, cmbPYDT);
-  cmbPYDL = NuovoElenco("cmbPYDL", "PYDL", frame);
-  AggiungiRiga(*grid, "PYDL", "Delay", 10, cmbPYDL);
-  cmbTAPL = NuovoElenco("cmbTAPL", "TAPL", frame);
-  AggiungiRiga(*grid, "TAPL", "Pause", 11, cmbTAPL);
-  cmbRSPL = NuovoElenco("cmbRSPL", "RSPL", frame);
-  AggiungiRiga(*grid, "RSPL", "Detections", 12, cmbRSPL);
+  cmbPYDT = RigaElenco(*grid, "cmbPYDT", "PYDT", "Motion sensor", 9, frame);
+  cmbPYDL = RigaElenco(*grid, "cmbPYDL", "PYDL", "Delay", 10, frame);
+  cmbTAPL = RigaElenco(*grid, "cmbTAPL", "TAPL", "Pause", 11, frame);
+  cmbRSPL = RigaElenco(*grid, "cmbRSPL", "RSPL", "Detections", 12, frame);
   frame->Corpo()->addLayout(grid);
   return frame;
 }
@@ -112,15 +104,6 @@ void frmPanelExtra::AlCaricamento() {
   picIR->setVisible(C().Stato.PlayerMode == kByInputs);
   if (picIR->isHidden()) resize(width(), kLowWithoutSensor);
   C().Messaggi.ImpostaPuntatore(Puntatore::Normale);
-}
-
-bool frmPanelExtra::eventFilter(QObject* object, QEvent* event) {
-  const bool press = event->type() == QEvent::MouseButtonPress ||
-                     event->type() == QEvent::MouseButtonDblClick;  // the second of a quick pair
-  if (object == lblPonte && press && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
-    chkPonte->click();
-  }
-  return SchermoParametri::eventFilter(object, event);
 }
 
 }  // namespace kvr5

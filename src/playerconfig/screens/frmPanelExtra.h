@@ -24,7 +24,6 @@ class frmPanelExtra : public SchermoParametri {
 
  protected:
   void AlCaricamento() override;
-  bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
   QWidget* CostruisciUscita(QWidget* corpo);

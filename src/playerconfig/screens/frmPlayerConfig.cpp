@@ -128,9 +128,7 @@ void frmPlayerConfig::Localizza() {
 
 void frmPlayerConfig::ApriIngressi() {
   codice_.emplace(C(), ingressi_, Std(fraFileName->lblfraFileName->text()));
-  if (!TabellaIngressi::SenzaIngressi(C().Stato.PlayerType, C().Stato.PlayerMode)) {
-    ingressi_.Apri();
-  }
+  ingressi_.ApriSeCiSono();
 }
 
 void frmPlayerConfig::LeggiControlli() {

@@ -119,6 +119,13 @@ TEST_F(VitaDiUnaForm, UnloadingAFormThatIsNotLoadedDoesNothing) {
   EXPECT_EQ(b.UltimeScaricate, 0);
 }
 
+/// Gives a form a button "Next" that Enter presses, and counts the presses.
+void NextOnEnter(FormDiProva& form, int& pressed) {
+  auto* next = new Coppia("cmdAvanti", "lblAvanti", "Next", "fatto", -1, &form);
+  QObject::connect(next, &QAbstractButton::clicked, &form, [&pressed] { ++pressed; });
+  form.SuInvio(*next);
+}
+
 /// A box as on a desktop where Enter presses it.
 class EagerBox : public QCheckBox {
  public:
@@ -133,10 +140,8 @@ class EagerBox : public QCheckBox {
 
 TEST_F(VitaDiUnaForm, EnterPressesItsButtonAlsoOnADesktopWhereBoxesTakeTheKey) {
   auto* box = new EagerBox(&*forma);
-  auto* standard = new Coppia("cmdAvanti", "lblAvanti", "Next", "fatto", -1, &*forma);
   int pressed = 0;
-  QObject::connect(standard, &QAbstractButton::clicked, &*forma, [&] { ++pressed; });
-  forma->SuInvio(*standard);
+  NextOnEnter(*forma, pressed);
   FormDiProva& form = Apri();
   ASSERT_TRUE(Pronta(form));
   box->setFocus();
@@ -149,10 +154,8 @@ TEST_F(VitaDiUnaForm, EnterPressesItsButtonUnlessTheFocusIsOnOneThatTakesTheKey)
   auto* option = new QRadioButton(&*forma);
   auto* text = new QLineEdit(&*forma);
   auto* other = new Coppia("cmdAltro", "lblAltro", "Other", "fatto", -1, &*forma);
-  auto* standard = new Coppia("cmdAvanti", "lblAvanti", "Next", "fatto", -1, &*forma);
   int pressed = 0;
-  QObject::connect(standard, &QAbstractButton::clicked, &*forma, [&] { ++pressed; });
-  forma->SuInvio(*standard);
+  NextOnEnter(*forma, pressed);
   FormDiProva& form = Apri();
   ASSERT_TRUE(Pronta(form));
   const auto enterOn = [&](QWidget* control) {
@@ -163,7 +166,7 @@ TEST_F(VitaDiUnaForm, EnterPressesItsButtonUnlessTheFocusIsOnOneThatTakesTheKey)
   EXPECT_EQ(enterOn(option), 1);
   EXPECT_EQ(enterOn(text), 1) << "a line of text has its own use for it";
   EXPECT_EQ(enterOn(other), 1) << "that button is pressed instead";
-  standard->setEnabled(false);
+  form.findChild<QAbstractButton*>("cmdAvanti")->setEnabled(false);
   EXPECT_EQ(enterOn(option), 1);
 }
 
