@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <QLabel>
 #include <QSlider>
 #include <QTest>
+#include <tuple>
 
 #include "playerconfig/screens/BancoHub.h"
 
@@ -71,6 +73,19 @@ TEST_F(Levels, FollowTheKeysAndTellEachStep) {
   EXPECT_EQ(Testo("lblVolume_DB"), "+12 dB");
   QTest::keyClick(&volume, Qt::Key_Home);
   EXPECT_EQ(Testo("lblVolume_DB"), "OFF");
+}
+
+TEST_F(Levels, AndTheirPicturesTellWhatTheyAre) {
+  Progetto(4, 1);
+  Apri();
+  for (const auto& [slider, picture, name] : {std::tuple{"sliVolume", "picVolume", "Volume"},
+                                              {"sliLoudness", "picLoudness", "Loudness"},
+                                              {"sliTreble", "picTreble", "Treble"},
+                                              {"sliBass", "picBass", "Bass"}}) {
+    EXPECT_EQ(Slider(slider).accessibleName(), name);
+    EXPECT_EQ(Slider(slider).toolTip(), name);
+    EXPECT_EQ(Trova<QLabel>(picture).toolTip(), name);
+  }
 }
 
 TEST_F(Levels, FollowTheThumbWhileItIsDragged) {

@@ -70,6 +70,29 @@ TEST_F(RecordingAtWork, ALookAtAnotherInputMeanwhileShowsItsFile) {
   }
 }
 
+TEST_F(RecordingAtWork, ListeningMeanwhilePlaysTheFileOrLeavesItSilent) {
+  const auto play = [this] { test::Clicca(Hub(), "cmdMp3Preview_Play"); };
+  const auto name = [this] {
+    return Hub().fraIngressiLogici->cmdMp3Preview_Play->accessibleName();
+  };
+  if (!Hub().fraIngressiLogici->chkIn[0]->isChecked()) test::Clicca(Hub(), "chkIn_1");
+  play();
+  const QString played = name();
+  ASSERT_NE(played, "Listen");
+  int met = 0;
+  for (int beat = 0; beat < 25; ++beat) {
+    SCOPED_TRACE(beat);
+    test::Clicca(Hub(), "cmdMp3Preview_Stop");
+    ASSERT_EQ(name(), "Listen");
+    met += RecordAnd(beat, play) ? 1 : 0;
+    EXPECT_TRUE(name() == "Listen" || name() == played) << name().toStdString();
+    EXPECT_TRUE(b.Cartella.Same("card/1.mp3", "music/a.mp3"));
+    play();
+    EXPECT_EQ(name(), played) << "the row is found again";
+  }
+  EXPECT_GT(met, 5);
+}
+
 TEST_F(RecordingAtWork, AFileTakenAwayMeanwhileIsGoneOrStillShown) {
   const auto rows = [this] { return Riga(1).empty() ? 1U : 2U; };
   for (int beat = 0; beat < 12; ++beat) {

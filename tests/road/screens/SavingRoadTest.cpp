@@ -4,10 +4,16 @@
 #include <QSlider>
 #include <QTimer>
 #include <filesystem>
+#include <functional>
+#include <optional>
 
 #include "core/screens/RiquadroMessaggio.h"
 #include "core/screens/frmSalva.h"
+#include "core/screens/frmSiNo.h"
 #include "flashcard/screens/frmProgress.h"
+#include "playerconfig/screens/frmConfig485.h"
+#include "playerconfig/screens/frmPanelExtra.h"
+#include "playerconfig/screens/frmPlayerConfig.h"
 #include "playerconfig/screens/frmTempiFade.h"
 #include "road/screens/BancoStrada.h"
 
@@ -26,6 +32,31 @@ class SavingRoad : public test::Strada {
     Strada::SetUp();
     Avvia();
     NuovoProgetto(QStringLiteral("Hall"));
+  }
+  /// Changes and saves a screen of parameters, whose file can't be written, and looks for the box
+  /// behind it; then cancels there, behind which nothing is told. `notice`: a box that the screen
+  /// begins with.
+  template <class T>
+  void ExpectToldBehind(QAbstractButton& button, Qt::Key change, bool notice = false) {
+    const auto leave = [&](const std::function<void(T&)>& choice) {
+      std::optional<Pilota<frmSiNo>> before;
+      if (notice) before.emplace([](frmSiNo& box) { Clicca(*box.cmdSi); });
+      const Pilota<T> screen(choice);
+      button.click();
+    };
+    std::string told;
+    std::optional<Pilota<RiquadroMessaggio>> box;
+    leave([&](T& form) {
+      box.emplace([&](RiquadroMessaggio& words) {
+        told = test::Scritta(words, "lblTesto");
+        Clicca(words, "cmdOk");
+      });
+      test::Tasto(form, change);
+      Clicca(*form.picSave);
+    });
+    box.reset();
+    EXPECT_EQ(told, "This step could not be completed\nN°:75\nPath/File access error");
+    leave([](T& form) { Clicca(*form.picCancel); });
   }
   /// Presses "Save" on the hub, leaves the question in its own way, and gives the closing words.
   std::string Save(bool copies) {
@@ -113,21 +144,10 @@ TEST_F(SavingRoad, EnterAnswersTheQuestionWithSave) {
 TEST_F(SavingRoad, AScreenOfParametersThatCouldNotWriteIsToldOfWhenItIsClosed) {
   const auto file = b.Cartella.Host() / "program/Projects/Hall/Config.txt";
   std::filesystem::permissions(file, std::filesystem::perms::owner_read);
-  std::string told;
-  {
-    const Pilota<frmTempiFade> fades([](frmTempiFade& form) {
-      test::Tasto(form, Qt::Key_Up);
-      Clicca(*form.picSave);
-    });
-    const Pilota<RiquadroMessaggio> box([&](RiquadroMessaggio& words) {
-      told = test::Scritta(words, "lblTesto");
-      Clicca(words, "cmdOk");
-    });
-    Clic("frmPlayerConfig", "picConfiguraFade");
-  }
-  EXPECT_EQ(told, "This step could not be completed\nN°:75\nPath/File access error");
-  const Pilota<frmTempiFade> fades([](frmTempiFade& form) { Clicca(*form.picCancel); });
-  Clic("frmPlayerConfig", "picConfiguraFade");  // and nothing is told
+  auto& hub = dynamic_cast<frmPlayerConfig&>(Schermo("frmPlayerConfig"));
+  ExpectToldBehind<frmTempiFade>(*hub.Opzioni->picConfiguraFade, Qt::Key_Up);
+  ExpectToldBehind<frmPanelExtra>(*hub.Opzioni->cmdConfigureExtra, Qt::Key_Space);
+  ExpectToldBehind<frmConfig485>(*hub.Seriali->cmdConfigure232, Qt::Key_Up, true);
 }
 
 TEST_F(SavingRoad, ACancelInTheProgressWindowEndsItBetweenTwoSteps) {
