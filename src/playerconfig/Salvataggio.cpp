@@ -51,7 +51,7 @@ FineSalvataggio Saving::Run() {
   context_.Errore.Clear();
   if (!WithoutInputs() && question_.Annulla()) return FineSalvataggio::Rinunciato;
   context_.Stato.AnnullatoDaUtente = false;
-  if (!WithoutInputs()) what_.Ingressi.RiapriRighe();
+  what_.Ingressi.RiapriRighe();
   Begin();
   const bool written = WriteFiles();
   progress_.Scarica();

@@ -21,7 +21,7 @@ enum class FineSalvataggio {
   Compiuto,
   Rinunciato,    ///< at the question: nothing was done, nothing said
   Annullato,     ///< in its course: told
-  FileMancante,  ///< an MP3 isn't there: told, and no failure before; nothing was copied
+  FileMancante,  ///< an MP3 isn't there: told, in place of any failure; nothing was copied
   ConErrori,     ///< a step failed: told, the others were done
 };
 

@@ -50,6 +50,7 @@ void TabellaIngressi::Riapri() {
 
 void TabellaIngressi::RiapriRighe() {
   righe_.Close();
+  if (SenzaIngressi(contesto_.Stato.PlayerType, contesto_.Stato.PlayerMode)) return;
   const std::string path = FileDelProgetto(contesto_, "inputcfg.mdb");
   if (!FileExists(contesto_.Files, path)) return;
   auto& error = contesto_.Errore;

@@ -39,7 +39,8 @@ class TabellaIngressi {
   /// is open by now.
   void Riapri();
   /// Opens the recordset once more, so that it reads the current table; the connection too, where
-  /// it isn't open. Nothing is opened, and nothing fails, where the project has no such database.
+  /// it isn't open. Nothing is opened, and nothing fails, where the project has no such database or
+  /// its model no inputs.
   void RiapriRighe();
   bool Aperta() const { return righe_.IsOpen(); }
 

@@ -42,11 +42,12 @@ void PrintLine(Contesto& contesto, std::string bytes) {
 }
 
 /// Opens the file anew. An old one goes first, a hidden one too; one that can't go, as in a locked
-/// folder, is emptied: nothing is added to it.
+/// folder, is emptied, nothing is added to it, and its failure counts.
 Result<std::unique_ptr<File>> OpenAnew(Contesto& contesto, const std::string& path) {
   const auto old = contesto.Files.Info(path);
-  const bool there = old && !old.Value().IsFolder && contesto.Files.Delete(path);
-  return contesto.Files.Open(path, there ? OpenMode::Write : OpenMode::Append);
+  const bool there = old && !old.Value().IsFolder;
+  const bool stays = there && !contesto.Errore.Record(contesto.Files.Delete(path));
+  return contesto.Files.Open(path, stays ? OpenMode::Write : OpenMode::Append);
 }
 
 /// Hands the trimmed lines of a file, as bytes, to `visit`, which gives false to stop.

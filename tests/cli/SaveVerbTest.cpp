@@ -133,7 +133,17 @@ TEST_F(ReportVerb, ThatIsWrittenWithoutSomethingThatBelongsToItIsTold) {
   EXPECT_EQ(run.Stato, 1);
   EXPECT_EQ(run.Oggetti().at(0)["report"], Project() + "/Hall.htm");
   EXPECT_EQ(run.Box().at(0)["text"],
-            "the report is written, but not all that belongs to it was found: File not found");
+            "the report is written, but not all that belongs to it could be read: File not found");
+}
+
+TEST_F(ReportVerb, ATableThatCantBeReadIsTold) {
+  k.Cartella.Write("program/Projects/Hall/inputcfg.mdb",
+                   "no database at all, but long enough to be looked at as one");
+  const auto run = k.EseguiJson({"report", "Hall"});
+  EXPECT_EQ(run.Stato, 1);
+  EXPECT_EQ(run.Oggetti().at(0)["report"], Project() + "/Hall.htm");
+  EXPECT_TRUE(run.Box().at(0)["text"].get<std::string>().starts_with(
+      "the report is written, but not all that belongs to it could be read: "));
 }
 
 TEST_F(ReportVerb, AProjectThatIsNotThereIsStatus3) {

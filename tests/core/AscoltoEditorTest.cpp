@@ -189,7 +189,39 @@ TEST_F(EditorListening, AFileThatIsRefusedIsToldToBeSilent) {
   sound.SuOpen = Error(errors::TypeMismatch);
   listening.PlayFileSx(b.Percorso("music"), "a.mp3");
   listening.PlayRiga(rows);
-  EXPECT_EQ(silent, "pane 0");
+  listening.PlaySpot(2, rows, "C:\\", "other.mp3");
+  EXPECT_EQ(silent, "pane 02");
+}
+
+TEST_F(EditorListening, ARowWithoutANameOrNoRowAtAllHasNoFileToPlay) {
+  b.AggiungiRiga("playlist.mdb", 1, 4, "", b.Percorso("music") + "\\", "");
+  ASSERT_FALSE(rows.Requery());
+  ASSERT_FALSE(rows.MoveLast());
+  for (int i = 0; i < 2; ++i) {
+    listening.PlayRiga(rows);
+    EXPECT_EQ(b.Finestre.Prossimo().Titolo, "File missing");
+    EXPECT_THAT(Said(), ElementsAre("events"));
+    Ignora(rows.MoveNext());  // behind the last one
+  }
+}
+
+TEST_F(EditorListening, AStopByTheUserWhileAPlayStopsLeavesSilence) {
+  bool once = true;
+  b.Messaggi.Accade = [&] {
+    if (std::exchange(once, false)) listening.Stop();
+  };
+  listening.PlayFileSx(b.Percorso("music"), "a.mp3");
+  EXPECT_THAT(Said(), testing::Not(testing::Contains("1 Play")));
+  EXPECT_EQ(b.Messaggi.Ora, Puntatore::Normale);
+}
+
+TEST_F(EditorListening, APlayWhileTheLastOnesEndStopsGoesOn) {
+  bool once = true;
+  b.Messaggi.Accade = [&] {
+    if (std::exchange(once, false)) listening.PlayRiga(rows);
+  };
+  listening.Notifica(Anteprima::kFinita);
+  EXPECT_EQ(Said().back(), "2 Play");
 }
 
 TEST_F(EditorListening, ACommandThatComesWhileTheFirstOneStopsIsTheOneThatCounts) {

@@ -8,6 +8,7 @@
 #include "playerconfig/Salvataggio.h"
 #include "projects/Descrittore.h"
 #include "support/Banco.h"
+#include "support/FaultyFileSystem.h"
 
 namespace kvr5 {
 namespace {
@@ -66,6 +67,17 @@ class Saves : public testing::Test {
   FineSalvataggio Save() {
     return SalvaConfigurazione(b.C, {controls_, inputs_, false}, progress_, answer_);
   }
+  /// Saves with the copies; how many files the copy was of.
+  int FilesInTheCopy() {
+    answer_.Copies = true;
+    int most = 0;
+    b.Copia.SuProgresso = [&](const CopyState& state) {
+      most = std::max(most, int(state.FileCount));
+    };
+    EXPECT_EQ(Save(), FineSalvataggio::Compiuto);
+    ExpectSaved();
+    return most;
+  }
   bool Exists(const std::string& name) const { return b.Cartella.Exists(kHall + name); }
   std::string Read(const std::string& name) const { return b.Cartella.Read(kHall + name); }
   void Write(const std::string& name, const std::string& text) {
@@ -79,7 +91,11 @@ class Saves : public testing::Test {
     EXPECT_EQ(box.Segno, Icona::Informazione);
   }
 
-  test::Banco b;
+  std::unique_ptr<test::FaultyFileSystem> disk_;
+  test::Banco b{[this](FileSystem& disk) -> FileSystem& {
+    disk_ = std::make_unique<test::FaultyFileSystem>(disk);
+    return *disk_;
+  }};
   ControlliHub controls_;
   TabellaIngressi inputs_{b.C};
   Progress progress_{b.C};
@@ -155,9 +171,7 @@ TEST_F(Saves, OneFileOnTwoInputsIsCopiedOnce) {
   b.ScriviMp3("music/a.mp3");
   Input(5, "a.mp3");
   Input(6, "a.mp3");
-  answer_.Copies = true;
-  EXPECT_EQ(Save(), FineSalvataggio::Compiuto);
-  ExpectSaved();
+  EXPECT_EQ(FilesInTheCopy(), 1);
   EXPECT_TRUE(Exists("a.mp3"));
 }
 
@@ -217,17 +231,10 @@ TEST_F(Saves, BringFilesOfInputsAndAnalyserInOneCopy) {
   b.Cartella.Write("program/Analyzer.mp3", "signal");
   b.ScriviMp3("music/a.mp3");
   Input(5, "a.mp3");
-  answer_.Copies = true;
   b.C.Stato.Analyzer = 1;
-  int most = 0;
-  b.Copia.SuProgresso = [&](const CopyState& state) {
-    most = std::max(most, int(state.FileCount));
-  };
-  EXPECT_EQ(Save(), FineSalvataggio::Compiuto);
-  ExpectSaved();
+  EXPECT_EQ(FilesInTheCopy(), 2);
   EXPECT_TRUE(Exists("a.mp3"));
   EXPECT_EQ(Read("Analyzer.mp3"), "signal");
-  EXPECT_EQ(most, 2);
 }
 
 TEST_F(Saves, ARowWithoutANameOrWithABarStandsForAMissingFile) {
@@ -344,6 +351,32 @@ TEST_F(Saves, AnySwallowedFailureIsToldAtTheEndAndTheOtherStepsAreDone) {
   EXPECT_TRUE(Exists("a.mp3"));
 }
 
+TEST_F(Saves, OnAFullDiskTellItAndDoWhatFollowsAllTheSame) {
+  b.ScriviMp3("music/a.mp3", 1);
+  Input(5, "a.mp3");
+  answer_.Copies = true;
+  for (const char* full : {"Config.cfg", "Hall.htm"}) {
+    SCOPED_TRACE(full);
+    std::filesystem::remove(b.Cartella.Host() / kHall / "a.mp3");
+    disk_->FailWritesAfter(Path(full), 5, errors::DiskFull);
+    EXPECT_EQ(Save(), FineSalvataggio::ConErrori);
+    EXPECT_EQ(b.Finestre.Prossimo().Testo,
+              "This step could not be completed\r\nN°:61\r\nDisk full");
+    EXPECT_TRUE(b.Cartella.Same(std::string(kHall) + "a.mp3", "music/a.mp3"));
+    EXPECT_EQ(b.C.Stato.ReportIntero, full != std::string("Hall.htm"));
+    disk_->Repair();
+  }
+}
+
+TEST_F(Saves, AParameterFileThatTheDiskHasNoRoomForStaysAsItWas) {
+  controls_["LOUT"].Numero = 3;
+  const std::string before = Read("Config.txt");
+  disk_->FailWritesAfter(b.Percorso("program/Projects/Hall"), 5, errors::DiskFull);
+  EXPECT_EQ(Save(), FineSalvataggio::ConErrori);
+  EXPECT_EQ(b.Finestre.Prossimo().Testo, "This step could not be completed\r\nN°:61\r\nDisk full");
+  EXPECT_EQ(Read("Config.txt"), before);
+}
+
 TEST_F(Saves, AReadOnlyParameterFileIsToldByNumberAndWords) {
   std::filesystem::permissions(b.Cartella.Host() / (std::string(kHall) + "Config.txt"),
                                std::filesystem::perms::owner_read);
@@ -415,9 +448,9 @@ TEST_F(Saves, KeepEveryKeyThatNoScreenKnowsThroughAnyNumberOfThem) {
             "LTRE=10\r\nLBAS=10\r\nMOMN=0\r\nIMOD=0\r\nTPCM=0\r\nMICP=0\r\n[Other]\r\nA=b\r\n");
 }
 
-TEST_F(Saves, OfAParameterFileOfAHundredThousandLinesAreDone) {
+TEST_F(Saves, OfAParameterFileOfAMillionLinesAreDone) {
   std::string text = "[Config]\r\n";
-  for (int i = 0; i < 100000; ++i) text += "K" + std::to_string(i) + "=1\r\n";
+  for (int i = 0; i < 1000000; ++i) text += "K" + std::to_string(i) + "=1\r\n";
   Write("Config.txt", text + "LOUT=2\r\n");
   controls_.Leggi(b.C);
   EXPECT_EQ(controls_["LOUT"].Numero, 2);

@@ -51,7 +51,11 @@ class Reports : public testing::Test {
     return text.substr(0, text.size() - std::string(kTail).size());
   }
 
-  test::Banco b;
+  std::unique_ptr<test::FaultyFileSystem> faulty;
+  test::Banco b{[this](FileSystem& disk) -> FileSystem& {
+    faulty = std::make_unique<test::FaultyFileSystem>(disk);
+    return *faulty;
+  }};
 };
 
 TEST_F(Reports, AreNamedAfterTheProjectWhereNoNameIsGiven) {
@@ -237,21 +241,33 @@ TEST_F(Reports, ShowATextOfAHundredThousandLinesWhole) {
   EXPECT_EQ(Lines([&] { IncludiFileTesto(b.C, Project("t.txt"), true); }), shown);
 }
 
-TEST(ReportInALockedFolder, ReplacesTheOldOneWhereItCantBeDeleted) {
-  std::unique_ptr<test::FaultyFileSystem> faulty;
-  test::Banco b([&](FileSystem& disk) -> FileSystem& {
-    faulty = std::make_unique<test::FaultyFileSystem>(disk);
-    return *faulty;
-  });
-  b.CreaProgetto("Hall", 4, 1);
-  b.Cartella.Write("program/Projects/Hall/x.htm", "a longer page than the new one by far");
-  b.Cartella.Write("program/Report/report.htm", "");
+TEST_F(Reports, AreNotWholeWhereALineCantBeWritten) {
+  for (const std::uint64_t room : {0U, 20U, 90U}) {
+    SCOPED_TRACE(room);
+    b.C.Errore.Clear();
+    faulty->Repair();
+    faulty->FailWritesAfter(Project("x.htm"), room, errors::DiskFull);
+    ApriReport(b.C, "x", "");
+    for (int i = 0; i < 10; ++i) ScriviRigaReport(b.C, "a line");
+    ChiudiReport(b.C);
+    EXPECT_FALSE(b.C.Stato.ReportIntero);
+    EXPECT_EQ(b.C.Errore.Last().Number(), errors::DiskFull);
+  }
+  faulty->Repair();
+  WriteTwice("x");
+  EXPECT_TRUE(b.C.Stato.ReportIntero) << "the next one may be";
+}
+
+TEST_F(Reports, ReplaceTheOldOneWhereItCantBeDeletedAndTellOfIt) {
+  InProject("x.htm", "a longer page than the new one by far");
+  Template("");
   faulty->FailOperation(b.Percorso("program/Projects/Hall/x.htm"), 1, errors::PathFileAccess);
   ApriReport(b.C, "x", "");
   EXPECT_EQ(faulty->FailedOperation(), "Delete");
   ChiudiReport(b.C);
-  EXPECT_EQ(b.Cartella.Read("program/Projects/Hall/x.htm"), kTail);
+  EXPECT_EQ(Read("x.htm"), kTail);
   EXPECT_TRUE(b.C.Stato.ReportIntero);
+  EXPECT_EQ(b.C.Errore.Last().Number(), errors::PathFileAccess);
 }
 
 TEST_F(Reports, TellTheCauseAlsoWhereTheImagesAreMissingToo) {

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -40,10 +41,12 @@ bool IsEnter(const QEvent& event) {
   return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
-/// Boxes and options, which some desktops have Enter press.
+/// Boxes, options and closed lists, which some desktops have Enter press or open. An open list is
+/// another control.
 bool IsChoice(const QObject* object) {
   return qobject_cast<const QCheckBox*>(object) != nullptr ||
-         qobject_cast<const QRadioButton*>(object) != nullptr;
+         qobject_cast<const QRadioButton*>(object) != nullptr ||
+         qobject_cast<const QComboBox*>(object) != nullptr;
 }
 
 }  // namespace
@@ -61,7 +64,7 @@ void Form::Carica() {
   if (stato_ != Stato::Nuova) return;
   stato_ = Stato::Caricata;
   ambiente_.Vita.Caricata();
-  for (QAbstractButton* each : findChildren<QAbstractButton*>()) {
+  for (QWidget* each : findChildren<QWidget*>()) {
     if (suInvio_ != nullptr && IsChoice(each)) each->installEventFilter(this);
   }
   AlCaricamento();

@@ -70,8 +70,8 @@ class Form : public QWidget {
 
   /// Has a key of the window, wherever the focus is, run `azione`.
   void SuTasto(Qt::Key tasto, std::function<void()> azione);
-  /// Has Enter press `pulsante`, wherever the focus is, unless the control there takes the key for
-  /// itself; a line of text always does.
+  /// Has Enter press `pulsante`, also with the focus on a box, an option or a closed list, unless
+  /// the control there takes the key for itself as buttons, open lists and lines of text do.
   void SuInvio(QAbstractButton& pulsante) { suInvio_ = &pulsante; }
   /// Opens the help document, as F1 and picHelp do.
   void Aiuto();

@@ -43,7 +43,7 @@ void frmPlayerConfig::FineAscolto() {
 
 void frmPlayerConfig::ZittiscePerSpunta() {
   // The file of other inputs than the ticked ones isn't to be played nor changed meanwhile.
-  fraIngressiLogici->fraFileAssociato->hide();
+  fraIngressiLogici->NascondiFile();
   ascolto_.Stop();
 }
 

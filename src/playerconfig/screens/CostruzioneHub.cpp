@@ -177,6 +177,7 @@ void frmPlayerConfig::Collega() {
   Opzioni->SuCambio = changed;
   Scheda->SuScegli = [this] {
     const Impegno stays(*this);
+    const OwnError own(C().Errore);  // a save may be under way
     ambiente_.Schermi.ScegliScheda(Schermata::Configurazione);
   };
   connect(&conta_, &QTimer::timeout, this, [this] { Conta(); });

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QVBoxLayout>
 #include <QVariant>
+#include <utility>
 
 #include "core/Lingua.h"
 #include "core/Parole.h"
@@ -135,6 +136,12 @@ bool IngressiLogici::eventFilter(QObject* object, QEvent* event) {
   return Riquadro::eventFilter(object, event);
 }
 
+void IngressiLogici::NascondiFile() {
+  QWidget* focus = window()->focusWidget();
+  if (focus != nullptr && fraFileAssociato->isAncestorOf(focus)) fuoco_ = focus;
+  fraFileAssociato->hide();
+}
+
 void IngressiLogici::Mostra(const CodiceScelto& codice) {
   for (int number = 1; number <= 8; ++number) {
     const auto at = static_cast<std::size_t>(number - 1);
@@ -149,6 +156,8 @@ void IngressiLogici::Mostra(const CodiceScelto& codice) {
     lblIn[at]->setPalette(palette);
   }
   fraFileAssociato->setVisible(codice.fraFileAssociatoVisibile());
+  QWidget* const focus = std::exchange(fuoco_, nullptr);
+  if (focus != nullptr && focus->isVisible()) focus->setFocus();
   lblFileAssociato->setText(Qs(SuUnaRiga(codice.lblFileAssociato())));
   lblFileAssociato->setToolTip(Suggerimento(lblFileAssociato->text()));
   lblEtichettaTroppoLunga->setVisible(codice.lblEtichettaTroppoLungaVisibile());

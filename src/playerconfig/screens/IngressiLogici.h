@@ -46,6 +46,8 @@ class IngressiLogici : public Riquadro {
   std::function<void(int, bool)> SuSpunta;
   /// Called for a click on cmdVaiAlFile.
   std::function<void()> SuVaiAlFile;
+  /// Hides fraFileAssociato until Mostra shows it again, with the focus where it was.
+  void NascondiFile();
   /// Shows what the model tells.
   void Mostra(const CodiceScelto& codice);
   /// Offers the way to the folder of the combination's file, or doesn't where it is "".
@@ -64,6 +66,7 @@ class IngressiLogici : public Riquadro {
   QWidget* CostruisciAssociato();
 
   Contesto& contesto_;
+  QWidget* fuoco_ = nullptr;  // what NascondiFile took the focus from
 };
 
 }  // namespace kvr5

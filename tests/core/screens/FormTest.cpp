@@ -1,4 +1,5 @@
 #include <QCheckBox>
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -126,28 +127,40 @@ void NextOnEnter(FormDiProva& form, int& pressed) {
   form.SuInvio(*next);
 }
 
-/// A box as on a desktop where Enter presses it.
-class EagerBox : public QCheckBox {
+/// A choice as on a desktop where Enter presses it, or opens it.
+template <class T>
+class Eager : public T {
  public:
-  using QCheckBox::QCheckBox;
+  using T::T;
+  bool Taken = false;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override {
-    if (event->key() == Qt::Key_Return) return click();
-    QCheckBox::keyPressEvent(event);
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+      return T::keyPressEvent(event);
+    }
+    Taken = true;
   }
 };
 
-TEST_F(VitaDiUnaForm, EnterPressesItsButtonAlsoOnADesktopWhereBoxesTakeTheKey) {
-  auto* box = new EagerBox(&*forma);
+template <class T>
+class EagerChoice : public VitaDiUnaForm {};
+
+using Choices = testing::Types<QCheckBox, QRadioButton, QComboBox>;
+TYPED_TEST_SUITE(EagerChoice, Choices);
+
+TYPED_TEST(EagerChoice, LeavesEnterToTheButtonOfItsForm) {
+  auto* choice = new Eager<TypeParam>(&*this->forma);
   int pressed = 0;
-  NextOnEnter(*forma, pressed);
-  FormDiProva& form = Apri();
+  NextOnEnter(*this->forma, pressed);
+  FormDiProva& form = this->Apri();
   ASSERT_TRUE(Pronta(form));
-  box->setFocus();
+  choice->setFocus();
   Tasto(form, Qt::Key_Return);
   EXPECT_EQ(pressed, 1);
-  EXPECT_FALSE(box->isChecked());
+  Tasto(form, Qt::Key_Enter);
+  EXPECT_EQ(pressed, 2);
+  EXPECT_FALSE(choice->Taken);
 }
 
 TEST_F(VitaDiUnaForm, EnterPressesItsButtonUnlessTheFocusIsOnOneThatTakesTheKey) {

@@ -52,6 +52,19 @@ TEST_F(Serial, ShowsWhatTheFileHolds) {
   EXPECT_EQ(Voce(*forma->cmbCMDR), "15 - delay 150 ms");
 }
 
+TEST_F(Serial, ADescriptorThatIsMissingIsToldBeforeTheNoticeAndItsBoxStandsClear) {
+  Progetto(4, 1);
+  std::filesystem::remove(b.Cartella.Host() / kDescriptor);
+  b.C.Stato.Usa485 = true;
+  Apri();
+  EXPECT_EQ(b.Finestre.Prossimo().Titolo, "Configuration file not found");
+  EXPECT_TRUE(b.Finestre.Prossimo().SoloOk);
+  EXPECT_TRUE(b.Finestre.Silenzio());
+  EXPECT_EQ(b.Cartella.Read(kDescriptor), "[Config]\r\n");
+  EXPECT_FALSE(forma->chkUse485->isChecked());
+  EXPECT_FALSE(b.C.Stato.Usa485);
+}
+
 TEST_F(Serial, StandsAsDesignedWhereTheFileIsSilentAndASaveCompletesIt) {
   Open("");
   EXPECT_EQ(Indexes(), (std::vector{31, 0, 0, 0, 0, 0, 0, 0, 0, 0}));

@@ -310,9 +310,28 @@ TEST_F(Listening, ARefusedFileIsSaidToBeSilent) {
 TEST_F(Listening, AnAssignedFileOfWhichOnlyTheProjectsCopyIsLeftIsSaidToBeSilent) {
   ApriConAssegnato();
   Spunta(1);
+  std::filesystem::rename(b.Cartella.Host() / "music/b.mp3",
+                          b.Cartella.Host() / "program/Projects/Hall/b.mp3");
   b.Suono.SuOpen = Error(errors::FileNotFound);
+  Told();
   Clic("cmdMp3Preview_Play");
+  EXPECT_THAT(Told(), testing::Contains("2 Open " + Music() + "b.mp3")) << "where it came from";
   EXPECT_EQ(Name(PlayAssigned()), "Listen, silent");
+}
+
+TEST_F(Listening, ATickThatSilencesLeavesTheFocusOnTheButtonThatIsStillThere) {
+  b.AggiungiRiga("inputcfg.mdb", 1, 3, "a.mp3", Music(), "3.mp3");
+  ApriConAssegnato();
+  Spunta(1);
+  Clic("cmdMp3Preview_Play");
+  ASSERT_TRUE(PlayAssigned().hasFocus());
+  Clic("lblIn_2");  // which takes no focus
+  EXPECT_EQ(Testo("lblFileAssociato"), "Plays: a.mp3");
+  EXPECT_TRUE(PlayAssigned().hasFocus());
+  Clic("lblIn_3");  // these three have no file
+  EXPECT_FALSE(PlayAssigned().isVisible());
+  Clic("lblIn_3");
+  EXPECT_FALSE(PlayAssigned().hasFocus()) << "it was taken elsewhere before";
 }
 
 TEST_F(Listening, AHostWithoutSoundLeavesEverythingUsable) {

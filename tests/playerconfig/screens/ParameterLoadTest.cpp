@@ -1,5 +1,6 @@
 #include <QCheckBox>
 #include <filesystem>
+#include <optional>
 
 #include "playerconfig/screens/BancoParametri.h"
 #include "playerconfig/screens/frmConfig485.h"
@@ -33,9 +34,11 @@ class ParameterLoad : public test::ProvaParametri<T> {
   void Watch() {
     T& form = *forma;
     const auto look = [this] { busy_.push_back(test::PuntatoreOccupato()); };
-    QObject::connect(&form, &QWidget::windowTitleChanged, &form, [this, look] {
+    QObject::connect(&form, &QWidget::windowTitleChanged, &form, [this, look, &form] {
       look();
       titled_ = true;
+      const auto event = [this] { ranBusy_ = test::PuntatoreOccupato(); };
+      QMetaObject::invokeMethod(&form, event, Qt::QueuedConnection);
     });
     QComboBox& list = ListOf(form);
     QObject::connect(list.model(), &QAbstractItemModel::rowsInserted, &form, [this, look] {
@@ -49,10 +52,12 @@ class ParameterLoad : public test::ProvaParametri<T> {
   }
   void ExpectBusyAllTheWay() {
     EXPECT_TRUE(titled_ && filled_ && read_);
+    EXPECT_EQ(ranBusy_, false) << "events ran amid the load";
     for (std::size_t i = 0; i < busy_.size(); ++i) EXPECT_TRUE(busy_[i]) << "step " << i;
   }
 
   std::vector<bool> busy_;
+  std::optional<bool> ranBusy_;
   bool titled_ = false, filled_ = false, read_ = false;
 };
 
@@ -61,7 +66,7 @@ TYPED_TEST_SUITE(ParameterLoad, Screens);
 
 TYPED_TEST(ParameterLoad, ThePointerIsBusyFromTheTextsToTheLastValueAndNoLonger) {
   this->Progetto(4, 1);
-  this->ScriviConfig("TAVC=2\r\nRSPL=9\r\nORI3=1\r\n");
+  this->ScriviConfig("LMP3=5\r\nTAVC=2\r\nRSPL=9\r\nORI3=1\r\n");
   this->b.C.Stato.FileLingua = this->b.Percorso("program/Language/Italiano.lan");  // a new title
   bool afterwards = false;
   this->b.Finestre.SuBox = [&](const test::BoxVisto&) { afterwards = test::PuntatoreOccupato(); };

@@ -265,9 +265,9 @@ TEST_F(Fades, AMissingFileIsMadeAtTheLoadAndToldOnce) {
   EXPECT_EQ(Chiave("LMP3"), "14");
 }
 
-TEST_F(Fades, AFileOfAHundredThousandLinesIsReadAndKept) {
+TEST_F(Fades, AFileOfAMillionLinesIsReadAndKept) {
   std::string lines;
-  for (int i = 0; i < 100000; ++i) lines += "K" + std::to_string(i) + "=1\r\n";
+  for (int i = 0; i < 1000000; ++i) lines += "K" + std::to_string(i) + "=1\r\n";
   frmTempiFade& form = Open(lines + "LMP3=5\r\n");
   EXPECT_EQ(form.sliLMP3->value(), 5);
   form.sliLMP3->setValue(6);

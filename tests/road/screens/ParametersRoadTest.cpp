@@ -44,6 +44,20 @@ TEST_F(ParametersRoad, TheFadesThatWereSavedAreThereAgain) {
   });
 }
 
+TEST_F(ParametersRoad, ASecondPressWhileTheNoticeStandsOpensNothing) {
+  QAbstractButton& serial = *Hub().Seriali->cmdConfigure232;
+  bool answered = false;
+  const Pilota<frmSiNo> notice([&](frmSiNo& box) {
+    serial.click();
+    answered = true;
+    Clicca(*box.cmdSi);
+  });
+  Su<frmConfig485>(serial, [&](frmConfig485& form) {
+    EXPECT_TRUE(answered);
+    Clicca(*form.picCancel);
+  });
+}
+
 TEST_F(ParametersRoad, TheExtrasThatWereSavedAreThereAgain) {
   frmPlayerConfig& hub = Hub();
   Su<frmPanelExtra>(*hub.Opzioni->cmdConfigureExtra, [](frmPanelExtra& form) {

@@ -1,3 +1,4 @@
+#include <QApplication>
 #include <QCheckBox>
 #include <QDir>
 #include <QRadioButton>
@@ -37,7 +38,8 @@ class SavingRoad : public test::Strada {
   /// behind it; then cancels there, behind which nothing is told. `notice`: a box that the screen
   /// begins with.
   template <class T>
-  void ExpectToldBehind(QAbstractButton& button, Qt::Key change, bool notice = false) {
+  void ExpectToldBehind(QAbstractButton& button, const std::function<void(T&)>& change,
+                        bool notice = false) {
     const auto leave = [&](const std::function<void(T&)>& choice) {
       std::optional<Pilota<frmSiNo>> before;
       if (notice) before.emplace([](frmSiNo& box) { Clicca(*box.cmdSi); });
@@ -49,9 +51,12 @@ class SavingRoad : public test::Strada {
     leave([&](T& form) {
       box.emplace([&](RiquadroMessaggio& words) {
         told = test::Scritta(words, "lblTesto");
+        for (const QWidget* each : QApplication::topLevelWidgets()) {
+          EXPECT_FALSE(each->isVisible() && dynamic_cast<const T*>(each) != nullptr) << "behind it";
+        }
         Clicca(words, "cmdOk");
       });
-      test::Tasto(form, change);
+      change(form);
       Clicca(*form.picSave);
     });
     box.reset();
@@ -142,12 +147,27 @@ TEST_F(SavingRoad, EnterAnswersTheQuestionWithSave) {
 }
 
 TEST_F(SavingRoad, AScreenOfParametersThatCouldNotWriteIsToldOfWhenItIsClosed) {
-  const auto file = b.Cartella.Host() / "program/Projects/Hall/Config.txt";
-  std::filesystem::permissions(file, std::filesystem::perms::owner_read);
+  using std::filesystem::perms;
+  const auto folder = b.Cartella.Host() / "program/Projects/Hall";
+  std::filesystem::permissions(folder / "Config.txt", perms::owner_read);
+  const auto up = [](Form& form) { test::Tasto(form, Qt::Key_Up); };
   auto& hub = dynamic_cast<frmPlayerConfig&>(Schermo("frmPlayerConfig"));
-  ExpectToldBehind<frmTempiFade>(*hub.Opzioni->picConfiguraFade, Qt::Key_Up);
-  ExpectToldBehind<frmPanelExtra>(*hub.Opzioni->cmdConfigureExtra, Qt::Key_Space);
-  ExpectToldBehind<frmConfig485>(*hub.Seriali->cmdConfigure232, Qt::Key_Up, true);
+  ExpectToldBehind<frmTempiFade>(*hub.Opzioni->picConfiguraFade, up);
+  ExpectToldBehind<frmPanelExtra>(*hub.Opzioni->cmdConfigureExtra,
+                                  [](frmPanelExtra& form) { Clicca(*form.chkPonte); });
+  QAbstractButton& serial = *hub.Seriali->cmdConfigure232;
+  ExpectToldBehind<frmConfig485>(serial, up, true);
+  std::filesystem::permissions(folder / "Config.txt", perms::owner_all);
+  std::filesystem::permissions(folder / "Config.cfg", perms::owner_read);
+  ExpectToldBehind<frmConfig485>(
+      serial,
+      [&](frmConfig485& form) {
+        Clicca(*form.chkUse485);
+        up(form);
+      },
+      true);
+  EXPECT_NE(b.Cartella.Read("program/Projects/Hall/Config.txt").find("CMCK="), std::string::npos)
+      << "the other file is written";
 }
 
 TEST_F(SavingRoad, ACancelInTheProgressWindowEndsItBetweenTwoSteps) {
