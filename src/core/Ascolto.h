@@ -15,6 +15,8 @@ namespace kvr5 {
 /// is done.
 class Ascolto {
  public:
+  virtual ~Ascolto() = default;
+
   /// A stop by the user: both players, harmless when nothing plays.
   void Stop() {
     Comando();
@@ -30,8 +32,6 @@ class Ascolto {
 
  protected:
   Ascolto(Contesto& contesto, Esecutore& documenti) : contesto_(contesto), documenti_(documenti) {}
-  virtual ~Ascolto() = default;
-
   /// Stops both players; a command that comes meanwhile counts.
   virtual void Ferma() = 0;
   /// A command to play begins: stops both. False when another came meanwhile, which counts.

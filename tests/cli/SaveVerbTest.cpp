@@ -133,7 +133,7 @@ TEST_F(ReportVerb, ThatIsWrittenWithoutSomethingThatBelongsToItIsTold) {
   EXPECT_EQ(run.Stato, 1);
   EXPECT_EQ(run.Oggetti().at(0)["report"], Project() + "/Hall.htm");
   EXPECT_EQ(run.Box().at(0)["text"],
-            "the report is written, but not all that belongs to it could be read: File not found");
+            "the report is written, but a step of it failed: File not found");
 }
 
 TEST_F(ReportVerb, ATableThatCantBeReadIsTold) {
@@ -143,7 +143,7 @@ TEST_F(ReportVerb, ATableThatCantBeReadIsTold) {
   EXPECT_EQ(run.Stato, 1);
   EXPECT_EQ(run.Oggetti().at(0)["report"], Project() + "/Hall.htm");
   EXPECT_TRUE(run.Box().at(0)["text"].get<std::string>().starts_with(
-      "the report is written, but not all that belongs to it could be read: "));
+      "the report is written, but a step of it failed: "));
 }
 
 TEST_F(ReportVerb, AProjectThatIsNotThereIsStatus3) {

@@ -15,7 +15,7 @@ int RunReport(Session& session, const std::vector<std::string>& arguments) {
   const bool analyzer =
       LayoutDelHub(state.PlayerType, state.PlayerMode, state.UsaPlayerEsterno).fraAnalyzer;
   context.Errore.Clear();
-  inputs.RiapriRighe();  // a table that can't be read is told
+  inputs.RiapriRighe();
   ScriviReportProgetto(context, {&inputs.Cursore(), analyzer});
   const std::string path = PercorsoPerPersone(context, state.FileReport);
   const std::string why = context.Errore.Last().Description();
@@ -29,7 +29,7 @@ int RunReport(Session& session, const std::vector<std::string>& arguments) {
     session.Out().Line(path);
   }
   if (!context.Errore) return kDone;
-  session.Out().Say("the report is written, but not all that belongs to it could be read: " + why);
+  session.Out().Say("the report is written, but a step of it failed: " + why);
   return kRefused;
 }
 

@@ -138,8 +138,11 @@ bool IngressiLogici::eventFilter(QObject* object, QEvent* event) {
 
 void IngressiLogici::NascondiFile() {
   QWidget* focus = window()->focusWidget();
-  if (focus != nullptr && fraFileAssociato->isAncestorOf(focus)) fuoco_ = focus;
+  const bool taken = focus != nullptr && fraFileAssociato->isAncestorOf(focus);
   fraFileAssociato->hide();
+  if (!taken) return;
+  fuoco_ = focus;
+  ripiego_ = window()->focusWidget();
 }
 
 void IngressiLogici::Mostra(const CodiceScelto& codice) {
@@ -157,7 +160,8 @@ void IngressiLogici::Mostra(const CodiceScelto& codice) {
   }
   fraFileAssociato->setVisible(codice.fraFileAssociatoVisibile());
   QWidget* const focus = std::exchange(fuoco_, nullptr);
-  if (focus != nullptr && focus->isVisible()) focus->setFocus();
+  const bool moved = window()->focusWidget() != ripiego_;  // by the user, while events ran
+  if (focus != nullptr && focus->isVisible() && !moved) focus->setFocus();
   lblFileAssociato->setText(Qs(SuUnaRiga(codice.lblFileAssociato())));
   lblFileAssociato->setToolTip(Suggerimento(lblFileAssociato->text()));
   lblEtichettaTroppoLunga->setVisible(codice.lblEtichettaTroppoLungaVisibile());

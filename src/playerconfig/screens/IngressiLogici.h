@@ -66,7 +66,8 @@ class IngressiLogici : public Riquadro {
   QWidget* CostruisciAssociato();
 
   Contesto& contesto_;
-  QWidget* fuoco_ = nullptr;  // what NascondiFile took the focus from
+  QWidget* fuoco_ = nullptr;    // what NascondiFile took the focus from
+  QWidget* ripiego_ = nullptr;  // and what got it in its place
 };
 
 }  // namespace kvr5

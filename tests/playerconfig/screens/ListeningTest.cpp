@@ -328,6 +328,13 @@ TEST_F(Listening, ATickThatSilencesLeavesTheFocusOnTheButtonThatIsStillThere) {
   Clic("lblIn_2");  // which takes no focus
   EXPECT_EQ(Testo("lblFileAssociato"), "Plays: a.mp3");
   EXPECT_TRUE(PlayAssigned().hasFocus());
+  auto& list = Trova<QWidget>("cmbFileMp3");
+  QMetaObject::invokeMethod(
+      &list, [&list] { list.setFocus(); }, Qt::QueuedConnection);
+  Clic("lblIn_2");
+  EXPECT_TRUE(list.hasFocus()) << "where the user went meanwhile";
+  PlayAssigned().setFocus();
+  Clic("lblIn_2");
   Clic("lblIn_3");  // these three have no file
   EXPECT_FALSE(PlayAssigned().isVisible());
   Clic("lblIn_3");

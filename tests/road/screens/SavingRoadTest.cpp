@@ -163,10 +163,10 @@ TEST_F(SavingRoad, AScreenOfParametersThatCouldNotWriteIsToldOfWhenItIsClosed) {
       serial,
       [&](frmConfig485& form) {
         Clicca(*form.chkUse485);
-        up(form);
+        form.cmbCMCK->setCurrentIndex(0);
       },
       true);
-  EXPECT_NE(b.Cartella.Read("program/Projects/Hall/Config.txt").find("CMCK="), std::string::npos)
+  EXPECT_NE(b.Cartella.Read("program/Projects/Hall/Config.txt").find("CMCK=0"), std::string::npos)
       << "the other file is written";
 }
 
