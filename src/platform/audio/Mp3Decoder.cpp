@@ -11,7 +11,7 @@ namespace kvr5 {
 namespace {
 
 // As far into the file as the reader of headers looks for the first frame.
-constexpr long kSearch = 16 * 1024;
+constexpr long kSearch = 16L * 1024;
 
 }  // namespace
 

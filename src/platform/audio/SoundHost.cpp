@@ -21,9 +21,9 @@ Error SoundHost::Start() {
 
 Error NoSound() {
   const std::string words = SDL_GetError();
-  const Error plain(errors::DeviceUnavailable);
+  Error plain(errors::DeviceUnavailable);
   if (words.empty()) return plain;
-  return Error(plain.Number(), plain.Description() + ": " + words);
+  return {plain.Number(), plain.Description() + ": " + words};
 }
 
 }  // namespace kvr5

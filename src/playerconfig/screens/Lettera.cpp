@@ -13,7 +13,7 @@ void DipingiLettera(QPainter& pittore, QPointF centro, QChar lettera) {
 
 Lettera::Lettera(QChar lettera, QWidget* padre) : QWidget(padre), lettera_(lettera) {
   setObjectName(QStringLiteral("picLettera_") + lettera);
-  setFixedSize(sizeHint());
+  setFixedSize(kLatoLettera, kLatoLettera);
 }
 
 void Lettera::paintEvent(QPaintEvent* /*event*/) {

@@ -17,7 +17,6 @@ void DipingiLettera(QPainter& pittore, QPointF centro, QChar lettera);
 class Lettera : public QWidget {
  public:
   Lettera(QChar lettera, QWidget* padre);
-  QSize sizeHint() const override { return {kLatoLettera, kLatoLettera}; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
