@@ -3,6 +3,7 @@
 #include <array>
 #include <chrono>
 #include <ctime>
+#include <iterator>
 
 #include "core/Lingua.h"
 #include "platform/Utf8.h"
@@ -44,6 +45,13 @@ std::string ConValori(std::string_view testo, std::initializer_list<std::string_
     }
   }
   return filled;
+}
+
+std::string NomeDelGiorno(Contesto& contesto, std::int64_t giorno) {
+  constexpr std::array<const char*, 7> kDays{"0140001", "0140002", "0140003", "0140004",
+                                             "0140005", "0140006", "0140007"};
+  if (giorno < 1 || giorno > std::ssize(kDays)) return {};
+  return TestoLingua(contesto, kDays.at(static_cast<std::size_t>(giorno - 1)));
 }
 
 std::string SuUnaRiga(std::string_view testo) {

@@ -14,6 +14,9 @@ namespace kvr5 {
 /// as it is, and what a value holds is never taken for a place.
 std::string ConValori(std::string_view testo, std::initializer_list<std::string_view> valori);
 
+/// The day of a number, 1 Monday to 7 Sunday; "" for any other.
+std::string NomeDelGiorno(Contesto& contesto, std::int64_t giorno);
+
 /// A text from elsewhere (a card's label, a name in a damaged file) fit for one line of a screen:
 /// control characters, line separators, marks of the writing direction and bytes that aren't UTF-8
 /// become U+FFFD.

@@ -18,4 +18,8 @@ std::string SezioneReport(std::string_view testo) {
   return "<P><B><FONT COLOR='Blue'>" + TestoHtml(testo) + "</FONT></B></P>";
 }
 
+std::string GruppoReport(std::string_view testo) {
+  return "<B><FONT COLOR='Blue'>" + TestoHtml(testo) + "</FONT></B><BR>";
+}
+
 }  // namespace kvr5

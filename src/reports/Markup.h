@@ -14,5 +14,7 @@ std::string TitoloReport(std::string_view testo);
 std::string CampoReport(std::string_view etichetta, std::string_view valore);
 /// The heading of a section.
 std::string SezioneReport(std::string_view testo);
+/// The heading of a group of rows.
+std::string GruppoReport(std::string_view testo);
 
 }  // namespace kvr5
