@@ -1,0 +1,105 @@
+#include "playlists/BraniPlaylist.h"
+
+#include "core/Aiuti.h"
+#include "core/Lingua.h"
+#include "core/Registro.h"
+#include "mp3/Accettazione.h"
+
+namespace kvr5 {
+namespace {
+
+bool Record(EditorPlaylist& editor, Error error) {
+  return editor.C().Errore.Record(std::move(error));
+}
+
+/// The row of a file, at the end of the current playlist.
+void AddRow(EditorPlaylist& editor, const std::string& folder, const std::string& name) {
+  auto& rows = editor.rsList();
+  const std::int64_t pos = ProssimaPosizione(editor);
+  Record(editor, rows.AddNew());
+  Record(editor, rows.Set("FileName", name));
+  Record(editor, rows.Set("FilePath", folder));
+  Record(editor, rows.Set("Pos", pos));
+  Record(editor, rows.Set("NPlaylist", std::int64_t{editor.PlaylistCorrente()}));
+  Record(editor, rows.Update());
+}
+
+/// A notice of frmSiNo with its only button.
+void Notice(Contesto& context, const char* caption, const char* message) {
+  context.Finestre.MostraSiNo({TestoLingua(context, caption),
+                               TestoLingua(context, message),
+                               TestoLingua(context, "0050041"),
+                               {}});
+}
+
+}  // namespace
+
+std::int32_t ProssimaPosizione(EditorPlaylist& editor) {
+  Recordset rows;
+  const bool counted =
+      Record(editor, rows.Open(editor.ConnessionePlaylist(),
+                               "SELECT COUNT(Pos) as UltimaPos FROM [List] WHERE [NPlaylist]=" +
+                                   std::to_string(editor.PlaylistCorrente())));
+  return counted ? static_cast<std::int32_t>(rows.Number("UltimaPos")) + 1 : 1;
+}
+
+EsitoAggiunta AggiungiFile(EditorPlaylist& editor, const std::string& cartella,
+                           const std::string& nome) {
+  auto& context = editor.C();
+  const OwnError own(context.Errore);
+  if (editor.SelettoreVuoto()) {
+    Notice(context, "0050039", "0050040");
+    return EsitoAggiunta::SenzaPlaylist;
+  }
+  if (editor.Piena()) {
+    Notice(context, "0050026", "0050027");
+    return EsitoAggiunta::Piena;
+  }
+  AddRow(editor, AggiungiBarra(cartella), nome);
+  Record(editor, editor.rsList().Requery());
+  Record(editor, editor.rsList().MoveLast());
+  if (!context.Errore) return EsitoAggiunta::Aggiunto;
+  const Error& error = context.Errore.Last();
+  ScriviLog(context, "frmPlaylistEditor/Routine cmdAggiungiFile: err n°" +
+                         std::to_string(error.Number()) + ":" + error.Description());
+  ScriviLog(context, "File: " + nome);
+  return EsitoAggiunta::NonScritto;
+}
+
+void AggiungiSeBuono(EditorPlaylist& editor, modMp3Infos& lettore, const FileDaAggiungere& file) {
+  const InfoMp3 info = lettore.LeggiInfoMp3(AggiungiBarra(file.Cartella) + file.FileName);
+  if (!BuonoInMassa(info, lettore.Errori())) return;
+  AddRow(editor, file.FilePath, file.FileName);
+  Record(editor, editor.rsList().MoveLast());
+}
+
+bool AggiungiTuttiFiles(EditorPlaylist& editor, modMp3Infos& lettore, const std::string& cartella,
+                        const std::vector<std::string>& nomi) {
+  if (nomi.empty()) return true;
+  const OwnError own(editor.C().Errore);
+  const std::string folder = AggiungiBarra(cartella);
+  bool full = false;
+  editor.Attesa(true);
+  {
+    const EditorPlaylist::Corsa run(editor);
+    for (const std::string& each : nomi) {
+      full = editor.Piena();
+      if (full) break;
+      AggiungiSeBuono(editor, lettore, {folder, folder, each});
+      editor.C().Messaggi.LasciaCorrere();
+    }
+    if (full) DiciPienaInMassa(editor);
+    editor.AggiornaGrigliaPlaylist();
+    if (full) Record(editor, editor.rsList().MoveLast());
+  }
+  return !full;
+}
+
+void DiciPienaInMassa(EditorPlaylist& editor) {
+  auto& context = editor.C();
+  context.Finestre.MostraMessaggio({TestoLingua(context, "0050027"),
+                                    TestoLingua(context, "0050026"), Icona::Informazione,
+                                    Pulsanti::Ok, Risposta::Ok});
+}
+
+}  // namespace kvr5

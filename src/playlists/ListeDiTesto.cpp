@@ -1,0 +1,60 @@
+#include "playlists/ListeDiTesto.h"
+
+#include <algorithm>
+
+#include "core/ParoleCopia.h"
+#include "platform/CodePage.h"
+#include "platform/Fold.h"
+#include "platform/Path.h"
+#include "projects/CartellaProgetto.h"
+
+namespace kvr5 {
+
+ListeDiTesto::UnaLista& ListeDiTesto::Lista(const std::string& nome) {
+  // The last one first: rows come by playlist.
+  const auto found = std::find_if(liste_.rbegin(), liste_.rend(),
+                                  [&](const UnaLista& each) { return EqualFold(each.Nome, nome); });
+  return found != liste_.rend() ? *found : liste_.emplace_back(UnaLista{nome, {}, false});
+}
+
+void ListeDiTesto::Aggiungi(const std::string& nome, const std::string& riga) {
+  (Lista(nome).Testo += riga) += "\r\n";
+}
+
+void ListeDiTesto::AggiungiPercorso(const std::string& nome, const std::string& percorso) {
+  UnaLista& list = Lista(nome);
+  list.PerIlComputer = true;
+  (list.Testo += PercorsoPerPersone(contesto_, percorso)) += "\r\n";
+}
+
+void ListeDiTesto::Scrivi() {
+  for (const UnaLista& each : liste_) contesto_.Errore.Record(Scrivi(each));
+}
+
+Error ListeDiTesto::Scrivi(const UnaLista& lista) const {
+  if (!CardCanHold(lista.Nome)) return Error(errors::BadFileName);
+  auto file = contesto_.Files.Open(FileDelProgetto(contesto_, lista.Nome), OpenMode::Append);
+  if (!file) return file.Err();
+  const CodePage page(contesto_.Luogo.AnsiCodePage);
+  const bool marked = lista.PerIlComputer && !page.CanEncode(lista.Testo);
+  const Error written =
+      file.Value()->Write(marked ? "\xEF\xBB\xBF" + lista.Testo : page.Encode(lista.Testo));
+  const Error closed = file.Value()->Close();
+  return written ? written : closed;
+}
+
+std::string SenzaMp3(std::string_view testo, bool maiuscole) {
+  constexpr std::string_view kEnding = ".mp3";
+  std::string rest;
+  for (std::size_t at = 0; at < testo.size();) {
+    const std::string_view here = testo.substr(at, kEnding.size());
+    if (maiuscole ? here == kEnding : EqualFold(here, kEnding)) {
+      at += kEnding.size();
+    } else {
+      rest += testo[at++];
+    }
+  }
+  return rest;
+}
+
+}  // namespace kvr5

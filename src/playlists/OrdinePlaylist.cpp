@@ -1,0 +1,151 @@
+#include <chrono>
+#include <cstddef>
+#include <limits>
+#include <memory>
+#include <random>
+
+#include "core/Lingua.h"
+#include "platform/db/Walk.h"
+#include "playlists/BraniPlaylist.h"
+
+// The tracks of a playlist removed and put in order.
+
+namespace kvr5 {
+namespace {
+
+bool Record(EditorPlaylist& editor, Error error) {
+  return editor.C().Errore.Record(std::move(error));
+}
+
+/// Whether rsList stands on a row, be it one that has gone meanwhile.
+bool OnARow(Recordset& rows) {
+  return rows.IsOpen() && rows.RecordCount() > 0 && !rows.Bof() && !rows.Eof();
+}
+
+/// Swaps the current row with the one that `step` goes to. The neighbour's row is written through
+/// the cursor, the first one's by a statement.
+void Swap(EditorPlaylist& editor, Error (Recordset::*step)()) {
+  auto& rows = editor.rsList();
+  const OwnError own(editor.C().Errore);
+  const std::int64_t id = rows.Number("ID");
+  const std::int64_t pos = rows.Number("Pos");
+  if (!Record(editor, (rows.*step)())) return;
+  const std::int64_t other = rows.Number("Pos");
+  Record(editor, rows.Set("Pos", pos));
+  Record(editor, rows.Update());
+  Record(editor,
+         editor.ConnessionePlaylist().Execute("UPDATE [List] SET [Pos]=" + std::to_string(other) +
+                                              " WHERE ID=" + std::to_string(id)));
+  Record(editor, rows.Requery());
+  Record(editor, rows.Find("ID=" + std::to_string(id)));
+}
+
+/// The numbers 1 to `count` in random order, from index 1 on: a number that was drawn before is
+/// drawn again.
+std::vector<std::int32_t> Order(std::int32_t count, const Caso& random) {
+  std::vector<bool> used(static_cast<std::size_t>(count) + 1);
+  std::vector<std::int32_t> order(used.size());
+  for (std::int32_t left = count; left != 0;) {
+    const auto k = static_cast<std::int32_t>(count * random()) + 1;
+    if (used.at(static_cast<std::size_t>(k))) continue;
+    used.at(static_cast<std::size_t>(k)) = true;
+    order.at(static_cast<std::size_t>(count - left + 1)) = k;
+    --left;
+  }
+  return order;
+}
+
+}  // namespace
+
+void RiordinaPosizione(EditorPlaylist& editor) {
+  Recordset rows;
+  if (!Record(editor, rows.Open(editor.ConnessionePlaylist(),
+                                "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC"))) {
+    return;
+  }
+  const Transaction all(editor.ConnessionePlaylist());
+  std::int64_t current = rows.Number("NPlaylist");
+  std::int64_t counter = 0;
+  Record(editor, WalkRows(rows, [&] {
+           const std::int64_t number = rows.Number("NPlaylist");
+           counter = number == current ? counter + 1 : 1;
+           current = number;
+           if (rows.Number("Pos", -1) != counter) {
+             Record(editor, rows.Set("Pos", counter));
+             Record(editor, rows.Update());
+           }
+           return true;
+         }));
+}
+
+void RimuoviFile(EditorPlaylist& editor) {
+  if (!OnARow(editor.rsList())) return;
+  const OwnError own(editor.C().Errore);
+  Record(editor, editor.rsList().Delete());
+  RiordinaPosizione(editor);
+  editor.AggiornaGrigliaPlaylist();
+}
+
+void RimuoviTuttiFile(EditorPlaylist& editor) {
+  auto& context = editor.C();
+  if (editor.Quanti() < 1) return;
+  const OwnError own(context.Errore);
+  const BoxSiNo question{TestoLingua(context, "0050024"), TestoLingua(context, "0050025"), {}, {}};
+  if (context.Finestre.MostraSiNo(question) != 1) return;
+  Record(editor, editor.ConnessionePlaylist().Execute("DELETE * FROM [List] WHERE [NPlaylist]=" +
+                                                      std::to_string(editor.PlaylistCorrente())));
+  Record(editor, editor.rsList().Requery());
+  if (editor.SuGriglia) editor.SuGriglia();
+  editor.AggiornaContatoreFile();
+}
+
+void SpostaSu(EditorPlaylist& editor) {
+  auto& rows = editor.rsList();
+  if (rows.AbsolutePosition() > 1) Swap(editor, &Recordset::MovePrevious);
+}
+
+void SpostaGiu(EditorPlaylist& editor) {
+  auto& rows = editor.rsList();
+  const int at = rows.AbsolutePosition();
+  if (at > 0 && at != rows.RecordCount()) Swap(editor, &Recordset::MoveNext);
+}
+
+Caso CasoDallOrologio() {
+  const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
+  return CasoDaSeme(static_cast<std::uint32_t>(now));
+}
+
+Caso CasoDaSeme(std::uint32_t seme) {
+  // The generator's numbers are fixed by the standard; a distribution of the library's wouldn't be.
+  constexpr double kRange = 4294967296.0;  // one above its highest
+  return [engine = std::make_shared<std::mt19937>(seme)] {
+    return static_cast<double>((*engine)()) / kRange;
+  };
+}
+
+void Random(EditorPlaylist& editor, const Caso& caso) {
+  const int count = editor.Quanti();
+  if (count < 1) return;
+  auto& rows = editor.rsList();
+  const OwnError own(editor.C().Errore);
+  editor.Attesa(true);
+  {
+    const EditorPlaylist::Corsa run(editor);
+    if (count <= std::numeric_limits<std::int16_t>::max()) {
+      const auto order = Order(count, caso);
+      std::size_t i = 0;
+      Record(editor, WalkRows(rows, [&] {
+               if (++i >= order.size()) return false;  // rows have joined meanwhile
+               Record(editor, rows.Set("Pos", std::int64_t{order.at(i)}));
+               Record(editor, rows.Update());
+               editor.C().Messaggi.LasciaCorrere();
+               return true;
+             }));
+    }
+    Record(editor, rows.Requery());
+    if (editor.SuGriglia) editor.SuGriglia();
+    editor.Attesa(false);
+  }
+}
+
+}  // namespace kvr5

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "platform/db/Connection.h"
+#include "platform/db/Recordset.h"
+#include "platform/db/Walk.h"
+#include "playlists/EditorPlaylist.h"
+#include "projects/CartellaProgetto.h"
+#include "support/Banco.h"
+
+namespace kvr5::test {
+
+/// An editor of playlists over a project named Hall.
+class BancoPlaylist : public testing::Test {
+ protected:
+  using Righe = std::vector<std::string>;
+
+  /// Makes the project; its playlist.mdb is empty.
+  void Progetto(std::int16_t playerType, std::int16_t playerMode) {
+    std::filesystem::remove_all(b.Cartella.Host() / "program/Projects/Hall");
+    // A KVR5 of mode 4 can't be made any more; old projects have it.
+    constexpr std::int16_t kKvr5 = 4;
+    const bool old = playerType == kKvr5 && playerMode == 4;
+    b.CreaProgetto("Hall", playerType, old ? std::int16_t{5} : playerMode);
+    b.C.Stato.PlayerMode = playerMode;
+  }
+  /// A track of playlist.mdb, before the editor is loaded.
+  void Brano(int nPlaylist, int pos, const std::string& nome,
+             const std::string& cartella = "C:\\Music\\") {
+    b.AggiungiRiga("playlist.mdb", nPlaylist, pos, nome, cartella, "");
+  }
+  /// A named list of playlist.mdb.
+  void Nome(const std::string& nome, int numero) {
+    Connection real(b.Disco);
+    ASSERT_FALSE(real.Open(FileDelProgetto(b.C, "playlist.mdb")));
+    ASSERT_FALSE(real.Execute("INSERT INTO [HEAD] ([Descript],[NScheduler]) VALUES('" + nome +
+                              "'," + std::to_string(numero) + ")"));
+  }
+  /// The tracks of the current playlist, "1 a.mp3", as the grid shows them.
+  Righe Griglia() {
+    Righe rows;
+    if (!editor.rsList().IsOpen()) return {"closed"};
+    EXPECT_FALSE(WalkRows(editor.rsList(), [&] {
+      rows.push_back(editor.rsList().Text("Pos") + " " + editor.rsList().Text("FileName"));
+      return true;
+    }));
+    return rows;
+  }
+  /// All tracks of a database of the project, "1-2 a.mp3".
+  Righe Tutti(const char* database = "tmpPlaylist.mdb") {
+    Righe rows;
+    Connection other(b.Disco);
+    EXPECT_FALSE(other.Open(FileDelProgetto(b.C, database)));
+    Recordset all;
+    EXPECT_FALSE(all.Open(other, "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC"));
+    EXPECT_FALSE(WalkRows(all, [&] {
+      rows.push_back(all.Text("NPlaylist") + "-" + all.Text("Pos") + " " + all.Text("FileName"));
+      return true;
+    }));
+    return rows;
+  }
+  /// Goes to the row with that Pos.
+  void Va(int pos) {
+    ASSERT_FALSE(editor.rsList().MoveFirst());
+    ASSERT_FALSE(editor.rsList().Find("Pos=" + std::to_string(pos)));
+    ASSERT_FALSE(editor.rsList().Eof());
+  }
+
+  Banco b;
+  EditorPlaylist editor{b.C};
+};
+
+}  // namespace kvr5::test

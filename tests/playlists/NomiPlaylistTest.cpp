@@ -1,0 +1,136 @@
+#include "playlists/BancoPlaylist.h"
+#include "playlists/NomiPlaylist.h"
+
+namespace kvr5 {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class NamedLists : public test::BancoPlaylist {
+ protected:
+  void SetUp() override {
+    Progetto(3, 9);
+    editor.Carica();
+  }
+  /// Adds a list; the dialog gives these names one after another, then cancels.
+  void Add(std::vector<std::string> names) {
+    std::size_t next = 0;
+    AggiungiPlaylist(editor, [&] {
+      b.C.Stato.NomePlaylistScelta = next < names.size() ? names[next] : std::string();
+      ++next;
+    });
+    asked = next;
+  }
+  Righe Entries() const {
+    Righe words;
+    for (const auto& each : editor.Voci()) {
+      words.push_back(each.Testo + " " + std::to_string(each.ItemData));
+    }
+    return words;
+  }
+  std::size_t asked = 0;
+};
+
+TEST_F(NamedLists, BeginWithNumberOneAndTheNewOneIsSelected) {
+  Add({"  Noon "});
+  EXPECT_THAT(Entries(), ElementsAre("Noon 1"));
+  EXPECT_EQ(editor.Testo(), "Noon");
+  Add({"Evening"});
+  EXPECT_THAT(Entries(), ElementsAre("Evening 2", "Noon 1"));
+  EXPECT_EQ(editor.Testo(), "Evening");
+  EXPECT_EQ(editor.PlaylistCorrente(), 1) << "its place, not its number";
+}
+
+TEST_F(NamedLists, ADialogThatIsCancelledAddsNothing) {
+  Add({});
+  EXPECT_THAT(Entries(), IsEmpty());
+  EXPECT_EQ(asked, 1U);
+}
+
+TEST_F(NamedLists, ANameThatIsTakenIsAskedForOnceMore) {
+  Add({"Music"});
+  Add({"music", "Other"});
+  const auto box = b.Finestre.Prossimo();
+  EXPECT_EQ(box.Titolo, "Name of the playlist");
+  EXPECT_TRUE(box.SoloOk);
+  EXPECT_EQ(box.TestoOk, "OK");
+  EXPECT_EQ(asked, 2U);
+  EXPECT_THAT(Entries(), ElementsAre("Music 1", "Other 2"));
+}
+
+TEST_F(NamedLists, TheSecondNameIsNotLookedUp) {
+  Add({"Music"});
+  Add({"Music", "Music"});
+  b.Finestre.Prossimo();
+  EXPECT_THAT(Entries(), ElementsAre("Music 1", "Music 2"));
+}
+
+TEST_F(NamedLists, ANameWithAnApostropheCountsAsNew) {
+  Add({"it's"});
+  Add({"it's"});
+  EXPECT_TRUE(b.Finestre.Silenzio());
+  EXPECT_THAT(Entries(), ElementsAre("it's 1", "it's 2"));
+  EXPECT_EQ(CercaPlaylistPerNome(editor, "it's"), -1);
+  EXPECT_EQ(CercaPlaylistPerNome(editor, "  "), -1);
+}
+
+TEST_F(NamedLists, ANumberComesAgainOnlyWhereItWasTheHighest) {
+  for (const char* name : {"A", "B", "C"}) Add({name});
+  EliminaPlaylist(editor, 2);
+  EXPECT_EQ(ProssimoNScheduler(editor), 4);
+  EliminaPlaylist(editor, 3);
+  EXPECT_EQ(ProssimoNScheduler(editor), 2);
+  EliminaPlaylist(editor, 1);
+  EXPECT_EQ(ProssimoNScheduler(editor), 1);
+}
+
+TEST_F(NamedLists, ARemovalTakesTheTracksToo) {
+  editor.Chiudi();
+  Nome("A", 1);
+  Nome("B", 2);
+  Brano(1, 1, "a.mp3");
+  Brano(2, 1, "b.mp3");
+  editor.Carica();
+  EXPECT_EQ(ContaPlaylist(editor), 2);
+  editor.ScegliVoce(0);
+  b.Finestre.Rispondi(Risposta::No);
+  RimuoviPlaylist(editor);
+  EXPECT_EQ(b.Finestre.Prossimo().Testo, "Remove the playlist and its tracks 'A'?");
+  EXPECT_EQ(Entries().size(), 2U);
+  b.Finestre.Rispondi(Risposta::Si);
+  RimuoviPlaylist(editor);
+  EXPECT_EQ(b.Finestre.Prossimo().Titolo, "Remove playlist");
+  EXPECT_THAT(Entries(), ElementsAre("B 2"));
+  EXPECT_THAT(Tutti(), ElementsAre("2-1 b.mp3"));
+  EXPECT_EQ(ContaPlaylist(editor), 1);
+}
+
+TEST_F(NamedLists, WithoutAnEntryNothingIsRemoved) {
+  RimuoviPlaylist(editor);
+  EXPECT_TRUE(b.Finestre.Silenzio());
+}
+
+TEST_F(NamedLists, WhatARemovalDeletesIsTheCurrentNumberWhateverNameIsShown) {
+  editor.Chiudi();
+  Nome("Z", 1);
+  Nome("A", 2);
+  editor.Carica();
+  editor.ScegliVoce(0);  // "A", number 2: the current one is 1
+  b.Finestre.Rispondi(Risposta::Si);
+  RimuoviPlaylist(editor);
+  EXPECT_EQ(b.Finestre.Prossimo().Testo, "Remove the playlist and its tracks 'A'?");
+  EXPECT_THAT(Entries(), ElementsAre("A 2"));
+}
+
+TEST_F(NamedLists, ANameIsRefusedForItsCharacters) {
+  EXPECT_EQ(DifettoNomePlaylist(b.C, " "), "Give the playlist a name");
+  for (const char* name : {"A:B", "a\\b", "a/b", "a?", "a\"", "<a", "a>", "a|"}) {
+    EXPECT_EQ(DifettoNomePlaylist(b.C, name),
+              "A name can't hold any of these:\r\n \\ / : ? \" < > |");
+  }
+  EXPECT_EQ(DifettoNomePlaylist(b.C, "a*"), "") << "the asterisk isn't on the list";
+}
+
+}  // namespace
+}  // namespace kvr5
