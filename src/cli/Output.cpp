@@ -39,11 +39,18 @@ void Output::Object(const Json& object) {
 
 void Output::Box(std::string_view kind, std::string_view title, std::string_view text,
                  std::string_view answer) {
-  std::fflush(stdout);
   const std::string words = WithPlainLineEnds(text);
-  const std::string line =
-      json_ ? Dump({{"box", kind}, {"title", title}, {"text", words}, {"answer", answer}})
-            : WithPlainLineEnds(title) + ": " + words;
+  Told(json_ ? Dump({{"box", kind}, {"title", title}, {"text", words}, {"answer", answer}})
+             : WithPlainLineEnds(title) + ": " + words);
+}
+
+void Output::Refused(std::string_view line, std::string_view why) {
+  Told(json_ ? Dump({{"refused", line}, {"why", why}})
+             : std::string(line) + ": " + std::string(why));
+}
+
+void Output::Told(const std::string& line) {
+  std::fflush(stdout);
   static_cast<void>(Put(stderr, boxesOnTerminal_ ? ShownOnTerminal(line) : line));
 }
 

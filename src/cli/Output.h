@@ -32,11 +32,14 @@ class Output {
   /// A box: "title: text", or an object with the answer that it got.
   void Box(std::string_view kind, std::string_view title, std::string_view text,
            std::string_view answer);
+  /// Why a command of an editing session changed nothing.
+  void Refused(std::string_view line, std::string_view why);
   /// Something that is said beside the boxes.
   void Say(std::string_view text) { Box("warning", "kvr5card", text, "ok"); }
 
  private:
   void Result(const std::string& line);
+  void Told(const std::string& line);
 
   bool json_;
   bool resultsOnTerminal_;

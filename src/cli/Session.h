@@ -28,6 +28,10 @@ class Session {
   TerminalEvents& Events() { return events_; }
   ProgressLine& Line() { return line_; }
 
+  /// The answer of the questions that follow, over that of the options; none are asked any more.
+  void SetAnswer(FixedAnswer answer) { dialogs_.Answer(answer); }
+  FixedAnswer GivenAnswer() const { return options_.Answer; }
+
   /// The removable drives; a look binds their letters.
   std::vector<Drive> ListDrives();
   /// Reads language, options and projects folder, as every start of the program does. False when

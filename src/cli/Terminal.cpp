@@ -86,6 +86,11 @@ void ProgressLine::Clear() {
   shown_ = false;
 }
 
+void TerminalDialogs::Answer(FixedAnswer answer) {
+  answer_ = answer;
+  keyboard_ = false;
+}
+
 Risposta TerminalDialogs::MostraMessaggio(const Messaggio& messaggio) {
   line_.Clear();
   if (messaggio.Scelte != Pulsanti::Ok) {
@@ -108,7 +113,7 @@ Risposta TerminalDialogs::Ask(std::string_view title, std::string_view text, boo
   Risposta answer = withCancel ? Risposta::Annulla : Risposta::No;
   if (answer_ != FixedAnswer::None) {
     answer = answer_ == FixedAnswer::Yes ? Risposta::Si : Risposta::No;
-  } else if (const auto typed = AskKeyboard(title, text, withCancel)) {
+  } else if (const auto typed = keyboard_ ? AskKeyboard(title, text, withCancel) : std::nullopt) {
     if (!output_.IsJson()) return *typed;  // the question stands on the terminal already
     answer = *typed;
   }

@@ -34,6 +34,9 @@ class TerminalDialogs : public Dialoghi {
   TerminalDialogs(Output& output, ProgressLine& line, FixedAnswer answer)
       : output_(output), line_(line), answer_(answer) {}
 
+  /// The answer of the questions that follow; without the keyboard from here on.
+  void Answer(FixedAnswer answer);
+
   Risposta MostraMessaggio(const Messaggio& messaggio) override;
   std::uint8_t MostraSiNo(const BoxSiNo& box) override;
   /// Folders are arguments here: nothing is chosen.
@@ -51,6 +54,7 @@ class TerminalDialogs : public Dialoghi {
   Output& output_;
   ProgressLine& line_;
   FixedAnswer answer_;
+  bool keyboard_ = true;
 };
 
 /// Pending events of a terminal: Ctrl-C, which presses the cancel button of a loaded progress

@@ -1,9 +1,8 @@
+#include "cli/FileGiven.h"
 #include "cli/verbs/Verb.h"
 #include "core/Aiuti.h"
-#include "core/Lingua.h"
 #include "core/ParoleCopia.h"
 #include "mp3/Accettazione.h"
-#include "mp3/modMp3Infos.h"
 #include "platform/FileOps.h"
 #include "playerconfig/CodiceIngressi.h"
 #include "playerconfig/TabellaIngressi.h"
@@ -45,31 +44,14 @@ int List(Session& session, TabellaIngressi& inputs) {
   return Finish(session);  // a table that ends in the middle must not pass for a whole one
 }
 
-/// Why the hub would refuse this file; "" when it takes it.
-std::string WhyRefused(Session& session, const std::string& path) {
-  auto& context = session.Context();
-  if (!FileExists(context.Files, path)) {
-    return context.Files.Info(path) ? "a folder or a hidden file isn't taken"
-                                    : "there is no such file";
-  }
-  if (!MatchesWildcard(EstraiNomeFile(path), "*.mp3")) return "its name doesn't end in .mp3";
-  modMp3Infos reader(context.Files);
-  if (!BuonoPerIngressi(reader.LeggiInfoMp3(path))) {
-    return TestoLinguaO(context, "0040005", "the player can't play this file");
-  }
-  return {};
-}
-
 int Assign(Session& session, TabellaIngressi& inputs, std::int16_t code, const std::string& file) {
-  auto& context = session.Context();
-  const auto path = context.Files.SystemPath(file);
-  const std::string why =
-      path ? WhyRefused(session, path.Value()) : "a file of this name can't be taken";
-  if (!why.empty()) {
-    session.Out().Say(file + ": " + why);
+  modMp3Infos reader(session.Context().Files);
+  const FileGiven given = LookAtFile(session, reader, file, BuonoPerIngressi, "0040005");
+  if (!given.Why.empty()) {
+    session.Out().Say(file + ": " + given.Why);
     return kRefused;
   }
-  inputs.Assegna(code, EstraiNomeFile(path.Value()), EstraiCartella(path.Value()));
+  inputs.Assegna(code, EstraiNomeFile(given.Path), EstraiCartella(given.Path));
   return Finish(session);
 }
 

@@ -30,6 +30,14 @@ constexpr std::array kVerbs{
          "Writes descriptor, Config.txt and report of a project, as the program's Save does right\n"
          "after opening it. With --copy-inputs the MP3 files of the inputs are copied into it too.",
          true, RunSave},
+    Verb{
+        "playlists", "PROJECT",
+        "An editing session of the playlists: commands on standard input, one a line; it ends "
+        "with\n"
+        "save or cancel. select N, inputs BITS, list, add FILE..., addall FOLDER, remove POS,\n"
+        "clear, up POS, down POS, shuffle [SEED], import LIST, new NAME [SECOND], delete, report,\n"
+        "yes, no.",
+        true, RunPlaylists},
     Verb{"report", "PROJECT", "Writes the project report and prints its path.", true, RunReport},
     Verb{"record", "PROJECT CARD...",
          "Records a project onto one card after another. CARD is a drive letter or a folder.", true,

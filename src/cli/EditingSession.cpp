@@ -1,0 +1,80 @@
+#include "cli/EditingSession.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "cli/InputLines.h"
+#include "cli/Interrupt.h"
+#include "cli/Status.h"
+
+namespace kvr5::cli {
+
+int EditingCommands::RunAll() {
+  const Interrupt cancel;
+  session_.SetAnswer(session_.GivenAnswer());  // standard input is the commands'
+  InputLines input;
+  while (input.Next(line_)) {
+    switch (RunLine(line_)) {
+      case Outcome::Done:
+      case Outcome::Refused:
+        break;
+      case Outcome::Unknown:
+        return kUsage;
+      case Outcome::Failed:
+        return kRefused;
+      case Outcome::Saved:
+      case Outcome::Left:
+        return kDone;
+    }
+  }
+  return input.Failed() || Interrupt::Pressed() ? kRefused : kDone;
+}
+
+Outcome EditingCommands::RunLine(const std::string& line) {
+  const auto words = WordsOf(line);
+  if (!words) return Outcome::Unknown;
+  if (words->empty()) return Outcome::Done;
+  const std::string& command = words->front();
+  if (words->size() == 1 && (command == "yes" || command == "no")) {
+    session_.SetAnswer(command == "yes" ? FixedAnswer::Yes : FixedAnswer::No);
+    return Outcome::Done;
+  }
+  if (words->size() == 1 && command == "cancel") return Outcome::Left;
+  return Run(*words);
+}
+
+Outcome EditingCommands::Refuse(const std::string& why) {
+  session_.Out().Refused(line_, why);
+  return Outcome::Refused;
+}
+
+std::optional<std::vector<std::string>> WordsOf(std::string_view line) {
+  std::vector<std::string> words;
+  bool quoted = false;
+  bool inWord = false;
+  for (const char c : line) {
+    if (c == ' ' && !quoted) {
+      inWord = false;
+      continue;
+    }
+    if (!inWord) words.emplace_back();
+    inWord = true;
+    if (c == '"') {
+      quoted = !quoted;
+    } else {
+      words.back() += c;
+    }
+  }
+  if (quoted) return {};
+  return words;
+}
+
+std::optional<std::uint32_t> NumberOf(std::string_view word, std::uint32_t highest) {
+  std::uint32_t number = 0;
+  const auto [end, failure] = std::from_chars(word.data(), word.data() + word.size(), number);
+  const bool digits = !word.empty() && end == word.data() + word.size();
+  if (failure != std::errc() || !digits || number > highest) return {};
+  return number;
+}
+
+}  // namespace kvr5::cli
