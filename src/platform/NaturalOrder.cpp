@@ -13,14 +13,13 @@ bool IsDigit(char c) {
   return c >= '0' && c <= '9';
 }
 
-/// Takes the run of digits, or of anything else, off the front.
-std::string_view TakeRun(std::string_view& text) {
-  const bool digits = IsDigit(text.front());
-  std::size_t size = 1;
-  while (size < text.size() && IsDigit(text[size]) == digits) ++size;
-  const std::string_view run = text.substr(0, size);
+/// Takes the digits off the front.
+std::string_view TakeDigits(std::string_view& text) {
+  const std::size_t size =
+      static_cast<std::size_t>(std::ranges::find_if_not(text, IsDigit) - text.begin());
+  const std::string_view digits = text.substr(0, size);
   text.remove_prefix(size);
-  return run;
+  return digits;
 }
 
 /// Below, at or above 0 as the numbers are; of any length.
@@ -34,10 +33,14 @@ int CompareNumbers(std::string_view left, std::string_view right) {
 
 int Compare(std::string_view left, std::string_view right) {
   while (!left.empty() && !right.empty()) {
-    const bool numbers = IsDigit(left.front()) && IsDigit(right.front());
-    const std::string_view a = TakeRun(left);
-    const std::string_view b = TakeRun(right);
-    const int order = numbers ? CompareNumbers(a, b) : a.compare(b);
+    int order = 0;
+    if (IsDigit(left.front()) && IsDigit(right.front())) {
+      order = CompareNumbers(TakeDigits(left), TakeDigits(right));
+    } else {
+      order = left.substr(0, 1).compare(right.substr(0, 1));
+      left.remove_prefix(1);
+      right.remove_prefix(1);
+    }
     if (order != 0) return order;
   }
   return static_cast<int>(!left.empty()) - static_cast<int>(!right.empty());
