@@ -17,10 +17,6 @@ namespace {
 
 constexpr const char* kAllTracks = "SELECT * FROM [List] ORDER BY [NPlaylist] ASC,[Pos] ASC";
 constexpr const char* kAllForLists = "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC";
-constexpr const char* kNamedTracks =
-    "SELECT [HEAD].[NScheduler],[HEAD].[Descript],[List].[ID],[List].[Filename],"
-    "[List].[FilePath],[List].[NPlaylist],[List].[Pos] FROM [List] INNER JOIN [HEAD] ON "
-    "[HEAD].[NScheduler]=[LIST].[NPlaylist] ORDER BY [Descript],[Pos] ASC";
 
 class Saving {
  public:
@@ -32,7 +28,7 @@ class Saving {
     AssegnaAlias(editor_);
     progress_.Scarica();
     if (!Multiple()) WriteTheOneSet();
-    Open(Named() ? kNamedTracks : kAllForLists);
+    Open(Named() ? kBraniConNome : kAllForLists);
     if (Multiple()) WriteNumberedLists();
     BringFilesIn();
     Commit();

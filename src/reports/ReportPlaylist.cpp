@@ -17,11 +17,7 @@ constexpr std::int16_t kByDay = 6;
 constexpr std::int16_t kNamed = 9;
 
 std::string Query(std::int16_t mode, std::optional<std::int32_t> number) {
-  if (mode == kNamed) {
-    return "SELECT [HEAD].[NScheduler],[HEAD].[Descript],[List].[ID],[List].[Filename],"
-           "[List].[FilePath],[List].[NPlaylist],[List].[Pos] FROM [List] INNER JOIN [HEAD] ON "
-           "[HEAD].[NScheduler]=[LIST].[NPlaylist] ORDER BY [Descript],[Pos] ASC";
-  }
+  if (mode == kNamed) return kBraniConNome;
   if (!number) return "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC";
   return "SELECT * FROM [List] WHERE [NPlaylist]=" + std::to_string(*number) +
          " ORDER BY [Pos] ASC";

@@ -4,11 +4,11 @@
 #include <string>
 #include <vector>
 
-#include "core/FinestraProgresso.h"
 #include "playerconfig/Salvataggio.h"
 #include "projects/Descrittore.h"
 #include "support/Banco.h"
 #include "support/FaultyFileSystem.h"
+#include "support/ProgressoVisto.h"
 
 namespace kvr5 {
 namespace {
@@ -30,21 +30,6 @@ class Answer : public DomandaSalva {
 
  private:
   Contesto& context_;
-};
-
-/// The progress window, which remembers all that was seen of it.
-class Progress : public FinestraProgresso {
- public:
-  using FinestraProgresso::FinestraProgresso;
-  std::vector<std::string> Seen;
-
- protected:
-  void Ridisegna() override {
-    if (!Visibile()) return;
-    const std::string now = TestoOperazione() + " " + std::to_string(ValoreCorrente) + "/" +
-                            std::to_string(ValoreMassimo);
-    if (Seen.empty() || Seen.back() != now) Seen.push_back(now);
-  }
 };
 
 /// A project named Hall; the step in which something happens is told by the progress window.
@@ -98,7 +83,7 @@ class Saves : public testing::Test {
   }};
   ControlliHub controls_;
   TabellaIngressi inputs_{b.C};
-  Progress progress_{b.C};
+  test::ProgressoVisto progress_{b.C};
   Answer answer_{b.C};
 };
 

@@ -1,28 +1,14 @@
-#include "core/FinestraProgresso.h"
 #include "playlists/AliasPlaylist.h"
 #include "playlists/BancoPlaylist.h"
 #include "playlists/ListeDiTesto.h"
 #include "playlists/SalvaPlaylist.h"
+#include "support/ProgressoVisto.h"
 
 namespace kvr5 {
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-/// The progress window, which remembers what was seen of it.
-class Progress : public FinestraProgresso {
- public:
-  using FinestraProgresso::FinestraProgresso;
-  std::vector<std::string> Seen;
-
- protected:
-  void Ridisegna() override {
-    const std::string now = TestoOperazione() + " " + std::to_string(ValoreCorrente) + "/" +
-                            std::to_string(ValoreMassimo);
-    if (Visibile() && (Seen.empty() || Seen.back() != now)) Seen.push_back(now);
-  }
-};
 
 class SavedPlaylists : public test::BancoPlaylist {
  protected:
@@ -63,7 +49,7 @@ class SavedPlaylists : public test::BancoPlaylist {
   }
   std::string Hall() const { return b.Percorso("program/Projects/Hall") + "\\"; }
 
-  Progress progress{b.C};
+  test::ProgressoVisto progress{b.C};
 };
 
 TEST(PlaylistAlias, HasTwoAndThreeDigitsAtLeast) {
