@@ -13,7 +13,7 @@ int EditingCommands::RunAll() {
   const Interrupt cancel;
   session_.SetAnswer(session_.GivenAnswer());  // standard input is the commands'
   InputLines input;
-  while (input.Next(line_)) {
+  while (!Interrupt::Pressed() && input.Next(line_)) {
     switch (RunLine(line_)) {
       case Outcome::Done:
       case Outcome::Refused:

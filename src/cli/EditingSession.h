@@ -14,7 +14,7 @@ enum class Outcome {
   Refused,  ///< told; the session goes on
   Unknown,  ///< no such command, or with the wrong number or kind of words: ends it unsaved
   Saved,    ///< ends it
-  Failed,   ///< ends it: saved, but a copy failed on the way (told)
+  Failed,   ///< ends it: saved, but a copy failed (told) or was cancelled on the way
   Left,     ///< ends it unsaved
 };
 

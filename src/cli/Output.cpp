@@ -2,6 +2,8 @@
 
 #include <unistd.h>
 
+#include <algorithm>
+
 #include "cli/TerminalText.h"
 
 namespace kvr5::cli {
@@ -45,8 +47,9 @@ void Output::Box(std::string_view kind, std::string_view title, std::string_view
 }
 
 void Output::Refused(std::string_view line, std::string_view why) {
-  Told(json_ ? Dump({{"refused", line}, {"why", why}})
-             : std::string(line) + ": " + std::string(why));
+  std::string words = WithPlainLineEnds(why);
+  std::ranges::replace(words, '\n', ' ');
+  Told(json_ ? Dump({{"refused", line}, {"why", words}}) : std::string(line) + ": " + words);
 }
 
 void Output::Told(const std::string& line) {

@@ -2,6 +2,8 @@
 
 #include "core/Aiuti.h"
 #include "core/Lingua.h"
+#include "core/Parole.h"
+#include "platform/CodePage.h"
 #include "platform/db/Walk.h"
 
 namespace kvr5 {
@@ -27,6 +29,10 @@ std::string Ask(EditorPlaylist& editor, const std::function<void()>& show) {
 }  // namespace
 
 std::string DifettoNomePlaylist(Contesto& contesto, std::string_view nome) {
+  constexpr int kUtf8 = 65001;
+  if (CodePage(kUtf8).Length(nome) > kCaratteriNomePlaylist) {
+    return ConValori(TestoLingua(contesto, "0150005"), {std::to_string(kCaratteriNomePlaylist)});
+  }
   if (Rifila(nome).empty()) return TestoLingua(contesto, "0150004");
   if (nome.find_first_of(kVietatiNomePlaylist) == std::string_view::npos) return {};
   return TestoLingua(contesto, "0150006") + "\r\n \\ / : ? \" < > |";
@@ -108,6 +114,7 @@ void RimuoviPlaylist(EditorPlaylist& editor) {
   if (context.Finestre.MostraSiNo({TestoLingua(context, "0050037"), question, {}, {}}) != 1) return;
   EliminaPlaylist(editor, editor.PlaylistCorrente());
   CaricaNomiPlaylist(editor);
+  if (editor.Voci().empty()) editor.AggiornaGrigliaPlaylist();  // the rows of the last one
 }
 
 }  // namespace kvr5

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -13,12 +14,12 @@ namespace kvr5 {
 /// Descript its name. The name becomes that of a file.
 
 /// As many characters as a name takes.
-inline constexpr int kCaratteriNomePlaylist = 8;
+inline constexpr std::size_t kCaratteriNomePlaylist = 8;
 /// What no name may hold. The asterisk is not among them.
 inline constexpr std::string_view kVietatiNomePlaylist = "\\/:?\"<>|";
 
-/// Why a name can't be taken, in the user's language: a blank one, one with a forbidden character;
-/// "" for one that can.
+/// Why a name can't be taken, in the user's language: a blank one, one with a forbidden character,
+/// one that is longer than the box takes; "" for one that can.
 std::string DifettoNomePlaylist(Contesto& contesto, std::string_view nome);
 
 /// Fills cmbPlaylist with the names, by name, and selects the first.

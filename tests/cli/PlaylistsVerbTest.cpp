@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "cli/Verbi.h"
 
 namespace kvr5 {
@@ -165,6 +167,54 @@ TEST_F(PlaylistsVerb, TheReportIsWrittenFromTheWorkingCopy) {
   EXPECT_EQ(Run("add " + Music("a.mp3") + "\nreport\n").Stato, 0);
   EXPECT_NE(Read("Playlist.htm").find("Playlist 1.m3u"), std::string::npos);
   EXPECT_NE(Read("Playlist.htm").find("a.mp3<BR>"), std::string::npos);
+}
+
+/// The same of a project whose lists have names.
+class NamedPlaylistsVerb : public PlaylistsVerb {
+ protected:
+  void SetUp() override {
+    PlaylistsVerb::SetUp();
+    k.CreaProgetto("Named", 3, 9);
+  }
+  auto Session(const std::string& commands, bool json = true) {
+    const std::vector<std::string> verb{"playlists", "Named"};
+    return json ? k.EseguiJson(verb, commands) : k.Esegui(verb, commands);
+  }
+  std::string List(const std::string& name) const {
+    return k.Cartella.Read("program/Projects/Named/" + name + ".m3u");
+  }
+};
+
+TEST_F(NamedPlaylistsVerb, MakesAndDeletesThem) {
+  const auto run = Session("new Noon\nadd " + Music("a.mp3") + "\nnew Noon Evening\nadd " +
+                           Music("b.mp3") + "\nselect 0\nlist\nsave\n");
+  EXPECT_EQ(run.Stato, 0);
+  ASSERT_EQ(run.Box().size(), 2U) << "taken, and the save's question";
+  EXPECT_THAT(Rows(run), ElementsAre("1 a.mp3", "2 b.mp3")) << "both at the first place";
+  EXPECT_EQ(List("Noon"), "a\r\nb\r\n");
+  EXPECT_THAT(Rows(Session("select 0\ndelete\nlist\n")), ElementsAre("1 a.mp3", "2 b.mp3"))
+      << "without an answer it is no";
+  EXPECT_EQ(Session("yes\nselect 1\ndelete\nlist\ndelete\nlist\nsave\n").Oggetti().size(), 4U)
+      << "two tracks and an end while Noon is there, an end alone without it";
+  EXPECT_FALSE(k.Cartella.Exists("program/Projects/Named/Noon.m3u"));
+}
+
+TEST_F(NamedPlaylistsVerb, RefuseNamesThatTheBoxWouldntTakeInOneLine) {
+  for (const char* name : {"A:B", "\"  \"", "NineChars"}) {
+    const auto run = Session(std::string("new ") + name + "\nlist\n", false);
+    EXPECT_EQ(run.Stato, 0);
+    EXPECT_TRUE(run.Errori.starts_with("new ")) << run.Errori;
+    EXPECT_EQ(std::ranges::count(run.Errori, '\n'), 1) << run.Errori;
+    EXPECT_EQ(std::ranges::count(run.Errori, '\r'), 0);
+  }
+  EXPECT_THAT(Session("new 12345678\nnew Free A:B\n").Box(), IsEmpty());
+}
+
+TEST_F(NamedPlaylistsVerb, WithoutANameRefuseFilesAndReports) {
+  k.Cartella.Write("music/l.m3u", "b.mp3\r\n");
+  const auto run = Session("add " + Music("a.mp3") + "\nimport " + Music("l.m3u") + "\nreport\n");
+  EXPECT_EQ(run.Stato, 0);
+  EXPECT_EQ(run.Box().size(), 3U);
 }
 
 TEST_F(PlaylistsVerb, AProjectWithoutTheDatabaseIsStatus3) {

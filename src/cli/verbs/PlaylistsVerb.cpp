@@ -164,7 +164,8 @@ Outcome PlaylistSession::Add(const Words& words) {
       Refuse(words[i] + ": " + given.Why);
       continue;
     }
-    AggiungiFile(editor_, EstraiCartella(given.Path), EstraiNomeFile(given.Path));
+    const auto end = AggiungiFile(editor_, EstraiCartella(given.Path), EstraiNomeFile(given.Path));
+    if (end == EsitoAggiunta::NonScritto) Refuse(words[i] + ": the working copy can't be written");
   }
   return Outcome::Done;
 }
@@ -224,13 +225,16 @@ Outcome PlaylistSession::Shuffle(const Words& words) {
 Outcome PlaylistSession::Import(const Words& words) {
   const auto list = Context().Files.SystemPath(words[1]);
   if (!list || !FileExists(Context().Files, list.Value())) return Refuse("there is no such file");
+  if (editor_.SelettoreVuoto()) return Refuse(TestoLingua(Context(), "0050040"));
   if (PuoImportare(editor_)) ImportaPlaylist(editor_, reader_, list.Value());
   return Outcome::Done;
 }
 
 Outcome PlaylistSession::New(const Words& words) {
   if (!editor_.Disposizione().NomiDaHead) return Refuse("this project has no named lists");
-  for (std::size_t i = 1; i < words.size(); ++i) {
+  const bool taken = CercaPlaylistPerNome(editor_, words[1]) > 0;
+  const std::size_t typed = taken ? words.size() : 2;
+  for (std::size_t i = 1; i < typed; ++i) {
     const std::string why = DifettoNomePlaylist(Context(), words[i]);
     if (!why.empty()) return Refuse(words[i] + ": " + why);
   }
@@ -249,8 +253,7 @@ Outcome PlaylistSession::Delete(const Words& /*words*/) {
 }
 
 Outcome PlaylistSession::Report(const Words& /*words*/) {
-  ScriviReport(editor_);
-  return Outcome::Done;
+  return ScriviReport(editor_) ? Outcome::Done : Refuse("there is no track to report");
 }
 
 Outcome PlaylistSession::Save(const Words& /*words*/) {
@@ -260,7 +263,8 @@ Outcome PlaylistSession::Save(const Words& /*words*/) {
   SalvaPlaylist(editor_, progress);
   session_.Events().Watch(nullptr);
   session_.Line().Clear();
-  return session_.Copy().TakeFailure() ? Outcome::Failed : Outcome::Saved;
+  const bool cancelled = Context().Stato.AnnullatoDaUtente;
+  return session_.Copy().TakeFailure() || cancelled ? Outcome::Failed : Outcome::Saved;
 }
 
 }  // namespace
