@@ -8,20 +8,16 @@
 namespace kvr5 {
 namespace {
 
-bool Record(EditorPlaylist& editor, Error error) {
-  return editor.C().Errore.Record(std::move(error));
-}
-
 /// The row of a file, at the end of the current playlist.
 void AddRow(EditorPlaylist& editor, const std::string& folder, const std::string& name) {
   auto& rows = editor.rsList();
   const std::int64_t pos = ProssimaPosizione(editor);
-  Record(editor, rows.AddNew());
-  Record(editor, rows.Set("FileName", name));
-  Record(editor, rows.Set("FilePath", folder));
-  Record(editor, rows.Set("Pos", pos));
-  Record(editor, rows.Set("NPlaylist", std::int64_t{editor.PlaylistCorrente()}));
-  Record(editor, rows.Update());
+  editor.Record(rows.AddNew());
+  editor.Record(rows.Set("FileName", name));
+  editor.Record(rows.Set("FilePath", folder));
+  editor.Record(rows.Set("Pos", pos));
+  editor.Record(rows.Set("NPlaylist", std::int64_t{editor.PlaylistCorrente()}));
+  editor.Record(rows.Update());
 }
 
 /// A notice of frmSiNo with its only button.
@@ -37,9 +33,9 @@ void Notice(Contesto& context, const char* caption, const char* message) {
 std::int32_t ProssimaPosizione(EditorPlaylist& editor) {
   Recordset rows;
   const bool counted =
-      Record(editor, rows.Open(editor.ConnessionePlaylist(),
-                               "SELECT COUNT(Pos) as UltimaPos FROM [List] WHERE [NPlaylist]=" +
-                                   std::to_string(editor.PlaylistCorrente())));
+      editor.Record(rows.Open(editor.ConnessionePlaylist(),
+                              "SELECT COUNT(Pos) as UltimaPos FROM [List] WHERE [NPlaylist]=" +
+                                  std::to_string(editor.PlaylistCorrente())));
   return counted ? static_cast<std::int32_t>(rows.Number("UltimaPos")) + 1 : 1;
 }
 
@@ -56,8 +52,8 @@ EsitoAggiunta AggiungiFile(EditorPlaylist& editor, const std::string& cartella,
     return EsitoAggiunta::Piena;
   }
   AddRow(editor, AggiungiBarra(cartella), nome);
-  Record(editor, editor.rsList().Requery());
-  Record(editor, editor.rsList().MoveLast());
+  editor.Record(editor.rsList().Requery());
+  editor.Record(editor.rsList().MoveLast());
   if (!context.Errore) return EsitoAggiunta::Aggiunto;
   const Error& error = context.Errore.Last();
   ScriviLog(context, "frmPlaylistEditor/Routine cmdAggiungiFile: err n°" +
@@ -70,7 +66,7 @@ void AggiungiSeBuono(EditorPlaylist& editor, modMp3Infos& lettore, const FileDaA
   const InfoMp3 info = lettore.LeggiInfoMp3(AggiungiBarra(file.Cartella) + file.FileName);
   if (!BuonoInMassa(info, lettore.Errori())) return;
   AddRow(editor, file.FilePath, file.FileName);
-  Record(editor, editor.rsList().MoveLast());
+  editor.Record(editor.rsList().MoveLast());
 }
 
 bool AggiungiTuttiFiles(EditorPlaylist& editor, modMp3Infos& lettore, const std::string& cartella,
@@ -90,7 +86,7 @@ bool AggiungiTuttiFiles(EditorPlaylist& editor, modMp3Infos& lettore, const std:
     }
     if (full) DiciPienaInMassa(editor);
     editor.AggiornaGrigliaPlaylist();
-    if (full) Record(editor, editor.rsList().MoveLast());
+    if (full) editor.Record(editor.rsList().MoveLast());
   }
   return !full;
 }

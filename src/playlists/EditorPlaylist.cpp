@@ -79,9 +79,9 @@ void EditorPlaylist::SpuntaIngresso(int numero, bool spuntato) {
 
 void EditorPlaylist::AggiornaGrigliaPlaylist() {
   righe_.Close();
-  contesto_.Errore.Record(righe_.Open(
-      ConnessionePlaylist(), "SELECT * FROM [List] WHERE [NPlaylist]=" +
-                                 std::to_string(playlistCorrente_) + " ORDER BY [Pos] ASC"));
+  Record(righe_.Open(ConnessionePlaylist(),
+                     "SELECT * FROM [List] WHERE [NPlaylist]=" + std::to_string(playlistCorrente_) +
+                         " ORDER BY [Pos] ASC"));
   if (SuGriglia) SuGriglia();
   Attesa(false);
   AggiornaContatoreFile();
@@ -102,7 +102,7 @@ EditorPlaylist::Corsa::Corsa(EditorPlaylist& editor) : editor_(editor) {
 }
 
 EditorPlaylist::Corsa::~Corsa() {
-  if (tutto_) editor_.contesto_.Errore.Record(tutto_->End());
+  if (tutto_) editor_.Record(tutto_->End());
   tutto_.reset();
   if (--editor_.corse_ > 0) return;
   for (const auto& each : std::exchange(editor_.rimandate_, {})) each();

@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/Contesto.h"
@@ -35,6 +36,8 @@ class EditorPlaylist {
   void Chiudi();
 
   Contesto& C() { return contesto_; }
+  /// Keeps a failure as the pending error; false for one.
+  bool Record(Error errore) { return contesto_.Errore.Record(std::move(errore)); }
   CopiaDiLavoro& Copia() { return *copia_; }
   Connection& ConnessionePlaylist() { return copia_->Connessione(); }
   /// The rows of the current playlist; during a save, those of all.

@@ -11,12 +11,8 @@ namespace {
 
 constexpr const char* kNames = "SELECT DISTINCT [Descript],[NScheduler] FROM [HEAD]";
 
-void Record(EditorPlaylist& editor, Error error) {
-  editor.C().Errore.Record(std::move(error));
-}
-
 bool Open(EditorPlaylist& editor, Recordset& rows, const std::string& statement) {
-  return editor.C().Errore.Record(rows.Open(editor.ConnessionePlaylist(), statement));
+  return editor.Record(rows.Open(editor.ConnessionePlaylist(), statement));
 }
 
 /// Shows the dialog for a name; what it gave.
@@ -42,11 +38,11 @@ void CaricaNomiPlaylist(EditorPlaylist& editor) {
   std::vector<VocePlaylist> entries;
   Recordset rows;
   if (Open(editor, rows, std::string(kNames) + " ORDER BY [Descript] ASC")) {
-    Record(editor, WalkRows(rows, [&] {
-             entries.push_back(
-                 {rows.Text("Descript"), static_cast<std::int32_t>(rows.Number("NScheduler"))});
-             return true;
-           }));
+    editor.Record(WalkRows(rows, [&] {
+      entries.push_back(
+          {rows.Text("Descript"), static_cast<std::int32_t>(rows.Number("NScheduler"))});
+      return true;
+    }));
     rows.Close();
   }
   editor.CambiaVoci(std::move(entries));
@@ -72,17 +68,17 @@ std::int32_t ProssimoNScheduler(EditorPlaylist& editor) {
 void AggiungiTestata(EditorPlaylist& editor, const std::string& nome, std::int32_t numero) {
   Recordset rows;
   if (!Open(editor, rows, "SELECT TOP 1 * FROM [HEAD]")) return;
-  Record(editor, rows.AddNew());
-  Record(editor, rows.Set("Descript", nome));
-  Record(editor, rows.Set("NScheduler", std::int64_t{numero}));
-  Record(editor, rows.Update());
+  editor.Record(rows.AddNew());
+  editor.Record(rows.Set("Descript", nome));
+  editor.Record(rows.Set("NScheduler", std::int64_t{numero}));
+  editor.Record(rows.Update());
 }
 
 void EliminaPlaylist(EditorPlaylist& editor, std::int32_t numero) {
   auto& connection = editor.ConnessionePlaylist();
   const std::string number = std::to_string(numero);
-  Record(editor, connection.Execute("DELETE * FROM [List] WHERE [NPlaylist]=" + number));
-  Record(editor, connection.Execute("DELETE * FROM [HEAD] WHERE [NScheduler]=" + number));
+  editor.Record(connection.Execute("DELETE * FROM [List] WHERE [NPlaylist]=" + number));
+  editor.Record(connection.Execute("DELETE * FROM [HEAD] WHERE [NScheduler]=" + number));
 }
 
 int ContaPlaylist(EditorPlaylist& editor) {

@@ -13,10 +13,6 @@
 namespace kvr5 {
 namespace {
 
-bool Record(EditorPlaylist& editor, Error error) {
-  return editor.C().Errore.Record(std::move(error));
-}
-
 /// Whether rsList stands on a row, be it one that has gone meanwhile.
 bool OnARow(Recordset& rows) {
   return rows.IsOpen() && rows.RecordCount() > 0 && !rows.Bof() && !rows.Eof();
@@ -29,15 +25,14 @@ void Swap(EditorPlaylist& editor, Error (Recordset::*step)()) {
   const OwnError own(editor.C().Errore);
   const std::int64_t id = rows.Number("ID");
   const std::int64_t pos = rows.Number("Pos");
-  if (!Record(editor, (rows.*step)())) return;
+  if (!editor.Record((rows.*step)())) return;
   const std::int64_t other = rows.Number("Pos");
-  Record(editor, rows.Set("Pos", pos));
-  Record(editor, rows.Update());
-  Record(editor,
-         editor.ConnessionePlaylist().Execute("UPDATE [List] SET [Pos]=" + std::to_string(other) +
-                                              " WHERE ID=" + std::to_string(id)));
-  Record(editor, rows.Requery());
-  Record(editor, rows.Find("ID=" + std::to_string(id)));
+  editor.Record(rows.Set("Pos", pos));
+  editor.Record(rows.Update());
+  editor.Record(editor.ConnessionePlaylist().Execute(
+      "UPDATE [List] SET [Pos]=" + std::to_string(other) + " WHERE ID=" + std::to_string(id)));
+  editor.Record(rows.Requery());
+  editor.Record(rows.Find("ID=" + std::to_string(id)));
 }
 
 /// The numbers 1 to `count` in random order, from index 1 on: a number that was drawn before is
@@ -59,29 +54,29 @@ std::vector<std::int32_t> Order(std::int32_t count, const Caso& random) {
 
 void RiordinaPosizione(EditorPlaylist& editor) {
   Recordset rows;
-  if (!Record(editor, rows.Open(editor.ConnessionePlaylist(),
-                                "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC"))) {
+  if (!editor.Record(rows.Open(editor.ConnessionePlaylist(),
+                               "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC"))) {
     return;
   }
   const Transaction all(editor.ConnessionePlaylist());
   std::int64_t current = rows.Number("NPlaylist");
   std::int64_t counter = 0;
-  Record(editor, WalkRows(rows, [&] {
-           const std::int64_t number = rows.Number("NPlaylist");
-           counter = number == current ? counter + 1 : 1;
-           current = number;
-           if (rows.Number("Pos", -1) != counter) {
-             Record(editor, rows.Set("Pos", counter));
-             Record(editor, rows.Update());
-           }
-           return true;
-         }));
+  editor.Record(WalkRows(rows, [&] {
+    const std::int64_t number = rows.Number("NPlaylist");
+    counter = number == current ? counter + 1 : 1;
+    current = number;
+    if (rows.Number("Pos", -1) != counter) {
+      editor.Record(rows.Set("Pos", counter));
+      editor.Record(rows.Update());
+    }
+    return true;
+  }));
 }
 
 void RimuoviFile(EditorPlaylist& editor) {
   if (!OnARow(editor.rsList())) return;
   const OwnError own(editor.C().Errore);
-  Record(editor, editor.rsList().Delete());
+  editor.Record(editor.rsList().Delete());
   RiordinaPosizione(editor);
   editor.AggiornaGrigliaPlaylist();
 }
@@ -92,9 +87,9 @@ void RimuoviTuttiFile(EditorPlaylist& editor) {
   const OwnError own(context.Errore);
   const BoxSiNo question{TestoLingua(context, "0050024"), TestoLingua(context, "0050025"), {}, {}};
   if (context.Finestre.MostraSiNo(question) != 1) return;
-  Record(editor, editor.ConnessionePlaylist().Execute("DELETE * FROM [List] WHERE [NPlaylist]=" +
-                                                      std::to_string(editor.PlaylistCorrente())));
-  Record(editor, editor.rsList().Requery());
+  editor.Record(editor.ConnessionePlaylist().Execute("DELETE * FROM [List] WHERE [NPlaylist]=" +
+                                                     std::to_string(editor.PlaylistCorrente())));
+  editor.Record(editor.rsList().Requery());
   if (editor.SuGriglia) editor.SuGriglia();
   editor.AggiornaContatoreFile();
 }
@@ -134,15 +129,15 @@ void Random(EditorPlaylist& editor, const Caso& caso) {
     if (count <= std::numeric_limits<std::int16_t>::max()) {
       const auto order = Order(count, caso);
       std::size_t i = 0;
-      Record(editor, WalkRows(rows, [&] {
-               if (++i >= order.size()) return false;  // rows have joined meanwhile
-               Record(editor, rows.Set("Pos", std::int64_t{order.at(i)}));
-               Record(editor, rows.Update());
-               editor.C().Messaggi.LasciaCorrere();
-               return true;
-             }));
+      editor.Record(WalkRows(rows, [&] {
+        if (++i >= order.size()) return false;  // rows have joined meanwhile
+        editor.Record(rows.Set("Pos", std::int64_t{order.at(i)}));
+        editor.Record(rows.Update());
+        editor.C().Messaggi.LasciaCorrere();
+        return true;
+      }));
     }
-    Record(editor, rows.Requery());
+    editor.Record(rows.Requery());
     if (editor.SuGriglia) editor.SuGriglia();
     editor.Attesa(false);
   }

@@ -22,6 +22,8 @@ namespace {
 
 using Words = std::vector<std::string>;
 
+constexpr std::uint32_t kHighest = 2147483647;  // of a number in a command
+
 Json Value(const Recordset& rows, const char* column) {
   const auto value = rows.Get(column);
   if (!value || std::holds_alternative<std::monostate>(value.Value())) return nullptr;
@@ -104,7 +106,6 @@ bool PlaylistSession::GoTo(std::uint32_t pos) {
 
 template <typename Work>
 Outcome PlaylistSession::WithRow(const std::string& word, Work work) {
-  constexpr std::uint32_t kHighest = 2147483647;
   const auto pos = NumberOf(word, kHighest);
   if (!pos) return Outcome::Unknown;
   if (!GoTo(*pos)) return Refuse("the list has no track with this number");
@@ -112,7 +113,6 @@ Outcome PlaylistSession::WithRow(const std::string& word, Work work) {
 }
 
 Outcome PlaylistSession::Select(const Words& words) {
-  constexpr std::uint32_t kHighest = 2147483647;
   const auto entry = NumberOf(words[1], kHighest);
   if (!entry) return Outcome::Unknown;
   if (!editor_.Disposizione().picfraSelezionePlaylist) {
@@ -215,7 +215,6 @@ Outcome PlaylistSession::Shuffle(const Words& words) {
     Random(editor_, CasoDallOrologio());
     return Outcome::Done;
   }
-  constexpr std::uint32_t kHighest = 2147483647;
   const auto seed = NumberOf(words[1], kHighest);
   if (!seed) return Outcome::Unknown;
   Random(editor_, CasoDaSeme(*seed));
