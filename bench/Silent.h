@@ -44,6 +44,10 @@ class Silent : public Dialoghi,
                               const std::string& /*inizio*/) override {
     return {};
   }
+  std::string ScegliFile(const std::string& /*titolo*/, const FiltroFile& /*filtro*/,
+                         const std::string& /*inizio*/) override {
+    return {};
+  }
   void LasciaCorrere() override {}
   void ImpostaPuntatore(Puntatore /*puntatore*/) override {}
   bool Progress(const CopyState& /*state*/) override { return true; }

@@ -82,8 +82,9 @@ void Programma::Mostra(Schermata schermata) {
       return elenco_->Mostra();
     case Schermata::Configurazione:
       return hub_->Mostra();
-    case Schermata::Nessuna:
     case Schermata::EditorPlaylist:
+      return editorPlaylist_->Mostra();
+    case Schermata::Nessuna:
     case Schermata::Palinsesto:
       return;
   }
@@ -97,6 +98,12 @@ void Programma::MostraElencoProgetti(Schermata chiamante) {
 void Programma::ApriConfigurazione(std::int16_t apreDaFlash) {
   hub_->ApreDaFlash = apreDaFlash;
   hub_->Mostra();
+}
+
+void Programma::ApriPlaylist(Schermata chiamante) {
+  if (editorPlaylist_.Caricata()) return;  // its load lets events run
+  editorPlaylist_->FormSuccessivo = chiamante;
+  editorPlaylist_->Mostra();
 }
 
 void Programma::ScegliScheda(Schermata chiamante) {

@@ -24,6 +24,7 @@
 #include "playerconfig/screens/frmPanelExtra.h"
 #include "playerconfig/screens/frmPlayerConfig.h"
 #include "playerconfig/screens/frmTempiFade.h"
+#include "playlists/screens/frmPlaylistEditor.h"
 #include "projects/screens/frmCaricaProgetto.h"
 #include "projects/screens/frmRichiestaNomeForm.h"
 #include "projects/screens/frmWizardPanel1.h"
@@ -49,6 +50,7 @@ class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
   void Mostra(Schermata schermata) override;
   void MostraElencoProgetti(Schermata chiamante) override;
   void ApriConfigurazione(std::int16_t apreDaFlash) override;
+  void ApriPlaylist(Schermata chiamante) override;
   void ScegliScheda(Schermata chiamante) override;
   void AggiornaPercorsoMemoryCard() override;
   void ApriTempiFade() override;
@@ -93,6 +95,8 @@ class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
   FormPredefinita<frmWizardPanel1> wizard_{[this] { return new frmWizardPanel1(ambiente_); }};
   FormPredefinita<frmCaricaProgetto> elenco_{[this] { return new frmCaricaProgetto(ambiente_); }};
   FormPredefinita<frmPlayerConfig> hub_{[this] { return new frmPlayerConfig(ambiente_, *this); }};
+  FormPredefinita<frmPlaylistEditor> editorPlaylist_{
+      [this] { return new frmPlaylistEditor(ambiente_, progresso_); }};
   FormPredefinita<frmTempiFade> tempiFade_{[this] { return new frmTempiFade(ambiente_); }};
   FormPredefinita<frmPanelExtra> panelExtra_{[this] { return new frmPanelExtra(ambiente_); }};
   FormPredefinita<frmConfig485> config485_{[this] { return new frmConfig485(ambiente_); }};

@@ -39,9 +39,13 @@ class TerminalDialogs : public Dialoghi {
 
   Risposta MostraMessaggio(const Messaggio& messaggio) override;
   std::uint8_t MostraSiNo(const BoxSiNo& box) override;
-  /// Folders are arguments here: nothing is chosen.
+  /// Folders and files are arguments here: nothing is chosen.
   std::string SfogliaCartella(const std::string& /*titolo*/,
                               const std::string& /*inizio*/) override {
+    return {};
+  }
+  std::string ScegliFile(const std::string& /*titolo*/, const FiltroFile& /*filtro*/,
+                         const std::string& /*inizio*/) override {
     return {};
   }
 

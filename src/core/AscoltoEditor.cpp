@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "core/Aiuti.h"
+#include "core/Domanda.h"
 #include "core/Lingua.h"
 #include "core/ParoleCopia.h"
 
@@ -94,7 +95,7 @@ void AscoltoEditor::DiciMancante(const std::string& path) {
               TestoLingua(contesto_, "9011017") + "\r\n" + PercorsoPerPersone(contesto_, path),
               TestoLingua(contesto_, "0140022"),
               {}};
-  contesto_.Finestre.MostraSiNo(box);
+  ChiediSiNo(contesto_, box);
 }
 
 }  // namespace kvr5

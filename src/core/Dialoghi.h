@@ -31,6 +31,12 @@ struct BoxSiNo {
   std::optional<std::uint32_t> ColoreNota;  ///< blue-green-red value, such as 33023 (orange)
 };
 
+/// A kind of files in a file chooser.
+struct FiltroFile {
+  std::string Testo;    ///< "File TXT,M3U (*.txt,*.m3u)"
+  std::string Modelli;  ///< "*.txt;*.m3u"
+};
+
 /// How the logic speaks with the user in the middle of a routine. The screens show windows, the
 /// command line prints and asks on the terminal, tests answer from a script.
 class Dialoghi {
@@ -42,6 +48,9 @@ class Dialoghi {
   /// Lets the user choose a folder, starting in `inizio` (system form, may be "" or gone). The
   /// folder in the system's form; "" when nothing was chosen.
   virtual std::string SfogliaCartella(const std::string& titolo, const std::string& inizio) = 0;
+  /// Lets the user choose a file that exists, the same way; "" when none was chosen.
+  virtual std::string ScegliFile(const std::string& titolo, const FiltroFile& filtro,
+                                 const std::string& inizio) = 0;
 };
 
 }  // namespace kvr5

@@ -53,8 +53,16 @@ Messaggio BoxGuastoCopia(Contesto& contesto, const CopyFailure& guasto) {
 }
 
 std::string PercorsoPerPersone(const Contesto& contesto, std::string_view percorso) {
-  std::string host = contesto.Files.HostPath(percorso);
-  return host.empty() ? std::string(percorso) : host;
+  const FileSystem& files = contesto.Files;
+  constexpr std::string_view kRoot = "C:\\";
+  const bool relative = percorso.find(':') == std::string_view::npos &&
+                        !percorso.starts_with('\\') &&
+                        percorso.find('\\') != std::string_view::npos;
+  std::string host =
+      files.HostPath((relative ? std::string(kRoot) : std::string()).append(percorso));
+  if (host.empty()) return std::string(percorso);
+  if (relative) host.erase(0, files.HostPath(kRoot).size());
+  return host;
 }
 
 }  // namespace kvr5

@@ -1,5 +1,7 @@
 #include "mp3/ParoleRifiuto.h"
 
+#include <algorithm>
+
 #include "core/Lingua.h"
 #include "core/Parole.h"
 #include "mp3/TabelleMp3.h"
@@ -46,6 +48,18 @@ std::string ParoleRifiuto(Contesto& contesto, RifiutoMp3 motivo, const InfoMp3& 
                           "choose it again.");
   }
   return {};
+}
+
+std::string ParoleRifiutoDelFile(Contesto& contesto, const modMp3Infos& lettore, bool manca,
+                                 RifiutoMp3 motivo, const InfoMp3& info) {
+  const bool unread = std::ranges::any_of(lettore.Errori(), [](const ErroreMp3& each) {
+    return each.Luogo.ends_with(".Open") || each.Luogo.ends_with(".Get");
+  });
+  if (manca || (unread && !info.Valid)) {
+    return TestoLinguaO(contesto, "0130258",
+                        "This file isn't there any more, or it can't be read.");
+  }
+  return ParoleRifiuto(contesto, motivo, info);
 }
 
 }  // namespace kvr5

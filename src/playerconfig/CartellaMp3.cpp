@@ -39,8 +39,13 @@ std::optional<std::string> ScegliCartella(Contesto& contesto, std::string_view s
   if (Rifila(scelta).empty()) return {};
   std::string folder = InSystemForm(contesto, scelta);
   if (!FolderExists(contesto.Files, folder)) return {};
-  ScriviParametroIni(contesto, FileImpostazioni(contesto), "Path", "LastMp3Dir", folder);
+  TieniCartella(contesto, folder);
   return folder;
+}
+
+void TieniCartella(Contesto& contesto, std::string_view cartella) {
+  ScriviParametroIni(contesto, FileImpostazioni(contesto), "Path", "LastMp3Dir",
+                     std::string(cartella));
 }
 
 }  // namespace kvr5

@@ -21,4 +21,7 @@ std::string CartellaIniziale(Contesto& contesto, std::int16_t apreDaFlash);
 /// pending error.
 std::optional<std::string> ScegliCartella(Contesto& contesto, std::string_view scelta);
 
+/// Keeps a folder (system form) as LastMp3Dir.
+void TieniCartella(Contesto& contesto, std::string_view cartella);
+
 }  // namespace kvr5

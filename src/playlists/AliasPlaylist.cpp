@@ -40,7 +40,7 @@ void AssegnaAlias(EditorPlaylist& editor) {
     errors.Record(connection.Execute("UPDATE [List] SET [Alias]=[FileName]"));
     return;
   }
-  const EditorPlaylist::Corsa run(editor);
+  const Transaction all(connection);
   errors.Record(connection.Execute("UPDATE [List] SET [Alias]=Null"));
   errors.Record(WalkRows(editor.rsList(), [&] {
     if (IsNull(editor.rsList(), "Alias")) NameFile(editor);

@@ -1,6 +1,7 @@
 #include "playlists/BraniPlaylist.h"
 
 #include "core/Aiuti.h"
+#include "core/Domanda.h"
 #include "core/Lingua.h"
 #include "core/Registro.h"
 #include "mp3/Accettazione.h"
@@ -17,15 +18,15 @@ void AddRow(EditorPlaylist& editor, const std::string& folder, const std::string
   editor.Record(rows.Set("FilePath", folder));
   editor.Record(rows.Set("Pos", pos));
   editor.Record(rows.Set("NPlaylist", std::int64_t{editor.PlaylistCorrente()}));
-  editor.Record(rows.Update());
+  if (editor.Record(rows.Update())) editor.Modificato();
 }
 
 /// A notice of frmSiNo with its only button.
 void Notice(Contesto& context, const char* caption, const char* message) {
-  context.Finestre.MostraSiNo({TestoLingua(context, caption),
-                               TestoLingua(context, message),
-                               TestoLingua(context, "0050041"),
-                               {}});
+  ChiediSiNo(context, {TestoLingua(context, caption),
+                       TestoLingua(context, message),
+                       TestoLingua(context, "0050041"),
+                       {}});
 }
 
 }  // namespace
@@ -54,6 +55,7 @@ EsitoAggiunta AggiungiFile(EditorPlaylist& editor, const std::string& cartella,
   AddRow(editor, AggiungiBarra(cartella), nome);
   editor.Record(editor.rsList().Requery());
   editor.Record(editor.rsList().MoveLast());
+  editor.MostraGriglia();
   if (!context.Errore) return EsitoAggiunta::Aggiunto;
   const Error& error = context.Errore.Last();
   ScriviLog(context, "frmPlaylistEditor/Routine cmdAggiungiFile: err n°" +
@@ -77,18 +79,25 @@ bool AggiungiTuttiFiles(EditorPlaylist& editor, modMp3Infos& lettore, const std:
   bool full = false;
   editor.Attesa(true);
   {
-    const EditorPlaylist::Corsa run(editor);
+    Transaction all(editor.ConnessionePlaylist());
     for (const std::string& each : nomi) {
       full = editor.Piena();
       if (full) break;
       AggiungiSeBuono(editor, lettore, {folder, folder, each});
       editor.C().Messaggi.LasciaCorrere();
     }
-    if (full) DiciPienaInMassa(editor);
-    editor.AggiornaGrigliaPlaylist();
-    if (full) editor.Record(editor.rsList().MoveLast());
+    editor.Record(all.End());
   }
+  FineInMassa(editor, full);
   return !full;
+}
+
+void FineInMassa(EditorPlaylist& editor, bool piena) {
+  if (piena) DiciPienaInMassa(editor);
+  editor.AggiornaGrigliaPlaylist();
+  if (!piena) return;
+  editor.Record(editor.rsList().MoveLast());
+  editor.MostraGriglia();
 }
 
 void DiciPienaInMassa(EditorPlaylist& editor) {

@@ -40,6 +40,9 @@ struct FileDaAggiungere {
 };
 /// The step of such a run: analyses a file and adds it where the player takes it.
 void AggiungiSeBuono(EditorPlaylist& editor, modMp3Infos& lettore, const FileDaAggiungere& file);
+/// The end of such a run: the grid shows what has come; a playlist that is full is told, and its
+/// last track is the current one.
+void FineInMassa(EditorPlaylist& editor, bool piena);
 /// Tells that the playlist is full, with the two texts the other way round than AggiungiFile.
 void DiciPienaInMassa(EditorPlaylist& editor);
 
@@ -51,6 +54,11 @@ void RimuoviTuttiFile(EditorPlaylist& editor);
 /// Change places with the neighbour; the track stays the current row. Nothing at the end.
 void SpostaSu(EditorPlaylist& editor);
 void SpostaGiu(EditorPlaylist& editor);
+
+/// The same with several rows of the current playlist, given by their ID in the order of the grid:
+/// removed one after another, or each moved by one place, where those at the end stay there.
+void RimuoviRighe(EditorPlaylist& editor, const std::vector<std::int64_t>& id);
+void SpostaRighe(EditorPlaylist& editor, const std::vector<std::int64_t>& id, bool su);
 
 /// A source of uniform reals in [0, 1).
 using Caso = std::function<double()>;

@@ -9,7 +9,7 @@
 
 namespace kvr5 {
 
-EditorPlaylist::EditorPlaylist(Contesto& contesto) : contesto_(contesto) {}
+EditorPlaylist::EditorPlaylist(Contesto& contesto) : contesto_(contesto), chiusa_(contesto.Files) {}
 
 void EditorPlaylist::Carica() {
   const auto& state = contesto_.Stato;
@@ -77,14 +77,21 @@ void EditorPlaylist::SpuntaIngresso(int numero, bool spuntato) {
   if (disposizione_.picfraSelezionePlaylist) ImpostaIndice(sum);
 }
 
+std::string EditorPlaylist::IstruzioneGriglia() const {
+  return "SELECT * FROM [List] WHERE [NPlaylist]=" + std::to_string(playlistCorrente_) +
+         " ORDER BY [Pos] ASC";
+}
+
 void EditorPlaylist::AggiornaGrigliaPlaylist() {
   righe_.Close();
-  Record(righe_.Open(ConnessionePlaylist(),
-                     "SELECT * FROM [List] WHERE [NPlaylist]=" + std::to_string(playlistCorrente_) +
-                         " ORDER BY [Pos] ASC"));
-  if (SuGriglia) SuGriglia();
+  Record(righe_.Open(ConnessionePlaylist(), IstruzioneGriglia()));
+  MostraGriglia();
   Attesa(false);
   AggiornaContatoreFile();
+}
+
+void EditorPlaylist::MostraGriglia() {
+  if (SuGriglia) SuGriglia();
 }
 
 void EditorPlaylist::AggiornaContatoreFile() {
@@ -94,26 +101,6 @@ void EditorPlaylist::AggiornaContatoreFile() {
 
 void EditorPlaylist::Attesa(bool attende) {
   if (SuAttesa) SuAttesa(attende);
-}
-
-EditorPlaylist::Corsa::Corsa(EditorPlaylist& editor) : editor_(editor) {
-  ++editor_.corse_;
-  tutto_.emplace(editor_.ConnessionePlaylist());
-}
-
-EditorPlaylist::Corsa::~Corsa() {
-  if (tutto_) editor_.Record(tutto_->End());
-  tutto_.reset();
-  if (--editor_.corse_ > 0) return;
-  for (const auto& each : std::exchange(editor_.rimandate_, {})) each();
-}
-
-void EditorPlaylist::QuandoFermo(std::function<void()> azione) {
-  if (corse_ > 0) {
-    rimandate_.push_back(std::move(azione));
-  } else {
-    azione();
-  }
 }
 
 }  // namespace kvr5

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "core/Contesto.h"
+#include "core/TurniEditor.h"
 #include "platform/db/Recordset.h"
 #include "playlists/DisposizionePlaylist.h"
 #include "projects/CopiaDiLavoro.h"
@@ -33,13 +34,15 @@ class EditorPlaylist {
   /// first list.
   void Carica();
   /// Closes the rows and the connection and deletes the working copy: what wasn't saved is gone.
+  /// Harmless on a closed editor, as is every routine.
   void Chiudi();
 
   Contesto& C() { return contesto_; }
   /// Keeps a failure as the pending error; false for one.
   bool Record(Error errore) { return contesto_.Errore.Record(std::move(errore)); }
-  CopiaDiLavoro& Copia() { return *copia_; }
-  Connection& ConnessionePlaylist() { return copia_->Connessione(); }
+  /// The working copy; null while none is there.
+  CopiaDiLavoro* Copia() { return copia_ ? &*copia_ : nullptr; }
+  Connection& ConnessionePlaylist() { return copia_ ? copia_->Connessione() : chiusa_; }
   /// The rows of the current playlist; during a save, those of all.
   Recordset& rsList() { return righe_; }
   const DisposizionePlaylist& Disposizione() const { return disposizione_; }
@@ -68,9 +71,13 @@ class EditorPlaylist {
   /// A click on a box by the user, with its new state.
   void SpuntaIngresso(int numero, bool spuntato);
 
+  /// The query of the current playlist's rows.
+  std::string IstruzioneGriglia() const;
   /// Reads the rows of the current playlist; ends the wait display.
   void AggiornaGrigliaPlaylist();
   void AggiornaContatoreFile();
+  /// Has the grid show rsList afresh, and its current row.
+  void MostraGriglia();
   const std::string& lblPlaylistFiles() const { return contatore_; }
   /// Hides the grid behind the wait display, or shows it again.
   void Attesa(bool attende);
@@ -82,22 +89,12 @@ class EditorPlaylist {
   std::function<void()> SuSelettore;
   std::function<void(bool)> SuAttesa;
 
-  /// A run over many rows as one transaction. Events run between its rows, so that another may be
-  /// started within it, which joins it; what has to wait for the end of all is done then.
-  class Corsa {
-   public:
-    explicit Corsa(EditorPlaylist& editor);
-    ~Corsa();
-    Corsa(const Corsa&) = delete;
-    Corsa& operator=(const Corsa&) = delete;
+  /// How many changes were made since the load, as a person counts them.
+  int Modifiche() const { return modifiche_; }
+  void Modificato(int quante = 1) { modifiche_ += quante; }
 
-   private:
-    EditorPlaylist& editor_;
-    std::optional<Transaction> tutto_;
-  };
-  bool InCorsa() const { return corse_ > 0; }
-  /// Does it at once, or at the end of the runs under way.
-  void QuandoFermo(std::function<void()> azione);
+  /// Who may act on it, amid the events of its long routines.
+  TurniEditor Turni;
 
  private:
   /// The control with the focus, as far as a handler asks for it.
@@ -105,6 +102,7 @@ class EditorPlaylist {
   void ImpostaIndice(int indice, Attivo attivo);
 
   Contesto& contesto_;
+  Connection chiusa_;  ///< what there is without a working copy
   std::optional<CopiaDiLavoro> copia_;
   Recordset righe_;
   DisposizionePlaylist disposizione_;
@@ -115,8 +113,7 @@ class EditorPlaylist {
   std::string testoPlaylistFile1_;
   std::string testoPlaylistFile2_;
   std::string contatore_;
-  int corse_ = 0;
-  std::vector<std::function<void()>> rimandate_;
+  int modifiche_ = 0;
 };
 
 }  // namespace kvr5

@@ -30,7 +30,7 @@ class LineOfAList {
       if (!path) return {};
       line = path.Value();
     }
-    if (!HasDrive(line)) std::ranges::replace(line, '/', '\\');
+    std::ranges::replace(line, '/', '\\');
     const std::string full = Full(line);
     if (!FileExists(context_.Files, full)) return {};
     const std::string stored = EstraiCartella(line);
@@ -61,7 +61,10 @@ std::vector<RigaImportata> RigheDellaLista(Contesto& contesto, const std::string
   constexpr int kUtf8 = 65001;
   TextLines lines(*file.Value());
   std::string bytes;
-  for (bool first = true; lines.Next(bytes); first = false) {
+  constexpr int kBreath = 64;  // lines between two looks at the user
+  for (int count = 0; lines.Next(bytes); ++count) {
+    const bool first = count == 0;
+    if (count % kBreath == kBreath - 1) contesto.Messaggi.LasciaCorrere();
     if (first && bytes.starts_with(kMark)) {
       page = CodePage(kUtf8);
       bytes.erase(0, kMark.size());
@@ -87,17 +90,18 @@ void ImportaPlaylist(EditorPlaylist& editor, modMp3Infos& lettore, const std::st
   const auto rows = RigheDellaLista(context, lista);
   if (rows.empty()) return;
   editor.Attesa(true);
-  const EditorPlaylist::Corsa run(editor);
   bool full = false;
-  for (const RigaImportata& each : rows) {
-    full = editor.Piena();
-    if (full) break;
-    AggiungiSeBuono(editor, lettore, {each.Cartella, each.FilePath, each.FileName});
-    context.Messaggi.LasciaCorrere();
+  {
+    Transaction all(editor.ConnessionePlaylist());
+    for (const RigaImportata& each : rows) {
+      full = editor.Piena();
+      if (full) break;
+      AggiungiSeBuono(editor, lettore, {each.Cartella, each.FilePath, each.FileName});
+      context.Messaggi.LasciaCorrere();
+    }
+    editor.Record(all.End());
   }
-  if (full) DiciPienaInMassa(editor);
-  editor.AggiornaGrigliaPlaylist();
-  if (full) context.Errore.Record(editor.rsList().MoveLast());
+  FineInMassa(editor, full);
 }
 
 }  // namespace kvr5

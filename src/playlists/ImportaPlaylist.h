@@ -20,7 +20,8 @@ struct RigaImportata {
 /// Reads a text list of files, a path a line, in the ANSI code page or in UTF-8 with its mark.
 /// Blanks around a line and lines that begin with "#EXT" don't count; a line that names no file is
 /// dropped. A path of the host's form counts as the system's; one without a drive is looked for
-/// from the list's folder, its slashes read as backslashes. An unreadable list has none.
+/// from the list's folder; slashes are read as backslashes. An unreadable list has none. Events
+/// run between the lines.
 std::vector<RigaImportata> RigheDellaLista(Contesto& contesto, const std::string& lista);
 
 /// Whether an import may begin: a playlist is there, and it isn't full (told).

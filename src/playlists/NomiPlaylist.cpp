@@ -1,6 +1,9 @@
 #include "playlists/NomiPlaylist.h"
 
+#include <limits>
+
 #include "core/Aiuti.h"
+#include "core/Domanda.h"
 #include "core/Lingua.h"
 #include "core/Parole.h"
 #include "platform/CodePage.h"
@@ -62,7 +65,9 @@ std::int32_t CercaPlaylistPerNome(EditorPlaylist& editor, const std::string& nom
 std::int32_t ProssimoNScheduler(EditorPlaylist& editor) {
   Recordset rows;
   if (!Open(editor, rows, "SELECT MAX ([NScheduler]) AS ValoreMax FROM [HEAD]")) return 1;
-  return static_cast<std::int32_t>(rows.Number("ValoreMax")) + 1;
+  const std::int64_t next = rows.Number("ValoreMax") + 1;
+  // A sum that doesn't fit is dropped like one with a Null.
+  return next <= std::numeric_limits<std::int32_t>::max() ? static_cast<std::int32_t>(next) : 1;
 }
 
 void AggiungiTestata(EditorPlaylist& editor, const std::string& nome, std::int32_t numero) {
@@ -71,7 +76,7 @@ void AggiungiTestata(EditorPlaylist& editor, const std::string& nome, std::int32
   editor.Record(rows.AddNew());
   editor.Record(rows.Set("Descript", nome));
   editor.Record(rows.Set("NScheduler", std::int64_t{numero}));
-  editor.Record(rows.Update());
+  if (editor.Record(rows.Update())) editor.Modificato();
 }
 
 void EliminaPlaylist(EditorPlaylist& editor, std::int32_t numero) {
@@ -79,6 +84,7 @@ void EliminaPlaylist(EditorPlaylist& editor, std::int32_t numero) {
   const std::string number = std::to_string(numero);
   editor.Record(connection.Execute("DELETE * FROM [List] WHERE [NPlaylist]=" + number));
   editor.Record(connection.Execute("DELETE * FROM [HEAD] WHERE [NScheduler]=" + number));
+  editor.Modificato();
 }
 
 int ContaPlaylist(EditorPlaylist& editor) {
@@ -90,10 +96,10 @@ void AggiungiPlaylist(EditorPlaylist& editor, const std::function<void()>& chied
   auto& context = editor.C();
   std::string name = Ask(editor, chiedi);
   if (CercaPlaylistPerNome(editor, name) > 0) {
-    context.Finestre.MostraSiNo({TestoLingua(context, "0150001"),
-                                 TestoLingua(context, "0150007"),
-                                 TestoLingua(context, "0140022"),
-                                 {}});
+    ChiediSiNo(context, {TestoLingua(context, "0150001"),
+                         TestoLingua(context, "0150007"),
+                         TestoLingua(context, "0140022"),
+                         {}});
     name = Ask(editor, chiedi);
   }
   name = Rifila(name);
@@ -107,7 +113,7 @@ void RimuoviPlaylist(EditorPlaylist& editor) {
   auto& context = editor.C();
   if (editor.Voci().empty()) return;
   const std::string question = TestoLingua(context, "0050038") + " '" + editor.Testo() + "'?";
-  if (context.Finestre.MostraSiNo({TestoLingua(context, "0050037"), question, {}, {}}) != 1) return;
+  if (ChiediSiNo(context, {TestoLingua(context, "0050037"), question, {}, {}}) != 1) return;
   EliminaPlaylist(editor, editor.PlaylistCorrente());
   CaricaNomiPlaylist(editor);
   if (editor.Voci().empty()) editor.AggiornaGrigliaPlaylist();  // the rows of the last one

@@ -4,9 +4,11 @@
 #include <memory>
 #include <random>
 
+#include "core/Domanda.h"
 #include "core/Lingua.h"
 #include "platform/db/Walk.h"
 #include "playlists/BraniPlaylist.h"
+#include "playlists/RighePlaylist.h"
 
 // The tracks of a playlist removed and put in order.
 
@@ -31,8 +33,10 @@ void Swap(EditorPlaylist& editor, Error (Recordset::*step)()) {
   editor.Record(rows.Update());
   editor.Record(editor.ConnessionePlaylist().Execute(
       "UPDATE [List] SET [Pos]=" + std::to_string(other) + " WHERE ID=" + std::to_string(id)));
+  editor.Modificato();
   editor.Record(rows.Requery());
   editor.Record(rows.Find("ID=" + std::to_string(id)));
+  editor.MostraGriglia();
 }
 
 /// The numbers 1 to `count` in random order, from index 1 on: a number that was drawn before is
@@ -48,6 +52,21 @@ std::vector<std::int32_t> Order(std::int32_t count, const Caso& random) {
     --left;
   }
   return order;
+}
+
+/// Writes the numbers to the rows of the current playlist, by a cursor of its own: another list
+/// that is chosen amid the events keeps its order.
+void GiveOrder(EditorPlaylist& editor, const std::vector<std::int32_t>& order) {
+  Recordset rows;
+  if (!editor.Record(rows.Open(editor.ConnessionePlaylist(), editor.IstruzioneGriglia()))) return;
+  std::size_t i = 0;
+  editor.Record(WalkRows(rows, [&] {
+    if (++i >= order.size()) return false;
+    editor.Record(rows.Set("Pos", std::int64_t{order.at(i)}));
+    editor.Record(rows.Update());
+    editor.C().Messaggi.LasciaCorrere();
+    return true;
+  }));
 }
 
 }  // namespace
@@ -76,8 +95,19 @@ void RiordinaPosizione(EditorPlaylist& editor) {
 void RimuoviFile(EditorPlaylist& editor) {
   if (!OnARow(editor.rsList())) return;
   const OwnError own(editor.C().Errore);
-  editor.Record(editor.rsList().Delete());
+  if (editor.Record(editor.rsList().Delete())) editor.Modificato();
   RiordinaPosizione(editor);
+  editor.AggiornaGrigliaPlaylist();
+}
+
+void RimuoviRighe(EditorPlaylist& editor, const std::vector<std::int64_t>& id) {
+  const OwnError own(editor.C().Errore);
+  Transaction all(editor.ConnessionePlaylist());
+  for (const std::int64_t each : id) {
+    if (VaiAllaRiga(editor, each) && editor.Record(editor.rsList().Delete())) editor.Modificato();
+  }
+  RiordinaPosizione(editor);
+  editor.Record(all.End());
   editor.AggiornaGrigliaPlaylist();
 }
 
@@ -86,11 +116,12 @@ void RimuoviTuttiFile(EditorPlaylist& editor) {
   if (editor.Quanti() < 1) return;
   const OwnError own(context.Errore);
   const BoxSiNo question{TestoLingua(context, "0050024"), TestoLingua(context, "0050025"), {}, {}};
-  if (context.Finestre.MostraSiNo(question) != 1) return;
+  if (ChiediSiNo(context, question) != 1) return;
   editor.Record(editor.ConnessionePlaylist().Execute("DELETE * FROM [List] WHERE [NPlaylist]=" +
                                                      std::to_string(editor.PlaylistCorrente())));
+  editor.Modificato();
   editor.Record(editor.rsList().Requery());
-  if (editor.SuGriglia) editor.SuGriglia();
+  editor.MostraGriglia();
   editor.AggiornaContatoreFile();
 }
 
@@ -103,6 +134,25 @@ void SpostaGiu(EditorPlaylist& editor) {
   auto& rows = editor.rsList();
   const int at = rows.AbsolutePosition();
   if (at > 0 && at != rows.RecordCount()) Swap(editor, &Recordset::MoveNext);
+}
+
+void SpostaRighe(EditorPlaylist& editor, const std::vector<std::int64_t>& id, bool su) {
+  auto& rows = editor.rsList();
+  const OwnError own(editor.C().Errore);
+  Transaction all(editor.ConnessionePlaylist());
+  // The foremost first; behind one that can't go on, its neighbours stay too.
+  const std::vector<std::int64_t> order =
+      su ? id : std::vector<std::int64_t>(id.rbegin(), id.rend());
+  int limit = su ? 1 : rows.RecordCount();
+  for (const std::int64_t each : order) {
+    if (!VaiAllaRiga(editor, each)) continue;
+    if (rows.AbsolutePosition() == limit) {
+      limit += su ? 1 : -1;
+    } else {
+      su ? SpostaSu(editor) : SpostaGiu(editor);
+    }
+  }
+  editor.Record(all.End());
 }
 
 Caso CasoDallOrologio() {
@@ -121,26 +171,17 @@ Caso CasoDaSeme(std::uint32_t seme) {
 void Random(EditorPlaylist& editor, const Caso& caso) {
   const int count = editor.Quanti();
   if (count < 1) return;
-  auto& rows = editor.rsList();
   const OwnError own(editor.C().Errore);
   editor.Attesa(true);
   {
-    const EditorPlaylist::Corsa run(editor);
-    if (count <= std::numeric_limits<std::int16_t>::max()) {
-      const auto order = Order(count, caso);
-      std::size_t i = 0;
-      editor.Record(WalkRows(rows, [&] {
-        if (++i >= order.size()) return false;  // rows have joined meanwhile
-        editor.Record(rows.Set("Pos", std::int64_t{order.at(i)}));
-        editor.Record(rows.Update());
-        editor.C().Messaggi.LasciaCorrere();
-        return true;
-      }));
-    }
-    editor.Record(rows.Requery());
-    if (editor.SuGriglia) editor.SuGriglia();
-    editor.Attesa(false);
+    Transaction all(editor.ConnessionePlaylist());
+    if (count <= std::numeric_limits<std::int16_t>::max()) GiveOrder(editor, Order(count, caso));
+    editor.Record(all.End());
   }
+  editor.Modificato();
+  editor.Record(editor.rsList().Requery());
+  editor.MostraGriglia();
+  editor.Attesa(false);
 }
 
 }  // namespace kvr5

@@ -8,7 +8,12 @@
 namespace kvr5 {
 
 std::vector<FilePannello> FileDelPannello(const FileSystem& file, std::string_view cartella) {
-  const ElencoMp3 list = RiempiElencoMp3(file, cartella);
+  const auto entries = file.List(cartella);
+  return FileDelPannello(entries ? entries.Value() : std::vector<FileInfo>{});
+}
+
+std::vector<FilePannello> FileDelPannello(const std::vector<FileInfo>& voci) {
+  const ElencoMp3 list = RiempiElencoMp3(voci);
   std::vector<FilePannello> files;
   files.reserve(list.Voci.size());
   for (std::size_t i = 1; i < list.Voci.size(); ++i) {  // behind the blank
@@ -18,12 +23,16 @@ std::vector<FilePannello> FileDelPannello(const FileSystem& file, std::string_vi
   return files;
 }
 
-std::vector<std::string> NomiDelPannello(const FileSystem& file, std::string_view cartella) {
+std::vector<std::string> NomiDa(const std::vector<FilePannello>& file) {
   std::vector<std::string> names;
-  for (auto& each : FileDelPannello(file, cartella)) {
-    if (each.Difetto == NameFault::None) names.push_back(std::move(each.Nome));
+  for (const FilePannello& each : file) {
+    if (each.Difetto == NameFault::None) names.push_back(each.Nome);
   }
   return names;
+}
+
+std::vector<std::string> NomiDelPannello(const FileSystem& file, std::string_view cartella) {
+  return NomiDa(FileDelPannello(file, cartella));
 }
 
 }  // namespace kvr5

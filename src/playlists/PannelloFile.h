@@ -19,7 +19,12 @@ struct FilePannello {
 /// to case); no folders, none hidden. A folder that can't be read has none.
 std::vector<FilePannello> FileDelPannello(const FileSystem& file, std::string_view cartella);
 
-/// The names of those that can be taken: what adding a whole folder goes through.
+/// The same from the entries of a folder that were read already.
+std::vector<FilePannello> FileDelPannello(const std::vector<FileInfo>& voci);
+
+/// The names of those that can be taken.
+std::vector<std::string> NomiDa(const std::vector<FilePannello>& file);
+/// Those of a folder: what adding it goes through.
 std::vector<std::string> NomiDelPannello(const FileSystem& file, std::string_view cartella);
 
 }  // namespace kvr5

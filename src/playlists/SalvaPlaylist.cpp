@@ -2,6 +2,7 @@
 
 #include "core/Aiuti.h"
 #include "core/CopiaFileShell.h"
+#include "core/Domanda.h"
 #include "core/Lingua.h"
 #include "core/ListaCopia.h"
 #include "platform/FileOps.h"
@@ -71,8 +72,7 @@ class Saving {
         TestoLingua(context_, "0050020") + "\r\n" + TestoLingua(context_, "0050023"),
         {},
         {}};
-    context_.Stato.RispostaSiNo = 0;
-    context_.Stato.RispostaSiNo = context_.Finestre.MostraSiNo(question);
+    ChiediSiNo(context_, question);
   }
 
   void WriteTheOneSet() {
@@ -106,7 +106,9 @@ class Saving {
   }
 
   void WriteNumberedLists() {
-    context_.Errore.Record(DeleteMatching(context_.Files, Project() + "*.m3u"));
+    for (const FileInfo& each : ListMatching(context_.Files, Project() + "*.m3u")) {
+      context_.Errore.Record(context_.Files.Delete(Project() + each.Name));
+    }
     if (editor_.Quanti() > 0) Ask();
     Walk([this] {
       WriteTrackOfItsList();
@@ -155,7 +157,7 @@ class Saving {
   }
   void Commit() {
     editor_.rsList().Close();
-    editor_.Copia().Salva();
+    editor_.Copia()->Salva();
     progress_.Scarica();
   }
 
@@ -175,6 +177,7 @@ bool ScriviReport(EditorPlaylist& editor) {
 }
 
 void SalvaPlaylist(EditorPlaylist& editor, FinestraProgresso& progresso) {
+  if (editor.Copia() == nullptr) return;  // closed
   const OwnError own(editor.C().Errore);
   Saving(editor, progresso).Run();
 }

@@ -1,5 +1,7 @@
 #include "projects/CopiaDiLavoro.h"
 
+#include <utility>
+
 #include "core/CopiaFileShell.h"
 #include "platform/FileOps.h"
 #include "projects/CartellaProgetto.h"
@@ -19,7 +21,8 @@ CopiaDiLavoro::~CopiaDiLavoro() {
 
 void CopiaDiLavoro::Apri() {
   connessione_.Close();
-  EliminaCopia();
+  nostra_ = true;
+  Elimina(temporaneo_);
   if (!FileExists(contesto_.Files, vero_) || !Ripristina()) return;
   CopiaFileShell(contesto_, vero_, temporaneo_);
   contesto_.Errore.Record(connessione_.Open(temporaneo_));
@@ -28,16 +31,14 @@ void CopiaDiLavoro::Apri() {
 void CopiaDiLavoro::Salva() {
   connessione_.Close();
   if (!FileExists(contesto_.Files, temporaneo_) || !Ripristina()) return;
-  // In one step, and not by the copy of cards, which deletes a file to make room for its successor:
-  // the list is small, and nothing is worth the loss of the old one.
-  const Error error = CopyOneFile(contesto_.Files, temporaneo_, vero_);
-  if (error) contesto_.FinestraCopia.Failed({vero_, false, error});
-  contesto_.Messaggi.LasciaCorrere();
+  Elimina(vero_);
+  CopiaFileShell(contesto_, temporaneo_, vero_);
 }
 
 void CopiaDiLavoro::Lascia() {
   connessione_.Close();
-  EliminaCopia();
+  // Another editor may have made its own in the meantime.
+  if (std::exchange(nostra_, false)) Elimina(temporaneo_);
 }
 
 bool CopiaDiLavoro::Ripristina() {
@@ -48,9 +49,9 @@ bool CopiaDiLavoro::Ripristina() {
   return !error;
 }
 
-void CopiaDiLavoro::EliminaCopia() {
-  // The journal of a copy that a crash left must not be played back into the next one.
-  for (const std::string& file : {temporaneo_, temporaneo_ + "-journal"}) {
+void CopiaDiLavoro::Elimina(const std::string& database) {
+  // The journal that a crash left beside it must not be played back into the next one.
+  for (const std::string& file : {database, database + "-journal"}) {
     if (FileExists(contesto_.Files, file)) contesto_.Errore.Record(contesto_.Files.Delete(file));
   }
 }

@@ -25,22 +25,23 @@ class CopiaDiLavoro {
   void Apri();
   /// The connection on the copy; its recordsets are the editor's.
   Connection& Connessione() { return connessione_; }
-  /// Closes the connection and puts the copy in the real database's place. A copy that fails (a
-  /// full disk) leaves the real one as it was, and is told by the copy window. The connection stays
-  /// closed: the editor goes on to leave, or opens the copy again.
+  /// Closes the connection, deletes the real database and copies this one to its place. Where that
+  /// copy fails (a full disk; told by the copy window) the project is left without the database:
+  /// the old one has gone already. A copy that was never made leaves the real one alone.
   void Salva();
-  /// Closes the connection and deletes the copy.
+  /// Closes the connection and deletes the copy, once.
   void Lascia();
 
  private:
   /// Puts the real database back where its journal tells to; false where it can't be (told).
   bool Ripristina();
-  void EliminaCopia();
+  void Elimina(const std::string& database);
 
   Contesto& contesto_;
   std::string vero_;  ///< full paths
   std::string temporaneo_;
   Connection connessione_;
+  bool nostra_ = false;  ///< the copy in the folder is this one's
 };
 
 }  // namespace kvr5

@@ -173,7 +173,7 @@ TEST_F(SavedPlaylists, ACancelledCopyRepointsEveryTrackAllTheSame) {
   Track(1, 1, "a.mp3");
   Track(1, 2, "b.mp3");
   b.Copia.SuProgresso = [&](const CopyState& state) {
-    if (state.FileCount == 2) b.Copia.AnnullaAlla = b.Copia.Volte;
+    b.Copia.AnnullaAlla = state.FileCount == 2 ? b.Copia.Volte : 0;  // not the commit
   };
   Save(Risposta::Si);
   EXPECT_TRUE(b.C.Stato.AnnullatoDaUtente);

@@ -138,15 +138,37 @@ TEST_P(WorkingCopy, AJournalThatComesUpMeanwhileIsNotPlayedBackIntoWhatWasSaved)
   EXPECT_EQ(Rows(real), 0);
 }
 
-TEST_P(WorkingCopy, ASaveThatFailsLeavesTheRealOneAsItWas) {
+TEST_P(WorkingCopy, ASaveWhoseCopyFailsLeavesTheProjectWithoutTheRealOne) {
   CopiaDiLavoro copy(b.C, GetParam().Real, GetParam().Temp);
   copy.Apri();
   EXPECT_FALSE(copy.Connessione().Execute("DELETE * FROM [List]"));
   faults->FailWritesAfter(b.Percorso("program/Projects"), 100, errors::DiskFull);
   copy.Salva();
   faults->Repair();
-  EXPECT_EQ(b.Copia.Guasti.size(), 1U);
+  ASSERT_EQ(b.Copia.Guasti.size(), 1U);
+  EXPECT_EQ(b.Copia.Guasti[0].Cause.Number(), errors::DiskFull);
+  EXPECT_FALSE(b.Cartella.Exists(Real())) << "the old one had to go first";
+}
+
+TEST_P(WorkingCopy, ThatCouldNotBeMadeLeavesTheRealOneAlone) {
+  faults->FailWritesAfter(b.Percorso("program/Projects"), 100, errors::DiskFull);
+  CopiaDiLavoro copy(b.C, GetParam().Real, GetParam().Temp);
+  copy.Apri();
+  EXPECT_FALSE(copy.Connessione().IsOpen());
+  faults->Repair();
+  copy.Salva();
   EXPECT_TRUE(b.Cartella.Read(Real()) == before);
+}
+
+TEST_P(WorkingCopy, ThatWasLeftDoesNotTakeTheNextOneAlong) {
+  CopiaDiLavoro copy(b.C, GetParam().Real, GetParam().Temp);
+  copy.Apri();
+  copy.Lascia();
+  CopiaDiLavoro next(b.C, GetParam().Real, GetParam().Temp);
+  next.Apri();
+  copy.Lascia();
+  EXPECT_TRUE(b.Cartella.Exists(Temp()));
+  EXPECT_EQ(Rows(next.Connessione()), 1);
 }
 
 TEST_P(WorkingCopy, OfADatabaseThatIsMissingStaysClosed) {

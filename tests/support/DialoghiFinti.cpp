@@ -10,6 +10,7 @@ DialoghiFinti::~DialoghiFinti() {
   for (const auto& box : visti_) ADD_FAILURE() << "nobody looked at the box: " << box.Testo;
   EXPECT_TRUE(risposte_.empty()) << "answers were left over";
   EXPECT_TRUE(cartelle_.empty()) << "folders were left over";
+  EXPECT_TRUE(file_.empty()) << "files were left over";
 }
 
 Risposta DialoghiFinti::Risposta_(const std::string& titolo) {
@@ -43,13 +44,24 @@ std::uint8_t DialoghiFinti::MostraSiNo(const BoxSiNo& box) {
 }
 
 std::string DialoghiFinti::SfogliaCartella(const std::string& titolo, const std::string& inizio) {
+  return Scelto(cartelle_, titolo, inizio);
+}
+
+std::string DialoghiFinti::ScegliFile(const std::string& titolo, const FiltroFile& filtro,
+                                      const std::string& inizio) {
+  Filtri.push_back(filtro);
+  return Scelto(file_, titolo, inizio);
+}
+
+std::string DialoghiFinti::Scelto(std::deque<std::string>& risposte, const std::string& titolo,
+                                  const std::string& inizio) {
   Sfogliate.push_back({titolo, inizio});
-  if (cartelle_.empty()) {
+  if (risposte.empty()) {
     ADD_FAILURE() << "nobody expected the chooser: " << titolo;
     return {};
   }
-  std::string chosen = cartelle_.front();
-  cartelle_.pop_front();
+  std::string chosen = risposte.front();
+  risposte.pop_front();
   return chosen;
 }
 

@@ -37,11 +37,17 @@ class DialoghiFinti : public Dialoghi {
   Risposta MostraMessaggio(const Messaggio& messaggio) override;
   std::uint8_t MostraSiNo(const BoxSiNo& box) override;
   std::string SfogliaCartella(const std::string& titolo, const std::string& inizio) override;
+  std::string ScegliFile(const std::string& titolo, const FiltroFile& filtro,
+                         const std::string& inizio) override;
 
   /// The answer to the next question.
   void Rispondi(Risposta risposta) { risposte_.push_back(risposta); }
   /// The folder that the next chooser gives; "" is a cancel.
   void ScegliCartella(std::string cartella) { cartelle_.push_back(std::move(cartella)); }
+  /// The file that the next chooser of files gives; "" is a cancel.
+  void ScegliFile(std::string file) { file_.push_back(std::move(file)); }
+  /// The kinds of files that were offered so far.
+  std::vector<FiltroFile> Filtri;
   /// The choosers so far.
   std::vector<SfogliaVisto> Sfogliate;
   /// The first box that wasn't looked at yet; fails the test when there is none.
@@ -53,11 +59,14 @@ class DialoghiFinti : public Dialoghi {
 
  private:
   void Vedi(BoxVisto box);
+  std::string Scelto(std::deque<std::string>& risposte, const std::string& titolo,
+                     const std::string& inizio);
   Risposta Risposta_(const std::string& titolo);
 
   std::deque<BoxVisto> visti_;
   std::deque<Risposta> risposte_;
   std::deque<std::string> cartelle_;
+  std::deque<std::string> file_;
 };
 
 }  // namespace kvr5::test

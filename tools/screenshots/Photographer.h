@@ -36,6 +36,8 @@ class Photographer {
 void TakeHubs(Photographer& camera);
 /// The modal screens of parameters, in their forms and states.
 void TakeParameters(Photographer& camera);
+/// The editor of playlists, in its forms and states, and the dialog for a name.
+void TakePlaylists(Photographer& camera);
 /// The boxes and the windows that stand before others.
 void TakeBoxes(Photographer& camera);
 

@@ -89,6 +89,7 @@ int main(int argc, char** argv) {
   TakeSettings(camera);
   TakeHubs(camera);
   TakeParameters(camera);
+  TakePlaylists(camera);
   TakeList(camera, QStringLiteral("frmCaricaProgetto"));
   TakeBoxes(camera);
   return EXIT_SUCCESS;

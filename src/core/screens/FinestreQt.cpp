@@ -73,14 +73,28 @@ std::uint8_t FinestreQt::MostraSiNo(const BoxSiNo& box) {
 }
 
 std::string FinestreQt::SfogliaCartella(const std::string& titolo, const std::string& inizio) {
-  const PlainPointer pointer;
-  const FileSystem& files = ambiente_->C.Files;
-  const QString start = inizio.empty() ? QString() : Qs(files.HostPath(inizio));
+  const QString start = inizio.empty() ? QString() : Qs(ambiente_->C.Files.HostPath(inizio));
   QFileDialog box(nullptr, Qs(titolo), start);
-  box.resize(860, 540);  // its columns have room
   box.setFileMode(QFileDialog::Directory);
   box.setOption(QFileDialog::ShowDirsOnly);
-  box.setOption(QFileDialog::ReadOnly);  // a folder is chosen, none renamed or deleted
+  return Scegli(box);
+}
+
+std::string FinestreQt::ScegliFile(const std::string& titolo, const FiltroFile& filtro,
+                                   const std::string& inizio) {
+  const QString start = inizio.empty() ? QString() : Qs(ambiente_->C.Files.HostPath(inizio));
+  QString patterns = Qs(filtro.Modelli).replace(QLatin1Char(';'), QLatin1Char(' '));
+  const QString kind = Qs(filtro.Testo).section(QLatin1Char('('), 0, 0).trimmed();
+  QFileDialog box(nullptr, Qs(titolo), start,
+                  kind + QStringLiteral(" (") + patterns + QLatin1Char(')'));
+  box.setFileMode(QFileDialog::ExistingFile);
+  return Scegli(box);
+}
+
+std::string FinestreQt::Scegli(QFileDialog& box) {
+  const PlainPointer pointer;
+  box.resize(860, 540);                  // its columns have room
+  box.setOption(QFileDialog::ReadOnly);  // something is chosen, nothing renamed or deleted
   QByteArray columns;
   QTimer::singleShot(0, &box, [&] { columns = AllargaDate(box); });
   MettiDavanti(box, FinestraSotto());
@@ -88,7 +102,7 @@ std::string FinestreQt::SfogliaCartella(const std::string& titolo, const std::st
   // It keeps its columns for all programs of the user, which are to find them as they were.
   if (!columns.isEmpty()) ColonneDi(box)->restoreState(columns);
   if (!chosen || box.selectedFiles().isEmpty()) return {};
-  const auto path = files.SystemPath(Std(box.selectedFiles().first()));
+  const auto path = ambiente_->C.Files.SystemPath(Std(box.selectedFiles().first()));
   if (path) return path.Value();
   DiciCartellaInadatta();
   return {};

@@ -5,6 +5,8 @@
 #include "core/screens/FormPredefinita.h"
 #include "core/screens/frmSiNo.h"
 
+class QFileDialog;
+
 namespace kvr5 {
 
 /// The boxes and choosers of the logic as windows.
@@ -17,9 +19,14 @@ class FinestreQt : public Dialoghi {
   Risposta MostraMessaggio(const Messaggio& messaggio) override;
   std::uint8_t MostraSiNo(const BoxSiNo& box) override;
   std::string SfogliaCartella(const std::string& titolo, const std::string& inizio) override;
+  std::string ScegliFile(const std::string& titolo, const FiltroFile& filtro,
+                         const std::string& inizio) override;
 
  private:
-  /// A folder that no path of the system can name: the choice is told, not dropped in silence.
+  /// Runs a chooser; the path in the system's form, "" for none.
+  std::string Scegli(QFileDialog& box);
+  /// A folder or file that no path of the system can name: the choice is told, not dropped in
+  /// silence.
   void DiciCartellaInadatta();
 
   Ambiente* ambiente_ = nullptr;

@@ -73,6 +73,8 @@ class Form : public QWidget {
   /// Has Enter press `pulsante`, also with the focus on a box, an option or a closed list, unless
   /// the control there takes the key for itself as buttons, open lists and lines of text do.
   void SuInvio(QAbstractButton& pulsante) { suInvio_ = &pulsante; }
+  /// Whether it was asked to close and does so once its handlers are done.
+  bool ChiusuraAttesa() const { return rinviata_.has_value(); }
   /// Opens the help document, as F1 and picHelp do.
   void Aiuto();
 

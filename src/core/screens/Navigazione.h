@@ -18,6 +18,8 @@ class Navigazione {
   virtual void MostraElencoProgetti(Schermata chiamante) = 0;
   /// Shows frmPlayerConfig for the open project: 0 just made, 1 from the disk, 2 from a card.
   virtual void ApriConfigurazione(std::int16_t apreDaFlash) = 0;
+  /// Shows frmPlaylistEditor, which comes back to `chiamante`.
+  virtual void ApriPlaylist(Schermata chiamante) = 0;
   /// Shows frmSelectFlash modally for `chiamante`.
   virtual void ScegliScheda(Schermata chiamante) = 0;
   /// Has frmPlayerConfig show the chosen card anew.

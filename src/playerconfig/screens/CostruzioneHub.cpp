@@ -190,6 +190,7 @@ void frmPlayerConfig::Collega() {
 void frmPlayerConfig::CollegaComandi() {
   CollegaAscolto();
   connect(Barra->picSave, &QAbstractButton::clicked, this, [this] { Salva(); });
+  connect(Barra->picPlaylist, &QAbstractButton::clicked, this, [this] { ApriPlaylist(); });
   connect(Barra->picReport, &QAbstractButton::clicked, this, [this] { MostraReport(); });
   connect(Barra->picRecordFlash, &QAbstractButton::clicked, this, [this] { Registra(); });
   connect(Barra->picEsci, &QAbstractButton::clicked, this, [this] { Scarica(); });
@@ -221,8 +222,7 @@ void frmPlayerConfig::CollegaParametri() {
 
 void frmPlayerConfig::DisabilitaFuturi() {
   for (QWidget* control :
-       {static_cast<QWidget*>(Barra->picPlaylist), static_cast<QWidget*>(Barra->picPalinsesto),
-        static_cast<QWidget*>(Barra->picCancellaFlash),
+       {static_cast<QWidget*>(Barra->picPalinsesto), static_cast<QWidget*>(Barra->picCancellaFlash),
         static_cast<QWidget*>(Barra->picVerifica)}) {
     control->setEnabled(false);
     control->setToolTip(Qs(TestoLingua(C(), "0130244")));
@@ -245,7 +245,7 @@ void frmPlayerConfig::RiempiAltro() {
     later("0130151");
   }
   if (!layout_.picPlaylist && has("playlist.mdb")) {
-    later("0130152");
+    connect(menu.addAction(text("0130152")), &QAction::triggered, this, [this] { ApriPlaylist(); });
   }
   later("0130156");
   QAction* open = menu.addAction(text("0130157"));

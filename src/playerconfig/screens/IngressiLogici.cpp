@@ -3,7 +3,6 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QVBoxLayout>
 #include <QVariant>
 #include <utility>
@@ -15,9 +14,9 @@
 #include "core/screens/EtichettaElisa.h"
 #include "core/screens/LocalizzaForm.h"
 #include "core/screens/Pagina.h"
+#include "core/screens/PulsanteAscolto.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
-#include "playerconfig/screens/PulsanteAscolto.h"
 
 namespace kvr5 {
 namespace {
@@ -25,34 +24,7 @@ namespace {
 /// The colour of the terminal strip in both themes: the names on it have fixed colours.
 const QColor kStrip(0xE9, 0xED, 0xEF);
 
-QString Numbered(const char* name, int number) {
-  return QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(number);
-}
-
 }  // namespace
-
-Lampada::Lampada(int numero, QWidget* padre) : QWidget(padre) {
-  setObjectName(Numbered("shaIn", numero));
-  setFixedSize(18, 18);
-}
-
-void Lampada::Imposta(std::uint32_t coloreBgr, bool accesa) {
-  colore_ = DaBgr(coloreBgr);
-  accesa_ = accesa;
-  update();
-}
-
-void Lampada::paintEvent(QPaintEvent* /*event*/) {
-  QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(QColor(0x4F, 0x5D, 0x65), 1.5));
-  painter.setBrush(colore_);
-  painter.drawEllipse(QRectF(rect()).adjusted(2, 2, -2, -2));
-  if (!accesa_) return;
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(Qt::white);
-  painter.drawEllipse(QRectF(rect()).center(), 2.5, 2.5);
-}
 
 IngressiLogici::IngressiLogici(Contesto& contesto, QWidget* padre)
     : Riquadro("fraIngressiLogici", QStringLiteral("Logic Inputs tag"), 15, padre),
@@ -76,9 +48,9 @@ QWidget* IngressiLogici::CostruisciMorsettiera() {
     const int number = i + 1;
     shaIn[at] = new Lampada(number, strip);
     chkIn[at] = new QCheckBox(strip);
-    chkIn[at]->setObjectName(Numbered("chkIn", number));
+    chkIn[at]->setObjectName(NomeElemento("chkIn", number));
     lblIn[at] = NuovaEtichetta("", QStringLiteral("IN%1").arg(number), -1, strip);
-    lblIn[at]->setObjectName(Numbered("lblIn", number));
+    lblIn[at]->setObjectName(NomeElemento("lblIn", number));
     lblIn[at]->setBuddy(chkIn[at]);
     lblIn[at]->setFont(FontDi(Carattere::Suggerimento));
     shaIn[at]->installEventFilter(this);

@@ -6,24 +6,11 @@
 #include <functional>
 
 #include "core/screens/Coppia.h"
+#include "core/screens/Lampada.h"
 #include "core/screens/Riquadro.h"
 #include "playerconfig/CodiceScelto.h"
 
 namespace kvr5 {
-
-/// A lamp: outlined, red with a dot while its input is ticked.
-class Lampada : public QWidget {
- public:
-  Lampada(int numero, QWidget* padre);
-  void Imposta(std::uint32_t coloreBgr, bool accesa);
-
- protected:
-  void paintEvent(QPaintEvent* event) override;
-
- private:
-  QColor colore_ = Qt::white;
-  bool accesa_ = false;
-};
 
 /// fraIngressiLogici with fraFileAssociato: the eight inputs as boxes with lamps and names, and the
 /// file of the combination that is ticked. Inputs are counted from 1.

@@ -8,9 +8,9 @@
 
 #include "core/screens/Coppia.h"
 #include "core/screens/ElencoCartelle.h"
+#include "core/screens/PulsanteAscolto.h"
 #include "core/screens/Riquadro.h"
 #include "playerconfig/ElencoMp3.h"
-#include "playerconfig/screens/PulsanteAscolto.h"
 
 namespace kvr5 {
 

@@ -336,13 +336,8 @@ void frmPlayerConfig::MostraInfoMp3() {
 }
 
 std::string frmPlayerConfig::Motivo(const InfoMp3& info, bool manca) {
-  const bool unread = std::ranges::any_of(lettore_.Errori(), [](const ErroreMp3& each) {
-    return each.Luogo.ends_with(".Open") || each.Luogo.ends_with(".Get");
-  });
-  if (manca || (unread && !info.Valid)) {
-    return TestoLinguaO(C(), "0130258", "This file isn't there any more, or it can't be read.");
-  }
-  return ParoleRifiuto(C(), MotivoPerIngressi(info, lettore_.Ricerca()), info);
+  return ParoleRifiutoDelFile(C(), lettore_, manca, MotivoPerIngressi(info, lettore_.Ricerca()),
+                              info);
 }
 
 void frmPlayerConfig::ConfermaFile() {
@@ -457,6 +452,19 @@ void frmPlayerConfig::MostraReport() {
   Lavora([this] {
     MostraReportProgetto(C(), ambiente_.Documenti, {&ingressi_.Cursore(), layout_.fraAnalyzer});
   });
+}
+
+void frmPlayerConfig::ApriPlaylist() {
+  if (lavora_) return;
+  const Impegno stays(*this);
+  const OwnError own(C().Errore);
+  ascolto_.Stop();
+  conta_.stop();
+  conto_.Interrompi();  // the editor copies the database
+  const std::string stale = FileDelProgetto(C(), "tmpPlaylist.mdb");
+  if (FileExists(C().Files, stale)) C().Errore.Record(C().Files.Delete(stale));
+  ambiente_.Schermi.ApriPlaylist(Schermata::Configurazione);
+  Nascondi();
 }
 
 bool frmPlayerConfig::PuoChiudere(Causa /*causa*/) {

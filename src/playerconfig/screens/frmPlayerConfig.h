@@ -149,6 +149,8 @@ class frmPlayerConfig : public Form {
   void Registra();
   void Salva();
   void MostraReport();
+  /// Hands over to the editor of playlists.
+  void ApriPlaylist();
   /// Tells of what a screen of parameters couldn't write, which closes all the same.
   void AvvisaNonScritto();
   void AggiornaNonSalvato();

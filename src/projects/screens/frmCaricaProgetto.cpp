@@ -10,6 +10,7 @@
 #include "core/screens/Avvisi.h"
 #include "core/screens/LocalizzaForm.h"
 #include "core/screens/Pagina.h"
+#include "core/screens/Tabella.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
 #include "platform/FileOps.h"
@@ -80,17 +81,10 @@ void frmCaricaProgetto::CostruisciElenco() {
   lstProgetti = new TabellaProgetti(this);
   lstProgetti->setObjectName(QStringLiteral("lstProgetti"));
   lstProgetti->setModel(&lista_);
-  lstProgetti->setSelectionBehavior(QAbstractItemView::SelectRows);
   lstProgetti->setSelectionMode(QAbstractItemView::SingleSelection);
-  lstProgetti->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  lstProgetti->setShowGrid(false);
-  lstProgetti->setTabKeyNavigation(false);
-  lstProgetti->setWordWrap(false);
-  lstProgetti->verticalHeader()->hide();
   constexpr int kRow = 36;
-  lstProgetti->verticalHeader()->setDefaultSectionSize(kRow);
+  VestiTabella(*lstProgetti, kRow);
   auto* header = lstProgetti->horizontalHeader();
-  header->setHighlightSections(false);
   header->setSectionResizeMode(ListaProgetti::Nome, QHeaderView::Stretch);
   header->resizeSection(ListaProgetti::Player, 330);
   header->resizeSection(ListaProgetti::Modifica, 170);

@@ -1,4 +1,4 @@
-#include "playerconfig/screens/PulsanteAscolto.h"
+#include "core/screens/PulsanteAscolto.h"
 
 #include "core/Lingua.h"
 #include "core/Parole.h"

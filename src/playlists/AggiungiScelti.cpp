@@ -1,0 +1,72 @@
+#include "playlists/AggiungiScelti.h"
+
+#include "core/Aiuti.h"
+#include "core/Lingua.h"
+#include "core/Parole.h"
+#include "mp3/Accettazione.h"
+#include "mp3/ParoleRifiuto.h"
+#include "platform/FileOps.h"
+#include "playerconfig/ElencoMp3.h"
+#include "playlists/BraniPlaylist.h"
+
+namespace kvr5 {
+namespace {
+
+/// Why a file is refused; "" for one that is taken.
+std::string WhyNot(Contesto& context, modMp3Infos& reader, const std::string& path) {
+  if (!FileExists(context.Files, path)) {
+    return FolderExists(context.Files, path)
+               ? TestoLinguaO(context, "0050101", "This is a folder: open it in the file pane.")
+               : TestoLinguaO(context, "0130258", "This file isn't there any more.");
+  }
+  const std::string refused = TestoLinguaO(context, "0050005", "The player can't play this file.");
+  if (!MatchesWildcard(EstraiNomeFile(path), "*.mp3")) return refused;
+  const InfoMp3 info = reader.LeggiInfoMp3(path);
+  if (BuonoPerEditor(info)) return {};
+  const std::string words =
+      ParoleRifiutoDelFile(context, reader, false, MotivoPerEditor(info, reader.Ricerca()), info);
+  return words.empty() ? refused : words;
+}
+
+/// The file's name where no path of the system can be had.
+std::string NameOf(const std::string& given) {
+  return given.substr(given.find_last_of("/\\") + 1);
+}
+
+}  // namespace
+
+EsitoScelti AggiungiScelti(EditorPlaylist& editor, modMp3Infos& lettore,
+                           const std::vector<std::string>& file) {
+  auto& context = editor.C();
+  EsitoScelti outcome;
+  Transaction all(editor.ConnessionePlaylist());
+  for (const std::string& each : file) {
+    const auto path = context.Files.SystemPath(each);
+    const std::string why =
+        path ? WhyNot(context, lettore, path.Value()) : ParoleDifetto(context, NameFault::Reserved);
+    if (!why.empty()) {
+      outcome.NonPresi.push_back({NameOf(each), why});
+      continue;
+    }
+    const auto end =
+        AggiungiFile(editor, EstraiCartella(path.Value()), EstraiNomeFile(path.Value()));
+    if (end == EsitoAggiunta::SenzaPlaylist || end == EsitoAggiunta::Piena) break;
+    if (end == EsitoAggiunta::Aggiunto) ++outcome.Aggiunti;
+    context.Messaggi.LasciaCorrere();
+  }
+  editor.Record(all.End());
+  return outcome;
+}
+
+std::string ParoleEsito(Contesto& contesto, const EsitoScelti& esito) {
+  if (esito.NonPresi.empty()) return {};
+  const FileNonPreso& first = esito.NonPresi.front();
+  std::string words = ConValori(TestoLinguaO(contesto, "0050102", "Not taken: %1. %2"),
+                                {SuUnaRiga(first.Nome), first.Motivo});
+  if (const std::size_t others = esito.NonPresi.size() - 1; others > 0) {
+    words += " " + ConValori(TestoLinguaO(contesto, "0050103", "(+%1)"), {std::to_string(others)});
+  }
+  return words;
+}
+
+}  // namespace kvr5

@@ -1,0 +1,152 @@
+#include "playlists/screens/RiquadroBrani.h"
+
+#include <QDragEnterEvent>
+#include <QMimeData>
+#include <QPainter>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include "core/Lingua.h"
+#include "core/screens/EtichettaElisa.h"
+#include "core/screens/Pagina.h"
+#include "core/screens/Tema.h"
+#include "core/screens/Testo.h"
+
+namespace kvr5 {
+namespace {
+
+constexpr std::uint32_t kRed = 255;
+constexpr std::uint32_t kGreen = 65280;
+constexpr int kBlink = 500;  // milliseconds
+
+std::vector<std::string> FilesOf(const QMimeData& data) {
+  std::vector<std::string> files;
+  for (const QUrl& each : data.urls()) {
+    if (each.isLocalFile()) files.push_back(Std(each.toLocalFile()));
+  }
+  return files;
+}
+
+}  // namespace
+
+RiquadroBrani::RiquadroBrani(Contesto& contesto, ModelloBrani& modello, QWidget* padre)
+    : Riquadro("fraBrani", {}, -1, padre), contesto_(contesto), coloreAttesa_(kRed) {
+  lblPlaylistFiles = NuovaEtichetta("lblPlaylistFiles", QStringLiteral("Plailist Files"), -1, this);
+  Veste(*lblPlaylistFiles, Carattere::Riquadro);
+  lblTotali = NuovaEtichetta("lblTotali", {}, -1, this);
+  Veste(*lblTotali, Carattere::Corpo, Ruolo::Attenuato);
+  Testata()->insertWidget(0, lblPlaylistFiles);
+  Testata()->addWidget(lblTotali);
+  pila_ = new QStackedLayout();
+  grdPlaylist = new GrigliaPlaylist(modello, this);
+  lblAttendere = NuovaEtichetta("lblAttendere", QStringLiteral("..Wait..."), 29, this);
+  Veste(*lblAttendere, Carattere::Schermata);
+  lblAttendere->setAlignment(Qt::AlignCenter);
+  lblAttendere->setAutoFillBackground(true);
+  lblAttendere->setContentsMargins(spazi::kLargo, spazi::kMedio, spazi::kLargo, spazi::kMedio);
+  attesa_ = new QWidget(this);
+  (new QVBoxLayout(attesa_))->addWidget(lblAttendere, 0, Qt::AlignCenter);
+  pila_->addWidget(grdPlaylist);
+  pila_->addWidget(attesa_);
+  Corpo()->addLayout(pila_, 1);
+  lblEsito = new EtichettaAvviso("lblEsito", {}, Carattere::Suggerimento, this);
+  lblEsito->setWordWrap(true);
+  lblEsito->hide();
+  Corpo()->addWidget(lblEsito);
+  const auto button = [this](const char* cmd, const char* lbl, const char* caption,
+                             const char* icon, int tag) {
+    return new Coppia(cmd, lbl, QLatin1String(caption), icon, tag, this);
+  };
+  cmdPlayMp3 = button("cmdPlayMp3", "lblAnteprima", "Preview", "ascolta", 8);
+  cmdStopMp3 = button("cmdStopMp3", "", "", "ferma", -1);
+  cmdSpostaSu = button("cmdSpostaSu", "lblSpostaSu", "Up", "su", 44);
+  cmdSpostaGiu = button("cmdSpostaGiu", "lblSpostaGiu", "Down", "giu", 45);
+  cmdRandom = button("cmdRandom", "lblRandom", "Random", "casuale", 28);
+  lblAnteprima = cmdPlayMp3->Etichetta();
+  lblRandom = cmdRandom->Etichetta();
+  Corpo()->addLayout(Riga({cmdPlayMp3, cmdStopMp3, nullptr, cmdSpostaSu, cmdSpostaGiu, cmdRandom}));
+  tmrAttendere.setInterval(kBlink);
+  connect(&tmrAttendere, &QTimer::timeout, this, [this] { Lampeggia(); });
+  coloreAttesa_ = kGreen;
+  Lampeggia();
+  setAcceptDrops(true);
+}
+
+void RiquadroBrani::Lampeggia() {
+  coloreAttesa_ = coloreAttesa_ == kRed ? kGreen : kRed;
+  const QColor plate(0x0F, 0x13, 0x15);  // on which both can be read
+  QPalette palette = lblAttendere->palette();
+  palette.setColor(QPalette::Window, plate);
+  palette.setColor(QPalette::WindowText, DaBgr(coloreAttesa_));
+  lblAttendere->setPalette(palette);
+}
+
+void RiquadroBrani::Attesa(bool attende) {
+  if (attende) {
+    tmrAttendere.start();
+  } else {
+    tmrAttendere.stop();
+  }
+  const bool keyboard = attende && grdPlaylist->hasFocus();
+  pila_->setCurrentWidget(attende ? attesa_ : grdPlaylist);
+  if (keyboard) ripresa_ = true;
+  if (!attende && std::exchange(ripresa_, false)) grdPlaylist->setFocus();
+}
+
+void RiquadroBrani::MostraEsito(const QString& testo) {
+  lblEsito->setText(testo);
+  lblEsito->setVisible(!testo.isEmpty());
+}
+
+void RiquadroBrani::Sopra(bool sopra) {
+  sopra_ = sopra;
+  update();
+}
+
+void RiquadroBrani::dragEnterEvent(QDragEnterEvent* event) {
+  if (FilesOf(*event->mimeData()).empty()) return;
+  // The files stay where they are, whatever a file manager proposes.
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
+  Sopra(true);
+}
+
+void RiquadroBrani::dragLeaveEvent(QDragLeaveEvent* /*event*/) {
+  Sopra(false);
+}
+
+void RiquadroBrani::dropEvent(QDropEvent* event) {
+  Sopra(false);
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
+  // Not from within the drop: the program that it comes from waits for its end.
+  QMetaObject::invokeMethod(
+      this,
+      [this, files = FilesOf(*event->mimeData())] {
+        if (SuFile) SuFile(files);
+      },
+      Qt::QueuedConnection);
+}
+
+void RiquadroBrani::paintEvent(QPaintEvent* event) {
+  Riquadro::paintEvent(event);
+  if (!sopra_) return;
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(Tema::Corrente().Primario, 2));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), spazi::kAngolo, spazi::kAngolo);
+}
+
+void RiquadroBrani::Localizza() {
+  const auto text = [this](const char* key) { return Qs(TestoLingua(contesto_, key)); };
+  grdPlaylist->Misura();
+  cmdStopMp3->ImpostaScritta(text("0130169"));
+  cmdStopMp3->setToolTip(text("0130269"));
+  cmdSpostaSu->setToolTip(text("0050106"));
+  cmdSpostaGiu->setToolTip(text("0050107"));
+  cmdRandom->setToolTip(text("0050108"));
+  grdPlaylist->setAccessibleName(text("0050018"));
+  grdPlaylist->ImpostaVuota(text("0050109"));
+}
+
+}  // namespace kvr5

@@ -1,0 +1,396 @@
+#include "playlists/screens/frmPlaylistEditor.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/Aiuti.h"
+#include "core/Lingua.h"
+#include "core/Parole.h"
+#include "core/screens/LocalizzaForm.h"
+#include "core/screens/PulsanteAscolto.h"
+#include "core/screens/Testo.h"
+#include "mp3/Accettazione.h"
+#include "mp3/EtichetteMp3.h"
+#include "mp3/ParoleRifiuto.h"
+#include "platform/FileOps.h"
+#include "playerconfig/CartellaMp3.h"
+#include "playlists/AggiungiScelti.h"
+#include "playlists/BraniPlaylist.h"
+#include "playlists/ImportaPlaylist.h"
+#include "playlists/NomiPlaylist.h"
+#include "playlists/SalvaPlaylist.h"
+#include "projects/CartellaProgetto.h"
+
+namespace kvr5 {
+namespace {
+
+constexpr std::int16_t kForm = 5;
+constexpr std::size_t kFilesSeen = 8;  // at one time: a few milliseconds on a slow disk
+
+}  // namespace
+
+frmPlaylistEditor::frmPlaylistEditor(Ambiente& ambiente, FinestraProgresso& progresso)
+    : Form(ambiente, "frmPlaylistEditor"),
+      progresso_(progresso),
+      editor_(ambiente.C),
+      lettore_(ambiente.C.Files),
+      conto_(ambiente.C),
+      modello_(ambiente.C, conto_, this) {
+  setWindowTitle(QStringLiteral("Playlist Editor"));
+  resize(1200, 720);
+  Costruisci();
+  Collega();
+}
+
+void frmPlaylistEditor::Collega() {
+  editor_.SuGriglia = [this] { grigliaCambiata_ = true; };
+  editor_.SuContatore = [this] {
+    Brani->lblPlaylistFiles->setText(Qs(editor_.lblPlaylistFiles()));
+  };
+  editor_.SuSelettore = [this] { Fascia->Mostra(editor_); };
+  editor_.SuAttesa = [this](bool waits) {
+    if (waits) conta_.stop();  // the disk is the run's
+    Brani->Attesa(waits);
+  };
+  Fascia->SuVoce = [this](int entry) { Comando([this, entry] { editor_.ScegliVoce(entry); }); };
+  Fascia->SuIngresso = [this](int input, bool on) {
+    Comando([this, input, on] { editor_.SpuntaIngresso(input, on); });
+    Fascia->Mostra(editor_);  // also where it came amid a save, and nothing was done
+  };
+  const auto does = [this](QAbstractButton* button, const std::function<void()>& action) {
+    connect(button, &QAbstractButton::clicked, this, [this, action] { Comando(action); });
+  };
+  does(Fascia->picAggiungiPL,
+       [this] { AggiungiPlaylist(editor_, [this] { nome_->MostraModale(); }); });
+  does(Fascia->picRimuoviPL, [this] { RimuoviPlaylist(editor_); });
+  does(cmdAggiungiFile, [this] { AggiungiFile(); });
+  does(cmdAggiungiTuttiFiles, [this] { AggiungiTutti(); });
+  does(cmdRimuoviFile, [this] { Rimuovi(); });
+  does(cmdRimuoviTuttiFile, [this] { RimuoviTuttiFile(editor_); });
+  does(picImporta, [this] { Importa(); });
+  does(picReport, [this] { MostraReport(); });
+  connect(picSave, &QAbstractButton::clicked, this, [this] { Salva(); });
+  connect(picAnnulla, &QAbstractButton::clicked, this, [this] { Scarica(); });
+  connect(picHelp, &QAbstractButton::clicked, this, [this] { Aiuto(); });
+  SuTasto(Qt::Key_F1, [this] { Aiuto(); });
+  connect(&conta_, &QTimer::timeout, this, [this] { Conta(); });
+  CollegaPane();
+  CollegaBrani();
+  CollegaAscolto();
+}
+
+void frmPlaylistEditor::CollegaPane() {
+  connect(fraFile->picDisk, &QAbstractButton::clicked, this,
+          [this] { Comando([this] { SfogliaMp3(); }); });
+  fraFile->SuCartella = [this] { Comando([this] { CambiataCartella(); }); };
+  fraFile->filMp3->SuClic = [this] { Comando([this] { ClicFile(); }); };
+  fraFile->filMp3->SuDoppio = [this] { Comando([this] { DoppioFile(); }); };
+  connect(&fraFileInfo->tmrInfoMp3, &QTimer::timeout, this, [this] {
+    Comando([this] {
+      MostraInfoMp3();
+      C().Messaggi.LasciaCorrere();
+    });
+  });
+}
+
+void frmPlaylistEditor::CollegaBrani() {
+  const auto moves = [this](bool up) { Comando([this, up] { Sposta(up); }); };
+  Brani->SuFile = [this](const std::vector<std::string>& files) {
+    Comando([this, &files] { AggiungiTrascinati(files); });
+  };
+  Brani->grdPlaylist->SuRiga = [this](std::int64_t id) {
+    Comando([this, id] { VaiAllaRiga(editor_, id); });
+  };
+  Brani->grdPlaylist->SuRimuovi = [this] { Comando([this] { Rimuovi(); }); };
+  Brani->grdPlaylist->SuSposta = [moves] { moves(true); };
+  Brani->grdPlaylist->SuSpostaGiu = [moves] { moves(false); };
+  Brani->grdPlaylist->SuAscolta = [this] {
+    Comando([this] { rigaSuona_ ? ascolto_.Stop() : AscoltaRiga(); });
+  };
+  connect(Brani->cmdSpostaSu, &QAbstractButton::clicked, this, [moves] { moves(true); });
+  connect(Brani->cmdSpostaGiu, &QAbstractButton::clicked, this, [moves] { moves(false); });
+  connect(Brani->cmdRandom, &QAbstractButton::clicked, this,
+          [this] { Comando([this] { Mescola(); }); });
+}
+
+void frmPlaylistEditor::CollegaAscolto() {
+  const auto shows = [this](Coppia* button, const StatoAscolto& state) {
+    const bool outside = C().Stato.UsaPlayerEsterno;
+    ImpostaAscolto(C(), *button, state, outside ? "0130270" : "0130268");
+  };
+  ascolto_.SuPlayFileSx = [this, shows](bool on) { shows(cmdPlayFileSx, {on, false}); };
+  ascolto_.SuMutoFileSx = [this, shows] { shows(cmdPlayFileSx, {true, true}); };
+  ascolto_.SuPlayRiga = [this, shows](std::size_t /*row*/, bool on) {
+    rigaSuona_ = on;
+    shows(Brani->cmdPlayMp3, {on, false});
+  };
+  ascolto_.SuMutoRiga = [this, shows](std::size_t /*row*/) {
+    shows(Brani->cmdPlayMp3, {true, true});
+  };
+  for (Anteprima* each : {mci1.get(), mciPreview.get()}) {
+    each->SuNotifica = [this](int code) {
+      const Impegno stays(*this);  // events run
+      ascolto_.Notifica(code);
+    };
+  }
+  connect(cmdPlayFileSx, &QAbstractButton::clicked, this, [this] {
+    Comando([this] {
+      const std::string file = fraFile->Corrente();
+      if (!file.empty()) ascolto_.PlayFileSx(fraFile->DirDirectoryMp3->Percorso(), file);
+    });
+  });
+  connect(Brani->cmdPlayMp3, &QAbstractButton::clicked, this,
+          [this] { Comando([this] { AscoltaRiga(); }); });
+  for (Coppia* each : {cmdStopFileSx, Brani->cmdStopMp3}) {
+    connect(each, &QAbstractButton::clicked, this, [this] {
+      const Impegno stays(*this);
+      ascolto_.Stop();
+    });
+  }
+}
+
+void frmPlaylistEditor::Localizza() {
+  const auto text = [this](const char* key) { return Qs(TestoLingua(C(), key)); };
+  LocalizzaForm(C(), kForm, *this);
+  lblProgetto->setText(Qs(C().Stato.ProjectName));
+  lblTipoPlayer->setText(Qs(C().Stato.PlayerConfigDesc));
+  Fascia->Localizza();
+  fraFile->Localizza();
+  modello_.Localizza();
+  Brani->Localizza();
+  cmdStopFileSx->ImpostaScritta(text("0130169"));
+  cmdStopFileSx->setToolTip(text("0130269"));
+  ascolto_.SuPlayFileSx(false);
+  ascolto_.SuPlayRiga(0, false);
+  cmdAggiungiFile->setToolTip(text("0050115"));
+  cmdAggiungiTuttiFiles->setToolTip(text("0050116"));
+  cmdRimuoviFile->setToolTip(text("0050117"));
+  cmdRimuoviTuttiFile->setToolTip(text("0050118"));
+  picAnnulla->setToolTip(text("0050119"));
+  picImporta->setToolTip(text("0050120"));
+  picReport->setToolTip(text("0050121"));
+  picSave->setToolTip(text("0050122"));
+}
+
+void frmPlaylistEditor::AlCaricamento() {
+  C().Messaggi.ImpostaPuntatore(Puntatore::Attesa);
+  Localizza();
+  const bool outside = C().Stato.UsaPlayerEsterno;
+  cmdStopFileSx->setVisible(!outside);
+  Brani->cmdStopMp3->setVisible(!outside);
+  Comando([this] {
+    editor_.Carica();
+    Fascia->Disponi(editor_.Disposizione());
+    fraFile->DirDirectoryMp3->ImpostaPercorso(CartellaIniziale(C(), 0));
+  });
+  fraFile->filMp3->setFocus();
+  C().Messaggi.ImpostaPuntatore(Puntatore::Normale);
+}
+
+void frmPlaylistEditor::AllAttivazione() {
+  // Files come and go while another window is in front. At the first time the load has just looked.
+  if (!std::exchange(lasciata_, true)) return;
+  Comando([this] {
+    const std::string before = fraFile->Corrente();
+    if (fraFile->Rileggi() && fraFile->Corrente() != before) PulisciInfoMp3();
+    conto_.Ricomincia();
+    CominciaConto();
+  });
+}
+
+void frmPlaylistEditor::Comando(const std::function<void()>& azione) {
+  if (ChiusuraAttesa()) return;
+  const Impegno stays(*this);
+  const OwnError own(C().Errore);
+  editor_.Turni.Comando(azione);
+  if (!editor_.Turni.InCorso() && !editor_.Turni.UltimoChiesto()) AggiornaVista();
+}
+
+void frmPlaylistEditor::AggiornaVista() {
+  if (std::exchange(grigliaCambiata_, false)) MostraRighe();
+  const auto changes = static_cast<std::size_t>(editor_.Modifiche());
+  const std::string words =
+      changes == 0
+          ? std::string()
+          : Contati(C(), changes, {"0050113", "change unsaved", "0050114", "changes unsaved"});
+  lblModifiche->setText(Qs(words));
+}
+
+void frmPlaylistEditor::MostraRighe() {
+  modello_.Imposta(RigheDellaGriglia(editor_));
+  const auto& rows = modello_.Righe();
+  if (const int place = std::exchange(posto_, -1); place >= 0 && !rows.empty()) {
+    const auto at = std::min(static_cast<std::size_t>(place), rows.size() - 1);
+    VaiAllaRiga(editor_, rows[at].ID);
+  }
+  Brani->grdPlaylist->Seleziona(std::exchange(scelti_, {}), editor_.rsList().Number("ID", -1));
+  conto_.Imposta(rows);
+  CominciaConto();
+}
+
+void frmPlaylistEditor::CominciaConto() {
+  conta_.start(0);
+}
+
+void frmPlaylistEditor::Conta() {
+  const bool more = conto_.Passo(kFilesSeen);
+  modello_.FattiCambiati();
+  if (more) return;
+  conta_.stop();
+  Brani->lblTotali->setText(Qs(conto_.Parole()));
+  Veste(*Brani->lblTotali, Carattere::Corpo,
+        conto_.Mancanti() > 0 ? Ruolo::Errore : Ruolo::Attenuato);
+}
+
+void frmPlaylistEditor::SfogliaMp3() {
+  const std::string chosen =
+      C().Finestre.SfogliaCartella(TestoLingua(C(), "50014"), fraFile->DirDirectoryMp3->Percorso());
+  if (const auto folder = ScegliCartella(C(), chosen)) {
+    fraFile->DirDirectoryMp3->ImpostaPercorso(*folder);
+  }
+}
+
+void frmPlaylistEditor::CambiataCartella() {
+  cmdAggiungiFile->hide();
+  fraFileInfo->tmrInfoMp3.stop();
+  PulisciInfoMp3();
+  // The load only goes where the settings lead.
+  if (isVisible()) TieniCartella(C(), fraFile->DirDirectoryMp3->Percorso());
+}
+
+void frmPlaylistEditor::ClicFile() {
+  ascolto_.Stop();
+  cmdAggiungiFile->hide();
+  fraFileInfo->tmrInfoMp3.stop();
+  PulisciInfoMp3();
+  if (!fraFile->Corrente().empty()) fraFileInfo->tmrInfoMp3.start();
+}
+
+void frmPlaylistEditor::PulisciInfoMp3() {
+  fraFileInfo->Mostra({}, {}, {}, {});
+  fraFileInfo->MostraAvviso(false, {});
+}
+
+void frmPlaylistEditor::MostraInfoMp3() {
+  const std::string name = fraFile->Corrente();
+  if (name.empty()) return;
+  PulisciInfoMp3();
+  C().Messaggi.LasciaCorrere();
+  if (fraFile->Corrente() != name) return;  // another was picked meanwhile: its turn comes
+  const std::string path = AggiungiBarra(fraFile->DirDirectoryMp3->Percorso()) + name;
+  const InfoMp3 info = lettore_.LeggiInfoMp3(path);
+  const auto file = C().Files.Info(path);
+  const PannelloMp3 panel =
+      kvr5::MostraInfoMp3(SchermoMp3::Editor, info, file ? file.Value().Size : 0, C().Luogo);
+  const EtichetteMp3& labels = panel.Etichette;
+  fraFileInfo->Mostra(Qs(labels.lblVersioneMpeg), Qs(labels.lblBitrate), Qs(labels.lblFreq),
+                      Qs(labels.lblDurata));
+  std::string why;
+  if (panel.lblBadFileType) {
+    why =
+        ParoleRifiutoDelFile(C(), lettore_, !file, MotivoPerEditor(info, lettore_.Ricerca()), info);
+  }
+  fraFileInfo->MostraAvviso(panel.lblBadFileType, Qs(why));
+  if (panel.Verdetto == VerdettoMp3::NonLetto) cmdAggiungiFile->setEnabled(false);
+  if (panel.Verdetto != VerdettoMp3::Buono) return;
+  cmdAggiungiFile->show();
+  cmdAggiungiFile->setEnabled(true);
+}
+
+void frmPlaylistEditor::AggiungiFile() {
+  Brani->MostraEsito({});
+  const std::string folder = fraFile->DirDirectoryMp3->Percorso();
+  std::vector<std::string> chosen = fraFile->Scelti();
+  if (chosen.size() == 1) {
+    kvr5::AggiungiFile(editor_, folder, chosen.front());
+    return;
+  }
+  for (std::string& each : chosen) each.insert(0, AggiungiBarra(folder));
+  AggiungiTrascinati(chosen);
+}
+
+void frmPlaylistEditor::DoppioFile() {
+  fraFileInfo->tmrInfoMp3.stop();
+  MostraInfoMp3();
+  if (!cmdAggiungiFile->isHidden() && cmdAggiungiFile->isEnabled()) AggiungiFile();
+}
+
+void frmPlaylistEditor::AggiungiTutti() {
+  Brani->MostraEsito({});
+  AggiungiTuttiFiles(editor_, lettore_, fraFile->DirDirectoryMp3->Percorso(), fraFile->Nomi());
+}
+
+void frmPlaylistEditor::AggiungiTrascinati(const std::vector<std::string>& file) {
+  Brani->MostraEsito({});
+  const EsitoScelti outcome = AggiungiScelti(editor_, lettore_, file);
+  Brani->MostraEsito(Qs(ParoleEsito(C(), outcome)));
+}
+
+void frmPlaylistEditor::Importa() {
+  Brani->MostraEsito({});
+  if (!PuoImportare(editor_)) return;
+  const std::string list = C().Finestre.ScegliFile(TestoLingua(C(), "0050030"),
+                                                   {"File TXT,M3U (*.txt,*.m3u)", "*.txt;*.m3u"},
+                                                   fraFile->DirDirectoryMp3->Percorso());
+  if (!list.empty()) ImportaPlaylist(editor_, lettore_, list);
+}
+
+void frmPlaylistEditor::Rimuovi() {
+  const Id chosen = Brani->grdPlaylist->Scelti();
+  if (chosen.empty()) return;
+  posto_ = modello_.RigaDi(chosen.front());
+  if (chosen.size() == 1) {
+    if (VaiAllaRiga(editor_, chosen.front())) RimuoviFile(editor_);
+  } else {
+    RimuoviRighe(editor_, chosen);
+  }
+}
+
+void frmPlaylistEditor::Sposta(bool su) {
+  scelti_ = Brani->grdPlaylist->Scelti();
+  if (scelti_.size() > 1) {
+    const std::int64_t current = editor_.rsList().Number("ID", -1);
+    SpostaRighe(editor_, scelti_, su);
+    VaiAllaRiga(editor_, current);
+  } else if (!scelti_.empty() && VaiAllaRiga(editor_, scelti_.front())) {
+    su ? SpostaSu(editor_) : SpostaGiu(editor_);
+  }
+}
+
+void frmPlaylistEditor::Mescola() {
+  Random(editor_, CasoDallOrologio());
+}
+
+void frmPlaylistEditor::AscoltaRiga() {
+  if (editor_.rsList().AbsolutePosition() > 0) ascolto_.PlayRiga(editor_.rsList());
+}
+
+void frmPlaylistEditor::MostraReport() {
+  C().Messaggi.ImpostaPuntatore(Puntatore::Attesa);
+  ScriviReport(editor_);
+  const std::string page = FileDelProgetto(C(), "Playlist.htm");
+  if (FileExists(C().Files, page)) ambiente_.Documenti.Apri(page);
+  C().Messaggi.ImpostaPuntatore(Puntatore::Normale);
+}
+
+void frmPlaylistEditor::Salva() {
+  if (ChiusuraAttesa()) return;
+  const Impegno stays(*this);
+  editor_.Turni.Ultimo([this] {
+    conta_.stop();
+    SalvaPlaylist(editor_, progresso_);
+    Scarica();
+  });
+}
+
+void frmPlaylistEditor::AlloScarico() {
+  conta_.stop();
+  fraFileInfo->tmrInfoMp3.stop();
+  Brani->tmrAttendere.stop();
+  for (Anteprima* each : {mci1.get(), mciPreview.get()}) Ascolto::Zittisci(*each);
+  editor_.Chiudi();
+  hide();
+  ambiente_.Schermi.Mostra(FormSuccessivo);
+}
+
+}  // namespace kvr5
