@@ -31,7 +31,7 @@ class WorkFolder {
   std::filesystem::path Path;
 };
 
-/// A user who says nothing and is told nothing.
+/// A user who says nothing and is told nothing; gives one answer to each question.
 class Silent : public Dialoghi,
                public Eventi,
                public CopyObserver,
@@ -39,7 +39,7 @@ class Silent : public Dialoghi,
                public SelezioneFlash {
  public:
   Risposta MostraMessaggio(const Messaggio& /*messaggio*/) override { return Risposta::Ok; }
-  std::uint8_t MostraSiNo(const BoxSiNo& /*box*/) override { return 1; }
+  std::uint8_t MostraSiNo(const BoxSiNo& /*box*/) override { return Answer; }
   std::string SfogliaCartella(const std::string& /*titolo*/,
                               const std::string& /*inizio*/) override {
     return {};
@@ -50,13 +50,16 @@ class Silent : public Dialoghi,
   }
   void LasciaCorrere() override {}
   void ImpostaPuntatore(Puntatore /*puntatore*/) override {}
-  bool Progress(const CopyState& /*state*/) override { return true; }
+  bool Progress(const CopyState& /*state*/) override { return Copies; }
   void Failed(const CopyFailure& failure) override {
     throw std::runtime_error("a copy failed: " + failure.File);
   }
   [[noreturn]] void Termina(MotivoFine /*motivo*/) override { std::abort(); }
   void Scegli() override {}
   bool Presente() const override { return true; }
+
+  std::uint8_t Answer = 1;  ///< yes
+  bool Copies = true;       ///< false: cancels each copy at its first file
 };
 
 /// The real disk and a silent user.
