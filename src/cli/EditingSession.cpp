@@ -4,16 +4,17 @@
 #include <charconv>
 
 #include "cli/InputLines.h"
-#include "cli/Interrupt.h"
 #include "cli/Status.h"
 
 namespace kvr5::cli {
 
 int EditingCommands::RunAll() {
-  const Interrupt cancel;
   session_.SetAnswer(session_.GivenAnswer());  // standard input is the commands'
-  InputLines input;
-  while (!Interrupt::Pressed() && input.Next(line_)) {
+  constexpr std::size_t kLongestCommand = std::size_t{16} << 20U;  // many files in one
+  InputLines input(kLongestCommand);
+  bool pressed = Interrupt::Pressed();
+  while (!pressed && input.Next(line_)) {
+    if (input.WasCut()) return kUsage;
     switch (RunLine(line_)) {
       case Outcome::Done:
       case Outcome::Refused:
@@ -26,8 +27,9 @@ int EditingCommands::RunAll() {
       case Outcome::Left:
         return kDone;
     }
+    pressed = Interrupt::Pressed();
   }
-  return input.Failed() || Interrupt::Pressed() ? kRefused : kDone;
+  return input.Failed() || pressed || Interrupt::Pressed() ? kRefused : kDone;
 }
 
 Outcome EditingCommands::RunLine(const std::string& line) {

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "cli/Interrupt.h"
 #include "cli/Session.h"
 
 namespace kvr5::cli {
@@ -38,6 +39,8 @@ class EditingCommands {
   Session& session_;
 
  private:
+  /// Stands from before the working copy is made until it is gone again.
+  const Interrupt interrupt_;
   Outcome RunLine(const std::string& line);
 
   std::string line_;

@@ -11,18 +11,21 @@
 namespace kvr5::cli {
 
 bool InputLines::Next(std::string& line) {
+  cut_ = false;
   std::size_t end = unread_.find('\n');
   while (end == std::string::npos) {
-    unread_.resize(std::min(unread_.size(), kLongest + 1));
+    unread_.resize(std::min(unread_.size(), longest_ + 1));
     const std::size_t searched = unread_.size();
     if (!Fill()) {
       line = std::move(unread_);
       unread_.clear();
+      cut_ = line.size() > longest_;
       return !line.empty();
     }
     end = unread_.find('\n', searched);
   }
-  line = unread_.substr(0, std::min(end, kLongest));
+  cut_ = end > longest_;
+  line = unread_.substr(0, std::min(end, longest_));
   unread_.erase(0, end + 1);
   if (line.ends_with('\r')) line.pop_back();
   return true;

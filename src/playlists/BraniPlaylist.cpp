@@ -12,13 +12,16 @@ namespace {
 /// The row of a file, at the end of the current playlist.
 void AddRow(EditorPlaylist& editor, const std::string& folder, const std::string& name) {
   auto& rows = editor.rsList();
-  const std::int64_t pos = ProssimaPosizione(editor);
+  const auto known = editor.PosizioneNota();
+  const std::int64_t pos = known ? *known : ProssimaPosizione(editor);
   editor.Record(rows.AddNew());
   editor.Record(rows.Set("FileName", name));
   editor.Record(rows.Set("FilePath", folder));
   editor.Record(rows.Set("Pos", pos));
   editor.Record(rows.Set("NPlaylist", std::int64_t{editor.PlaylistCorrente()}));
-  if (editor.Record(rows.Update())) editor.Modificato();
+  if (!editor.Record(rows.Update())) return;
+  editor.Modificato();
+  editor.AnnotaPosizione(static_cast<std::int32_t>(pos) + 1);
 }
 
 /// A notice of frmSiNo with its only button.
@@ -68,7 +71,8 @@ void AggiungiSeBuono(EditorPlaylist& editor, modMp3Infos& lettore, const FileDaA
   const InfoMp3 info = lettore.LeggiInfoMp3(AggiungiBarra(file.Cartella) + file.FileName);
   if (!BuonoInMassa(info, lettore.Errori())) return;
   AddRow(editor, file.FilePath, file.FileName);
-  editor.Record(editor.rsList().MoveLast());
+  auto& rows = editor.rsList();
+  if (rows.AbsolutePosition() != rows.RecordCount()) editor.Record(rows.MoveLast());
 }
 
 bool AggiungiTuttiFiles(EditorPlaylist& editor, modMp3Infos& lettore, const std::string& cartella,

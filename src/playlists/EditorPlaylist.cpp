@@ -90,6 +90,11 @@ void EditorPlaylist::AggiornaGrigliaPlaylist() {
   AggiornaContatoreFile();
 }
 
+std::optional<std::int32_t> EditorPlaylist::PosizioneNota() const {
+  const bool same = nota_.Playlist == playlistCorrente_ && nota_.Modifiche == modifiche_;
+  return same ? std::optional(nota_.Prossima) : std::nullopt;
+}
+
 void EditorPlaylist::MostraGriglia() {
   if (SuGriglia) SuGriglia();
 }

@@ -93,6 +93,11 @@ class EditorPlaylist {
   int Modifiche() const { return modifiche_; }
   void Modificato(int quante = 1) { modifiche_ += quante; }
 
+  /// The Pos of the next row, where nothing has changed since the last one was added: a run counts
+  /// the rows once.
+  std::optional<std::int32_t> PosizioneNota() const;
+  void AnnotaPosizione(std::int32_t prossima) { nota_ = {playlistCorrente_, modifiche_, prossima}; }
+
   /// Who may act on it, amid the events of its long routines.
   TurniEditor Turni;
 
@@ -114,6 +119,11 @@ class EditorPlaylist {
   std::string testoPlaylistFile2_;
   std::string contatore_;
   int modifiche_ = 0;
+  struct Nota {
+    std::int32_t Playlist = 0;
+    int Modifiche = -1;
+    std::int32_t Prossima = 0;
+  } nota_;
 };
 
 }  // namespace kvr5

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/Aiuti.h"
 #include "core/ParoleCopia.h"
 #include "platform/CodePage.h"
 #include "platform/Fold.h"
@@ -24,7 +25,27 @@ void ListeDiTesto::Aggiungi(const std::string& nome, const std::string& riga) {
 void ListeDiTesto::AggiungiPercorso(const std::string& nome, const std::string& percorso) {
   UnaLista& list = Lista(nome);
   list.PerIlComputer = true;
-  (list.Testo += PercorsoPerPersone(contesto_, percorso)) += "\r\n";
+  (list.Testo += PerIlComputer(percorso)) += "\r\n";
+}
+
+ListeDiTesto::CartellaVista& ListeDiTesto::Vista(const std::string& cartella) {
+  const auto [place, isNew] = cartelle_.try_emplace(cartella);
+  if (!isNew) return place->second;
+  if (const auto entries = contesto_.Files.List(cartella)) {
+    for (const FileInfo& each : entries.Value()) place->second.Nomi.insert(each.Name);
+  }
+  return place->second;
+}
+
+std::string ListeDiTesto::PerIlComputer(const std::string& percorso) {
+  const std::string folder = EstraiCartella(percorso);
+  const std::string name = EstraiNomeFile(percorso);
+  CartellaVista& seen = Vista(folder);
+  const bool spelledSo = seen.Nomi.contains(name);
+  if (spelledSo && !seen.Davanti.empty()) return seen.Davanti + name;
+  std::string path = PercorsoPerPersone(contesto_, percorso);
+  if (spelledSo && path.ends_with(name)) seen.Davanti = path.substr(0, path.size() - name.size());
+  return path;
 }
 
 void ListeDiTesto::Scrivi() {

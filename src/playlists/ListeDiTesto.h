@@ -1,5 +1,7 @@
 #pragma once
 
+#include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,11 +34,20 @@ class ListeDiTesto {
     std::string Testo;
     bool PerIlComputer = false;
   };
+  /// A folder of the tracks, looked at once.
+  struct CartellaVista {
+    std::set<std::string, std::less<>> Nomi;  ///< as they are spelled there
+    std::string Davanti;                      ///< what stands before a name in the host's form
+  };
+  CartellaVista& Vista(const std::string& cartella);
+  /// The path in the host's form, with the spelling of the disk.
+  std::string PerIlComputer(const std::string& percorso);
   UnaLista& Lista(const std::string& nome);
   Error Scrivi(const UnaLista& lista) const;
 
   Contesto& contesto_;
   std::vector<UnaLista> liste_;
+  std::map<std::string, CartellaVista> cartelle_;
 };
 
 /// The text without any ".mp3", minding the case or not.

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "core/Lingua.h"
+#include "core/LinguaLetta.h"
 #include "core/Parole.h"
 #include "platform/db/Recordset.h"
 #include "platform/db/Walk.h"
@@ -42,6 +43,7 @@ bool ScriviReportPlaylist(Contesto& contesto, Connection& connessione,
   Recordset rows;
   if (!contesto.Errore.Record(rows.Open(connessione, Query(mode, numero)))) return false;
   if (rows.RecordCount() < 1) return false;
+  const LinguaLetta words(contesto);  // each row asks for its heading
   ApriReport(contesto, "Playlist", "Playlist");
   ScriviRigaReport(contesto, TitoloReport("Playlist"));
   std::optional<std::string> group;

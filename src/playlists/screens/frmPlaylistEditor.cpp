@@ -199,7 +199,7 @@ void frmPlaylistEditor::AllAttivazione() {
 }
 
 void frmPlaylistEditor::Comando(const std::function<void()>& azione) {
-  if (ChiusuraAttesa()) return;
+  if (!Caricata() || ChiusuraAttesa()) return;
   const Impegno stays(*this);
   const OwnError own(C().Errore);
   editor_.Turni.Comando(azione);
@@ -259,11 +259,11 @@ void frmPlaylistEditor::CambiataCartella() {
 }
 
 void frmPlaylistEditor::ClicFile() {
-  ascolto_.Stop();
   cmdAggiungiFile->hide();
   fraFileInfo->tmrInfoMp3.stop();
   PulisciInfoMp3();
   if (!fraFile->Corrente().empty()) fraFileInfo->tmrInfoMp3.start();
+  ascolto_.Stop();  // last: it lets events run, and the second half of a double click is one
 }
 
 void frmPlaylistEditor::PulisciInfoMp3() {
@@ -374,7 +374,7 @@ void frmPlaylistEditor::MostraReport() {
 }
 
 void frmPlaylistEditor::Salva() {
-  if (ChiusuraAttesa()) return;
+  if (!Caricata() || ChiusuraAttesa()) return;
   const Impegno stays(*this);
   editor_.Turni.Ultimo([this] {
     conta_.stop();
