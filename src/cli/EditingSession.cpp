@@ -71,6 +71,11 @@ std::optional<std::vector<std::string>> WordsOf(std::string_view line) {
   return words;
 }
 
+bool IsWholeNumber(std::string_view word) {
+  if (word.starts_with('-')) word.remove_prefix(1);
+  return !word.empty() && word.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
 std::optional<std::uint32_t> NumberOf(std::string_view word, std::uint32_t highest) {
   std::uint32_t number = 0;
   const auto [end, failure] = std::from_chars(word.data(), word.data() + word.size(), number);

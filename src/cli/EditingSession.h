@@ -50,6 +50,9 @@ class EditingCommands {
 /// Nothing is escaped. Nothing comes back for a quote that isn't closed.
 std::optional<std::vector<std::string>> WordsOf(std::string_view line);
 
+/// Whether a word is a whole number, of whatever size; a sign may stand before it.
+bool IsWholeNumber(std::string_view word);
+
 /// A whole number of digits alone, at most `highest`.
 std::optional<std::uint32_t> NumberOf(std::string_view word, std::uint32_t highest);
 

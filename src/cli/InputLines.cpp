@@ -17,6 +17,7 @@ bool InputLines::Next(std::string& line) {
     unread_.resize(std::min(unread_.size(), longest_ + 1));
     const std::size_t searched = unread_.size();
     if (!Fill()) {
+      if (cancelled_) return false;  // half a line is none
       line = std::move(unread_);
       unread_.clear();
       cut_ = line.size() > longest_;
@@ -32,7 +33,8 @@ bool InputLines::Next(std::string& line) {
 }
 
 bool InputLines::Fill() {
-  if (!Interrupt::WaitForInput()) return false;
+  cancelled_ = !Interrupt::WaitForInput();
+  if (cancelled_) return false;
   std::array<char, 4096> bytes{};
   ssize_t count = 0;
   do {

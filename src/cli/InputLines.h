@@ -28,6 +28,7 @@ class InputLines {
   std::size_t longest_;
   std::string unread_;
   bool cut_ = false;
+  bool cancelled_ = false;
   bool failed_ = false;
 };
 

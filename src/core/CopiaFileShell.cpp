@@ -26,6 +26,22 @@ CopyOutcome RefuseLists(Contesto& contesto, std::string_view sources) {
   return {errors::BadFileName, 0, 0};
 }
 
+/// Has the copy window watch a copy that nobody may cancel.
+class Unstoppable : public CopyObserver {
+ public:
+  explicit Unstoppable(CopyObserver& window) : window_(window) {}
+  void Begin() override { window_.Begin(); }
+  void End() override { window_.End(); }
+  bool Progress(const CopyState& state) override {
+    window_.Progress(state);
+    return true;
+  }
+  void Failed(const CopyFailure& failure) override { window_.Failed(failure); }
+
+ private:
+  CopyObserver& window_;
+};
+
 }  // namespace
 
 std::vector<CopyPair> CoppieDaListe(std::string_view sorgente, std::string_view destinazione) {
@@ -41,11 +57,12 @@ std::vector<CopyPair> CoppieDaListe(std::string_view sorgente, std::string_view 
 }
 
 CopyOutcome CopiaFileShell(Contesto& contesto, std::string_view sorgente,
-                           std::string_view destinazione) {
+                           std::string_view destinazione, AnnulloCopia annullo) {
   const auto pairs = CoppieDaListe(sorgente, destinazione);
-  const CopyOutcome outcome = pairs.empty()
-                                  ? RefuseLists(contesto, sorgente)
-                                  : ShellCopy(contesto.Files, pairs, contesto.FinestraCopia);
+  Unstoppable unstoppable(contesto.FinestraCopia);
+  CopyObserver& window = annullo == AnnulloCopia::Nulla ? unstoppable : contesto.FinestraCopia;
+  const CopyOutcome outcome =
+      pairs.empty() ? RefuseLists(contesto, sorgente) : ShellCopy(contesto.Files, pairs, window);
   contesto.Messaggi.LasciaCorrere();
   if (outcome.Result == errors::Cancelled) contesto.Stato.AnnullatoDaUtente = true;
   return outcome;

@@ -17,10 +17,14 @@ bool IsRegular(std::string_view path) {
 void ListaCopia::Aggiungi(std::string_view sorgente, std::string_view destinazione) {
   sorgenti_.append("|").append(sorgente);
   destinazioni_.append("|").append(destinazione);
-  std::string folded = FoldCase(sorgente);
-  ripiegati_.append("|").append(folded);
-  regolari_ = regolari_ && IsRegular(folded);
-  percorsi_.insert(std::move(folded));
+  const std::string& listed = testi_.emplace_back("|" + FoldCase(sorgente));
+  ripiegati_.append(listed);
+  const std::string_view folded = std::string_view(listed).substr(1);
+  if (IsRegular(folded)) {
+    percorsi_.insert(folded);
+  } else {
+    AggiungiCode(folded, codeAltri_);
+  }
 }
 
 bool ListaCopia::ContieneDestinazione(std::string_view percorso) const {
@@ -28,14 +32,44 @@ bool ListaCopia::ContieneDestinazione(std::string_view percorso) const {
          FoldCase(destinazioni_).find(FoldCase(percorso)) != std::string::npos;
 }
 
+void ListaCopia::AggiungiCode(std::string_view testo, Code& code) {
+  for (auto at = testo.find('\\'); at != std::string_view::npos; at = testo.find('\\', at + 1)) {
+    code.insert(testo.substr(at + 1));
+  }
+}
+
+bool ListaCopia::InCode(const Code& code, std::string_view cercato) {
+  const std::string_view head = cercato.substr(0, cercato.find('\\'));
+  const std::string_view rest = cercato.substr(head.size() + 1);
+  for (auto each = code.lower_bound(rest); each != code.end() && each->starts_with(rest); ++each) {
+    // What stands before the backslash; the bar at the text's beginning ends the comparison.
+    const char* before = each->data() - 2;
+    auto wanted = head.rbegin();
+    while (wanted != head.rend() && *before == *wanted) {
+      --before;
+      ++wanted;
+    }
+    if (wanted == head.rend()) return true;
+  }
+  return false;
+}
+
 bool ListaCopia::Contiene(std::string_view percorso) const {
   if (sorgenti_.empty()) return false;
   const std::string folded = FoldCase(percorso);
-  if (!regolari_ || !IsRegular(folded)) {
+  const bool regular = IsRegular(folded);
+  if (regular) {
+    const auto next = percorsi_.lower_bound(folded);
+    if (next != percorsi_.end() && next->starts_with(folded)) return true;
+    if (percorsi_.size() == testi_.size()) return false;
+  }
+  if (folded.find('\\') == std::string::npos || folded.find('|') != std::string::npos) {
     return ripiegati_.find(folded) != std::string::npos;
   }
-  const auto next = percorsi_.lower_bound(folded);
-  return next != percorsi_.end() && next->starts_with(folded);
+  if (InCode(codeAltri_, folded)) return true;
+  if (regular) return false;
+  for (; codati_ < testi_.size(); ++codati_) AggiungiCode(testi_[codati_], code_);
+  return InCode(code_, folded);
 }
 
 }  // namespace kvr5

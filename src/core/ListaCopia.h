@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <deque>
 #include <set>
 #include <string>
 #include <string_view>
@@ -11,9 +13,11 @@ namespace kvr5 {
 ///
 /// Whether a source is listed is a substring search without regard to case in the whole list of
 /// sources, which is more than equality: a path that is the beginning of a listed one counts as
-/// listed too. The search is answered from an ordered set wherever that gives the same answer
-/// (every path begins with a drive, "X:", and holds no other colon), so that the cost of a list
-/// doesn't grow with its square; any other text is searched for in the list itself.
+/// listed too. The search is answered from ordered sets, so that the cost of a list doesn't grow
+/// with its square: a path that begins with a drive ("X:") and holds no other colon can occur in
+/// others of its kind at their beginnings alone, and any other path only where its first backslash
+/// meets one of theirs. A text without a backslash, or with a bar, is searched for in the list
+/// itself.
 class ListaCopia {
  public:
   /// Appends a pair.
@@ -31,9 +35,16 @@ class ListaCopia {
  private:
   std::string sorgenti_;
   std::string destinazioni_;
-  std::string ripiegati_;                        ///< the sources with their letters made small
-  std::set<std::string, std::less<>> percorsi_;  ///< each source so
-  bool regolari_ = true;  ///< all sources begin with their only colon's drive
+  using Code = std::multiset<std::string_view>;
+  static void AggiungiCode(std::string_view testo, Code& code);
+  static bool InCode(const Code& code, std::string_view cercato);
+
+  std::string ripiegati_;                ///< the list of sources with its letters made small
+  std::deque<std::string> testi_;        ///< each source so, behind its bar
+  std::set<std::string_view> percorsi_;  ///< those that begin with their only colon's drive
+  Code codeAltri_;                       ///< of the others, what follows each backslash
+  mutable Code code_;                    ///< the same of all sources, as far as it was asked for
+  mutable std::size_t codati_ = 0;       ///< how many of testi_ that are
 };
 
 }  // namespace kvr5

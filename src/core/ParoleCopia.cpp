@@ -1,5 +1,7 @@
 #include "core/ParoleCopia.h"
 
+#include <algorithm>
+
 #include "core/Lingua.h"
 
 namespace kvr5 {
@@ -54,15 +56,14 @@ Messaggio BoxGuastoCopia(Contesto& contesto, const CopyFailure& guasto) {
 
 std::string PercorsoPerPersone(const Contesto& contesto, std::string_view percorso) {
   const FileSystem& files = contesto.Files;
-  constexpr std::string_view kRoot = "C:\\";
-  const bool relative = percorso.find(':') == std::string_view::npos &&
-                        !percorso.starts_with('\\') &&
-                        percorso.find('\\') != std::string_view::npos;
-  std::string host =
-      files.HostPath((relative ? std::string(kRoot) : std::string()).append(percorso));
-  if (host.empty()) return std::string(percorso);
-  if (relative) host.erase(0, files.HostPath(kRoot).size());
-  return host;
+  if (percorso.find(':') == std::string_view::npos) {
+    std::string relative(percorso);
+    const bool slashes = files.HostPath("C:\\").starts_with('/');
+    if (slashes) std::ranges::replace(relative, '\\', '/');
+    return relative;
+  }
+  std::string host = files.HostPath(percorso);
+  return host.empty() ? std::string(percorso) : host;
 }
 
 }  // namespace kvr5

@@ -6,6 +6,7 @@
 #include "mp3/Accettazione.h"
 #include "mp3/ParoleRifiuto.h"
 #include "platform/FileOps.h"
+#include "platform/Path.h"
 #include "playerconfig/ElencoMp3.h"
 #include "playlists/BraniPlaylist.h"
 
@@ -39,11 +40,12 @@ EsitoScelti AggiungiScelti(EditorPlaylist& editor, modMp3Infos& lettore,
                            const std::vector<std::string>& file) {
   auto& context = editor.C();
   EsitoScelti outcome;
+  if (file.size() > 1) editor.Attesa(true);
   Transaction all(editor.ConnessionePlaylist());
   for (const std::string& each : file) {
     const auto path = context.Files.SystemPath(each);
-    const std::string why =
-        path ? WhyNot(context, lettore, path.Value()) : ParoleDifetto(context, NameFault::Reserved);
+    const std::string why = path ? WhyNot(context, lettore, path.Value())
+                                 : ParoleDifetto(context, FaultOf(NameOf(each)));
     if (!why.empty()) {
       outcome.NonPresi.push_back({NameOf(each), why});
       continue;
@@ -55,6 +57,7 @@ EsitoScelti AggiungiScelti(EditorPlaylist& editor, modMp3Infos& lettore,
     context.Messaggi.LasciaCorrere();
   }
   editor.Record(all.End());
+  if (file.size() > 1) editor.Attesa(false);
   return outcome;
 }
 

@@ -27,7 +27,7 @@ struct EsitoScelti {
 EsitoScelti AggiungiScelti(EditorPlaylist& editor, modMp3Infos& lettore,
                            const std::vector<std::string>& file);
 
-/// "12 tracks added. Not taken: gong.wav. The player ...", "" where nothing is to be told.
+/// "Not taken: gong.wav. The player can't play this file... And 2 more."; "" where all were taken.
 std::string ParoleEsito(Contesto& contesto, const EsitoScelti& esito);
 
 }  // namespace kvr5

@@ -40,13 +40,14 @@ void AssegnaAlias(EditorPlaylist& editor) {
     errors.Record(connection.Execute("UPDATE [List] SET [Alias]=[FileName]"));
     return;
   }
-  const Transaction all(connection);
+  Transaction all(connection);
   errors.Record(connection.Execute("UPDATE [List] SET [Alias]=Null"));
   errors.Record(WalkRows(editor.rsList(), [&] {
     if (IsNull(editor.rsList(), "Alias")) NameFile(editor);
     editor.C().Messaggi.LasciaCorrere();
     return true;
   }));
+  errors.Record(all.End());
 }
 
 }  // namespace kvr5

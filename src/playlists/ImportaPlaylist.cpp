@@ -5,6 +5,7 @@
 #include "core/Aiuti.h"
 #include "platform/CodePage.h"
 #include "platform/FileOps.h"
+#include "platform/Fold.h"
 #include "platform/TextLines.h"
 #include "playlists/BraniPlaylist.h"
 
@@ -28,7 +29,10 @@ class LineOfAList {
     if (line.starts_with('/')) {
       const auto path = context_.Files.SystemPath(line);
       if (!path) return {};
-      line = path.Value();
+      // As it is written, not as the disk spells it; where the letter is another, as it is found.
+      std::string written = "C:" + line;
+      std::ranges::replace(written, '/', '\\');
+      line = EqualFold(written, path.Value()) ? written : path.Value();
     }
     std::ranges::replace(line, '/', '\\');
     const std::string full = Full(line);

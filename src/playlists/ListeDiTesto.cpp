@@ -10,6 +10,17 @@
 #include "projects/CartellaProgetto.h"
 
 namespace kvr5 {
+namespace {
+
+/// A name may hold the end of a line outside Windows; it would make two of one.
+std::string SenzaFineRiga(std::string testo) {
+  for (char& each : testo) {
+    if (each == '\r' || each == '\n') each = '?';
+  }
+  return testo;
+}
+
+}  // namespace
 
 ListeDiTesto::UnaLista& ListeDiTesto::Lista(const std::string& nome) {
   // The last one first: rows come by playlist.
@@ -19,13 +30,13 @@ ListeDiTesto::UnaLista& ListeDiTesto::Lista(const std::string& nome) {
 }
 
 void ListeDiTesto::Aggiungi(const std::string& nome, const std::string& riga) {
-  (Lista(nome).Testo += riga) += "\r\n";
+  (Lista(nome).Testo += SenzaFineRiga(riga)) += "\r\n";
 }
 
 void ListeDiTesto::AggiungiPercorso(const std::string& nome, const std::string& percorso) {
   UnaLista& list = Lista(nome);
   list.PerIlComputer = true;
-  (list.Testo += PerIlComputer(percorso)) += "\r\n";
+  (list.Testo += SenzaFineRiga(PerIlComputer(percorso))) += "\r\n";
 }
 
 ListeDiTesto::CartellaVista& ListeDiTesto::Vista(const std::string& cartella) {
@@ -54,7 +65,8 @@ void ListeDiTesto::Scrivi() {
 
 Error ListeDiTesto::Scrivi(const UnaLista& lista) const {
   if (!CardCanHold(lista.Nome)) return Error(errors::BadFileName);
-  auto file = contesto_.Files.Open(FileDelProgetto(contesto_, lista.Nome), OpenMode::Append);
+  // Written anew: what an old one that couldn't be deleted holds must not come twice.
+  auto file = contesto_.Files.Open(FileDelProgetto(contesto_, lista.Nome), OpenMode::Write);
   if (!file) return file.Err();
   const CodePage page(contesto_.Luogo.AnsiCodePage);
   const bool marked = lista.PerIlComputer && !page.CanEncode(lista.Testo);

@@ -11,7 +11,7 @@
 namespace kvr5 {
 
 /// The playlist files of a save: plain text, a track a line, CR LF, in the host's ANSI code page.
-/// Their lines are gathered and appended in one go, so that a save of many rows opens each file
+/// Their lines are gathered and written in one go, so that a save of many rows opens each file
 /// once. Names are compared without regard to case.
 class ListeDiTesto {
  public:

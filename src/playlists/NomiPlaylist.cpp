@@ -30,9 +30,9 @@ std::string Ask(EditorPlaylist& editor, const std::function<void()>& show) {
 std::string DifettoNomePlaylist(Contesto& contesto, std::string_view nome) {
   constexpr int kUtf8 = 65001;
   if (CodePage(kUtf8).Length(nome) > kCaratteriNomePlaylist) {
-    return ConValori(TestoLingua(contesto, "0150005"), {std::to_string(kCaratteriNomePlaylist)});
+    return ConValori(TestoLingua(contesto, "0150102"), {std::to_string(kCaratteriNomePlaylist)});
   }
-  if (Rifila(nome).empty()) return TestoLingua(contesto, "0150004");
+  if (Rifila(nome).empty()) return TestoLingua(contesto, "0150005");
   if (nome.find_first_of(kVietatiNomePlaylist) == std::string_view::npos) return {};
   return TestoLingua(contesto, "0150006") + "\r\n \\ / : ? \" < > |";
 }

@@ -77,7 +77,7 @@ void RiordinaPosizione(EditorPlaylist& editor) {
                                "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC"))) {
     return;
   }
-  const Transaction all(editor.ConnessionePlaylist());
+  Transaction all(editor.ConnessionePlaylist());
   std::int64_t current = rows.Number("NPlaylist");
   std::int64_t counter = 0;
   editor.Record(WalkRows(rows, [&] {
@@ -90,6 +90,7 @@ void RiordinaPosizione(EditorPlaylist& editor) {
     }
     return true;
   }));
+  editor.Record(all.End());
 }
 
 void RimuoviFile(EditorPlaylist& editor) {

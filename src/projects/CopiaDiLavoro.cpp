@@ -30,9 +30,10 @@ void CopiaDiLavoro::Apri() {
 
 void CopiaDiLavoro::Salva() {
   connessione_.Close();
-  if (!FileExists(contesto_.Files, temporaneo_) || !Ripristina()) return;
+  if (!FileExists(contesto_.Files, temporaneo_)) return;
   Elimina(vero_);
-  CopiaFileShell(contesto_, temporaneo_, vero_);
+  // The old one has gone: a cancel now would leave none.
+  CopiaFileShell(contesto_, temporaneo_, vero_, AnnulloCopia::Nulla);
 }
 
 void CopiaDiLavoro::Lascia() {

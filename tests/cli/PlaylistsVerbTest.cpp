@@ -139,9 +139,9 @@ TEST_F(PlaylistsVerb, OneRefusedFileOfManyDoesntStopTheOthers) {
 
 TEST_F(PlaylistsVerb, WrongWordsEndItUnsavedWithStatusTwo) {
   const std::string before = Read("playlist.mdb");
-  for (const char* wrong : {"nonsense", "add", "list all", "select", "select x", "select -1",
-                            "inputs 8", "up", "up one", "shuffle 2147483648", "new a b c", "SAVE",
-                            "yes please", "add \"open", "report now", "remove 1 2"}) {
+  for (const char* wrong : {"nonsense", "add", "list all", "select", "select x", "inputs 8", "up",
+                            "up one", "shuffle 2147483648", "new a b c", "SAVE", "yes please",
+                            "add \"open", "report now", "remove 1 2"}) {
     const auto run = Run("add " + Music("a.mp3") + "\n" + wrong + "\nsave\n");
     EXPECT_EQ(run.Stato, 2) << wrong;
     EXPECT_EQ(Read("playlist.mdb"), before) << wrong;
@@ -210,11 +210,31 @@ TEST_F(NamedPlaylistsVerb, RefuseNamesThatTheBoxWouldntTakeInOneLine) {
   EXPECT_THAT(Session("new 12345678\nnew Free A:B\n").Box(), IsEmpty());
 }
 
-TEST_F(NamedPlaylistsVerb, WithoutANameRefuseFilesAndReports) {
+TEST_F(NamedPlaylistsVerb, WithoutANameRefuseFilesAndPassOverListsAndReports) {
   k.Cartella.Write("music/l.m3u", "b.mp3\r\n");
   const auto run = Session("add " + Music("a.mp3") + "\nimport " + Music("l.m3u") + "\nreport\n");
   EXPECT_EQ(run.Stato, 0);
-  EXPECT_EQ(run.Box().size(), 3U);
+  EXPECT_EQ(run.Box().size(), 1U);
+  EXPECT_EQ(run.Box()[0]["refused"], "add " + Music("a.mp3"));
+}
+
+TEST_F(PlaylistsVerb, ANumberThatNoTrackOrEntryHasIsRefusedHoweverLarge) {
+  const auto run =
+      Run("add " + Music("a.mp3") +
+          "\nremove -1\nup 99999999999999999999\nselect -1\nselect 5000000000\nlist\n");
+  EXPECT_EQ(run.Stato, 0);
+  EXPECT_EQ(run.Box().size(), 4U);
+  EXPECT_THAT(Rows(run), ElementsAre("1 a.mp3"));
+}
+
+TEST_F(PlaylistsVerb, ACommandOfAThousandFilesIsTakenWhole) {
+  std::string command = "add";
+  for (int i = 0; i < 499; ++i) command += " " + Music("a.mp3") + std::string(200, ' ');
+  command += " " + Music("b.mp3");
+  ASSERT_GT(command.size(), std::size_t{64} << 10U);
+  const auto rows = Rows(Run(command + "\nlist\n"));
+  ASSERT_EQ(rows.size(), 500U);
+  EXPECT_EQ(rows.back(), "500 b.mp3");
 }
 
 TEST_F(PlaylistsVerb, AProjectWithoutTheDatabaseIsStatus3) {

@@ -105,7 +105,7 @@ TEST_P(WorkingCopy, OfAHalfChangedDatabaseBehindALinkHoldsWhatWasThereBefore) {
   EXPECT_TRUE(b.Cartella.Read("elsewhere/real.mdb") == before);
 }
 
-TEST_P(WorkingCopy, OfADatabaseThatAnotherProgramIsChangingStaysClosedAndNothingIsSavedOverIt) {
+TEST_P(WorkingCopy, OfADatabaseThatAnotherProgramIsChangingStaysClosed) {
   sqlite3* other = nullptr;
   ASSERT_EQ(sqlite3_open((b.Cartella.Host() / Real()).c_str(), &other), SQLITE_OK);
   ASSERT_EQ(sqlite3_exec(other, "BEGIN EXCLUSIVE; DELETE FROM List", nullptr, nullptr, nullptr),
@@ -118,9 +118,7 @@ TEST_P(WorkingCopy, OfADatabaseThatAnotherProgramIsChangingStaysClosedAndNothing
     ASSERT_EQ(b.Copia.Guasti.size(), 1U);
     EXPECT_TRUE(b.Copia.Guasti[0].File.ends_with(GetParam().Real));
     EXPECT_TRUE(b.Copia.Guasti[0].Source);
-    b.Cartella.Write(Temp(), "an edited copy");
-    copy.Salva();
-    EXPECT_EQ(b.Copia.Guasti.size(), 2U);
+    copy.Salva();  // none was made: nothing takes the real one's place
   }
   EXPECT_EQ(sqlite3_close(other), SQLITE_OK);
   EXPECT_TRUE(b.Cartella.Read(Real()) == before);
@@ -133,6 +131,32 @@ TEST_P(WorkingCopy, AJournalThatComesUpMeanwhileIsNotPlayedBackIntoWhatWasSaved)
   b.InterrompiModifica(GetParam().Real);
   copy.Salva();
   EXPECT_FALSE(b.Cartella.Exists(Real() + "-journal"));
+  Connection real(b.Disco);
+  ASSERT_FALSE(real.Open(b.Percorso(Real())));
+  EXPECT_EQ(Rows(real), 0);
+}
+
+TEST_P(WorkingCopy, IsSavedAlsoWhereTheRealOneCanNoLongerBeReadBack) {
+  CopiaDiLavoro copy(b.C, GetParam().Real, GetParam().Temp);
+  copy.Apri();
+  EXPECT_FALSE(copy.Connessione().Execute("DELETE * FROM [List]"));
+  std::filesystem::remove(b.Cartella.Host() / Real());
+  b.Cartella.Write(Real() + "-journal", "of a database that has gone");
+  copy.Salva();
+  EXPECT_TRUE(b.Copia.Guasti.empty());
+  EXPECT_FALSE(b.Cartella.Exists(Real() + "-journal"));
+  Connection real(b.Disco);
+  ASSERT_FALSE(real.Open(b.Percorso(Real())));
+  EXPECT_EQ(Rows(real), 0);
+}
+
+TEST_P(WorkingCopy, ACancelDoesNotStopTheCopyThatASaveIs) {
+  CopiaDiLavoro copy(b.C, GetParam().Real, GetParam().Temp);
+  copy.Apri();
+  EXPECT_FALSE(copy.Connessione().Execute("DELETE * FROM [List]"));
+  b.Copia.AnnullaAlla = 1;
+  copy.Salva();
+  EXPECT_FALSE(b.C.Stato.AnnullatoDaUtente);
   Connection real(b.Disco);
   ASSERT_FALSE(real.Open(b.Percorso(Real())));
   EXPECT_EQ(Rows(real), 0);

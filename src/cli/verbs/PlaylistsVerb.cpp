@@ -53,7 +53,7 @@ class PlaylistSession : public EditingCommands {
 
   Contesto& Context() { return session_.Context(); }
   /// Goes to the first row with that Pos.
-  bool GoTo(std::uint32_t pos);
+  bool GoTo(const std::string& pos);
   /// What `work` does with the row of a Pos; refused where there is none.
   template <typename Work>
   Outcome WithRow(const std::string& word, Work work);
@@ -98,27 +98,25 @@ Outcome PlaylistSession::Run(const Words& words) {
   return Outcome::Unknown;
 }
 
-bool PlaylistSession::GoTo(std::uint32_t pos) {
+bool PlaylistSession::GoTo(const std::string& pos) {
   auto& rows = editor_.rsList();
-  return rows.RecordCount() > 0 && !rows.MoveFirst() && !rows.Find("Pos=" + std::to_string(pos)) &&
-         !rows.Eof();
+  return rows.RecordCount() > 0 && !rows.MoveFirst() && !rows.Find("Pos=" + pos) && !rows.Eof();
 }
 
 template <typename Work>
 Outcome PlaylistSession::WithRow(const std::string& word, Work work) {
-  const auto pos = NumberOf(word, kHighest);
-  if (!pos) return Outcome::Unknown;
-  if (!GoTo(*pos)) return Refuse("the list has no track with this number");
+  if (!IsWholeNumber(word)) return Outcome::Unknown;
+  if (!GoTo(word)) return Refuse("the list has no track with this number");
   return work();
 }
 
 Outcome PlaylistSession::Select(const Words& words) {
+  if (!IsWholeNumber(words[1])) return Outcome::Unknown;
   const auto entry = NumberOf(words[1], kHighest);
-  if (!entry) return Outcome::Unknown;
   if (!editor_.Disposizione().picfraSelezionePlaylist) {
     return Refuse("this project has no selector");
   }
-  if (*entry >= editor_.Voci().size()) return Refuse("the selector has no such entry");
+  if (!entry || *entry >= editor_.Voci().size()) return Refuse("the selector has no such entry");
   editor_.ScegliVoce(static_cast<int>(*entry));
   return Outcome::Done;
 }
@@ -224,7 +222,6 @@ Outcome PlaylistSession::Shuffle(const Words& words) {
 Outcome PlaylistSession::Import(const Words& words) {
   const auto list = Context().Files.SystemPath(words[1]);
   if (!list || !FileExists(Context().Files, list.Value())) return Refuse("there is no such file");
-  if (editor_.SelettoreVuoto()) return Refuse(TestoLingua(Context(), "0050040"));
   if (PuoImportare(editor_)) ImportaPlaylist(editor_, reader_, list.Value());
   return Outcome::Done;
 }
@@ -252,7 +249,9 @@ Outcome PlaylistSession::Delete(const Words& /*words*/) {
 }
 
 Outcome PlaylistSession::Report(const Words& /*words*/) {
-  return ScriviReport(editor_) ? Outcome::Done : Refuse("there is no track to report");
+  const bool begun = ScriviReport(editor_);  // without a track there is no page
+  if (!begun || Context().Stato.ReportIntero) return Outcome::Done;
+  return Refuse("Playlist.htm can't be written");
 }
 
 Outcome PlaylistSession::Save(const Words& /*words*/) {

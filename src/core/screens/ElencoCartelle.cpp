@@ -44,6 +44,9 @@ ElencoCartelle::ElencoCartelle(Contesto& contesto, const char* nome, QWidget* pa
   setObjectName(QLatin1String(nome));
   setUniformItemSizes(true);
   setIconSize({16, 16});
+  connect(this, &QListWidget::itemClicked, this, [this] {
+    if (SuClic) SuClic();
+  });
   connect(this, &QListWidget::itemDoubleClicked, this,
           [this](const QListWidgetItem* item) { Entra(item); });
 }

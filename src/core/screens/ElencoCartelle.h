@@ -24,6 +24,8 @@ class ElencoCartelle : public ElencoModesto {
   bool Rileggi();
   /// Called after each change of folder.
   std::function<void()> SuCambio;
+  /// Called for a click, which stays in the folder.
+  std::function<void()> SuClic;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;

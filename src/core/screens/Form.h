@@ -75,6 +75,8 @@ class Form : public QWidget {
   void SuInvio(QAbstractButton& pulsante) { suInvio_ = &pulsante; }
   /// Whether it was asked to close and does so once its handlers are done.
   bool ChiusuraAttesa() const { return rinviata_.has_value(); }
+  /// Drops that request.
+  void DimenticaChiusura() { rinviata_.reset(); }
   /// Opens the help document, as F1 and picHelp do.
   void Aiuto();
 

@@ -157,6 +157,7 @@ void frmPlayerConfig::AllAttivazione() {
   if (!codice_) return;
   const Impegno stays(*this);
   const OwnError own(C().Errore);
+  guardia_.start();
   const OkInPosto same(*this);  // the click that brings the hub to the front comes next
   {
     const OkInPosto link(*this);  // held up before the rereading below lets events run
@@ -458,13 +459,17 @@ void frmPlayerConfig::ApriPlaylist() {
   if (lavora_) return;
   const Impegno stays(*this);
   const OwnError own(C().Errore);
+  lavora_ = true;  // events run on the way: a second press would delete the editor's copy
   ascolto_.Stop();
   conta_.stop();
+  guardia_.stop();
   conto_.Interrompi();  // the editor copies the database
   const std::string stale = FileDelProgetto(C(), "tmpPlaylist.mdb");
   if (FileExists(C().Files, stale)) C().Errore.Record(C().Files.Delete(stale));
   ambiente_.Schermi.ApriPlaylist(Schermata::Configurazione);
   Nascondi();
+  DimenticaChiusura();  // asked for while the editor came up: it would be asked about over that
+  lavora_ = false;
 }
 
 bool frmPlayerConfig::PuoChiudere(Causa /*causa*/) {

@@ -94,7 +94,7 @@ void ElencoFile::mousePressEvent(QMouseEvent* event) {
   muta_ = true;
   QListWidget::mousePressEvent(event);
   muta_ = false;
-  if (itemAt(event->pos()) != nullptr && !Corrente().empty()) Clic();
+  Clic();
 }
 
 void ElencoFile::keyPressEvent(QKeyEvent* event) {
@@ -103,13 +103,12 @@ void ElencoFile::keyPressEvent(QKeyEvent* event) {
   if (!event->isAutoRepeat() && SuDoppio) SuDoppio();
 }
 
-void ElencoFile::currentChanged(const QModelIndex& ora, const QModelIndex& prima) {
-  QListWidget::currentChanged(ora, prima);
-  // The selection follows in a moment.
-  if (!muta_ && ora.isValid()) {
-    QMetaObject::invokeMethod(
-        this, [this] { Clic(); }, Qt::QueuedConnection);
-  }
+void ElencoFile::selectionChanged(const QItemSelection& ora, const QItemSelection& prima) {
+  QListWidget::selectionChanged(ora, prima);
+  if (muta_) return;
+  // Not from within the list's own change: what follows lets events run.
+  QMetaObject::invokeMethod(
+      this, [this] { Clic(); }, Qt::QueuedConnection);
 }
 
 QStringList ElencoFile::mimeTypes() const {

@@ -23,14 +23,14 @@ class ElencoFile : public ElencoModesto {
   /// Goes to the first file whose name holds the text, from the current one on, or behind that.
   bool Cerca(const QString& testo, bool prossimo);
 
-  /// Called when the user picks a file, the same one too; and for a double click or Enter.
+  /// Called when the user picks a file, the same one too, or none; and for a double click or Enter.
   std::function<void()> SuClic;
   std::function<void()> SuDoppio;
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  void currentChanged(const QModelIndex& ora, const QModelIndex& prima) override;
+  void selectionChanged(const QItemSelection& ora, const QItemSelection& prima) override;
   QMimeData* mimeData(const QList<QListWidgetItem*>& voci) const override;
   QStringList mimeTypes() const override;
   Qt::DropActions supportedDropActions() const override { return Qt::CopyAction; }

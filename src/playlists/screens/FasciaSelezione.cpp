@@ -94,9 +94,12 @@ void FasciaSelezione::Disponi(const DisposizionePlaylist& disposizione) {
 
 void FasciaSelezione::Mostra(const EditorPlaylist& editor) {
   const QSignalBlocker quiet(cmbPlaylist);
-  cmbPlaylist->clear();
-  for (const VocePlaylist& each : editor.Voci()) {
-    cmbPlaylist->addItem(Qs(SuUnaRiga(each.Testo)), each.ItemData);
+  if (voci_ != editor.Voci()) {
+    voci_ = editor.Voci();
+    cmbPlaylist->clear();
+    for (const VocePlaylist& each : voci_) {
+      cmbPlaylist->addItem(Qs(SuUnaRiga(each.Testo)), each.ItemData);
+    }
   }
   cmbPlaylist->setCurrentIndex(editor.Indice());
   for (std::size_t i = 0; i < chkIn.size(); ++i) {

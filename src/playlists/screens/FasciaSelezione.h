@@ -45,6 +45,7 @@ class FasciaSelezione : public QWidget {
   QWidget* CostruisciIngressi();
 
   Contesto& contesto_;
+  std::vector<VocePlaylist> voci_;  ///< as cmbPlaylist has them
 };
 
 }  // namespace kvr5

@@ -98,7 +98,7 @@ void PaneFile::Localizza() {
   txtCerca->setPlaceholderText(text("0050112"));
   txtCerca->setAccessibleName(txtCerca->placeholderText());
   txtCerca->setToolTip(text("0050111"));
-  filMp3->setAccessibleName(text("0130179"));
+  filMp3->setAccessibleName(text("0050124"));
   DirDirectoryMp3->setAccessibleName(text("0130180"));
 }
 

@@ -1,5 +1,6 @@
 #include "playlists/screens/RiquadroBrani.h"
 
+#include <QApplication>
 #include <QDragEnterEvent>
 #include <QMimeData>
 #include <QPainter>
@@ -89,8 +90,10 @@ void RiquadroBrani::Attesa(bool attende) {
   }
   const bool keyboard = attende && grdPlaylist->hasFocus();
   pila_->setCurrentWidget(attende ? attesa_ : grdPlaylist);
-  if (keyboard) ripresa_ = true;
-  if (!attende && std::exchange(ripresa_, false)) grdPlaylist->setFocus();
+  if (keyboard) ripiego_ = window()->focusWidget();
+  // Unless the user has gone elsewhere meanwhile.
+  QWidget* const fell = attende ? nullptr : std::exchange(ripiego_, nullptr).data();
+  if (fell != nullptr && window()->focusWidget() == fell) grdPlaylist->setFocus();
 }
 
 void RiquadroBrani::MostraEsito(const QString& testo) {
@@ -104,7 +107,7 @@ void RiquadroBrani::Sopra(bool sopra) {
 }
 
 void RiquadroBrani::dragEnterEvent(QDragEnterEvent* event) {
-  if (FilesOf(*event->mimeData()).empty()) return;
+  if (FilesOf(*event->mimeData()).empty() || QApplication::activeModalWidget() != nullptr) return;
   // The files stay where they are, whatever a file manager proposes.
   event->setDropAction(Qt::CopyAction);
   event->accept();
@@ -123,7 +126,8 @@ void RiquadroBrani::dropEvent(QDropEvent* event) {
   QMetaObject::invokeMethod(
       this,
       [this, files = FilesOf(*event->mimeData())] {
-        if (SuFile) SuFile(files);
+        const bool boxed = QApplication::activeModalWidget() != nullptr;
+        if (SuFile && !boxed) SuFile(files);
       },
       Qt::QueuedConnection);
 }

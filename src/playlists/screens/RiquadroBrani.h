@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLabel>
+#include <QPointer>
 #include <QStackedLayout>
 #include <QTimer>
 #include <functional>
@@ -52,7 +53,7 @@ class RiquadroBrani : public Riquadro {
   QStackedLayout* pila_;
   QWidget* attesa_;             ///< what holds lblAttendere
   std::uint32_t coloreAttesa_;  ///< of lblAttendere: blue-green-red value
-  bool ripresa_ = false;        ///< the grid had the keyboard and gets it back
+  QPointer<QWidget> ripiego_;   ///< what got the keyboard when the grid was hidden
   bool sopra_ = false;          ///< files are being dragged over it
 };
 

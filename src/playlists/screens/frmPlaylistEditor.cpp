@@ -52,10 +52,18 @@ void frmPlaylistEditor::Collega() {
     if (waits) conta_.stop();  // the disk is the run's
     Brani->Attesa(waits);
   };
-  Fascia->SuVoce = [this](int entry) { Comando([this, entry] { editor_.ScegliVoce(entry); }); };
-  Fascia->SuIngresso = [this](int input, bool on) {
-    Comando([this, input, on] { editor_.SpuntaIngresso(input, on); });
+  const auto selects = [this](const std::function<void()>& action) {
+    Comando([this, &action] {
+      Brani->MostraEsito({});
+      action();
+    });
     Fascia->Mostra(editor_);  // also where it came amid a save, and nothing was done
+  };
+  Fascia->SuVoce = [this, selects](int entry) {
+    selects([this, entry] { editor_.ScegliVoce(entry); });
+  };
+  Fascia->SuIngresso = [this, selects](int input, bool on) {
+    selects([this, input, on] { editor_.SpuntaIngresso(input, on); });
   };
   const auto does = [this](QAbstractButton* button, const std::function<void()>& action) {
     connect(button, &QAbstractButton::clicked, this, [this, action] { Comando(action); });
@@ -82,6 +90,12 @@ void frmPlaylistEditor::Collega() {
 void frmPlaylistEditor::CollegaPane() {
   connect(fraFile->picDisk, &QAbstractButton::clicked, this,
           [this] { Comando([this] { SfogliaMp3(); }); });
+  fraFile->DirDirectoryMp3->SuClic = [this] {
+    Comando([this] {
+      fraFile->Rileggi();
+      TieniCartella(C(), fraFile->DirDirectoryMp3->Percorso());
+    });
+  };
   fraFile->SuCartella = [this] { Comando([this] { CambiataCartella(); }); };
   fraFile->filMp3->SuClic = [this] { Comando([this] { ClicFile(); }); };
   fraFile->filMp3->SuDoppio = [this] { Comando([this] { DoppioFile(); }); };
@@ -105,7 +119,10 @@ void frmPlaylistEditor::CollegaBrani() {
   Brani->grdPlaylist->SuSposta = [moves] { moves(true); };
   Brani->grdPlaylist->SuSpostaGiu = [moves] { moves(false); };
   Brani->grdPlaylist->SuAscolta = [this] {
-    Comando([this] { rigaSuona_ ? ascolto_.Stop() : AscoltaRiga(); });
+    Comando([this] {
+      const bool same = rigaSuona_ && suona_ == editor_.rsList().Number("ID", -1);
+      same ? ascolto_.Stop() : AscoltaRiga();
+    });
   };
   connect(Brani->cmdSpostaSu, &QAbstractButton::clicked, this, [moves] { moves(true); });
   connect(Brani->cmdSpostaGiu, &QAbstractButton::clicked, this, [moves] { moves(false); });
@@ -116,7 +133,10 @@ void frmPlaylistEditor::CollegaBrani() {
 void frmPlaylistEditor::CollegaAscolto() {
   const auto shows = [this](Coppia* button, const StatoAscolto& state) {
     const bool outside = C().Stato.UsaPlayerEsterno;
-    ImpostaAscolto(C(), *button, state, outside ? "0130270" : "0130268");
+    const bool row = button == Brani->cmdPlayMp3;
+    const char* plays = row ? "0050125" : "0130268";
+    const char* opens = row ? "0050126" : "0130270";
+    ImpostaAscolto(C(), *button, state, outside ? opens : plays);
   };
   ascolto_.SuPlayFileSx = [this, shows](bool on) { shows(cmdPlayFileSx, {on, false}); };
   ascolto_.SuMutoFileSx = [this, shows] { shows(cmdPlayFileSx, {true, true}); };
@@ -153,7 +173,10 @@ void frmPlaylistEditor::Localizza() {
   const auto text = [this](const char* key) { return Qs(TestoLingua(C(), key)); };
   LocalizzaForm(C(), kForm, *this);
   lblProgetto->setText(Qs(C().Stato.ProjectName));
-  lblTipoPlayer->setText(Qs(C().Stato.PlayerConfigDesc));
+  constexpr int kTypeRoom = 420;
+  const QString type = Qs(C().Stato.PlayerConfigDesc);
+  lblTipoPlayer->setText(lblTipoPlayer->fontMetrics().elidedText(type, Qt::ElideRight, kTypeRoom));
+  lblTipoPlayer->setToolTip(Suggerimento(type));
   Fascia->Localizza();
   fraFile->Localizza();
   modello_.Localizza();
@@ -181,6 +204,9 @@ void frmPlaylistEditor::AlCaricamento() {
   Comando([this] {
     editor_.Carica();
     Fascia->Disponi(editor_.Disposizione());
+    if (!editor_.rsList().IsOpen()) {
+      Brani->grdPlaylist->ImpostaVuota(Qs(TestoLingua(C(), "0050123")));
+    }
     fraFile->DirDirectoryMp3->ImpostaPercorso(CartellaIniziale(C(), 0));
   });
   fraFile->filMp3->setFocus();
@@ -189,10 +215,10 @@ void frmPlaylistEditor::AlCaricamento() {
 
 void frmPlaylistEditor::AllAttivazione() {
   // Files come and go while another window is in front. At the first time the load has just looked.
-  if (!std::exchange(lasciata_, true)) return;
+  if (!std::exchange(lasciata_, true) || editor_.Turni.InCorso()) return;
   Comando([this] {
     const std::string before = fraFile->Corrente();
-    if (fraFile->Rileggi() && fraFile->Corrente() != before) PulisciInfoMp3();
+    if (fraFile->Rileggi() && fraFile->Corrente() != before) NienteFile();
     conto_.Ricomincia();
     CominciaConto();
   });
@@ -203,11 +229,13 @@ void frmPlaylistEditor::Comando(const std::function<void()>& azione) {
   const Impegno stays(*this);
   const OwnError own(C().Errore);
   editor_.Turni.Comando(azione);
-  if (!editor_.Turni.InCorso() && !editor_.Turni.UltimoChiesto()) AggiornaVista();
+  if (!editor_.Turni.UltimoChiesto()) AggiornaVista();
 }
 
 void frmPlaylistEditor::AggiornaVista() {
   if (std::exchange(grigliaCambiata_, false)) MostraRighe();
+  scelti_.clear();  // of a command that came to nothing
+  posto_ = -1;
   const auto changes = static_cast<std::size_t>(editor_.Modifiche());
   const std::string words =
       changes == 0
@@ -217,6 +245,9 @@ void frmPlaylistEditor::AggiornaVista() {
 }
 
 void frmPlaylistEditor::MostraRighe() {
+  if (std::exchange(mostrata_, editor_.PlaylistCorrente()) != editor_.PlaylistCorrente()) {
+    Brani->lblTotali->clear();
+  }
   modello_.Imposta(RigheDellaGriglia(editor_));
   const auto& rows = modello_.Righe();
   if (const int place = std::exchange(posto_, -1); place >= 0 && !rows.empty()) {
@@ -251,17 +282,19 @@ void frmPlaylistEditor::SfogliaMp3() {
 }
 
 void frmPlaylistEditor::CambiataCartella() {
-  cmdAggiungiFile->hide();
-  fraFileInfo->tmrInfoMp3.stop();
-  PulisciInfoMp3();
+  NienteFile();
   // The load only goes where the settings lead.
   if (isVisible()) TieniCartella(C(), fraFile->DirDirectoryMp3->Percorso());
 }
 
-void frmPlaylistEditor::ClicFile() {
+void frmPlaylistEditor::NienteFile() {
   cmdAggiungiFile->hide();
   fraFileInfo->tmrInfoMp3.stop();
   PulisciInfoMp3();
+}
+
+void frmPlaylistEditor::ClicFile() {
+  NienteFile();
   if (!fraFile->Corrente().empty()) fraFileInfo->tmrInfoMp3.start();
   ascolto_.Stop();  // last: it lets events run, and the second half of a double click is one
 }
@@ -301,7 +334,7 @@ void frmPlaylistEditor::AggiungiFile() {
   Brani->MostraEsito({});
   const std::string folder = fraFile->DirDirectoryMp3->Percorso();
   std::vector<std::string> chosen = fraFile->Scelti();
-  if (chosen.size() == 1) {
+  if (chosen.size() == 1 && chosen.front() == fraFile->Corrente()) {  // the panel has passed it
     kvr5::AggiungiFile(editor_, folder, chosen.front());
     return;
   }
@@ -310,7 +343,7 @@ void frmPlaylistEditor::AggiungiFile() {
 }
 
 void frmPlaylistEditor::DoppioFile() {
-  fraFileInfo->tmrInfoMp3.stop();
+  NienteFile();
   MostraInfoMp3();
   if (!cmdAggiungiFile->isHidden() && cmdAggiungiFile->isEnabled()) AggiungiFile();
 }
@@ -362,7 +395,9 @@ void frmPlaylistEditor::Mescola() {
 }
 
 void frmPlaylistEditor::AscoltaRiga() {
-  if (editor_.rsList().AbsolutePosition() > 0) ascolto_.PlayRiga(editor_.rsList());
+  if (editor_.rsList().AbsolutePosition() < 1) return;
+  suona_ = editor_.rsList().Number("ID", -1);
+  ascolto_.PlayRiga(editor_.rsList());
 }
 
 void frmPlaylistEditor::MostraReport() {

@@ -85,6 +85,8 @@ class frmPlaylistEditor : public Form {
 
   void SfogliaMp3();
   void CambiataCartella();
+  /// No file is picked that has been judged.
+  void NienteFile();
   void ClicFile();
   void PulisciInfoMp3();
   void MostraInfoMp3();
@@ -109,9 +111,11 @@ class frmPlaylistEditor : public Form {
   FormPredefinita<frmPlaylistName> nome_{[this] { return new frmPlaylistName(ambiente_); }};
   QTimer conta_;
   bool grigliaCambiata_ = false;
+  std::int32_t mostrata_ = -1;  ///< whose rows the grid shows
   bool rigaSuona_ = false;
-  Id scelti_;       ///< the rows to select when they are shown anew
-  int posto_ = -1;  ///< else the one at this place, from 0
+  std::int64_t suona_ = -1;  ///< the row that was played last
+  Id scelti_;                ///< the rows to select when they are shown anew
+  int posto_ = -1;           ///< else the one at this place, from 0
   bool lasciata_ = false;
 };
 

@@ -37,11 +37,11 @@ void frmPlaylistName::Costruisci() {
   lblNomePlaylist->setBuddy(txtNomePlaylist);
   page->addWidget(txtNomePlaylist);
   lblCaratteriDisponibili =
-      NuovaEtichetta("lblCaratteriDisponibili", QStringLiteral("CharsLeft:8/8"), 8, this);
+      NuovaEtichetta("lblCaratteriDisponibili", QStringLiteral("CharsLeft:8/8"), 2, this);
   Veste(*lblCaratteriDisponibili, Carattere::Suggerimento, Ruolo::Attenuato);
   page->addWidget(lblCaratteriDisponibili);
   lblWarn = new EtichettaAvviso("lblWarn", QStringLiteral("Warning"), Carattere::Riquadro, this);
-  lblWarn->setProperty(kTag, 4);
+  lblWarn->setProperty(kTag, 5);
   lblNota = new EtichettaAvviso("lblNota", {}, Carattere::Suggerimento, this);
   for (EtichettaAvviso* each : {lblWarn, lblNota}) {
     each->setWordWrap(true);
@@ -49,8 +49,8 @@ void frmPlaylistName::Costruisci() {
     page->addWidget(each);
   }
   page->addStretch(1);
-  picCancel = new Coppia("picCancel", "lblCanc", QStringLiteral("Cancel"), "indietro", 3, this);
-  picOk = new Coppia("picOk", "lblOk", QStringLiteral("OK"), "fatto", 2, this);
+  picCancel = new Coppia("picCancel", "lblCanc", QStringLiteral("Cancel"), "indietro", 4, this);
+  picOk = new Coppia("picOk", "lblOk", QStringLiteral("OK"), "fatto", 3, this);
   picOk->ImpostaGenere(Coppia::Genere::Primario);
   lblCanc = picCancel->Etichetta();
   lblOk = picOk->Etichetta();
