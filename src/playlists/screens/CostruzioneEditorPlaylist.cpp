@@ -99,9 +99,11 @@ QWidget* frmPlaylistEditor::CostruisciSinistra(QWidget* corpo) {
   lines->setSpacing(12);
   fraFile = new PaneFile(C(), left);
   fraFileInfo = new PannelloInfo({}, -1, 5, kFileInfoDelay, left);
-  lblFileInfo = NuovaEtichetta("lblFileInfo", QStringLiteral("FileInfo"), 31, fraFileInfo);
+  lblFileInfo = new EtichettaElisa("lblFileInfo", fraFileInfo);
+  lblFileInfo->setText(QStringLiteral("FileInfo"));
+  lblFileInfo->setProperty(kTag, 31);
   Veste(*lblFileInfo, Carattere::Riquadro);
-  fraFileInfo->Testata()->insertWidget(0, lblFileInfo);
+  fraFileInfo->Testata()->insertWidget(0, lblFileInfo, 1);
   cmdPlayFileSx = new Coppia("cmdPlayFileSx", "lblAnteprimaSx", QStringLiteral("Preview"),
                              "ascolta", 9, fraFileInfo);
   cmdStopFileSx = new Coppia("cmdStopFileSx", "", {}, "ferma", -1, fraFileInfo);

@@ -60,8 +60,8 @@ RiquadroBrani::RiquadroBrani(Contesto& contesto, ModelloBrani& modello, QWidget*
   };
   cmdPlayMp3 = button("cmdPlayMp3", "lblAnteprima", "Preview", "ascolta", 8);
   cmdStopMp3 = button("cmdStopMp3", "", "", "ferma", -1);
-  cmdSpostaSu = button("cmdSpostaSu", "lblSpostaSu", "Up", "su", 44);
-  cmdSpostaGiu = button("cmdSpostaGiu", "lblSpostaGiu", "Down", "giu", 45);
+  cmdSpostaSu = button("cmdSpostaSu", "", "Up", "su", -1);
+  cmdSpostaGiu = button("cmdSpostaGiu", "", "Down", "giu", -1);
   cmdRandom = button("cmdRandom", "lblRandom", "Random", "casuale", 28);
   lblAnteprima = cmdPlayMp3->Etichetta();
   lblRandom = cmdRandom->Etichetta();
@@ -146,7 +146,9 @@ void RiquadroBrani::Localizza() {
   grdPlaylist->Misura();
   cmdStopMp3->ImpostaScritta(text("0130169"));
   cmdStopMp3->setToolTip(text("0130269"));
+  cmdSpostaSu->ImpostaScritta(text("0050044"));
   cmdSpostaSu->setToolTip(text("0050106"));
+  cmdSpostaGiu->ImpostaScritta(text("0050045"));
   cmdSpostaGiu->setToolTip(text("0050107"));
   cmdRandom->setToolTip(text("0050108"));
   grdPlaylist->setAccessibleName(text("0050018"));

@@ -83,6 +83,9 @@ void GiroSchermi::Percorri(const Guarda& guarda) {
   NelleImpostazioni();
   AlNome();
   NelSalvataggio();
+  NellEditor();
+  NegliAltriEditor();
+  AlNomeDellaPlaylist();
   NegliHub();
   NellHubInUso();
   NellHubConScheda();

@@ -7,6 +7,7 @@
 
 #include "core/screens/Form.h"
 #include "playerconfig/screens/frmPlayerConfig.h"
+#include "playlists/screens/frmPlaylistEditor.h"
 #include "support/screens/BancoSchermi.h"
 
 namespace kvr5::test {
@@ -56,6 +57,9 @@ class GiroSchermi {
   void NellaCopia();
   void NelleDomande();
   void NeiMessaggi();
+  void NellEditor();
+  void NegliAltriEditor();
+  void AlNomeDellaPlaylist();
   void NegliHub();
   void NellHubInUso();
   void NellHubConScheda();
@@ -68,6 +72,7 @@ class GiroSchermi {
             bool attende = false) const;
   void Progetto(const std::string& nome, std::int16_t tipo, std::int16_t modo);
   std::unique_ptr<frmPlayerConfig> Hub();
+  std::unique_ptr<frmPlaylistEditor> Editor();
   void Domanda(const std::string& nome, const BoxSiNo& box);
   void Messaggio(const std::string& nome, const kvr5::Messaggio& messaggio);
   std::string Testo(const char* chiave);

@@ -58,8 +58,8 @@ QPoint Middle(const QWidget& control, const QWidget& screen) {
   return control.mapTo(&screen, control.rect().center());
 }
 
-/// Where a control stands among the blocks of a window. A window is one block, but the hub: what
-/// is above its columns, then each column from left to right, then what is below them.
+/// Where a control stands among the blocks of a window. A window is one block, but one with columns
+/// that scroll: what is above them, then each column from left to right, then what is below them.
 int BlockOf(const QWidget& control, const QWidget& screen) {
   const auto* area = screen.findChild<QScrollArea*>();
   if (area == nullptr) return 0;
