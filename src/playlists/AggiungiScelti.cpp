@@ -29,34 +29,46 @@ std::string WhyNot(Contesto& context, modMp3Infos& reader, const std::string& pa
   return words.empty() ? refused : words;
 }
 
-/// The file's name where no path of the system can be had.
+/// The file's name where no path of the system can be had, and why there is none.
 std::string NameOf(const std::string& given) {
-  return given.substr(given.find_last_of("/\\") + 1);
+  return given.substr(given.find_last_of('/') + 1);
+}
+NameFault FaultOfPath(const std::string& given) {
+  const NameFault own = FaultOf(NameOf(given));
+  return own == NameFault::None ? NameFault::Reserved : own;  // that of a folder on the way
+}
+
+/// Adds one file, or notes why it isn't taken; false when no further one can be.
+bool AddOne(EditorPlaylist& editor, modMp3Infos& reader, const std::string& given,
+            EsitoScelti& outcome) {
+  auto& context = editor.C();
+  const auto path = context.Files.SystemPath(given);
+  const std::string why =
+      path ? WhyNot(context, reader, path.Value()) : ParoleDifetto(context, FaultOfPath(given));
+  if (!why.empty()) {
+    outcome.NonPresi.push_back({NameOf(given), why});
+    return true;
+  }
+  const auto end = AggiungiFile(editor, EstraiCartella(path.Value()), EstraiNomeFile(path.Value()));
+  if (end == EsitoAggiunta::Aggiunto) ++outcome.Aggiunti;
+  return end != EsitoAggiunta::SenzaPlaylist && end != EsitoAggiunta::Piena;
 }
 
 }  // namespace
 
 EsitoScelti AggiungiScelti(EditorPlaylist& editor, modMp3Infos& lettore,
                            const std::vector<std::string>& file) {
-  auto& context = editor.C();
   EsitoScelti outcome;
   if (file.size() > 1) editor.Attesa(true);
   Transaction all(editor.ConnessionePlaylist());
   for (const std::string& each : file) {
-    const auto path = context.Files.SystemPath(each);
-    const std::string why = path ? WhyNot(context, lettore, path.Value())
-                                 : ParoleDifetto(context, FaultOf(NameOf(each)));
-    if (!why.empty()) {
-      outcome.NonPresi.push_back({NameOf(each), why});
-      continue;
-    }
-    const auto end =
-        AggiungiFile(editor, EstraiCartella(path.Value()), EstraiNomeFile(path.Value()));
-    if (end == EsitoAggiunta::SenzaPlaylist || end == EsitoAggiunta::Piena) break;
-    if (end == EsitoAggiunta::Aggiunto) ++outcome.Aggiunti;
-    context.Messaggi.LasciaCorrere();
+    if (!AddOne(editor, lettore, each, outcome)) break;
+    editor.C().Messaggi.LasciaCorrere();
   }
-  editor.Record(all.End());
+  if (!editor.Concludi(all)) {
+    outcome.Aggiunti = 0;
+    editor.AggiornaGrigliaPlaylist();
+  }
   if (file.size() > 1) editor.Attesa(false);
   return outcome;
 }

@@ -90,7 +90,7 @@ bool AggiungiTuttiFiles(EditorPlaylist& editor, modMp3Infos& lettore, const std:
       AggiungiSeBuono(editor, lettore, {folder, folder, each});
       editor.C().Messaggi.LasciaCorrere();
     }
-    editor.Record(all.End());
+    editor.Concludi(all);
   }
   FineInMassa(editor, full);
   return !full;

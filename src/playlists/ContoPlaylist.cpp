@@ -68,7 +68,8 @@ std::string ContoPlaylist::Parole() const {
   for (const RigaPlaylist& each : righe_) {
     const FattiBrano& facts = *Fatti(each);
     seconds += facts.Secondi;
-    if (seen.insert(Chiave(each)).second) bytes += facts.Byte;
+    const std::string file = AggiungiBarra(each.Brano.FilePath) + each.Brano.FileName;
+    if (seen.insert(FoldCase(file)).second) bytes += facts.Byte;
   }
   std::string words = DurataInParole(seconds) + ", " + QuantitaInParole(bytes, contesto_.Luogo);
   if (const std::size_t missing = Mancanti(); missing > 0) {

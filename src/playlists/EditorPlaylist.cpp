@@ -13,6 +13,9 @@ EditorPlaylist::EditorPlaylist(Contesto& contesto) : contesto_(contesto), chiusa
 
 void EditorPlaylist::Carica() {
   const auto& state = contesto_.Stato;
+  ingressi_ = {};
+  modifiche_ = 0;
+  nota_ = {};
   testoPlaylistFile1_ = TestoLingua(contesto_, "0050016");
   testoPlaylistFile2_ = TestoLingua(contesto_, "0050017");
   copia_.emplace(contesto_, "playlist.mdb", "tmpPlaylist.mdb");
@@ -88,6 +91,12 @@ void EditorPlaylist::AggiornaGrigliaPlaylist() {
   MostraGriglia();
   Attesa(false);
   AggiornaContatoreFile();
+}
+
+bool EditorPlaylist::Concludi(Transaction& corsa) {
+  if (Record(corsa.End())) return true;
+  nota_ = {};
+  return false;
 }
 
 std::optional<std::int32_t> EditorPlaylist::PosizioneNota() const {

@@ -93,6 +93,8 @@ class EditorPlaylist {
   int Modifiche() const { return modifiche_; }
   void Modificato(int quante = 1) { modifiche_ += quante; }
 
+  /// Ends a run; false where the device took none of it, and all is as it was before.
+  bool Concludi(Transaction& corsa);
   /// The Pos of the next row, where nothing has changed since the last one was added: a run counts
   /// the rows once.
   std::optional<std::int32_t> PosizioneNota() const;

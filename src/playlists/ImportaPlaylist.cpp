@@ -103,7 +103,7 @@ void ImportaPlaylist(EditorPlaylist& editor, modMp3Infos& lettore, const std::st
       AggiungiSeBuono(editor, lettore, {each.Cartella, each.FilePath, each.FileName});
       context.Messaggi.LasciaCorrere();
     }
-    editor.Record(all.End());
+    editor.Concludi(all);
   }
   FineInMassa(editor, full);
 }

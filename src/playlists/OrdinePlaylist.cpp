@@ -90,7 +90,7 @@ void RiordinaPosizione(EditorPlaylist& editor) {
     }
     return true;
   }));
-  editor.Record(all.End());
+  editor.Concludi(all);
 }
 
 void RimuoviFile(EditorPlaylist& editor) {
@@ -108,7 +108,7 @@ void RimuoviRighe(EditorPlaylist& editor, const std::vector<std::int64_t>& id) {
     if (VaiAllaRiga(editor, each) && editor.Record(editor.rsList().Delete())) editor.Modificato();
   }
   RiordinaPosizione(editor);
-  editor.Record(all.End());
+  editor.Concludi(all);
   editor.AggiornaGrigliaPlaylist();
 }
 
@@ -153,7 +153,9 @@ void SpostaRighe(EditorPlaylist& editor, const std::vector<std::int64_t>& id, bo
       su ? SpostaSu(editor) : SpostaGiu(editor);
     }
   }
-  editor.Record(all.End());
+  if (editor.Concludi(all)) return;
+  editor.Record(rows.Requery());
+  editor.MostraGriglia();
 }
 
 Caso CasoDallOrologio() {
@@ -176,10 +178,12 @@ void Random(EditorPlaylist& editor, const Caso& caso) {
   editor.Attesa(true);
   {
     Transaction all(editor.ConnessionePlaylist());
-    if (count <= std::numeric_limits<std::int16_t>::max()) GiveOrder(editor, Order(count, caso));
-    editor.Record(all.End());
+    if (count <= std::numeric_limits<std::int16_t>::max()) {
+      GiveOrder(editor, Order(count, caso));
+      editor.Modificato();
+    }
+    editor.Concludi(all);
   }
-  editor.Modificato();
   editor.Record(editor.rsList().Requery());
   editor.MostraGriglia();
   editor.Attesa(false);

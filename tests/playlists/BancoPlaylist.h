@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,7 @@
 #include "playlists/EditorPlaylist.h"
 #include "projects/CartellaProgetto.h"
 #include "support/Banco.h"
+#include "support/FaultyFileSystem.h"
 
 namespace kvr5::test {
 
@@ -24,9 +26,11 @@ class BancoPlaylist : public testing::Test {
   /// Makes the project; its playlist.mdb is empty.
   void Progetto(std::int16_t playerType, std::int16_t playerMode) {
     std::filesystem::remove_all(b.Cartella.Host() / "program/Projects/Hall");
-    // A KVR5 of mode 4 can't be made any more; old projects have it.
+    // Projects of these modes can't be made any more, if ever; old ones have them.
+    constexpr std::int16_t kOstrel = 3;
     constexpr std::int16_t kKvr5 = 4;
-    const bool old = playerType == kKvr5 && playerMode == 4;
+    const bool old = (playerType == kOstrel && playerMode > 9) ||
+                     (playerType == kKvr5 && (playerMode == 4 || playerMode > 7));
     b.CreaProgetto("Hall", playerType, old ? std::int16_t{5} : playerMode);
     b.C.Stato.PlayerMode = playerMode;
   }
@@ -41,6 +45,17 @@ class BancoPlaylist : public testing::Test {
     ASSERT_FALSE(real.Open(FileDelProgetto(b.C, "playlist.mdb")));
     ASSERT_FALSE(real.Execute("INSERT INTO [HEAD] ([Descript],[NScheduler]) VALUES('" + nome +
                               "'," + std::to_string(numero) + ")"));
+  }
+  /// Tracks "x.mp3" of playlist.mdb, Pos 1 to `quanti`.
+  void Riempi(int quanti, int nPlaylist = 1) {
+    Connection real(b.Disco);
+    ASSERT_FALSE(real.Open(FileDelProgetto(b.C, "playlist.mdb")));
+    const Transaction all(real);
+    for (int i = 1; i <= quanti; ++i) {
+      ASSERT_FALSE(real.Execute(
+          "INSERT INTO [List] ([FileName],[FilePath],[Pos],[NPlaylist]) VALUES('x.mp3','C:\\'," +
+          std::to_string(i) + "," + std::to_string(nPlaylist) + ")"));
+    }
   }
   /// The tracks of the current playlist, "1 a.mp3", as the grid shows them.
   Righe Griglia() {
@@ -72,7 +87,13 @@ class BancoPlaylist : public testing::Test {
     ASSERT_FALSE(editor.rsList().Eof());
   }
 
-  Banco b;
+  std::string Musica() const { return b.Percorso("music"); }
+
+  std::unique_ptr<FaultyFileSystem> guasti;
+  Banco b{[this](FileSystem& inner) -> FileSystem& {
+    guasti = std::make_unique<FaultyFileSystem>(inner);
+    return *guasti;
+  }};
   EditorPlaylist editor{b.C};
 };
 

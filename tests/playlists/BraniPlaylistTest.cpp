@@ -19,17 +19,6 @@ class Tracks : public test::BancoPlaylist {
       Brano(1, i + 1, std::string(1, static_cast<char>('a' + i)) + ".mp3");
     editor.Carica();
   }
-  void Full(int count) {
-    Connection real(b.Disco);
-    ASSERT_FALSE(real.Open(FileDelProgetto(b.C, "playlist.mdb")));
-    const Transaction all(real);
-    for (int i = 1; i <= count; ++i) {
-      ASSERT_FALSE(real.Execute(
-          "INSERT INTO [List] ([FileName],[FilePath],[Pos],[NPlaylist]) VALUES('x.mp3','C:\\'," +
-          std::to_string(i) + ",1)"));
-    }
-  }
-  std::string Music() const { return b.Percorso("music"); }
   std::string Log() const { return b.Cartella.Read("program/Logs/20061020.log"); }
 
   modMp3Infos reader{b.C.Files};
@@ -39,10 +28,10 @@ TEST_F(Tracks, AFileIsAddedBehindTheOthersAndIsCurrent) {
   Brano(1, 1, "old.mp3");
   Brano(2, 1, "other.mp3");
   editor.Carica();
-  EXPECT_EQ(AggiungiFile(editor, Music(), "a.mp3"), EsitoAggiunta::Aggiunto);
+  EXPECT_EQ(AggiungiFile(editor, Musica(), "a.mp3"), EsitoAggiunta::Aggiunto);
   EXPECT_THAT(Griglia(), ElementsAre("1 old.mp3", "2 a.mp3"));
   EXPECT_FALSE(editor.rsList().MoveLast());
-  EXPECT_EQ(editor.rsList().Text("FilePath"), Music() + "\\");
+  EXPECT_EQ(editor.rsList().Text("FilePath"), Musica() + "\\");
   EXPECT_EQ(editor.rsList().Text("Alias"), "");
   EXPECT_THAT(Tutti(), ElementsAre("1-1 old.mp3", "1-2 a.mp3", "2-1 other.mp3"));
   EXPECT_THAT(Tutti("playlist.mdb"), ElementsAre("1-1 old.mp3", "2-1 other.mp3"));
@@ -50,26 +39,55 @@ TEST_F(Tracks, AFileIsAddedBehindTheOthersAndIsCurrent) {
 
 TEST_F(Tracks, OneFileMayStandTwice) {
   editor.Carica();
-  AggiungiFile(editor, Music(), "a.mp3");
-  AggiungiFile(editor, Music(), "a.mp3");
+  AggiungiFile(editor, Musica(), "a.mp3");
+  AggiungiFile(editor, Musica(), "a.mp3");
   EXPECT_THAT(Griglia(), ElementsAre("1 a.mp3", "2 a.mp3"));
+}
+
+TEST_F(Tracks, ATrackOfTheNextLoadHasThePlaceBehindThoseThatWereSaved) {
+  editor.Carica();
+  AggiungiFile(editor, Musica(), "a.mp3");
+  AggiungiFile(editor, Musica(), "a.mp3");
+  editor.Chiudi();
+  editor.Carica();
+  AggiungiFile(editor, Musica(), "b.mp3");
+  EXPECT_THAT(Griglia(), ElementsAre("1 b.mp3")) << "the others were cancelled";
+}
+
+TEST_F(Tracks, ATrackHasThePlaceBehindThoseThatAreLeft) {
+  Five();
+  AggiungiFile(editor, Musica(), "f.mp3");
+  Va(2);
+  RimuoviFile(editor);
+  AggiungiFile(editor, Musica(), "g.mp3");
+  editor.ScegliVoce(1);
+  AggiungiFile(editor, Musica(), "h.mp3");
+  b.Finestre.Rispondi(Risposta::Si);
+  RimuoviTuttiFile(editor);
+  b.Finestre.Prossimo();
+  AggiungiFile(editor, Musica(), "i.mp3");
+  EXPECT_THAT(Griglia(), ElementsAre("1 i.mp3"));
+  editor.ScegliVoce(0);
+  AggiungiFile(editor, Musica(), "j.mp3");
+  EXPECT_THAT(Griglia(), ElementsAre("1 a.mp3", "2 c.mp3", "3 d.mp3", "4 e.mp3", "5 f.mp3",
+                                     "6 g.mp3", "7 j.mp3"));
 }
 
 TEST_F(Tracks, TheCountLagsUntilTheGridIsReloaded) {
   editor.Carica();
   EXPECT_EQ(editor.lblPlaylistFiles(), "Playlist-tracks: 0");
-  AggiungiFile(editor, Music(), "a.mp3");
+  AggiungiFile(editor, Musica(), "a.mp3");
   EXPECT_EQ(editor.lblPlaylistFiles(), "Playlist-tracks: 0");
   editor.AggiornaGrigliaPlaylist();
   EXPECT_EQ(editor.lblPlaylistFiles(), "Playlist-tracks: 1");
 }
 
 TEST_F(Tracks, ThePlaylistTakesFiveHundred) {
-  Full(499);
+  Riempi(499);
   editor.Carica();
-  EXPECT_EQ(AggiungiFile(editor, Music(), "a.mp3"), EsitoAggiunta::Aggiunto);
+  EXPECT_EQ(AggiungiFile(editor, Musica(), "a.mp3"), EsitoAggiunta::Aggiunto);
   EXPECT_EQ(editor.rsList().Number("Pos"), 500);
-  EXPECT_EQ(AggiungiFile(editor, Music(), "a.mp3"), EsitoAggiunta::Piena);
+  EXPECT_EQ(AggiungiFile(editor, Musica(), "a.mp3"), EsitoAggiunta::Piena);
   const auto box = b.Finestre.Prossimo();
   EXPECT_EQ(box.Titolo, "This playlist is full; its tracks stay");
   EXPECT_EQ(box.Testo, "Limit: 500 tracks");
@@ -81,7 +99,7 @@ TEST_F(Tracks, ThePlaylistTakesFiveHundred) {
 TEST_F(Tracks, WithoutAPlaylistAFileIsRefused) {
   Progetto(3, 9);
   editor.Carica();
-  EXPECT_EQ(AggiungiFile(editor, Music(), "a.mp3"), EsitoAggiunta::SenzaPlaylist);
+  EXPECT_EQ(AggiungiFile(editor, Musica(), "a.mp3"), EsitoAggiunta::SenzaPlaylist);
   const auto box = b.Finestre.Prossimo();
   EXPECT_EQ(box.Titolo, "No playlist yet");
   EXPECT_TRUE(box.SoloOk);
@@ -92,7 +110,7 @@ TEST_F(Tracks, AFileThatTheDatabaseDoesntTakeIsInTheLog) {
   b.Cartella.Write("program/Projects/Hall/playlist.mdb", "no database");
   Ignora(b.Disco.CreateFolder(b.Percorso("program/Logs")));
   editor.Carica();
-  EXPECT_EQ(AggiungiFile(editor, Music(), "a.mp3"), EsitoAggiunta::NonScritto);
+  EXPECT_EQ(AggiungiFile(editor, Musica(), "a.mp3"), EsitoAggiunta::NonScritto);
   EXPECT_NE(Log().find("frmPlaylistEditor/Routine cmdAggiungiFile: err n\xB0"), std::string::npos);
   EXPECT_NE(Log().find("File: a.mp3"), std::string::npos);
 }
@@ -104,7 +122,7 @@ TEST_F(Tracks, AWholeFolderIsAddedButForWhatThePlayerRefuses) {
   editor.Carica();
   int waits = 0;
   editor.SuAttesa = [&](bool on) { waits += on ? 1 : 0; };
-  EXPECT_TRUE(AggiungiTuttiFiles(editor, reader, Music(), {"a.mp3", "b.mp3", "c.mp3", "d.mp3"}));
+  EXPECT_TRUE(AggiungiTuttiFiles(editor, reader, Musica(), {"a.mp3", "b.mp3", "c.mp3", "d.mp3"}));
   EXPECT_THAT(Griglia(), ElementsAre("1 a.mp3", "2 c.mp3"));
   EXPECT_EQ(editor.lblPlaylistFiles(), "Playlist-tracks: 2");
   EXPECT_EQ(waits, 1);
@@ -112,11 +130,11 @@ TEST_F(Tracks, AWholeFolderIsAddedButForWhatThePlayerRefuses) {
 }
 
 TEST_F(Tracks, AWholeFolderStopsAtTheLimitWithTheTextsTheOtherWayRound) {
-  Full(495);
+  Riempi(495);
   b.ScriviMp3("music/a.mp3");
   editor.Carica();
   const std::vector<std::string> ten(10, "a.mp3");
-  EXPECT_FALSE(AggiungiTuttiFiles(editor, reader, Music(), ten));
+  EXPECT_FALSE(AggiungiTuttiFiles(editor, reader, Musica(), ten));
   const auto box = b.Finestre.Prossimo();
   EXPECT_EQ(box.Titolo, "Limit: 500 tracks");
   EXPECT_EQ(box.Testo, "This playlist is full; its tracks stay");
@@ -130,7 +148,7 @@ TEST_F(Tracks, AnEmptyFolderDoesNothing) {
   editor.Carica();
   bool touched = false;
   editor.SuAttesa = [&](bool) { touched = true; };
-  EXPECT_TRUE(AggiungiTuttiFiles(editor, reader, Music(), {}));
+  EXPECT_TRUE(AggiungiTuttiFiles(editor, reader, Musica(), {}));
   EXPECT_FALSE(touched);
 }
 
@@ -258,7 +276,7 @@ TEST_P(RandomSession, AgreesWithAListInMemory) {
       editor.ScegliVoce(static_cast<int>(now));
     } else if (choice <= 2 || list.empty()) {
       list.push_back("f" + std::to_string(below(9)) + ".mp3");
-      AggiungiFile(editor, Music(), list.back());
+      AggiungiFile(editor, Musica(), list.back());
     } else {
       const std::size_t at = below(list.size());
       Va(static_cast<int>(at) + 1);

@@ -34,7 +34,13 @@ TEST_P(EditorLayout, FollowsModelAndMode) {
 INSTANTIATE_TEST_SUITE_P(
     All, EditorLayout,
     testing::Values(
-        Case{1, 0, true, 0, 0, false, false, false}, Case{2, 0, false, 1, 0, false, false, false},
+        Case{1, 0, true, 0, 0, false, false, false}, Case{1, 4, true, 0, 0, false, false, false},
+        Case{1, 5, true, 0, 0, false, false, false}, Case{1, 9, true, 0, 0, false, false, false},
+        Case{2, 0, false, 1, 0, false, false, false}, Case{2, 4, false, 1, 0, false, false, false},
+        Case{2, 5, false, 1, 0, false, false, false}, Case{2, 9, false, 1, 0, false, false, false},
+        Case{3, 2, true, 0, 0, false, false, false}, Case{3, 3, true, 0, 0, false, false, false},
+        Case{3, 10, true, 0, 0, false, false, false}, Case{4, 2, true, 0, 0, false, false, false},
+        Case{4, 8, true, 0, 0, false, false, false}, Case{4, 9, true, 0, 0, false, false, false},
         Case{3, 4, false, 1, 0, false, false, false}, Case{3, 5, true, 1, 8, true, false, false},
         Case{3, 6, true, 1, 7, true, false, false}, Case{3, 7, true, 1, 8, true, true, false},
         Case{3, 8, true, 0, 7, true, false, false}, Case{3, 9, true, 0, 0, true, false, true},
@@ -62,6 +68,35 @@ TEST_F(Selector, CountsFromZeroOnAnOstrelAndFromOneOnAKvr5) {
   EXPECT_EQ(editor.Voci().back().ItemData, 7);
   EXPECT_EQ(DisposizionePlaylistDi(b.C, 4, 5).Voci.front(), (VocePlaylist{"1 Playlist", 0}));
   EXPECT_EQ(DisposizionePlaylistDi(b.C, 4, 7).Voci.back(), (VocePlaylist{"7 Playlist", 6}));
+}
+
+TEST_F(Selector, OfAllModesHasItsOwnEntries) {
+  const auto entries = [&](std::int16_t type, std::int16_t mode) {
+    return DisposizionePlaylistDi(b.C, type, mode).Voci;
+  };
+  for (const std::int16_t mode : std::initializer_list<std::int16_t>{5, 7}) {
+    for (int i = 0; i <= 7; ++i) {
+      const auto at = static_cast<std::size_t>(i);
+      EXPECT_EQ(entries(3, mode).at(at), (VocePlaylist{std::to_string(i) + " Playlist", i}));
+    }
+  }
+  for (const std::int16_t mode : std::initializer_list<std::int16_t>{5, 6, 7}) {
+    ASSERT_EQ(entries(4, mode).size(), 7U);
+    for (int i = 1; i <= 7; ++i) {
+      const auto at = static_cast<std::size_t>(i - 1);
+      EXPECT_EQ(entries(4, mode).at(at), (VocePlaylist{std::to_string(i) + " Playlist", i - 1}));
+    }
+  }
+  for (int i = 1; i <= 6; ++i) {
+    const auto at = static_cast<std::size_t>(i);
+    EXPECT_EQ(entries(3, 8).at(at), (VocePlaylist{std::to_string(i) + " Extra playlist", i - 1}));
+  }
+}
+
+TEST_F(Selector, AnIndexIsOneLessThanTheNumberInFourModesOnly) {
+  for (std::int16_t mode = 0; mode <= 10; ++mode) {
+    EXPECT_EQ(IndiceDaUno(mode), mode == 5 || mode == 6 || mode == 7 || mode == 9) << mode;
+  }
 }
 
 TEST_F(Selector, OfAnOstrelByDayHasTheDays) {
@@ -128,6 +163,61 @@ TEST_F(Selector, AnIndexThatNoEntryHasChangesNothing) {
   for (const int index : {-2, 7, 1000}) editor.ScegliVoce(index);
   EXPECT_EQ(editor.Indice(), 2);
   EXPECT_EQ(editor.PlaylistCorrente(), 3);
+}
+
+TEST_F(Selector, ABoxThatIsClearedIsTakenOffTheSum) {
+  Progetto(3, 7);
+  editor.Carica();
+  for (const int each : {1, 2, 3}) editor.SpuntaIngresso(each, true);
+  EXPECT_EQ(editor.PlaylistCorrente(), 8);
+  editor.SpuntaIngresso(2, false);
+  EXPECT_EQ(editor.Indice(), 5);
+  EXPECT_EQ(editor.PlaylistCorrente(), 6);
+  EXPECT_FALSE(editor.Ingresso(2));
+  for (const int each : {1, 3}) editor.SpuntaIngresso(each, false);
+  EXPECT_EQ(editor.Indice(), 0);
+  EXPECT_EQ(editor.PlaylistCorrente(), 1);
+}
+
+TEST_F(Selector, ATextThatNoEntryHasChangesNothingAndOneThatItHasSelectsIt) {
+  Progetto(3, 6);
+  Brano(3, 1, "w.mp3");
+  editor.Carica();
+  editor.ImpostaTesto("No such day");
+  EXPECT_EQ(editor.Indice(), 0);
+  editor.ImpostaTesto("WEDNESDAY");
+  EXPECT_EQ(editor.Indice(), 2);
+  EXPECT_THAT(Griglia(), ElementsAre("1 w.mp3")) << "its click was run";
+}
+
+TEST_F(Selector, TheSameEntryOnceMoreReadsItsRowsAgain) {
+  Progetto(4, 5);
+  editor.Carica();
+  ASSERT_FALSE(editor.ConnessionePlaylist().Execute(
+      "INSERT INTO [List] ([FileName],[FilePath],[Pos],[NPlaylist]) VALUES('n.mp3','C:\\',1,1)"));
+  EXPECT_THAT(Griglia(), IsEmpty());
+  editor.ScegliVoce(0);
+  EXPECT_THAT(Griglia(), ElementsAre("1 n.mp3"));
+  EXPECT_EQ(editor.lblPlaylistFiles(), "Playlist-tracks: 1");
+}
+
+TEST_F(Selector, RowsOfNumbersThatItDoesntOfferStayInTheDatabase) {
+  Progetto(4, 5);
+  for (const int number : {-1, 0, 8, 99}) Brano(number, 1, "x.mp3");
+  editor.Carica();
+  for (int i = 0; i < 7; ++i) {
+    editor.ScegliVoce(i);
+    EXPECT_THAT(Griglia(), IsEmpty());
+  }
+  EXPECT_THAT(Tutti(), ElementsAre("-1-1 x.mp3", "0-1 x.mp3", "8-1 x.mp3", "99-1 x.mp3"));
+}
+
+TEST_F(Selector, WhatACrashLeftIsLostAtTheLoad) {
+  Progetto(4, 5);
+  Brano(1, 1, "saved.mp3");
+  b.Cartella.Write("program/Projects/Hall/TMPPLAYLIST.MDB", "what was edited");
+  editor.Carica();
+  EXPECT_THAT(Griglia(), ElementsAre("1 saved.mp3"));
 }
 
 TEST_F(Selector, OfNamesComesUpOnTheSecondOne) {

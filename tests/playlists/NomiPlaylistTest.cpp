@@ -85,6 +85,78 @@ TEST_F(NamedLists, ANumberComesAgainOnlyWhereItWasTheHighest) {
   EXPECT_EQ(ProssimoNScheduler(editor), 1);
 }
 
+TEST_F(NamedLists, BehindTheHighestNumberThereIsOneAgain) {
+  editor.Chiudi();
+  Nome("Z", 2147483646);
+  editor.Carica();
+  EXPECT_EQ(ProssimoNScheduler(editor), 2147483647);
+  AggiungiTestata(editor, "Y", 2147483647);
+  EXPECT_EQ(ProssimoNScheduler(editor), 1) << "the sum overflows and is dropped";
+}
+
+TEST_F(NamedLists, ANumberBelowOneIsFollowedByTheNext) {
+  editor.Chiudi();
+  Nome("Z", -5);
+  editor.Carica();
+  EXPECT_EQ(ProssimoNScheduler(editor), -4);
+}
+
+TEST_F(NamedLists, ANameOfNumberZeroCountsAsFree) {
+  editor.Chiudi();
+  Nome("Zero", 0);
+  editor.Carica();
+  EXPECT_EQ(CercaPlaylistPerNome(editor, "zero"), 0);
+  Add({"Zero"});
+  EXPECT_EQ(asked, 1U);
+  EXPECT_THAT(Entries(), ElementsAre("Zero 0", "Zero 1"));
+}
+
+TEST_F(NamedLists, ANameMayHaveEightCharactersOfAnyKind) {
+  EXPECT_EQ(DifettoNomePlaylist(b.C, "12345678"), "");
+  EXPECT_EQ(DifettoNomePlaylist(b.C, "àèìòùÀÈÌ"), "");
+  EXPECT_NE(DifettoNomePlaylist(b.C, "123456789"), "");
+  EXPECT_NE(DifettoNomePlaylist(b.C, ""), "");
+  EXPECT_EQ(DifettoNomePlaylist(b.C, "it's"), "");
+}
+
+TEST_F(NamedLists, OfSomeThatAreGoneTheNextIsShown) {
+  editor.Chiudi();
+  for (int i = 1; i <= 3; ++i) Nome(std::string(1, static_cast<char>('A' + i - 1)), i);
+  Brano(2, 1, "b.mp3");
+  editor.Carica();
+  EXPECT_EQ(editor.Testo(), "B");
+  b.Finestre.Rispondi(Risposta::Si);
+  RimuoviPlaylist(editor);
+  b.Finestre.Prossimo();
+  EXPECT_THAT(Entries(), ElementsAre("A 1", "C 3"));
+  EXPECT_EQ(editor.Testo(), "A");
+  EXPECT_EQ(editor.PlaylistCorrente(), 1);
+}
+
+TEST_F(NamedLists, TheLastOneThatIsRemovedLeavesAnEmptyGrid) {
+  editor.Chiudi();
+  Nome("Only", 1);
+  Brano(1, 1, "a.mp3");
+  editor.Carica();
+  b.Finestre.Rispondi(Risposta::Si);
+  RimuoviPlaylist(editor);
+  b.Finestre.Prossimo();
+  EXPECT_THAT(Griglia(), IsEmpty());
+  EXPECT_EQ(editor.lblPlaylistFiles(), "Playlist-tracks: 0");
+  EXPECT_TRUE(editor.SelettoreVuoto());
+}
+
+TEST_F(NamedLists, WhatIsCancelledLeavesTheDatabaseByteForByte) {
+  editor.Chiudi();
+  Nome("A", 1);
+  const std::string before = b.Cartella.Read("program/Projects/Hall/playlist.mdb");
+  editor.Carica();
+  Add({"New"});
+  EliminaPlaylist(editor, 1);
+  editor.Chiudi();
+  EXPECT_TRUE(b.Cartella.Read("program/Projects/Hall/playlist.mdb") == before);
+}
+
 TEST_F(NamedLists, ARemovalTakesTheTracksToo) {
   editor.Chiudi();
   Nome("A", 1);

@@ -1,8 +1,6 @@
 #include "playlists/AliasPlaylist.h"
-#include "playlists/BancoPlaylist.h"
+#include "playlists/BancoSalva.h"
 #include "playlists/ListeDiTesto.h"
-#include "playlists/SalvaPlaylist.h"
-#include "support/ProgressoVisto.h"
 
 namespace kvr5 {
 namespace {
@@ -10,47 +8,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class SavedPlaylists : public test::BancoPlaylist {
- protected:
-  /// A track whose file is in the folder "music".
-  void Track(int list, int pos, const std::string& name, const std::string& folder = "music") {
-    b.ScriviMp3(folder + "/" + name, pos);
-    Brano(list, pos, name, b.Percorso(folder) + "\\");
-  }
-  void Save(Risposta answer = Risposta::No) {
-    editor.Carica();
-    const bool asks = editor.Quanti() > 0 || !Tutti().empty();
-    if (asks) b.Finestre.Rispondi(answer);
-    SalvaPlaylist(editor, progress);
-    editor.Chiudi();
-    if (asks) {
-      EXPECT_EQ(b.Finestre.Prossimo().Titolo, "MP3 files of the playlists");
-    }
-    EXPECT_TRUE(b.Finestre.Silenzio());
-  }
-  std::string Read(const std::string& name) const {
-    return b.Cartella.Read("program/Projects/Hall/" + name);
-  }
-  bool Exists(const std::string& name) const {
-    return b.Cartella.Exists("program/Projects/Hall/" + name);
-  }
-  /// A column of all tracks of playlist.mdb in their order.
-  Righe Column(const char* column) {
-    Righe values;
-    Connection real(b.Disco);
-    EXPECT_FALSE(real.Open(FileDelProgetto(b.C, "playlist.mdb")));
-    Recordset all;
-    EXPECT_FALSE(all.Open(real, "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC"));
-    EXPECT_FALSE(WalkRows(all, [&] {
-      values.push_back(all.Text(column));
-      return true;
-    }));
-    return values;
-  }
-  std::string Hall() const { return b.Percorso("program/Projects/Hall") + "\\"; }
-
-  test::ProgressoVisto progress{b.C};
-};
+using SavedPlaylists = test::BancoSalva;
 
 TEST(PlaylistAlias, HasTwoAndThreeDigitsAtLeast) {
   EXPECT_EQ(AliasDelBrano(1, 7), "P01-007.mp3");
