@@ -46,7 +46,7 @@ bool AddOne(EditorPlaylist& editor, modMp3Infos& reader, const std::string& give
   const std::string why =
       path ? WhyNot(context, reader, path.Value()) : ParoleDifetto(context, FaultOfPath(given));
   if (!why.empty()) {
-    outcome.NonPresi.push_back({NameOf(given), why});
+    outcome.NonPresi.push_back({path ? EstraiNomeFile(path.Value()) : NameOf(given), why});
     return true;
   }
   const auto end = AggiungiFile(editor, EstraiCartella(path.Value()), EstraiNomeFile(path.Value()));

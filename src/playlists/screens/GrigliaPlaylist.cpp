@@ -23,7 +23,6 @@ GrigliaPlaylist::GrigliaPlaylist(ModelloBrani& modello, QWidget* padre)
   auto* header = horizontalHeader();
   header->setSectionResizeMode(QHeaderView::Fixed);
   header->setSectionResizeMode(ModelloBrani::Nome, QHeaderView::Stretch);
-  header->resizeSection(ModelloBrani::Posto, 56);
   header->setSectionsClickable(false);
   // What is dropped goes to the frame around it.
   setAcceptDrops(false);
@@ -60,11 +59,17 @@ void GrigliaPlaylist::Seleziona(const std::vector<std::int64_t>& id, std::int64_
 }
 
 void GrigliaPlaylist::Misura() {
-  constexpr int kLeast = 88;  // "12:34:56", "1.8 GB", "missing" with their edges
-  for (const int column : {ModelloBrani::Durata, ModelloBrani::Grandezza}) {
-    auto* header = horizontalHeader();
-    header->resizeSection(column, std::max(kLeast, header->sectionSizeHint(column) + 8));
-  }
+  constexpr int kEdges = 24;  // of a cell, both
+  auto* header = horizontalHeader();
+  const auto fits = [&](int column, const QString& longest) {
+    const int text = fontMetrics().horizontalAdvance(longest) + kEdges;
+    header->resizeSection(column, std::max(text, header->sectionSizeHint(column) + 8));
+  };
+  fits(ModelloBrani::Posto, QStringLiteral("500"));
+  fits(ModelloBrani::Durata,
+       std::max(modello_.Mancante(), QStringLiteral("12:34:56"),
+                [](const auto& a, const auto& b) { return a.size() < b.size(); }));
+  fits(ModelloBrani::Grandezza, QStringLiteral("999 MB"));
 }
 
 void GrigliaPlaylist::ImpostaVuota(const QString& testo) {

@@ -23,6 +23,8 @@ class ModelloBrani : public QAbstractTableModel {
   int RigaDi(std::int64_t id) const;
   /// Shows what was learnt of the files.
   void FattiCambiati();
+  /// What stands for the length of a file that is missing.
+  const QString& Mancante() const { return mancante_; }
   /// Takes its words from the language file.
   void Localizza();
 

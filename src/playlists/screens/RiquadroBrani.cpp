@@ -44,7 +44,7 @@ RiquadroBrani::RiquadroBrani(Contesto& contesto, ModelloBrani& modello, QWidget*
   Veste(*lblAttendere, Carattere::Schermata);
   lblAttendere->setAlignment(Qt::AlignCenter);
   lblAttendere->setAutoFillBackground(true);
-  lblAttendere->setContentsMargins(spazi::kLargo, spazi::kMedio, spazi::kLargo, spazi::kMedio);
+  lblAttendere->setMargin(spazi::kLargo);
   attesa_ = new QWidget(this);
   (new QVBoxLayout(attesa_))->addWidget(lblAttendere, 0, Qt::AlignCenter);
   pila_->addWidget(grdPlaylist);

@@ -1,10 +1,13 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QAction>
+#include <QTest>
+#include <QTimer>
 
 #include "playerconfig/screens/BancoHub.h"
 
-// The ways from the hub to the screens of parameters.
+// The ways from the hub to the screens of parameters and to the editor of playlists.
 
 namespace kvr5 {
 namespace {
@@ -94,6 +97,129 @@ TEST_F(Ways, AreShutWhileTheProjectIsRecorded) {
   Clic("picRecordFlash");
   ExpectNoneOpened();
   ExpectOpenAgain();
+}
+
+class WayToPlaylists : public test::Hub {
+ protected:
+  std::string Copy() const { return "program/Projects/Hall/tmpPlaylist.mdb"; }
+  void ExpectOpened() {
+    EXPECT_EQ(b.Schermi.EditorPer, std::vector{Schermata::Configurazione});
+    ASSERT_TRUE(hub);
+    EXPECT_FALSE(hub->isVisible()) << "the hub is hidden";
+    EXPECT_TRUE(hub->Caricata()) << "and stays loaded";
+  }
+};
+
+TEST_F(WayToPlaylists, IsOpenByTheButtonOfEachProjectThatHasThem) {
+  struct Kind {
+    std::int16_t Type, Mode, Config;
+  };
+  for (const Kind& kind : {Kind{2, 0, 3}, Kind{4, 5, 0}, Kind{4, 6, 0}, Kind{4, 7, 0}}) {
+    SCOPED_TRACE(std::to_string(kind.Type) + " " + std::to_string(kind.Mode));
+    std::filesystem::remove_all(b.Cartella.Host() / "program/Projects/Hall");
+    b.Schermi.EditorPer.clear();
+    Progetto(kind.Type, kind.Mode, kind.Config);
+    Apri();
+    const auto& button = Trova<QWidget>("picPlaylist");
+    EXPECT_TRUE(button.isVisible());
+    EXPECT_TRUE(button.isEnabled());
+    EXPECT_EQ(button.toolTip().toStdString(), "Lists of tracks: what plays, in which order");
+    Clic("picPlaylist");
+    ExpectOpened();
+    Chiudi();
+  }
+}
+
+TEST_F(WayToPlaylists, IsOpenByTheButtonsLabelAndTheKeyboard) {
+  Progetto(4, 5);
+  Apri();
+  test::Clicca(Trova<QWidget>("lblPlaylist"));
+  ExpectOpened();
+  Chiudi();
+  b.Schermi.EditorPer.clear();
+  Apri();
+  Trova<QWidget>("picPlaylist").setFocus();
+  test::Tasto(*hub, Qt::Key_Space);
+  ExpectOpened();
+}
+
+TEST_F(WayToPlaylists, IsOpenByTheMenuWhereTheButtonIsHidden) {
+  Progetto(4, 1);
+  b.Cartella.Write("program/Projects/Hall/playlist.mdb", "");
+  Apri();
+  ASSERT_FALSE(SiVede("picPlaylist"));
+  QAction* entry = hub->Barra->menuAltro.actions().front();
+  ASSERT_EQ(entry->text(), "Playlists…");
+  ASSERT_TRUE(entry->isEnabled());
+  entry->trigger();
+  ExpectOpened();
+}
+
+TEST_F(WayToPlaylists, ClearsTheCopyThatACrashLeftBeforeTheEditorComes) {
+  Progetto(4, 5);
+  b.Cartella.Write(Copy(), "stale");
+  Apri();
+  EXPECT_TRUE(b.Cartella.Exists(Copy()));
+  Clic("picPlaylist");
+  ExpectOpened();
+  EXPECT_FALSE(b.Cartella.Exists(Copy()));
+}
+
+TEST_F(WayToPlaylists, SilencesWhatPlays) {
+  Progetto(2, 0, 3);
+  Apri();
+  b.Suono.Comandi.clear();
+  Clic("picPlaylist");
+  EXPECT_EQ(b.Suono.Comandi, (std::vector<std::string>{"2 Stop", "2 Close", "1 Stop", "1 Close"}));
+}
+
+TEST_F(WayToPlaylists, IsShutWhileTheProjectIsSavedOrRecorded) {
+  Progetto(4, 1);
+  Apri();
+  int pressed = 0;
+  const auto press = [&] {
+    ++pressed;
+    Trova<QAbstractButton>("picPlaylist").click();  // hidden here, and there all the same
+  };
+  b.Schermi.SuDomanda = press;
+  {
+    const auto closing = test::RispondiMessaggio("cmdOk");
+    Clic("picSave");
+  }
+  servizi.SuRegistra = press;
+  Clic("picRecordFlash");
+  EXPECT_EQ(pressed, 2);
+  EXPECT_TRUE(b.Schermi.EditorPer.empty());
+  EXPECT_TRUE(hub->isVisible());
+  press();
+  ExpectOpened();
+}
+
+TEST_F(WayToPlaylists, IsTakenOnceByTwoQuickPresses) {
+  Progetto(4, 5);
+  Apri();
+  // The second one comes while the first stops what plays.
+  QTimer::singleShot(0, hub, [this] { Trova<QAbstractButton>("picPlaylist").click(); });
+  Clic("picPlaylist");
+  ExpectOpened();
+}
+
+TEST_F(WayToPlaylists, LeadsBackToTheHubAsItWas) {
+  Progetto(4, 5);
+  Apri();
+  Clic("picPlaylist");
+  ExpectOpened();
+  b.AggiungiRiga("playlist.mdb", 1, 1, "a.mp3", "C:\\far\\", "");
+  hub->Mostra();
+  ASSERT_TRUE(test::Pronta(*hub));
+  // The editor's window was in front.
+  QEvent activation(QEvent::WindowActivate);
+  QCoreApplication::sendEvent(hub, &activation);
+  EXPECT_TRUE(QTest::qWaitFor([this] {
+    return QString::fromStdString(Testo("lblSommario")).startsWith("1 list, 1 track");
+  })) << Testo("lblSommario");
+  Clic("picPlaylist");
+  EXPECT_EQ(b.Schermi.EditorPer.size(), 2U);
 }
 
 }  // namespace
