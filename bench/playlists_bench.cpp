@@ -99,7 +99,7 @@ void CompareAnalysis(bool warm) {
   const auto names = MakeMp3s(project, kFiles);
   const std::string list = WriteList(project, kFiles, kFiles);
   Best add;
-  Best import;
+  Best imported;
   Best alone;
   for (int round = 0; round < kRounds; ++round) {
     if (!warm) Forget(project, names);
@@ -109,15 +109,15 @@ void CompareAnalysis(bool warm) {
       AggiungiTuttiFiles(editor, reader, project.System(project.Music()), names);
     }));
     if (!warm) Forget(project, names);
-    import.Take(InEditor(project, kFiles, [&](auto& editor, auto& reader) {
+    imported.Take(InEditor(project, kFiles, [&](auto& editor, auto& reader) {
       ImportaPlaylist(editor, reader, list);
-  }));
+    }));
+  }
+  const char* cache = warm ? "in the host's cache" : "not in the cache";
+  std::printf("500 files %s, analysis %.2f ms:\n", cache, alone.S * 1e3);
+  std::printf("  folder added  %7.2f ms: ratio %.2f (limit 1.5)\n", add.S * 1e3, add.S / alone.S);
+  std::printf("  list imported %7.2f ms: ratio %.2f\n", imported.S * 1e3, imported.S / alone.S);
 }
-const char* cache = warm ? "in the host's cache" : "not in the cache";
-std::printf("500 files %s, analysis %.2f ms:\n", cache, alone.S * 1e3);
-std::printf("  folder added  %7.2f ms: ratio %.2f (limit 1.5)\n", add.S * 1e3, add.S / alone.S);
-std::printf("  list imported %7.2f ms: ratio %.2f\n", import.S * 1e3, import.S / alone.S);
-}  // namespace
 
 /// Prints the time of a row for each number of rows. Where it falls the cost of the list files,
 /// as many for few rows as for many, is shared by more of them.

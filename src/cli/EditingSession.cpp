@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <utility>
 
 #include "cli/InputLines.h"
 #include "cli/Status.h"
@@ -12,9 +13,12 @@ int EditingCommands::RunAll() {
   session_.SetAnswer(session_.GivenAnswer());  // standard input is the commands'
   constexpr std::size_t kLongestCommand = std::size_t{16} << 20U;  // many files in one
   InputLines input(kLongestCommand);
+  bool first = true;
   bool pressed = Interrupt::Pressed();
   while (!pressed && input.Next(line_)) {
     if (input.WasCut()) return kUsage;
+    constexpr std::string_view kMark = "\xEF\xBB\xBF";  // of UTF-8, as some editors write it
+    if (std::exchange(first, false) && line_.starts_with(kMark)) line_.erase(0, kMark.size());
     switch (RunLine(line_)) {
       case Outcome::Done:
       case Outcome::Refused:

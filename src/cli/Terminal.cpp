@@ -135,6 +135,7 @@ std::optional<Risposta> TerminalDialogs::AskKeyboard(std::string_view title, std
 }
 
 void TerminalEvents::LasciaCorrere() {
+  if (OnTurn) OnTurn();
   if (window_ != nullptr && window_->Caricata() && Interrupt::Pressed()) window_->Annulla();
 }
 

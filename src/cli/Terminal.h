@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -67,6 +68,8 @@ class TerminalEvents : public Eventi {
  public:
   /// The window whose cancel Ctrl-C presses; none to begin with.
   void Watch(FinestraProgresso* window) { window_ = window; }
+  /// Called at each turn, so that a long command can tell how far it is.
+  std::function<void()> OnTurn;
   void LasciaCorrere() override;
   void ImpostaPuntatore(Puntatore /*puntatore*/) override {}
 

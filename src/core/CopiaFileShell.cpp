@@ -33,7 +33,9 @@ class Unstoppable : public CopyObserver {
   void Begin() override { window_.Begin(); }
   void End() override { window_.End(); }
   bool Progress(const CopyState& state) override {
-    window_.Progress(state);
+    CopyState told = state;
+    told.Stoppable = false;
+    window_.Progress(told);
     return true;
   }
   void Failed(const CopyFailure& failure) override { window_.Failed(failure); }

@@ -20,6 +20,10 @@ namespace kvr5 {
 /// itself.
 class ListaCopia {
  public:
+  ListaCopia() = default;
+  ListaCopia(const ListaCopia&) = delete;  // its sets look into its own texts
+  ListaCopia& operator=(const ListaCopia&) = delete;
+
   /// Appends a pair.
   void Aggiungi(std::string_view sorgente, std::string_view destinazione);
   /// True when `percorso` occurs in the list of sources; "" occurs in any but an empty

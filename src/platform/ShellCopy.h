@@ -25,6 +25,7 @@ struct CopyState {
   std::size_t FileCount = 0;
   std::uint64_t BytesDone = 0;
   std::uint64_t BytesTotal = 0;
+  bool Stoppable = true;  ///< a cancel is heeded
 };
 
 /// A failure that ended a copy.

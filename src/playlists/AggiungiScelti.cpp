@@ -16,6 +16,11 @@ namespace {
 /// Why a file is refused; "" for one that is taken.
 std::string WhyNot(Contesto& context, modMp3Infos& reader, const std::string& path) {
   if (!FileExists(context.Files, path)) {
+    // What isn't UTF-8 in a name that is dropped arrives so.
+    constexpr std::string_view kUnreadable = "\xEF\xBF\xBD";
+    if (path.find(kUnreadable) != std::string::npos) {
+      return ParoleDifetto(context, NameFault::NotUtf8);
+    }
     return FolderExists(context.Files, path)
                ? TestoLinguaO(context, "0050101", "This is a folder: open it in the file pane.")
                : TestoLinguaO(context, "0130258", "This file isn't there any more.");

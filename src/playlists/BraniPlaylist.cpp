@@ -19,7 +19,10 @@ void AddRow(EditorPlaylist& editor, const std::string& folder, const std::string
   editor.Record(rows.Set("FilePath", folder));
   editor.Record(rows.Set("Pos", pos));
   editor.Record(rows.Set("NPlaylist", std::int64_t{editor.PlaylistCorrente()}));
-  if (!editor.Record(rows.Update())) return;
+  if (!editor.Record(rows.Update())) {
+    rows.CancelUpdate();  // the next move would try once more
+    return editor.DimenticaPosizione();
+  }
   editor.Modificato();
   editor.AnnotaPosizione(static_cast<std::int32_t>(pos) + 1);
 }

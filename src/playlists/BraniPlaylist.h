@@ -23,7 +23,8 @@ enum class EsitoAggiunta {
 /// The Pos of a new row: one more than the tracks of the current playlist.
 std::int32_t ProssimaPosizione(EditorPlaylist& editor);
 /// Numbers the tracks of every playlist 1, 2, 3 ... in their order; rows that agree aren't written.
-void RiordinaPosizione(EditorPlaylist& editor);
+/// `traLeRighe` is called after each: no row may come or go in it.
+void RiordinaPosizione(EditorPlaylist& editor, const std::function<void()>& traLeRighe = {});
 
 /// Adds a file that the player takes, and goes to its row. The label of the count stays as it is.
 EsitoAggiunta AggiungiFile(EditorPlaylist& editor, const std::string& cartella,

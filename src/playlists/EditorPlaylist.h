@@ -98,6 +98,7 @@ class EditorPlaylist {
   /// The Pos of the next row, where nothing has changed since the last one was added: a run counts
   /// the rows once.
   std::optional<std::int32_t> PosizioneNota() const;
+  void DimenticaPosizione() { nota_ = {}; }
   void AnnotaPosizione(std::int32_t prossima) { nota_ = {playlistCorrente_, modifiche_, prossima}; }
 
   /// Who may act on it, amid the events of its long routines.

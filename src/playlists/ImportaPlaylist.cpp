@@ -75,7 +75,11 @@ std::vector<RigaImportata> RigheDellaLista(Contesto& contesto, const std::string
     }
     const std::string_view line = Rifila(bytes);
     if (line.empty() || line.starts_with("#EXT")) continue;
-    if (auto row = reader.Read(page.Decode(line))) rows.push_back(std::move(*row));
+    auto row = reader.Read(page.Decode(line));
+    // Many programs write UTF-8 without its mark; such a line names nothing in the code page.
+    const bool letters = std::ranges::any_of(line, [](char c) { return (c & '\x80') != 0; });
+    if (!row && letters) row = reader.Read(std::string(line));
+    if (row) rows.push_back(std::move(*row));
   }
   contesto.Errore.Record(lines.Failure());
   return rows;

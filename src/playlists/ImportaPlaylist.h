@@ -17,7 +17,8 @@ struct RigaImportata {
   bool operator==(const RigaImportata&) const = default;
 };
 
-/// Reads a text list of files, a path a line, in the ANSI code page or in UTF-8 with its mark.
+/// Reads a text list of files, a path a line, in the ANSI code page or in UTF-8, as a rule with its
+/// mark: a line that names no file in the code page is tried as UTF-8.
 /// Blanks around a line and lines that begin with "#EXT" don't count; a line that names no file is
 /// dropped. A path of the host's form counts as the system's; one without a drive is looked for
 /// from the list's folder; slashes are read as backslashes. An unreadable list has none. Events

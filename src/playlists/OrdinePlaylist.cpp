@@ -71,7 +71,7 @@ void GiveOrder(EditorPlaylist& editor, const std::vector<std::int32_t>& order) {
 
 }  // namespace
 
-void RiordinaPosizione(EditorPlaylist& editor) {
+void RiordinaPosizione(EditorPlaylist& editor, const std::function<void()>& traLeRighe) {
   Recordset rows;
   if (!editor.Record(rows.Open(editor.ConnessionePlaylist(),
                                "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC"))) {
@@ -88,6 +88,7 @@ void RiordinaPosizione(EditorPlaylist& editor) {
       editor.Record(rows.Set("Pos", counter));
       editor.Record(rows.Update());
     }
+    if (traLeRighe) traLeRighe();
     return true;
   }));
   editor.Concludi(all);

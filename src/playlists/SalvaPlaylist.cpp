@@ -57,7 +57,7 @@ class Saving {
     progress_.Mostra();
     progress_.Step(0, false);
     editor_.Attesa(true);
-    RiordinaPosizione(editor_);
+    RiordinaPosizione(editor_, [this] { context_.Messaggi.LasciaCorrere(); });
     Open(kAllTracks);
     Step("0070003");
     ScriviReport(editor_);

@@ -26,6 +26,8 @@ void CopiaDiLavoro::Apri() {
   if (!FileExists(contesto_.Files, vero_) || !Ripristina()) return;
   CopiaFileShell(contesto_, vero_, temporaneo_);
   contesto_.Errore.Record(connessione_.Open(temporaneo_));
+  connessione_
+      .DontFlush();  // a copy that a crash left is thrown away; what a save copies is flushed
 }
 
 void CopiaDiLavoro::Salva() {

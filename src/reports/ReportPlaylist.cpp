@@ -5,6 +5,7 @@
 #include "core/Lingua.h"
 #include "core/LinguaLetta.h"
 #include "core/Parole.h"
+#include "platform/Fold.h"
 #include "platform/db/Recordset.h"
 #include "platform/db/Walk.h"
 #include "reports/Markup.h"
@@ -49,7 +50,7 @@ bool ScriviReportPlaylist(Contesto& contesto, Connection& connessione,
   std::optional<std::string> group;
   contesto.Errore.Record(WalkRows(rows, [&] {
     std::string heading = Heading(contesto, rows, numero.has_value() && mode != kNamed);
-    if (group != heading) {
+    if (!group || !EqualFold(*group, heading)) {
       ScriviRigaReport(contesto, "<BR>" + GruppoReport(heading));
       group = std::move(heading);
     }

@@ -75,6 +75,12 @@ TEST_F(ImportedList, IsReadInTheAnsiPageAndInUtf8WithItsMark) {
               ElementsAre("1 città.mp3", "2 città.mp3"));
 }
 
+TEST_F(ImportedList, TriesALineThatNamesNothingInTheAnsiPageAsUtf8) {
+  b.ScriviMp3("list/città.mp3");
+  EXPECT_THAT(Import("città.mp3\r\ncitt\xE0.mp3\r\nCaf\xE9.mp3\r\n"),
+              ElementsAre("1 città.mp3", "2 città.mp3"));
+}
+
 TEST_F(ImportedList, OfSixHundredLinesFiveHundredArriveAndThenTheMessage) {
   std::string text;
   for (int i = 0; i < 600; ++i) text += "b.mp3\r\n";

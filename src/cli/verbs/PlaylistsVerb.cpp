@@ -31,6 +31,36 @@ Json Value(const Recordset& rows, const char* column) {
   return rows.Text(column);
 }
 
+/// The progress line of a command that goes from file to file.
+class LongCommand {
+ public:
+  /// `total` 0: unknown.
+  LongCommand(Session& session, std::string name, std::size_t total)
+      : session_(session), name_(std::move(name)), total_(total) {
+    session_.Events().OnTurn = [this] { Turn(); };
+  }
+  ~LongCommand() {
+    session_.Events().OnTurn = nullptr;
+    session_.Line().Clear();
+  }
+  LongCommand(const LongCommand&) = delete;
+  LongCommand& operator=(const LongCommand&) = delete;
+
+  void Turn() {
+    ++done_;
+    if (!session_.Line().IsActive()) return;
+    std::string text = name_ + "  " + std::to_string(done_);
+    if (total_ > 0) text += "/" + std::to_string(total_);
+    session_.Line().Show(text);
+  }
+
+ private:
+  Session& session_;
+  std::string name_;
+  std::size_t total_;
+  std::size_t done_ = 0;
+};
+
 class PlaylistSession : public EditingCommands {
  public:
   explicit PlaylistSession(Session& session)
@@ -154,7 +184,9 @@ Outcome PlaylistSession::List(const Words& /*words*/) {
 }
 
 Outcome PlaylistSession::Add(const Words& words) {
+  LongCommand told(session_, "add", words.size() - 1);
   for (std::size_t i = 1; i < words.size(); ++i) {
+    told.Turn();
     if (editor_.SelettoreVuoto()) return Refuse(TestoLingua(Context(), "0050040"));
     if (editor_.Piena()) return Refuse(TestoLingua(Context(), "0050027"));
     const FileGiven given = LookAtFile(session_, reader_, words[i], BuonoPerEditor, "0050005");
@@ -173,8 +205,9 @@ Outcome PlaylistSession::AddAll(const Words& words) {
   if (!folder || !FolderExists(Context().Files, folder.Value())) {
     return Refuse("there is no such folder");
   }
-  AggiungiTuttiFiles(editor_, reader_, folder.Value(),
-                     NomiDelPannello(Context().Files, folder.Value()));
+  const auto names = NomiDelPannello(Context().Files, folder.Value());
+  const LongCommand told(session_, "addall", names.size());
+  AggiungiTuttiFiles(editor_, reader_, folder.Value(), names);
   return Outcome::Done;
 }
 
@@ -222,6 +255,7 @@ Outcome PlaylistSession::Shuffle(const Words& words) {
 Outcome PlaylistSession::Import(const Words& words) {
   const auto list = Context().Files.SystemPath(words[1]);
   if (!list || !FileExists(Context().Files, list.Value())) return Refuse("there is no such file");
+  const LongCommand told(session_, "import", 0);
   if (PuoImportare(editor_)) ImportaPlaylist(editor_, reader_, list.Value());
   return Outcome::Done;
 }

@@ -60,6 +60,7 @@ void RiquadroCopia::Costruisci() {
 }
 
 void RiquadroCopia::reject() {
+  if (!annulla_->isEnabled()) return;
   annullato_ = true;
   annulla_->setEnabled(false);
   const QString words = Qs(TestoLinguaO(contesto_, "70008", "Noted; please wait"));
@@ -75,6 +76,7 @@ void RiquadroCopia::Aggiorna(const CopyState& stato, qint64 millisecondi) {
 
 void RiquadroCopia::Scrivi(const CopyState& stato, qint64 millisecondi) {
   if (annullato_) return;
+  annulla_->setEnabled(stato.Stoppable);
   ScriviFile(stato.File);
   if (stato.FileNumber == 0) {
     quanto_->setText(Qs(ConValori(parole_.Conta, {std::to_string(stato.FileCount)})));

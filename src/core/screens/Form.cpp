@@ -1,5 +1,6 @@
 #include "core/screens/Form.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
@@ -123,15 +124,27 @@ void Form::ChiudiDa(Causa causa) {
 
 void Form::FineImpegno() {
   if (--impegni_ > 0 || !rinviata_) return;
-  const Causa cause = *std::exchange(rinviata_, std::nullopt);
+  // Until it runs the form knows that it is about to close.
   QMetaObject::invokeMethod(
-      this, [this, cause] { ChiudiDa(cause); }, Qt::QueuedConnection);
+      this,
+      [this] {
+        if (rinviata_) ChiudiDa(*std::exchange(rinviata_, std::nullopt));
+      },
+      Qt::QueuedConnection);
 }
 
 void Form::SuTasto(Qt::Key tasto, std::function<void()> azione) {
   auto* key = new QShortcut(QKeySequence(tasto), this);
   key->setAutoRepeat(false);  // a key that is held down is one press
-  connect(key, &QShortcut::activated, this, std::move(azione));
+  connect(key, &QShortcut::activated, this, [tasto, azione = std::move(azione)] {
+    QWidget* const open = QApplication::activePopupWidget();
+    // An open list or menu is what Esc sends away first.
+    if (tasto == Qt::Key_Escape && open != nullptr) {
+      open->close();
+    } else {
+      azione();
+    }
+  });
 }
 
 void Form::Aiuto() {

@@ -21,7 +21,7 @@ void KeepRoom(QWidget& widget) {
 }  // namespace
 
 PannelloInfo::PannelloInfo(const QString& titolo, int tag, int tagAvviso, int millisecondi,
-                           QWidget* padre)
+                           QWidget* padre, int colonne)
     : Riquadro("fraFileInfo", titolo, tag, padre) {
   auto* grid = new QGridLayout();
   grid->setHorizontalSpacing(spazi::kMedio);
@@ -36,11 +36,12 @@ PannelloInfo::PannelloInfo(const QString& titolo, int tag, int tagAvviso, int mi
   lblBitrate = figure("lblBitrate", QStringLiteral("Bitrate"));
   lblFreq = figure("lblFreq", QStringLiteral("Freq/mono"));
   lblDurata = figure("lblDurata", QStringLiteral("Len"));
-  grid->addWidget(lblVersioneMpeg, 0, 0);
-  grid->addWidget(lblBitrate, 1, 0);
-  grid->addWidget(lblFreq, 2, 0);
-  grid->addWidget(lblDurata, 3, 0);
-  grid->setColumnStretch(0, 1);
+  int place = 0;
+  for (QLabel* each : {lblVersioneMpeg, lblBitrate, lblFreq, lblDurata}) {
+    grid->addWidget(each, place / colonne, place % colonne);
+    ++place;
+  }
+  for (int column = 0; column < colonne; ++column) grid->setColumnStretch(column, 1);
   Corpo()->addLayout(grid);
   lblBadFileType = new EtichettaAvviso("lblBadFileType", QStringLiteral("BadFileType"),
                                        Carattere::Suggerimento, this);

@@ -14,7 +14,9 @@ class PannelloInfo : public Riquadro {
  public:
   /// `tagAvviso`: the number of lblBadFileType among the form's texts. `millisecondi`: of the
   /// timer.
-  PannelloInfo(const QString& titolo, int tag, int tagAvviso, int millisecondi, QWidget* padre);
+  /// `colonne`: how many figures stand side by side, 1 or 2.
+  PannelloInfo(const QString& titolo, int tag, int tagAvviso, int millisecondi, QWidget* padre,
+               int colonne = 1);
 
   QLabel* lblVersioneMpeg;
   QLabel* lblBitrate;

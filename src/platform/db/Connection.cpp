@@ -37,6 +37,10 @@ Error Connection::Execute(std::string_view statement) {
   return database_->Execute(parsed.Value());
 }
 
+void Connection::DontFlush() {
+  if (IsOpen()) database_->DontFlush();
+}
+
 sqlite3* Connection::Handle() const {
   return database_ ? database_->Handle() : nullptr;
 }
@@ -52,8 +56,9 @@ Transaction::~Transaction() {
 
 Error Transaction::End() {
   const std::shared_ptr<Database> database = std::exchange(database_, nullptr);
-  // Nothing is left to end once the connection was closed or a full disk has undone the run.
-  if (!database || !database->InTransaction()) return {};
+  if (!database || !database->IsOpen()) return {};  // a close has ended it
+  // A full disk undoes a run by itself.
+  if (!database->InTransaction()) return database->Failure();
   return database->CommitRun();
 }
 

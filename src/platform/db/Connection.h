@@ -42,6 +42,10 @@ class Connection {
   /// statement that fails changes nothing.
   Error Execute(std::string_view statement);
 
+  /// Leaves it to the host when changes get onto the device: for a copy that is thrown away after a
+  /// crash, and whose changes shouldn't wait for a slow disk. Lasts until it is closed.
+  void DontFlush();
+
   /// The SQLite handle, for the tests; null when closed.
   sqlite3* Handle() const;
   /// The open file, for Recordset and Transaction; null when closed.

@@ -468,6 +468,8 @@ void frmPlayerConfig::ApriPlaylist() {
   if (FileExists(C().Files, stale)) C().Errore.Record(C().Files.Delete(stale));
   ambiente_.Schermi.ApriPlaylist(Schermata::Configurazione);
   Nascondi();
+  guardia_.stop();  // a box of the editor's load may have brought the hub to the front
+  conta_.stop();
   DimenticaChiusura();  // asked for while the editor came up: it would be asked about over that
   lavora_ = false;
 }

@@ -98,7 +98,7 @@ QWidget* frmPlaylistEditor::CostruisciSinistra(QWidget* corpo) {
   lines->setContentsMargins(0, 0, 0, 0);
   lines->setSpacing(12);
   fraFile = new PaneFile(C(), left);
-  fraFileInfo = new PannelloInfo({}, -1, 5, kFileInfoDelay, left);
+  fraFileInfo = new PannelloInfo({}, -1, 5, kFileInfoDelay, left, 2);
   lblFileInfo = new EtichettaElisa("lblFileInfo", fraFileInfo);
   lblFileInfo->setText(QStringLiteral("FileInfo"));
   lblFileInfo->setProperty(kTag, 31);

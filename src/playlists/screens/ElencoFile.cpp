@@ -65,7 +65,9 @@ void ElencoFile::Mostra(const std::string& cartella, const std::vector<FilePanne
 
 std::string ElencoFile::Corrente() const {
   const QListWidgetItem* item = currentItem();
-  return item != nullptr && item->isSelected() ? NameOf(*item) : std::string();
+  if (item != nullptr && item->isSelected()) return NameOf(*item);
+  const std::vector<std::string> chosen = Scelti();  // one of several was taken out again
+  return chosen.empty() ? std::string() : chosen.front();
 }
 
 std::vector<std::string> ElencoFile::Scelti() const {

@@ -38,6 +38,11 @@ void ModelloBrani::FattiCambiati() {
   if (!righe_.empty()) emit dataChanged(index(0, 0), index(rowCount() - 1, Colonne - 1));
 }
 
+void ModelloBrani::ImpostaDoppi(NomiDoppi doppi) {
+  doppi_ = std::move(doppi);
+  FattiCambiati();
+}
+
 int ModelloBrani::rowCount(const QModelIndex& padre) const {
   return padre.isValid() ? 0 : static_cast<int>(righe_.size());
 }
@@ -59,7 +64,17 @@ QString ModelloBrani::Testo(const RigaPlaylist& riga, int colonna) const {
 QString ModelloBrani::Suggerisce(const RigaPlaylist& riga, bool manca) const {
   const std::string path = AggiungiBarra(riga.Brano.FilePath) + riga.Brano.FileName;
   const QString where = Qs(PercorsoPerPersone(contesto_, path));
-  return Suggerimento(manca ? eraQui_ + QLatin1Char(' ') + where : where);
+  QString tip = manca ? eraQui_ + QLatin1Char(' ') + where : where;
+  if (doppi_.Contiene(riga.Brano.FileName)) {
+    tip += QLatin1Char('\n') + Qs(NomiDoppi::ParoleDi(contesto_, riga.Brano.FileName));
+  }
+  return Suggerimento(tip);
+}
+
+QVariant ModelloBrani::Segno(bool manca, bool doppio) const {
+  const Tema& tema = Tema::Corrente();
+  if (manca) return IconaDi(QStringLiteral("mancante"), tema.Errore);
+  return doppio ? QVariant(IconaDi(QStringLiteral("avviso"), tema.Avviso)) : QVariant();
 }
 
 QVariant ModelloBrani::data(const QModelIndex& indice, int ruolo) const {
@@ -67,6 +82,7 @@ QVariant ModelloBrani::data(const QModelIndex& indice, int ruolo) const {
   const RigaPlaylist& row = righe_[static_cast<std::size_t>(indice.row())];
   const FattiBrano* facts = conto_.Fatti(row);
   const bool missing = facts != nullptr && facts->Mancante;
+  const bool twice = doppi_.Contiene(row.Brano.FileName);
   switch (ruolo) {
     case Qt::DisplayRole:
       return Testo(row, indice.column());
@@ -77,10 +93,10 @@ QVariant ModelloBrani::data(const QModelIndex& indice, int ruolo) const {
                                  Qt::AlignVCenter);
     case Qt::ForegroundRole:
       if (missing) return Tema::Corrente().Errore;
+      if (twice) return Tema::Corrente().Avviso;
       return indice.column() == Nome ? QVariant() : QVariant(Tema::Corrente().Attenuato);
     case Qt::DecorationRole:
-      if (!missing || indice.column() != Nome) return {};
-      return IconaDi(QStringLiteral("mancante"), Tema::Corrente().Errore);
+      return indice.column() == Nome ? Segno(missing, twice) : QVariant();
     default:
       return {};
   }

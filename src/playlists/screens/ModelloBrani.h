@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "playlists/ContoPlaylist.h"
+#include "playlists/NomiDoppi.h"
 #include "playlists/RighePlaylist.h"
 
 namespace kvr5 {
@@ -23,6 +24,8 @@ class ModelloBrani : public QAbstractTableModel {
   int RigaDi(std::int64_t id) const;
   /// Shows what was learnt of the files.
   void FattiCambiati();
+  /// Marks the rows whose name another file has.
+  void ImpostaDoppi(NomiDoppi doppi);
   /// What stands for the length of a file that is missing.
   const QString& Mancante() const { return mancante_; }
   /// Takes its words from the language file.
@@ -36,9 +39,11 @@ class ModelloBrani : public QAbstractTableModel {
  private:
   QString Testo(const RigaPlaylist& riga, int colonna) const;
   QString Suggerisce(const RigaPlaylist& riga, bool manca) const;
+  QVariant Segno(bool manca, bool doppio) const;
 
   Contesto& contesto_;
   const ContoPlaylist& conto_;
+  NomiDoppi doppi_;
   std::vector<RigaPlaylist> righe_;
   QStringList titoli_;
   QString mancante_;

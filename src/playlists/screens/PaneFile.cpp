@@ -50,7 +50,7 @@ void PaneFile::Costruisci() {
   DirDirectoryMp3 = new ElencoCartelle(contesto_, "DirDirectoryMp3", this);
   DirDirectoryMp3->setMinimumHeight(64);
   lblMp3_Dir->setBuddy(DirDirectoryMp3);
-  Corpo()->addWidget(DirDirectoryMp3, 2);
+  Corpo()->addWidget(DirDirectoryMp3, 3);
   txtCerca = new QLineEdit(this);
   txtCerca->setObjectName(QStringLiteral("txtCerca"));
   txtCerca->setClearButtonEnabled(true);

@@ -50,10 +50,13 @@ RiquadroBrani::RiquadroBrani(Contesto& contesto, ModelloBrani& modello, QWidget*
   pila_->addWidget(grdPlaylist);
   pila_->addWidget(attesa_);
   Corpo()->addLayout(pila_, 1);
+  lblDoppi = new EtichettaAvviso("lblDoppi", {}, Carattere::Suggerimento, this);
   lblEsito = new EtichettaAvviso("lblEsito", {}, Carattere::Suggerimento, this);
-  lblEsito->setWordWrap(true);
-  lblEsito->hide();
-  Corpo()->addWidget(lblEsito);
+  for (EtichettaAvviso* each : {lblDoppi, lblEsito}) {
+    each->setWordWrap(true);
+    each->hide();
+    Corpo()->addWidget(each);
+  }
   const auto button = [this](const char* cmd, const char* lbl, const char* caption,
                              const char* icon, int tag) {
     return new Coppia(cmd, lbl, QLatin1String(caption), icon, tag, this);
@@ -96,9 +99,9 @@ void RiquadroBrani::Attesa(bool attende) {
   if (fell != nullptr && window()->focusWidget() == fell) grdPlaylist->setFocus();
 }
 
-void RiquadroBrani::MostraEsito(const QString& testo) {
-  lblEsito->setText(testo);
-  lblEsito->setVisible(!testo.isEmpty());
+void RiquadroBrani::Avvisa(QLabel& riga, const QString& testo) {
+  riga.setText(testo);
+  riga.setVisible(!testo.isEmpty());
 }
 
 void RiquadroBrani::Sopra(bool sopra) {

@@ -26,14 +26,16 @@ class RiquadroBrani : public Riquadro {
   GrigliaPlaylist* grdPlaylist;
   QLabel* lblAttendere;  ///< lies where the grid is, while that is hidden
   QTimer tmrAttendere;
+  EtichettaAvviso* lblDoppi;  ///< names that different files have
   EtichettaAvviso* lblEsito;  ///< files that were not taken
   Coppia *cmdPlayMp3, *cmdStopMp3, *cmdSpostaSu, *cmdSpostaGiu, *cmdRandom;
   QLabel *lblAnteprima, *lblRandom;
 
   /// Hides the grid behind the wait display, or shows it again.
   void Attesa(bool attende);
-  /// Says what was not taken; "" takes that away.
-  void MostraEsito(const QString& testo);
+  /// Says what was not taken, and which name different files have; "" takes that away.
+  void MostraEsito(const QString& testo) { Avvisa(*lblEsito, testo); }
+  void MostraDoppi(const QString& testo) { Avvisa(*lblDoppi, testo); }
   void Localizza();
 
   /// Called with the files that were dropped, in the host's form.
@@ -46,6 +48,7 @@ class RiquadroBrani : public Riquadro {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  static void Avvisa(QLabel& riga, const QString& testo);
   void Lampeggia();
   void Sopra(bool sopra);
 

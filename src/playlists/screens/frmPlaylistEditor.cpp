@@ -50,6 +50,7 @@ void frmPlaylistEditor::Collega() {
   editor_.SuSelettore = [this] { Fascia->Mostra(editor_); };
   editor_.SuAttesa = [this](bool waits) {
     if (waits) conta_.stop();  // the disk is the run's
+    daContare_ = daContare_ || !waits;
     Brani->Attesa(waits);
   };
   const auto selects = [this](const std::function<void()>& action) {
@@ -66,7 +67,12 @@ void frmPlaylistEditor::Collega() {
     selects([this, input, on] { editor_.SpuntaIngresso(input, on); });
   };
   const auto does = [this](QAbstractButton* button, const std::function<void()>& action) {
-    connect(button, &QAbstractButton::clicked, this, [this, action] { Comando(action); });
+    connect(button, &QAbstractButton::clicked, this, [this, action] {
+      Comando([this, &action] {
+        Brani->MostraEsito({});
+        action();
+      });
+    });
   };
   does(Fascia->picAggiungiPL,
        [this] { AggiungiPlaylist(editor_, [this] { nome_->MostraModale(); }); });
@@ -92,7 +98,7 @@ void frmPlaylistEditor::CollegaPane() {
           [this] { Comando([this] { SfogliaMp3(); }); });
   fraFile->DirDirectoryMp3->SuClic = [this] {
     Comando([this] {
-      fraFile->Rileggi();
+      RileggiFile();
       TieniCartella(C(), fraFile->DirDirectoryMp3->Percorso());
     });
   };
@@ -142,6 +148,7 @@ void frmPlaylistEditor::CollegaAscolto() {
   ascolto_.SuMutoFileSx = [this, shows] { shows(cmdPlayFileSx, {true, true}); };
   ascolto_.SuPlayRiga = [this, shows](std::size_t /*row*/, bool on) {
     rigaSuona_ = on;
+    if (on) suona_ = ascoltata_;
     shows(Brani->cmdPlayMp3, {on, false});
   };
   ascolto_.SuMutoRiga = [this, shows](std::size_t /*row*/) {
@@ -177,6 +184,7 @@ void frmPlaylistEditor::Localizza() {
   const QString type = Qs(C().Stato.PlayerConfigDesc);
   lblTipoPlayer->setText(lblTipoPlayer->fontMetrics().elidedText(type, Qt::ElideRight, kTypeRoom));
   lblTipoPlayer->setToolTip(Suggerimento(type));
+  lblTipoPlayer->setAccessibleName(type);
   Fascia->Localizza();
   fraFile->Localizza();
   modello_.Localizza();
@@ -205,7 +213,12 @@ void frmPlaylistEditor::AlCaricamento() {
     editor_.Carica();
     Fascia->Disponi(editor_.Disposizione());
     if (!editor_.rsList().IsOpen()) {
-      Brani->grdPlaylist->ImpostaVuota(Qs(TestoLingua(C(), "0050123")));
+      const QString words = Qs(TestoLingua(C(), "0050123"));
+      Brani->grdPlaylist->ImpostaVuota(words);
+      // A save would delete the lists of a database that may be whole.
+      const bool there = FileExists(C().Files, FileDelProgetto(C(), "playlist.mdb"));
+      picSave->setEnabled(!there);
+      if (there) picSave->setToolTip(words);
     }
     fraFile->DirDirectoryMp3->ImpostaPercorso(CartellaIniziale(C(), 0));
   });
@@ -217,8 +230,7 @@ void frmPlaylistEditor::AllAttivazione() {
   // Files come and go while another window is in front. At the first time the load has just looked.
   if (!std::exchange(lasciata_, true) || editor_.Turni.InCorso()) return;
   Comando([this] {
-    const std::string before = fraFile->Corrente();
-    if (fraFile->Rileggi() && fraFile->Corrente() != before) NienteFile();
+    RileggiFile();
     conto_.Ricomincia();
     CominciaConto();
   });
@@ -234,6 +246,7 @@ void frmPlaylistEditor::Comando(const std::function<void()>& azione) {
 
 void frmPlaylistEditor::AggiornaVista() {
   if (std::exchange(grigliaCambiata_, false)) MostraRighe();
+  if (!editor_.Turni.InCorso() && std::exchange(daContare_, false)) CominciaConto();
   scelti_.clear();  // of a command that came to nothing
   posto_ = -1;
   const auto changes = static_cast<std::size_t>(editor_.Modifiche());
@@ -256,7 +269,7 @@ void frmPlaylistEditor::MostraRighe() {
   }
   Brani->grdPlaylist->Seleziona(std::exchange(scelti_, {}), editor_.rsList().Number("ID", -1));
   conto_.Imposta(rows);
-  CominciaConto();
+  daContare_ = true;
 }
 
 void frmPlaylistEditor::CominciaConto() {
@@ -268,6 +281,9 @@ void frmPlaylistEditor::Conta() {
   modello_.FattiCambiati();
   if (more) return;
   conta_.stop();
+  const NomiDoppi twice(editor_);
+  Brani->MostraDoppi(Qs(twice.Parole(C())));
+  modello_.ImpostaDoppi(twice);
   Brani->lblTotali->setText(Qs(conto_.Parole()));
   Veste(*Brani->lblTotali, Carattere::Corpo,
         conto_.Mancanti() > 0 ? Ruolo::Errore : Ruolo::Attenuato);
@@ -285,6 +301,11 @@ void frmPlaylistEditor::CambiataCartella() {
   NienteFile();
   // The load only goes where the settings lead.
   if (isVisible()) TieniCartella(C(), fraFile->DirDirectoryMp3->Percorso());
+}
+
+void frmPlaylistEditor::RileggiFile() {
+  const std::string before = fraFile->Corrente();
+  if (fraFile->Rileggi() && fraFile->Corrente() != before) NienteFile();
 }
 
 void frmPlaylistEditor::NienteFile() {
@@ -331,7 +352,6 @@ void frmPlaylistEditor::MostraInfoMp3() {
 }
 
 void frmPlaylistEditor::AggiungiFile() {
-  Brani->MostraEsito({});
   const std::string folder = fraFile->DirDirectoryMp3->Percorso();
   std::vector<std::string> chosen = fraFile->Scelti();
   if (chosen.size() == 1 && chosen.front() == fraFile->Corrente()) {  // the panel has passed it
@@ -343,13 +363,13 @@ void frmPlaylistEditor::AggiungiFile() {
 }
 
 void frmPlaylistEditor::DoppioFile() {
+  Brani->MostraEsito({});
   NienteFile();
   MostraInfoMp3();
   if (!cmdAggiungiFile->isHidden() && cmdAggiungiFile->isEnabled()) AggiungiFile();
 }
 
 void frmPlaylistEditor::AggiungiTutti() {
-  Brani->MostraEsito({});
   AggiungiTuttiFiles(editor_, lettore_, fraFile->DirDirectoryMp3->Percorso(), fraFile->Nomi());
 }
 
@@ -360,7 +380,6 @@ void frmPlaylistEditor::AggiungiTrascinati(const std::vector<std::string>& file)
 }
 
 void frmPlaylistEditor::Importa() {
-  Brani->MostraEsito({});
   if (!PuoImportare(editor_)) return;
   const std::string list = C().Finestre.ScegliFile(TestoLingua(C(), "0050030"),
                                                    {"File TXT,M3U (*.txt,*.m3u)", "*.txt;*.m3u"},
@@ -369,6 +388,7 @@ void frmPlaylistEditor::Importa() {
 }
 
 void frmPlaylistEditor::Rimuovi() {
+  Brani->MostraEsito({});
   const Id chosen = Brani->grdPlaylist->Scelti();
   if (chosen.empty()) return;
   posto_ = modello_.RigaDi(chosen.front());
@@ -380,6 +400,7 @@ void frmPlaylistEditor::Rimuovi() {
 }
 
 void frmPlaylistEditor::Sposta(bool su) {
+  Brani->MostraEsito({});
   scelti_ = Brani->grdPlaylist->Scelti();
   if (scelti_.size() > 1) {
     const std::int64_t current = editor_.rsList().Number("ID", -1);
@@ -391,12 +412,13 @@ void frmPlaylistEditor::Sposta(bool su) {
 }
 
 void frmPlaylistEditor::Mescola() {
+  Brani->MostraEsito({});
   Random(editor_, CasoDallOrologio());
 }
 
 void frmPlaylistEditor::AscoltaRiga() {
   if (editor_.rsList().AbsolutePosition() < 1) return;
-  suona_ = editor_.rsList().Number("ID", -1);
+  ascoltata_ = editor_.rsList().Number("ID", -1);
   ascolto_.PlayRiga(editor_.rsList());
 }
 

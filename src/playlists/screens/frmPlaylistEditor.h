@@ -85,6 +85,8 @@ class frmPlaylistEditor : public Form {
 
   void SfogliaMp3();
   void CambiataCartella();
+  /// Looks into the folder of the pane again.
+  void RileggiFile();
   /// No file is picked that has been judged.
   void NienteFile();
   void ClicFile();
@@ -111,11 +113,13 @@ class frmPlaylistEditor : public Form {
   FormPredefinita<frmPlaylistName> nome_{[this] { return new frmPlaylistName(ambiente_); }};
   QTimer conta_;
   bool grigliaCambiata_ = false;
+  bool daContare_ = false;      ///< once no run is under way
   std::int32_t mostrata_ = -1;  ///< whose rows the grid shows
   bool rigaSuona_ = false;
-  std::int64_t suona_ = -1;  ///< the row that was played last
-  Id scelti_;                ///< the rows to select when they are shown anew
-  int posto_ = -1;           ///< else the one at this place, from 0
+  std::int64_t ascoltata_ = -1;  ///< the row that was to be played last
+  std::int64_t suona_ = -1;      ///< the one that plays
+  Id scelti_;                    ///< the rows to select when they are shown anew
+  int posto_ = -1;               ///< else the one at this place, from 0
   bool lasciata_ = false;
 };
 

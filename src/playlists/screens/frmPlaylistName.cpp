@@ -74,7 +74,6 @@ void frmPlaylistName::AlCaricamento() {
   prefisso_ = lblCaratteriDisponibili->text() + QStringLiteral(": ");
   avviso_ = lblWarn->text();
   lblNota->setText(Qs(TestoLingua(C(), "0150101")));
-  CambiaNome();
   lblWarn->hide();  // nothing was typed yet
   txtNomePlaylist->setFocus();
   C().Messaggi.ImpostaPuntatore(Puntatore::Normale);

@@ -278,6 +278,31 @@ TEST_F(Figures, MarkAMissingFileAndTellWhereItWas) {
   EXPECT_THAT(Griglia(), SizeIs(3)) << "it is kept";
 }
 
+TEST_F(Figures, MarkTheNameThatDifferentFilesHave) {
+  EXPECT_FALSE(SiVede("lblDoppi"));
+  std::filesystem::create_directories(b.Cartella.Host() / "music/other");
+  b.ScriviMp3("music/other/a.mp3", 1);
+  form->Brani->SuFile({Host("other/a.mp3")});
+  ASSERT_TRUE(QTest::qWaitFor([&] { return SiVede("lblDoppi"); }));
+  EXPECT_THAT(Testo("lblDoppi"), testing::HasSubstr("called a.mp3"));
+  const QColor warning = Tema::Corrente().Avviso;
+  EXPECT_EQ(Role(0, Qt::ForegroundRole).value<QColor>(), warning);
+  EXPECT_FALSE(Role(0, Qt::DecorationRole).isNull());
+  EXPECT_THAT(Role(0, Qt::ToolTipRole).toString().toStdString(),
+              testing::HasSubstr("called a.mp3"));
+  EXPECT_NE(Role(1, Qt::ForegroundRole).value<QColor>(), warning) << "it is missing";
+  Clic("cmdRimuoviFile");  // the row that was added is the current one
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !SiVede("lblDoppi"); }));
+}
+
+TEST_F(Figures, ComeAlsoAfterADropOfWhichNothingWasTaken) {
+  b.Cartella.Write("music/one.txt", "x");
+  b.Cartella.Write("music/two.txt", "x");
+  form->Brani->lblTotali->clear();
+  form->Brani->SuFile({Host("one.txt"), Host("two.txt")});
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !Testo("lblTotali").empty(); }));
+}
+
 TEST_F(Figures, FollowWhatComesBackWhileAnotherWindowIsInFront) {
   b.ScriviMp3("music/gone.mp3");
   std::filesystem::remove(Host("a.mp3"));

@@ -31,7 +31,7 @@ constexpr const char* kNoFile =
 TEST_F(PlaylistName, ComesUpEmptyWithoutAWarning) {
   EXPECT_EQ(forma->windowTitle(), "Name of the playlist");
   EXPECT_EQ(forma->txtNomePlaylist->text(), "");
-  EXPECT_EQ(Left(), "Characters left: 8");
+  EXPECT_EQ(Left(), "Characters left (of 8)");
   EXPECT_EQ(Warning(), "");
   EXPECT_EQ(Note(), "");
   EXPECT_EQ(forma->focusWidget(), forma->txtNomePlaylist);
@@ -54,12 +54,12 @@ TEST_F(PlaylistName, HasTheCaptionsOfItsDesignBefore) {
 
 TEST_F(PlaylistName, HasEightCharactersAtMost) {
   test::Scrivi(*forma, "Music");
-  EXPECT_EQ(Left(), "Characters left: 3");
+  EXPECT_EQ(Left(), "Characters left (of 8): 3");
   test::Scrivi(*forma, "XYZ9");
   EXPECT_EQ(forma->txtNomePlaylist->text(), "MusicXYZ");
-  EXPECT_EQ(Left(), "Characters left: 0");
+  EXPECT_EQ(Left(), "Characters left (of 8): 0");
   forma->txtNomePlaylist->setText(QString::fromUtf8("Caffè"));
-  EXPECT_EQ(Left(), "Characters left: 3") << "characters, not bytes";
+  EXPECT_EQ(Left(), "Characters left (of 8): 3") << "characters, not bytes";
 }
 
 TEST_F(PlaylistName, IsGivenByTheButtonItsLabelAndEnter) {
@@ -155,7 +155,7 @@ TEST_F(PlaylistName, HasHelp) {
 TEST_F(PlaylistName, ThatIsPastedIsCutToItsLength) {
   forma->txtNomePlaylist->insert("Morning show");
   EXPECT_EQ(forma->txtNomePlaylist->text(), "Morning ");
-  EXPECT_EQ(Left(), "Characters left: 0");
+  EXPECT_EQ(Left(), "Characters left (of 8): 0");
 }
 
 }  // namespace
