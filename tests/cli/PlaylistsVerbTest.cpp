@@ -227,6 +227,60 @@ TEST_F(PlaylistsVerb, ANumberThatNoTrackOrEntryHasIsRefusedHoweverLarge) {
   EXPECT_THAT(Rows(run), ElementsAre("1 a.mp3"));
 }
 
+TEST_F(PlaylistsVerb, CommandsMayStandBehindAUtf8Mark) {
+  const auto run =
+      Run("\xEF\xBB\xBF"
+          "add " +
+          Music("a.mp3") + "\nlist\n");
+  EXPECT_EQ(run.Stato, 0);
+  EXPECT_THAT(Rows(run), ElementsAre("1 a.mp3"));
+}
+
+TEST_F(PlaylistsVerb, AnAddOfSeveralEndsAtTheFullList) {
+  std::string commands;
+  for (int i = 0; i < 499; ++i) commands += "add " + Music("a.mp3") + "\n";
+  const std::string last = "add " + Music("b.mp3") + " " + Music("10.mp3") + " " + Music("2.mp3");
+  const auto run = Run(commands + last + "\nlist\n");
+  EXPECT_EQ(run.Stato, 0);
+  ASSERT_EQ(run.Box().size(), 1U) << "told once";
+  EXPECT_EQ(run.Box()[0]["refused"], last);
+  const auto rows = Rows(run);
+  ASSERT_EQ(rows.size(), 500U);
+  EXPECT_EQ(rows.back(), "500 b.mp3");
+}
+
+TEST_F(PlaylistsVerb, AListForPeopleIsALineATrack) {
+  const auto run =
+      k.Esegui({"playlists", "Hall"}, "add " + Music("a.mp3") + " " + Music("b.mp3") + "\nlist\n");
+  EXPECT_EQ(run.Uscita, "1  " + Music("a.mp3") + "\n2  " + Music("b.mp3") + "\n");
+}
+
+TEST_F(PlaylistsVerb, ASaveWhoseCopyFailsIsStatus1) {
+  const auto run = Run("add " + Music("a.mp3") + "\nsave\n");
+  ASSERT_EQ(run.Stato, 0);
+  std::filesystem::remove(k.Host("music/a.mp3"));
+  EXPECT_EQ(Run("yes\nsave\n").Stato, 1) << "the file to be brought in has gone";
+  EXPECT_FALSE(Exists("tmpPlaylist.mdb"));
+}
+
+TEST_F(PlaylistsVerb, InputsAreSetAsByClicksAndTheSelectorHasTheLastWord) {
+  const auto project = k.Host("program/Projects/Hall");
+  std::string descriptor = Read("Config.cfg");
+  const auto set = [&](const std::string& key, const std::string& value) {
+    const auto at = descriptor.find(key + "=");
+    ASSERT_NE(at, std::string::npos);
+    const auto end = descriptor.find("\r\n", at);
+    descriptor.replace(at, end - at, key + "=" + value);
+  };
+  set("PlayerType", "3");
+  set("PlayerMode", "7");
+  k.Cartella.Write("program/Projects/Hall/Config.cfg", descriptor);
+  const auto run = Run("inputs 3\nadd " + Music("a.mp3") + "\nlist\n");
+  EXPECT_EQ(run.Stato, 0) << run.Errori;
+  ASSERT_FALSE(run.Oggetti().empty());
+  EXPECT_EQ(run.Oggetti()[0]["NPlaylist"], 4) << "the sum and one more";
+}
+
 TEST_F(PlaylistsVerb, ACommandOfAThousandFilesIsTakenWhole) {
   std::string command = "add";
   for (int i = 0; i < 499; ++i) command += " " + Music("a.mp3") + std::string(200, ' ');

@@ -114,6 +114,29 @@ TEST_F(OnATerminal, CtrlCEndsMp3WhileItWaitsForTheNextLine) {
       << terminal.Schermo();
 }
 
+TEST_F(OnATerminal, CtrlCEndsAnEditingSessionUnsaved) {
+  ASSERT_EQ(k.Esegui({"new", "Shop", "--mode", "5"}).Stato, 0);
+  const std::string folder = "program/Projects/Shop/";
+  const std::string before = k.Cartella.Read(folder + "playlist.mdb");
+  Terminale terminal(k.Lavoro({"--json", "playlists", "Shop"}));
+  terminal.Scrivi("add " + k.Host("music/a.mp3") + "\nlist\n");
+  ASSERT_TRUE(terminal.Aspetta("\"end\":\"list\"")) << terminal.Schermo();
+  terminal.Scrivi("save");  // half a line is no command
+  terminal.Scrivi("\x03");
+  EXPECT_EQ(terminal.Fine(), 1);
+  EXPECT_EQ(k.Cartella.Read(folder + "playlist.mdb"), before);
+  EXPECT_FALSE(k.Cartella.Exists(folder + "tmpPlaylist.mdb"));
+}
+
+TEST_F(OnATerminal, AnEditingSessionShowsHowFarALongCommandIs) {
+  ASSERT_EQ(k.Esegui({"new", "Shop", "--mode", "5"}).Stato, 0);
+  Terminale terminal(k.Lavoro({"playlists", "Shop"}, k.Host("out")));
+  terminal.Scrivi("addall " + k.Host("music") + "\n");
+  EXPECT_TRUE(terminal.Aspetta("addall  1/1")) << terminal.Schermo();
+  terminal.Scrivi("cancel\n");
+  EXPECT_EQ(terminal.Fine(), 0);
+}
+
 TEST_F(OnATerminal, Mp3ShowsHowFarItIsBesideAnOutputThatGoesElsewhere) {
   Terminale terminal(
       k.Lavoro({"mp3", k.Host("music/a.mp3"), k.Host("music/a.mp3")}, k.Host("out")));
