@@ -29,6 +29,21 @@ TEST(CoppieDaListe, ListsOfDifferentLengthGiveNothing) {
   EXPECT_TRUE(CoppieDaListe("", "").empty());
 }
 
+TEST(CopiaFileShell, GoesOnThroughACancelThatIsToDoNothing) {
+  Banco b;
+  b.Cartella.Write("a.mp3", "one");
+  b.Copia.AnnullaAlla = 1;
+  std::vector<bool> stoppable;
+  b.Copia.SuProgresso = [&](const CopyState& state) { stoppable.push_back(state.Stoppable); };
+  const auto outcome =
+      CopiaFileShell(b.C, b.Percorso("a.mp3"), b.Percorso("b.mp3"), AnnulloCopia::Nulla);
+  EXPECT_EQ(outcome.Result, 0);
+  EXPECT_FALSE(b.C.Stato.AnnullatoDaUtente);
+  EXPECT_EQ(b.Cartella.Read("b.mp3"), "one");
+  ASSERT_FALSE(stoppable.empty());
+  EXPECT_FALSE(stoppable.front());
+}
+
 TEST(CopiaFileShell, CopiesManyPairsInOneOperationAndOverwrites) {
   Banco b;
   b.Cartella.Write("a.mp3", "one");

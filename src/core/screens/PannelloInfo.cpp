@@ -41,7 +41,8 @@ PannelloInfo::PannelloInfo(const QString& titolo, int tag, int tagAvviso, int mi
     grid->addWidget(each, place / colonne, place % colonne);
     ++place;
   }
-  for (int column = 0; column < colonne; ++column) grid->setColumnStretch(column, 1);
+  grid->setColumnStretch(0, 4);  // the frequency with its channels is the longest
+  if (colonne > 1) grid->setColumnStretch(1, 3);
   Corpo()->addLayout(grid);
   lblBadFileType = new EtichettaAvviso("lblBadFileType", QStringLiteral("BadFileType"),
                                        Carattere::Suggerimento, this);

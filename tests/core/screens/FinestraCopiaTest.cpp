@@ -55,6 +55,20 @@ TEST_F(CopiaConFinestra, ComesOnlyAfterHalfASecondAndGoesWithTheCopy) {
   EXPECT_EQ(Finestra(), nullptr);
 }
 
+TEST_F(CopiaConFinestra, ACopyThatNobodyMayCancelHasItsCancelOff) {
+  state.Stoppable = false;
+  copy.Begin();
+  RiquadroCopia& window = FinoAllaFinestra();
+  auto& cancel = Controllo<Coppia>(window, "cmdAnnulla");
+  EXPECT_FALSE(cancel.isEnabled());
+  Tasto(window, Qt::Key_Escape);
+  EXPECT_TRUE(copy.Progress(state));
+  state.Stoppable = true;
+  EXPECT_TRUE(copy.Progress(state));
+  EXPECT_TRUE(cancel.isEnabled());
+  copy.End();
+}
+
 TEST_F(CopiaConFinestra, ACopyThatIsDoneAtOnceShowsNoWindow) {
   copy.Begin();
   EXPECT_TRUE(copy.Progress(state));

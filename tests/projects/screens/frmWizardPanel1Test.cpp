@@ -1,3 +1,4 @@
+#include <QAbstractItemView>
 #include <filesystem>
 
 #include "core/screens/Tema.h"
@@ -249,6 +250,20 @@ TEST_F(Wizard, BackEscAndTheWindowsOwnButtonLeadToTheMenuAndKeepTheType) {
     EXPECT_FALSE(PuntatoreOccupato());
     EXPECT_EQ(s.PlayerType, 4);
   }
+}
+
+TEST_F(Wizard, EscClosesTheOpenListOfModesBeforeItLeaves) {
+  frmWizardPanel1& form = Apri();
+  Nome("Bar");
+  Clicca(*form.optPanel_21);
+  form.cmbPlaylist->showPopup();
+  ASSERT_TRUE(form.cmbPlaylist->view()->isVisible());
+  Tasto(form, Qt::Key_Escape);
+  EXPECT_FALSE(form.cmbPlaylist->view()->isVisible());
+  EXPECT_TRUE(forma.Caricata());
+  EXPECT_EQ(form.txtNomeProgetto->text(), QStringLiteral("Bar"));
+  Tasto(form, Qt::Key_Escape);
+  EXPECT_FALSE(forma.Caricata());
 }
 
 TEST_F(Wizard, AnotherModelThanKvr5GetsItsFolderAndNothingMore) {
