@@ -2,6 +2,7 @@
 
 #include "cli/EditingSession.h"
 #include "cli/FileGiven.h"
+#include "cli/LongCommand.h"
 #include "cli/verbs/Verb.h"
 #include "core/Aiuti.h"
 #include "core/Lingua.h"
@@ -30,36 +31,6 @@ Json Value(const Recordset& rows, const char* column) {
   if (const auto* number = std::get_if<std::int64_t>(&value.Value())) return *number;
   return rows.Text(column);
 }
-
-/// The progress line of a command that goes from file to file.
-class LongCommand {
- public:
-  /// `total` 0: unknown.
-  LongCommand(Session& session, std::string name, std::size_t total)
-      : session_(session), name_(std::move(name)), total_(total) {
-    session_.Events().OnTurn = [this] { Turn(); };
-  }
-  ~LongCommand() {
-    session_.Events().OnTurn = nullptr;
-    session_.Line().Clear();
-  }
-  LongCommand(const LongCommand&) = delete;
-  LongCommand& operator=(const LongCommand&) = delete;
-
-  void Turn() {
-    ++done_;
-    if (!session_.Line().IsActive()) return;
-    std::string text = name_ + "  " + std::to_string(done_);
-    if (total_ > 0) text += "/" + std::to_string(total_);
-    session_.Line().Show(text);
-  }
-
- private:
-  Session& session_;
-  std::string name_;
-  std::size_t total_;
-  std::size_t done_ = 0;
-};
 
 class PlaylistSession : public EditingCommands {
  public:
