@@ -39,7 +39,7 @@ class EditorPlaylist {
 
   Contesto& C() { return contesto_; }
   /// Keeps a failure as the pending error; false for one.
-  bool Record(Error errore) { return contesto_.Errore.Record(std::move(errore)); }
+  bool Record(const Error& errore) { return contesto_.Errore.Record(errore); }
   /// The working copy; null while none is there.
   CopiaDiLavoro* Copia() { return copia_ ? &*copia_ : nullptr; }
   Connection& ConnessionePlaylist() { return copia_ ? copia_->Connessione() : chiusa_; }
