@@ -50,6 +50,7 @@ Outcome EditingCommands::RunLine(const std::string& line) {
 }
 
 Outcome EditingCommands::Refuse(const std::string& why) {
+  session_.Line().Clear();
   session_.Out().Refused(line_, why);
   return Outcome::Refused;
 }

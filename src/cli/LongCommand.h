@@ -26,8 +26,11 @@ class LongCommand {
   void Turn() {
     ++done_;
     if (!session_.Line().IsActive()) return;
-    std::string text = name_ + "  " + std::to_string(done_);
-    if (total_ > 0) text += "/" + std::to_string(total_);
+    std::string text = name_;
+    if (total_ > 0) {
+      text += "  " + std::to_string(done_) + "/" + std::to_string(total_) + "  " +
+              std::to_string(done_ * 100 / total_) + "%";
+    }
     session_.Line().Show(text);
   }
 

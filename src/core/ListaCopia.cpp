@@ -1,5 +1,7 @@
 #include "core/ListaCopia.h"
 
+#include <algorithm>
+
 #include "platform/Fold.h"
 
 namespace kvr5 {
@@ -17,9 +19,8 @@ bool IsRegular(std::string_view path) {
 void ListaCopia::Aggiungi(std::string_view sorgente, std::string_view destinazione) {
   sorgenti_.append("|").append(sorgente);
   destinazioni_.append("|").append(destinazione);
-  const std::string& listed = testi_.emplace_back("|" + FoldCase(sorgente));
-  ripiegati_.append(listed);
-  const std::string_view folded = std::string_view(listed).substr(1);
+  const std::string& folded = testi_.emplace_back(FoldCase(sorgente));
+  ripiegati_.append("|").append(folded);
   if (IsRegular(folded)) {
     percorsi_.insert(folded);
   } else {
@@ -32,24 +33,29 @@ bool ListaCopia::ContieneDestinazione(std::string_view percorso) const {
          FoldCase(destinazioni_).find(FoldCase(percorso)) != std::string::npos;
 }
 
+bool ListaCopia::Coda::operator<(const Coda& altra) const {
+  if (const int order = Dopo.compare(altra.Dopo); order != 0) return order < 0;
+  if (Oltre != altra.Oltre) return altra.Oltre;
+  return std::lexicographical_compare(Prima.rbegin(), Prima.rend(), altra.Prima.rbegin(),
+                                      altra.Prima.rend());
+}
+
 void ListaCopia::AggiungiCode(std::string_view testo, Code& code) {
   for (auto at = testo.find('\\'); at != std::string_view::npos; at = testo.find('\\', at + 1)) {
-    code.insert(testo.substr(at + 1));
+    code.insert({testo.substr(at + 1), testo.substr(0, at)});
   }
 }
 
 bool ListaCopia::InCode(const Code& code, std::string_view cercato) {
   const std::string_view head = cercato.substr(0, cercato.find('\\'));
   const std::string_view rest = cercato.substr(head.size() + 1);
-  for (auto each = code.lower_bound(rest); each != code.end() && each->starts_with(rest); ++each) {
-    // What stands before the backslash; the bar at the text's beginning ends the comparison.
-    const char* before = each->data() - 2;
-    auto wanted = head.rbegin();
-    while (wanted != head.rend() && *before == *wanted) {
-      --before;
-      ++wanted;
-    }
-    if (wanted == head.rend()) return true;
+  // Each different text that begins so, and of those that follow it the one that ends in the head.
+  for (auto each = code.lower_bound({rest, {}}); each != code.end();) {
+    const std::string_view after = each->Dopo;
+    if (!after.starts_with(rest)) return false;
+    const auto fits = code.lower_bound({after, head});
+    if (fits != code.end() && fits->Dopo == after && fits->Prima.ends_with(head)) return true;
+    each = code.lower_bound({after, {}, true});
   }
   return false;
 }

@@ -39,14 +39,22 @@ class ListaCopia {
  private:
   std::string sorgenti_;
   std::string destinazioni_;
-  using Code = std::multiset<std::string_view>;
+  /// What follows a backslash of a listed path, and what stands before it.
+  struct Coda {
+    std::string_view Dopo;
+    std::string_view Prima;
+    bool Oltre = false;  ///< behind all that have the same `Dopo`: for a search
+    /// By `Dopo`, then by `Prima` from its end.
+    bool operator<(const Coda& altra) const;
+  };
+  using Code = std::set<Coda>;
   static void AggiungiCode(std::string_view testo, Code& code);
   static bool InCode(const Code& code, std::string_view cercato);
 
   std::string ripiegati_;                ///< the list of sources with its letters made small
-  std::deque<std::string> testi_;        ///< each source so, behind its bar
+  std::deque<std::string> testi_;        ///< each source so
   std::set<std::string_view> percorsi_;  ///< those that begin with their only colon's drive
-  Code codeAltri_;                       ///< of the others, what follows each backslash
+  Code codeAltri_;                       ///< the backslashes of the others
   mutable Code code_;                    ///< the same of all sources, as far as it was asked for
   mutable std::size_t codati_ = 0;       ///< how many of testi_ that are
 };

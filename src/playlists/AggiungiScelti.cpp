@@ -25,7 +25,7 @@ std::string WhyNot(Contesto& context, modMp3Infos& reader, const std::string& pa
                ? TestoLinguaO(context, "0050101", "This is a folder: open it in the file pane.")
                : TestoLinguaO(context, "0130258", "This file isn't there any more.");
   }
-  const std::string refused = TestoLinguaO(context, "0050005", "The player can't play this file.");
+  std::string refused = TestoLinguaO(context, "0050005", "The player can't play this file.");
   if (!MatchesWildcard(EstraiNomeFile(path), "*.mp3")) return refused;
   const InfoMp3 info = reader.LeggiInfoMp3(path);
   if (BuonoPerEditor(info)) return {};

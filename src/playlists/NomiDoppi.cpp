@@ -11,6 +11,7 @@
 namespace kvr5 {
 
 NomiDoppi::NomiDoppi(EditorPlaylist& editor) {
+  if (!editor.rsList().IsOpen()) return;
   Recordset rows;
   if (!editor.Record(
           rows.Open(editor.ConnessionePlaylist(), "SELECT [FileName],[FilePath] FROM [List]"))) {

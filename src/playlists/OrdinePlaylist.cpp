@@ -48,7 +48,7 @@ std::vector<std::int32_t> Order(std::int32_t count, const Caso& random) {
     const auto k = static_cast<std::int32_t>(count * random()) + 1;
     if (used.at(static_cast<std::size_t>(k))) continue;
     used.at(static_cast<std::size_t>(k)) = true;
-    order.at(static_cast<std::size_t>(count - left + 1)) = k;
+    order.at(static_cast<std::size_t>(count - left) + 1) = k;
     --left;
   }
   return order;

@@ -133,6 +133,9 @@ TEST_F(OnATerminal, AnEditingSessionShowsHowFarALongCommandIs) {
   Terminale terminal(k.Lavoro({"playlists", "Shop"}, k.Host("out")));
   terminal.Scrivi("addall " + k.Host("music") + "\n");
   EXPECT_TRUE(terminal.Aspetta("addall  1/1")) << terminal.Schermo();
+  terminal.Scrivi("add nowhere.mp3\n");
+  EXPECT_TRUE(terminal.Aspetta("\033[Kadd nowhere.mp3: ")) << "in a line of its own\n"
+                                                           << terminal.Schermo();
   terminal.Scrivi("cancel\n");
   EXPECT_EQ(terminal.Fine(), 0);
 }

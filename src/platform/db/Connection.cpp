@@ -58,7 +58,7 @@ Error Transaction::End() {
   const std::shared_ptr<Database> database = std::exchange(database_, nullptr);
   if (!database || !database->IsOpen()) return {};  // a close has ended it
   // A full disk undoes a run by itself.
-  if (!database->InTransaction()) return database->Failure();
+  if (!database->InTransaction()) return Error(errors::CannotOpen);
   return database->CommitRun();
 }
 

@@ -1,5 +1,7 @@
 // What is listened to in the editor of playlists: a file of the pane, a track of the list.
 
+#include <utility>
+
 #include "core/screens/PulsanteAscolto.h"
 #include "playlists/screens/frmPlaylistEditor.h"
 
@@ -47,8 +49,10 @@ void frmPlaylistEditor::CollegaAscolto() {
 
 void frmPlaylistEditor::AscoltaRiga() {
   if (editor_.rsList().AbsolutePosition() < 1) return;
-  ascoltata_ = editor_.rsList().Number("ID", -1);
+  // Another row may be asked for amid the events of this one.
+  const auto outer = std::exchange(ascoltata_, editor_.rsList().Number("ID", -1));
   ascolto_.PlayRiga(editor_.rsList());
+  ascoltata_ = outer;
 }
 
 }  // namespace kvr5

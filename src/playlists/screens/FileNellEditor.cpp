@@ -51,7 +51,9 @@ void frmPlaylistEditor::CambiataCartella() {
 
 void frmPlaylistEditor::RileggiFile() {
   const std::string before = fraFile->Corrente();
-  if (fraFile->Rileggi() && fraFile->Corrente() != before) NienteFile();
+  if (!fraFile->Rileggi() || fraFile->Corrente() == before) return;
+  NienteFile();
+  if (!fraFile->Corrente().empty()) fraFileInfo->tmrInfoMp3.start();
 }
 
 void frmPlaylistEditor::NienteFile() {

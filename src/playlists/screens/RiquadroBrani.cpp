@@ -100,7 +100,8 @@ void RiquadroBrani::Attesa(bool attende) {
 }
 
 void RiquadroBrani::Avvisa(QLabel& riga, const QString& testo) {
-  riga.setText(testo);
+  constexpr int kWord = 240;  // pixels: the name of a file may have no blank to break at
+  riga.setText(Spezzabile(testo, riga.fontMetrics(), kWord));
   riga.setVisible(!testo.isEmpty());
 }
 

@@ -210,13 +210,16 @@ void frmPlaylistEditor::CominciaConto() {
 }
 
 void frmPlaylistEditor::Conta() {
+  const OwnError own(C().Errore);
   const bool more = conto_.Passo(kFilesSeen);
   modello_.FattiCambiati();
   if (more) return;
   conta_.stop();
-  const NomiDoppi twice(editor_);
-  Brani->MostraDoppi(Qs(twice.Parole(C())));
-  modello_.ImpostaDoppi(twice);
+  if (std::exchange(contate_, editor_.Modifiche()) != editor_.Modifiche()) {
+    const NomiDoppi twice(editor_);
+    Brani->MostraDoppi(Qs(twice.Parole(C())));
+    modello_.ImpostaDoppi(twice);
+  }
   Brani->lblTotali->setText(Qs(conto_.Parole()));
   Veste(*Brani->lblTotali, Carattere::Corpo,
         conto_.Mancanti() > 0 ? Ruolo::Errore : Ruolo::Attenuato);

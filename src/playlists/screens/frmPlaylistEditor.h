@@ -113,6 +113,7 @@ class frmPlaylistEditor : public Form {
   FormPredefinita<frmPlaylistName> nome_{[this] { return new frmPlaylistName(ambiente_); }};
   QTimer conta_;
   bool grigliaCambiata_ = false;
+  int contate_ = -1;            ///< the changes at the last look for names of several files
   bool daContare_ = false;      ///< once no run is under way
   std::int32_t mostrata_ = -1;  ///< whose rows the grid shows
   bool rigaSuona_ = false;
