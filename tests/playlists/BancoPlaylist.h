@@ -12,6 +12,7 @@
 #include "platform/db/Recordset.h"
 #include "platform/db/Walk.h"
 #include "playlists/EditorPlaylist.h"
+#include "playlists/RigheDelDatabase.h"
 #include "projects/CartellaProgetto.h"
 #include "support/Banco.h"
 #include "support/FaultyFileSystem.h"
@@ -68,18 +69,7 @@ class BancoPlaylist : public testing::Test {
     return rows;
   }
   /// All tracks of a database of the project, "1-2 a.mp3".
-  Righe Tutti(const char* database = "tmpPlaylist.mdb") {
-    Righe rows;
-    Connection other(b.Disco);
-    EXPECT_FALSE(other.Open(FileDelProgetto(b.C, database)));
-    Recordset all;
-    EXPECT_FALSE(all.Open(other, "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC"));
-    EXPECT_FALSE(WalkRows(all, [&] {
-      rows.push_back(all.Text("NPlaylist") + "-" + all.Text("Pos") + " " + all.Text("FileName"));
-      return true;
-    }));
-    return rows;
-  }
+  Righe Tutti(const char* database = "tmpPlaylist.mdb") { return TuttiIBrani(b, database); }
   /// Goes to the row with that Pos.
   void Va(int pos) {
     ASSERT_FALSE(editor.rsList().MoveFirst());

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "playlists/BancoPlaylist.h"
+#include "playlists/RigheDelDatabase.h"
 #include "playlists/SalvaPlaylist.h"
 #include "support/ProgressoVisto.h"
 
@@ -34,18 +35,7 @@ class BancoSalva : public BancoPlaylist {
     return b.Cartella.Exists("program/Projects/Hall/" + name);
   }
   /// A column of all tracks of playlist.mdb in their order.
-  Righe Column(const char* column) {
-    Righe values;
-    Connection real(b.Disco);
-    EXPECT_FALSE(real.Open(FileDelProgetto(b.C, "playlist.mdb")));
-    Recordset all;
-    EXPECT_FALSE(all.Open(real, "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC"));
-    EXPECT_FALSE(WalkRows(all, [&] {
-      values.push_back(all.Text(column));
-      return true;
-    }));
-    return values;
-  }
+  Righe Column(const char* column) { return ColonnaDeiBrani(b, column); }
   std::string Hall() const { return b.Percorso("program/Projects/Hall") + "\\"; }
 
   ProgressoVisto progress{b.C};

@@ -6,20 +6,10 @@
 #include "core/screens/Avvisi.h"
 #include "core/screens/EtichettaElisa.h"
 #include "core/screens/LocalizzaForm.h"
+#include "core/screens/Posto.h"
 #include "core/screens/Tema.h"
 
 namespace kvr5 {
-namespace {
-
-/// A hidden label that keeps its room.
-void KeepRoom(QWidget& widget) {
-  QSizePolicy policy = widget.sizePolicy();
-  policy.setRetainSizeWhenHidden(true);
-  widget.setSizePolicy(policy);
-}
-
-}  // namespace
-
 PannelloInfo::PannelloInfo(const QString& titolo, int tag, int tagAvviso, int millisecondi,
                            QWidget* padre, int colonne)
     : Riquadro("fraFileInfo", titolo, tag, padre) {
@@ -48,7 +38,7 @@ PannelloInfo::PannelloInfo(const QString& titolo, int tag, int tagAvviso, int mi
                                        Carattere::Suggerimento, this);
   lblBadFileType->setProperty(kTag, tagAvviso);
   lblBadFileType->setWordWrap(true);
-  KeepRoom(*lblBadFileType);
+  TieniPosto(*lblBadFileType);
   lblBadFileType->hide();
   Corpo()->addWidget(lblBadFileType);
   tmrInfoMp3.setSingleShot(true);

@@ -1,7 +1,6 @@
 // The controls of the hub and how they lie.
 
 #include <QGridLayout>
-#include <QScrollArea>
 #include <QVBoxLayout>
 #include <QVariant>
 
@@ -11,6 +10,7 @@
 #include "core/screens/Icona.h"
 #include "core/screens/LocalizzaForm.h"
 #include "core/screens/Pagina.h"
+#include "core/screens/Posto.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
 #include "platform/FileOps.h"
@@ -29,14 +29,7 @@ void frmPlayerConfig::Costruisci() {
   auto* page = NuovaPagina(*this);
   page->setSpacing(12);
   page->addLayout(CostruisciTestata());
-  auto* middle = new QScrollArea(this);
-  middle->setFrameShape(QFrame::NoFrame);
-  middle->setWidgetResizable(true);
-  middle->setFocusPolicy(Qt::NoFocus);
-  middle->setWidget(CostruisciCorpo());
-  middle->viewport()->setAutoFillBackground(false);
-  middle->widget()->setAutoFillBackground(false);
-  page->addWidget(middle, 1);
+  page->addWidget(Scorrevole(CostruisciCorpo(), this), 1);
   Barra = new Comandi(C(), this);
   page->addWidget(Barra);
   CostruisciNascosti();

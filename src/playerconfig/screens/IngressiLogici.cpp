@@ -14,6 +14,7 @@
 #include "core/screens/EtichettaElisa.h"
 #include "core/screens/LocalizzaForm.h"
 #include "core/screens/Pagina.h"
+#include "core/screens/Posto.h"
 #include "core/screens/PulsanteAscolto.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
@@ -69,9 +70,7 @@ QWidget* IngressiLogici::CostruisciMorsettiera() {
 QWidget* IngressiLogici::CostruisciAssociato() {
   fraFileAssociato = new QWidget(this);
   fraFileAssociato->setObjectName(QStringLiteral("fraFileAssociato"));
-  QSizePolicy policy = fraFileAssociato->sizePolicy();
-  policy.setRetainSizeWhenHidden(true);  // nothing jumps under the pointer
-  fraFileAssociato->setSizePolicy(policy);
+  TieniPosto(*fraFileAssociato);
   auto* lines = new QVBoxLayout(fraFileAssociato);
   lines->setContentsMargins(0, 0, 0, 0);
   lines->setSpacing(spazi::kStretto);

@@ -14,6 +14,7 @@
 #include "core/screens/EtichettaElisa.h"
 #include "core/screens/LocalizzaForm.h"
 #include "core/screens/Pagina.h"
+#include "core/screens/Posto.h"
 #include "core/screens/SenzaRotella.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
@@ -88,9 +89,7 @@ void PaneMp3::Costruisci() {
   // The time of a double click is that between two presses.
   connect(cmdOkFileMp3, &QAbstractButton::pressed, this, [this] { pressioneSospesa_ = Sospeso(); });
   for (QWidget* each : {static_cast<QWidget*>(cmdOkFileMp3), static_cast<QWidget*>(numero_)}) {
-    QSizePolicy policy = each->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    each->setSizePolicy(policy);
+    TieniPosto(*each);
   }
   Corpo()->addLayout(Riga({cmdPlayMp3, cmdStopMp3, nullptr, numero_, cmdOkFileMp3}));
 }

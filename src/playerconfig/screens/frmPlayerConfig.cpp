@@ -16,10 +16,8 @@
 #include "playerconfig/CartellaMp3.h"
 #include "playerconfig/ModoDelPlayer.h"
 #include "playerconfig/RientroDaScheda.h"
-#include "playerconfig/Salvataggio.h"
 #include "projects/CartellaProgetto.h"
 #include "projects/Descrittore.h"
-#include "reports/ReportProgetto.h"
 
 namespace kvr5 {
 namespace {
@@ -31,22 +29,6 @@ constexpr int kTypeRoom = 420;
 constexpr std::size_t kRowsRead = 500;
 constexpr std::size_t kFilesSeen = 100;
 constexpr int kLongestPause = 15;  // rounds of the watch between two tries to read
-
-/// frmSalva, shown over the hub.
-class DomandaDelSalva : public DomandaSalva {
- public:
-  DomandaDelSalva(Navigazione& schermi, bool& annulla) : schermi_(schermi), annulla_(annulla) {}
-  bool Annulla() override {
-    annulla_ = true;
-    schermi_.ChiediSalvataggio(Schermata::Configurazione,
-                               [this](bool cancel) { annulla_ = cancel; });
-    return annulla_;
-  }
-
- private:
-  Navigazione& schermi_;
-  bool& annulla_;
-};
 
 /// Whether the rows have for a code what is shown of it.
 bool IsShown(const std::vector<RigaIngresso>& rows, const CodiceScelto& code) {
@@ -408,70 +390,6 @@ void frmPlayerConfig::AggiornaNonSalvato() {
   Barra->picSave->ImpostaGenere(unsaved ? Coppia::Genere::Primario : Coppia::Genere::Normale);
   Barra->picRecordFlash->ImpostaGenere(unsaved ? Coppia::Genere::Normale
                                                : Coppia::Genere::Primario);
-}
-
-void frmPlayerConfig::Lavora(const std::function<void()>& lavoro) {
-  if (lavora_) return;         // events run during a long work, these buttons among them
-  const Impegno stays(*this);  // a close that is asked for meanwhile comes at the end
-  lavora_ = true;
-  conto_.Interrompi();  // no database is open while it is copied
-  lavoro();
-  lavora_ = false;
-  const OkInPosto same(*this);
-  const OwnError own(C().Errore);
-  AggiornaElenco();
-  RileggiCartella();
-  CominciaConto();
-}
-
-void frmPlayerConfig::Registra() {
-  Lavora([this] {
-    if (!servizi_.RegistraProgetto(ingressi_)) return;
-    show();
-    setEnabled(true);
-  });
-  Scheda->MostraStato(servizi_.FattiDellaScheda());
-}
-
-void frmPlayerConfig::Salva() {
-  Lavora([this] {
-    fraOutputLevel->Raccogli(controlli_);
-    Opzioni->Raccogli(controlli_);
-    DomandaDelSalva question(ambiente_.Schermi, AnnullaSalvataggio);
-    SalvaConfigurazione(C(), {controlli_, ingressi_, layout_.fraAnalyzer}, servizi_.Progresso(),
-                        question);
-    modifiche_.Rileggi(C());
-    AggiornaNonSalvato();
-  });
-}
-
-void frmPlayerConfig::AvvisaNonScritto() {
-  if (C().Errore) DiciErrore(C());
-}
-
-void frmPlayerConfig::MostraReport() {
-  Lavora([this] {
-    MostraReportProgetto(C(), ambiente_.Documenti, {&ingressi_.Cursore(), layout_.fraAnalyzer});
-  });
-}
-
-void frmPlayerConfig::ApriPlaylist() {
-  if (lavora_) return;
-  const Impegno stays(*this);
-  const OwnError own(C().Errore);
-  lavora_ = true;  // events run on the way: a second press would delete the editor's copy
-  ascolto_.Stop();
-  conta_.stop();
-  guardia_.stop();
-  conto_.Interrompi();  // the editor copies the database
-  const std::string stale = FileDelProgetto(C(), "tmpPlaylist.mdb");
-  if (FileExists(C().Files, stale)) C().Errore.Record(C().Files.Delete(stale));
-  ambiente_.Schermi.ApriPlaylist(Schermata::Configurazione);
-  Nascondi();
-  guardia_.stop();  // a box of the editor's load may have brought the hub to the front
-  conta_.stop();
-  DimenticaChiusura();  // asked for while the editor came up: it would be asked about over that
-  lavora_ = false;
 }
 
 bool frmPlayerConfig::PuoChiudere(Causa /*causa*/) {

@@ -1,12 +1,12 @@
 // The controls of the editor of playlists and how they lie.
 
 #include <QHBoxLayout>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include "core/screens/EtichettaElisa.h"
 #include "core/screens/LocalizzaForm.h"
 #include "core/screens/Pagina.h"
+#include "core/screens/Posto.h"
 #include "core/screens/Tema.h"
 #include "playlists/screens/frmPlaylistEditor.h"
 
@@ -14,13 +14,6 @@ namespace kvr5 {
 namespace {
 
 constexpr int kFileInfoDelay = 500;  // milliseconds
-
-/// A hidden button that keeps its room: nothing jumps under the pointer.
-void KeepRoom(QWidget& widget) {
-  QSizePolicy policy = widget.sizePolicy();
-  policy.setRetainSizeWhenHidden(true);
-  widget.setSizePolicy(policy);
-}
 
 }  // namespace
 
@@ -30,14 +23,7 @@ void frmPlaylistEditor::Costruisci() {
   page->addLayout(CostruisciTestata());
   Fascia = new FasciaSelezione(C(), this);
   page->addWidget(Fascia);
-  auto* middle = new QScrollArea(this);
-  middle->setFrameShape(QFrame::NoFrame);
-  middle->setWidgetResizable(true);
-  middle->setFocusPolicy(Qt::NoFocus);
-  middle->setWidget(CostruisciCorpo());
-  middle->viewport()->setAutoFillBackground(false);
-  middle->widget()->setAutoFillBackground(false);
-  page->addWidget(middle, 1);
+  page->addWidget(Scorrevole(CostruisciCorpo(), this), 1);
   page->addLayout(CostruisciComandi());
   OrdineTab({picHelp,
              Fascia->cmbPlaylist,
@@ -130,7 +116,7 @@ QWidget* frmPlaylistEditor::CostruisciFrecce(QWidget* corpo) {
   cmdRimuoviTuttiFile =
       button("cmdRimuoviTuttiFile", "lblRimuoviTuttiFile", "Remove all", "rimuovi-tutti", 43);
   cmdRimuoviTuttiFile->ImpostaGenere(Coppia::Genere::Pericolo);
-  KeepRoom(*cmdAggiungiFile);
+  TieniPosto(*cmdAggiungiFile);
   cmdAggiungiFile->hide();
   lines->addStretch(1);
   lines->addWidget(cmdAggiungiFile);

@@ -15,6 +15,7 @@
 #include "platform/db/Connection.h"
 #include "platform/db/Recordset.h"
 #include "platform/db/Walk.h"
+#include "playlists/RigheDelDatabase.h"
 #include "projects/CartellaProgetto.h"
 
 namespace kvr5::test {
@@ -200,29 +201,13 @@ bool BancoEditor::Contato() {
 }
 
 BancoEditor::Righe BancoEditor::Tutti(const char* database) {
-  Righe rows;
-  Connection other(b.Disco);
-  EXPECT_FALSE(other.Open(FileDelProgetto(b.C, database)));
-  Recordset all;
-  EXPECT_FALSE(all.Open(other, "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC"));
-  EXPECT_FALSE(WalkRows(all, [&] {
-    rows.push_back(all.Text("NPlaylist") + "-" + all.Text("Pos") + " " + all.Text("FileName"));
-    return true;
-  }));
-  return rows;
+  return TuttiIBrani(b, database);
 }
 
 BancoEditor::Righe BancoEditor::Testate(const char* database) {
-  Righe names;
-  Connection other(b.Disco);
-  EXPECT_FALSE(other.Open(FileDelProgetto(b.C, database)));
-  Recordset all;
-  EXPECT_FALSE(all.Open(other, "SELECT * FROM [HEAD] ORDER BY [NScheduler] ASC"));
-  EXPECT_FALSE(WalkRows(all, [&] {
-    names.push_back(all.Text("NScheduler") + " " + all.Text("Descript"));
-    return true;
-  }));
-  return names;
+  return RigheDelDatabase(
+      b, database, "SELECT * FROM [HEAD] ORDER BY [NScheduler] ASC",
+      [](const Recordset& row) { return row.Text("NScheduler") + " " + row.Text("Descript"); });
 }
 
 void BancoEditor::Lascia(QWidget& dove, const QList<QUrl>& file) {

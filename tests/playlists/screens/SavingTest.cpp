@@ -5,6 +5,7 @@
 #include "platform/db/Connection.h"
 #include "platform/db/Recordset.h"
 #include "platform/db/Walk.h"
+#include "playlists/RigheDelDatabase.h"
 #include "playlists/screens/BancoEditor.h"
 #include "projects/CartellaProgetto.h"
 
@@ -39,18 +40,7 @@ class SavingEditor : public test::BancoEditor {
     EXPECT_THAT(b.Schermi.Mostrate, ElementsAre(Schermata::Configurazione));
   }
   /// A column of all tracks of playlist.mdb.
-  Righe Column(const char* column) {
-    Righe values;
-    Connection real(b.Disco);
-    EXPECT_FALSE(real.Open(FileDelProgetto(b.C, "playlist.mdb")));
-    Recordset all;
-    EXPECT_FALSE(all.Open(real, "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC"));
-    EXPECT_FALSE(WalkRows(all, [&] {
-      values.push_back(all.Text(column));
-      return true;
-    }));
-    return values;
-  }
+  Righe Column(const char* column) { return ColonnaDeiBrani(b, column); }
   std::string Hall() const { return b.Percorso("program\\Projects\\Hall") + "\\"; }
 
   std::string title_;
