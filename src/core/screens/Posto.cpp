@@ -10,7 +10,7 @@ void TieniPosto(QWidget& controllo) {
   controllo.setSizePolicy(policy);
 }
 
-QScrollArea* Scorrevole(QWidget* corpo, QWidget* padre) {
+QWidget* Scorrevole(QWidget* corpo, QWidget* padre) {
   auto* middle = new QScrollArea(padre);
   middle->setFrameShape(QFrame::NoFrame);
   middle->setWidgetResizable(true);

@@ -1,6 +1,5 @@
 #pragma once
 
-class QScrollArea;
 class QWidget;
 
 namespace kvr5 {
@@ -9,6 +8,6 @@ namespace kvr5 {
 void TieniPosto(QWidget& controllo);
 
 /// The middle of a large screen, which scrolls in a small window while head and command bar stay.
-QScrollArea* Scorrevole(QWidget* corpo, QWidget* padre);
+QWidget* Scorrevole(QWidget* corpo, QWidget* padre);
 
 }  // namespace kvr5
