@@ -4,16 +4,10 @@
 #include <string>
 #include <vector>
 
-#include "mp3/modMp3Infos.h"
+#include "mp3/GiudizioFile.h"
 #include "playlists/EditorPlaylist.h"
 
 namespace kvr5 {
-
-/// A file that wasn't added.
-struct FileNonPreso {
-  std::string Nome;
-  std::string Motivo;  ///< in the user's language
-};
 
 /// What came of adding several files.
 struct EsitoScelti {
@@ -26,8 +20,5 @@ struct EsitoScelti {
 /// The paths may be of the host's form. Events run between the files.
 EsitoScelti AggiungiScelti(EditorPlaylist& editor, modMp3Infos& lettore,
                            const std::vector<std::string>& file);
-
-/// "Not taken: gong.wav. The player can't play this file... And 2 more."; "" where all were taken.
-std::string ParoleEsito(Contesto& contesto, const EsitoScelti& esito);
 
 }  // namespace kvr5

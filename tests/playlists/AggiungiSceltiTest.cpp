@@ -1,7 +1,7 @@
+#include "core/ElencoMp3.h"
 #include "core/Lingua.h"
 #include "core/Parole.h"
 #include "platform/Path.h"
-#include "playerconfig/ElencoMp3.h"
 #include "playlists/AggiungiScelti.h"
 #include "playlists/BancoPlaylist.h"
 #include "playlists/BraniPlaylist.h"
@@ -43,7 +43,7 @@ TEST_F(PickedFiles, AreAddedInTheirOrderInEitherForm) {
   EXPECT_THAT(Griglia(), ElementsAre("1 b.mp3", "2 a.mp3", "3 c.MP3", "4 b.mp3"));
   EXPECT_FALSE(editor.rsList().MoveFirst());
   EXPECT_EQ(editor.rsList().Text("FilePath"), Musica() + "\\");
-  EXPECT_EQ(ParoleEsito(b.C, outcome), "");
+  EXPECT_EQ(ParoleNonPresi(b.C, outcome.NonPresi), "");
 }
 
 TEST_F(PickedFiles, AreStoredWithTheSpellingOfTheDisk) {
@@ -165,12 +165,12 @@ TEST_F(PickedFiles, ThatTheDatabaseDoesntTakeDontCountAsAdded) {
 
 TEST_F(PickedFiles, AreSummedUpInOneLine) {
   EsitoScelti outcome;
-  EXPECT_EQ(ParoleEsito(b.C, outcome), "");
+  EXPECT_EQ(ParoleNonPresi(b.C, outcome.NonPresi), "");
   outcome.NonPresi.push_back({"100%1\n.mp3", "Why."});
   const std::string one = ConValori(Word("0050102"), {"100%1\xEF\xBF\xBD.mp3", "Why."});
-  EXPECT_EQ(ParoleEsito(b.C, outcome), one);
+  EXPECT_EQ(ParoleNonPresi(b.C, outcome.NonPresi), one);
   outcome.NonPresi.resize(3);
-  EXPECT_EQ(ParoleEsito(b.C, outcome), one + " " + ConValori(Word("0050103"), {"2"}));
+  EXPECT_EQ(ParoleNonPresi(b.C, outcome.NonPresi), one + " " + ConValori(Word("0050103"), {"2"}));
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <random>
 
+#include "core/PannelloFile.h"
 #include "playlists/BancoPlaylist.h"
 #include "playlists/BraniPlaylist.h"
 
@@ -35,6 +36,15 @@ TEST_F(Tracks, AFileIsAddedBehindTheOthersAndIsCurrent) {
   EXPECT_EQ(editor.rsList().Text("Alias"), "");
   EXPECT_THAT(Tutti(), ElementsAre("1-1 old.mp3", "1-2 a.mp3", "2-1 other.mp3"));
   EXPECT_THAT(Tutti("playlist.mdb"), ElementsAre("1-1 old.mp3", "2-1 other.mp3"));
+}
+
+TEST_F(Tracks, AddAllHasTheOrderOfThePane) {
+  for (const char* name : {"10.mp3", "2.mp3", "B.mp3", "a.mp3"}) {
+    b.ScriviMp3(std::string("music/") + name);
+  }
+  editor.Carica();
+  AggiungiTuttiFiles(editor, reader, Musica(), NomiDelPannello(b.C.Files, Musica()));
+  EXPECT_THAT(Griglia(), ElementsAre("1 2.mp3", "2 10.mp3", "3 a.mp3", "4 B.mp3"));
 }
 
 TEST_F(Tracks, OneFileMayStandTwice) {

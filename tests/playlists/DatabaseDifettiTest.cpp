@@ -5,11 +5,11 @@
 #include <optional>
 #include <random>
 
+#include "playerconfig/ContoBrani.h"
 #include "playlists/AggiungiScelti.h"
 #include "playlists/AliasPlaylist.h"
 #include "playlists/BancoSalva.h"
 #include "playlists/BraniPlaylist.h"
-#include "playlists/ContoPlaylist.h"
 #include "playlists/ImportaPlaylist.h"
 #include "playlists/NomiPlaylist.h"
 #include "playlists/RighePlaylist.h"

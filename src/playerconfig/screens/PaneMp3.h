@@ -6,11 +6,11 @@
 #include <functional>
 #include <string>
 
+#include "core/ElencoMp3.h"
 #include "core/screens/Coppia.h"
 #include "core/screens/ElencoCartelle.h"
 #include "core/screens/PulsanteAscolto.h"
 #include "core/screens/Riquadro.h"
-#include "playerconfig/ElencoMp3.h"
 
 namespace kvr5 {
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/Aiuti.h"
+#include "core/CartellaMp3.h"
 #include "core/Lingua.h"
 #include "core/screens/LocalizzaForm.h"
 #include "core/screens/Tema.h"
@@ -13,7 +14,6 @@
 #include "mp3/EtichetteMp3.h"
 #include "mp3/ParoleRifiuto.h"
 #include "platform/FileOps.h"
-#include "playerconfig/CartellaMp3.h"
 #include "playerconfig/ModoDelPlayer.h"
 #include "playerconfig/RientroDaScheda.h"
 #include "projects/CartellaProgetto.h"

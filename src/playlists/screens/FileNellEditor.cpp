@@ -2,12 +2,10 @@
 // list.
 
 #include "core/Aiuti.h"
+#include "core/CartellaMp3.h"
 #include "core/Lingua.h"
 #include "core/screens/Testo.h"
-#include "mp3/Accettazione.h"
-#include "mp3/EtichetteMp3.h"
-#include "mp3/ParoleRifiuto.h"
-#include "playerconfig/CartellaMp3.h"
+#include "mp3/GiudizioFile.h"
 #include "playlists/AggiungiScelti.h"
 #include "playlists/BraniPlaylist.h"
 #include "playlists/ImportaPlaylist.h"
@@ -80,19 +78,12 @@ void frmPlaylistEditor::MostraInfoMp3() {
   C().Messaggi.LasciaCorrere();
   if (fraFile->Corrente() != name) return;  // another was picked meanwhile: its turn comes
   const std::string path = AggiungiBarra(fraFile->DirDirectoryMp3->Percorso()) + name;
-  const InfoMp3 info = lettore_.LeggiInfoMp3(path);
-  const auto file = C().Files.Info(path);
-  const PannelloMp3 panel =
-      kvr5::MostraInfoMp3(SchermoMp3::Editor, info, file ? file.Value().Size : 0, C().Luogo);
+  const GiudizioFile judged = GiudicaFile(C(), lettore_, path);
+  const PannelloMp3& panel = judged.Pannello;
   const EtichetteMp3& labels = panel.Etichette;
   fraFileInfo->Mostra(Qs(labels.lblVersioneMpeg), Qs(labels.lblBitrate), Qs(labels.lblFreq),
                       Qs(labels.lblDurata));
-  std::string why;
-  if (panel.lblBadFileType) {
-    why =
-        ParoleRifiutoDelFile(C(), lettore_, !file, MotivoPerEditor(info, lettore_.Ricerca()), info);
-  }
-  fraFileInfo->MostraAvviso(panel.lblBadFileType, Qs(why));
+  fraFileInfo->MostraAvviso(panel.lblBadFileType, Qs(judged.Perche));
   if (panel.Verdetto == VerdettoMp3::NonLetto) cmdAggiungiFile->setEnabled(false);
   if (panel.Verdetto != VerdettoMp3::Buono) return;
   cmdAggiungiFile->show();
@@ -124,7 +115,7 @@ void frmPlaylistEditor::AggiungiTutti() {
 void frmPlaylistEditor::AggiungiTrascinati(const std::vector<std::string>& file) {
   Brani->MostraEsito({});
   const EsitoScelti outcome = AggiungiScelti(editor_, lettore_, file);
-  Brani->MostraEsito(Qs(ParoleEsito(C(), outcome)));
+  Brani->MostraEsito(Qs(ParoleNonPresi(C(), outcome.NonPresi)));
 }
 
 void frmPlaylistEditor::Importa() {

@@ -12,7 +12,7 @@
 
 namespace kvr5 {
 
-ModelloBrani::ModelloBrani(Contesto& contesto, const ContoPlaylist& conto, QObject* padre)
+ModelloBrani::ModelloBrani(Contesto& contesto, const ContoBrani& conto, QObject* padre)
     : QAbstractTableModel(padre), contesto_(contesto), conto_(conto) {}
 
 void ModelloBrani::Localizza() {
@@ -54,7 +54,7 @@ int ModelloBrani::columnCount(const QModelIndex& padre) const {
 QString ModelloBrani::Testo(const RigaPlaylist& riga, int colonna) const {
   if (colonna == Posto) return QString::number(riga.Brano.Pos);
   if (colonna == Nome) return Qs(SuUnaRiga(riga.Brano.FileName));
-  const FattiBrano* facts = conto_.Fatti(riga);
+  const FattiBrano* facts = conto_.Fatti(riga.Brano);
   if (facts == nullptr) return {};
   if (facts->Mancante) return colonna == Durata ? mancante_ : QString();
   return Qs(colonna == Durata ? DurataInParole(facts->Secondi)
@@ -80,7 +80,7 @@ QVariant ModelloBrani::Segno(bool manca, bool doppio) const {
 QVariant ModelloBrani::data(const QModelIndex& indice, int ruolo) const {
   if (indice.row() < 0 || indice.row() >= rowCount()) return {};
   const RigaPlaylist& row = righe_[static_cast<std::size_t>(indice.row())];
-  const FattiBrano* facts = conto_.Fatti(row);
+  const FattiBrano* facts = conto_.Fatti(row.Brano);
   const bool missing = facts != nullptr && facts->Mancante;
   const bool twice = doppi_.Contiene(row.Brano.FileName);
   switch (ruolo) {

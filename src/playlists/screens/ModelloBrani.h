@@ -4,7 +4,7 @@
 #include <functional>
 #include <vector>
 
-#include "playlists/ContoPlaylist.h"
+#include "playerconfig/ContoBrani.h"
 #include "playlists/NomiDoppi.h"
 #include "playlists/RighePlaylist.h"
 
@@ -16,7 +16,7 @@ class ModelloBrani : public QAbstractTableModel {
   enum Colonna { Posto, Nome, Durata, Grandezza, Colonne };
 
   /// `conto` tells what the disk has of a track.
-  ModelloBrani(Contesto& contesto, const ContoPlaylist& conto, QObject* padre);
+  ModelloBrani(Contesto& contesto, const ContoBrani& conto, QObject* padre);
 
   void Imposta(std::vector<RigaPlaylist> righe);
   const std::vector<RigaPlaylist>& Righe() const { return righe_; }
@@ -42,7 +42,7 @@ class ModelloBrani : public QAbstractTableModel {
   QVariant Segno(bool manca, bool doppio) const;
 
   Contesto& contesto_;
-  const ContoPlaylist& conto_;
+  const ContoBrani& conto_;
   NomiDoppi doppi_;
   std::vector<RigaPlaylist> righe_;
   QStringList titoli_;

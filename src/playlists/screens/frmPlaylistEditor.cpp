@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/CartellaMp3.h"
 #include "core/Lingua.h"
 #include "core/Parole.h"
 #include "core/screens/LocalizzaForm.h"
 #include "core/screens/Testo.h"
 #include "platform/FileOps.h"
-#include "playerconfig/CartellaMp3.h"
 #include "playlists/BraniPlaylist.h"
 #include "playlists/NomiPlaylist.h"
 #include "playlists/SalvaPlaylist.h"
@@ -201,7 +201,9 @@ void frmPlaylistEditor::MostraRighe() {
     VaiAllaRiga(editor_, rows[at].ID);
   }
   Brani->grdPlaylist->Seleziona(std::exchange(scelti_, {}), editor_.rsList().Number("ID", -1));
-  conto_.Imposta(rows);
+  std::vector<RigaProgetto> files;
+  for (const RigaPlaylist& each : rows) files.push_back(each.Brano);
+  conto_.Imposta(std::move(files));
   daContare_ = true;
 }
 

@@ -13,13 +13,13 @@
 #include "core/screens/Coppia.h"
 #include "core/screens/Form.h"
 #include "core/screens/FormPredefinita.h"
+#include "core/screens/PaneFile.h"
 #include "core/screens/PannelloInfo.h"
 #include "mp3/modMp3Infos.h"
-#include "playlists/ContoPlaylist.h"
+#include "playerconfig/ContoBrani.h"
 #include "playlists/EditorPlaylist.h"
 #include "playlists/screens/FasciaSelezione.h"
 #include "playlists/screens/ModelloBrani.h"
-#include "playlists/screens/PaneFile.h"
 #include "playlists/screens/RiquadroBrani.h"
 #include "playlists/screens/frmPlaylistName.h"
 
@@ -107,7 +107,7 @@ class frmPlaylistEditor : public Form {
   FinestraProgresso& progresso_;
   EditorPlaylist editor_;
   modMp3Infos lettore_;
-  ContoPlaylist conto_;
+  ContoBrani conto_;
   ModelloBrani modello_;
   AscoltoEditor ascolto_{C(), ambiente_.Documenti, *mci1, *mciPreview};
   FormPredefinita<frmPlaylistName> nome_{[this] { return new frmPlaylistName(ambiente_); }};

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "core/Contesto.h"
+#include "core/PannelloFile.h"
 #include "core/screens/ElencoModesto.h"
-#include "playlists/PannelloFile.h"
 
 namespace kvr5 {
 

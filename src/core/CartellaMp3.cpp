@@ -1,4 +1,4 @@
-#include "playerconfig/CartellaMp3.h"
+#include "core/CartellaMp3.h"
 
 #include "core/Aiuti.h"
 #include "core/Impostazioni.h"

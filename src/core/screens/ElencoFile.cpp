@@ -1,4 +1,4 @@
-#include "playlists/screens/ElencoFile.h"
+#include "core/screens/ElencoFile.h"
 
 #include <QKeyEvent>
 #include <QMimeData>
@@ -8,9 +8,9 @@
 #include <set>
 
 #include "core/Aiuti.h"
+#include "core/ElencoMp3.h"
 #include "core/Parole.h"
 #include "core/screens/Testo.h"
-#include "playerconfig/ElencoMp3.h"
 
 namespace kvr5 {
 namespace {

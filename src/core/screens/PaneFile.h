@@ -8,8 +8,8 @@
 
 #include "core/screens/Coppia.h"
 #include "core/screens/ElencoCartelle.h"
+#include "core/screens/ElencoFile.h"
 #include "core/screens/Riquadro.h"
-#include "playlists/screens/ElencoFile.h"
 
 namespace kvr5 {
 

@@ -1,9 +1,9 @@
-#include "playlists/PannelloFile.h"
+#include "core/PannelloFile.h"
 
 #include <algorithm>
 
+#include "core/ElencoMp3.h"
 #include "platform/NaturalOrder.h"
-#include "playerconfig/ElencoMp3.h"
 
 namespace kvr5 {
 

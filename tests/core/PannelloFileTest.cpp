@@ -1,6 +1,8 @@
-#include "playlists/BancoPlaylist.h"
-#include "playlists/BraniPlaylist.h"
-#include "playlists/PannelloFile.h"
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "core/PannelloFile.h"
+#include "support/Banco.h"
 
 namespace kvr5 {
 namespace {
@@ -8,11 +10,14 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class FilePane : public test::BancoPlaylist {
+class FilePane : public testing::Test {
  protected:
-  void Files(const Righe& names) const {
+  void Files(const std::vector<std::string>& names) const {
     for (const std::string& name : names) b.ScriviMp3("music/" + name);
   }
+  std::string Musica() const { return b.Percorso("music"); }
+
+  test::Banco b;
 };
 
 TEST_F(FilePane, HasTwoBeforeTenAndDoesntMindTheCase) {
@@ -43,15 +48,6 @@ TEST_F(FilePane, OfAFolderThatCantBeReadIsEmpty) {
   EXPECT_THAT(FileDelPannello(b.C.Files, b.Percorso("gone")), IsEmpty());
   EXPECT_THAT(FileDelPannello(b.C.Files, "Q:\\"), IsEmpty());
   EXPECT_THAT(FileDelPannello(b.C.Files, ""), IsEmpty());
-}
-
-TEST_F(FilePane, GivesAddAllItsOrder) {
-  Progetto(4, 5);
-  Files({"10.mp3", "2.mp3", "B.mp3", "a.mp3"});
-  editor.Carica();
-  modMp3Infos reader(b.C.Files);
-  AggiungiTuttiFiles(editor, reader, Musica(), NomiDelPannello(b.C.Files, Musica()));
-  EXPECT_THAT(Griglia(), ElementsAre("1 2.mp3", "2 10.mp3", "3 a.mp3", "4 B.mp3"));
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "core/CartellaMp3.h"
 #include "core/Impostazioni.h"
-#include "playerconfig/CartellaMp3.h"
 #include "support/Banco.h"
 
 namespace kvr5 {

@@ -1,4 +1,4 @@
-#include "playlists/screens/PaneFile.h"
+#include "core/screens/PaneFile.h"
 
 #include <QShortcut>
 #include <QVBoxLayout>

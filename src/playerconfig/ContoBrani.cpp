@@ -1,6 +1,7 @@
-#include "playlists/ContoPlaylist.h"
+#include "playerconfig/ContoBrani.h"
 
 #include <unordered_set>
+#include <utility>
 
 #include "core/Aiuti.h"
 #include "core/Parole.h"
@@ -12,22 +13,21 @@
 
 namespace kvr5 {
 
-std::string ContoPlaylist::Chiave(const RigaPlaylist& riga) {
-  return FoldCase(AggiungiBarra(riga.Brano.FilePath) + riga.Brano.FileName + "|" +
-                  riga.Brano.Alias);
+std::string ContoBrani::Chiave(const RigaProgetto& riga) {
+  return FoldCase(AggiungiBarra(riga.FilePath) + riga.FileName + "|" + riga.Alias);
 }
 
-void ContoPlaylist::Imposta(const std::vector<RigaPlaylist>& righe) {
-  righe_ = righe;
+void ContoBrani::Imposta(std::vector<RigaProgetto> righe) {
+  righe_ = std::move(righe);
   prossima_ = 0;
 }
 
-void ContoPlaylist::Ricomincia() {
+void ContoBrani::Ricomincia() {
   ++giro_;
   prossima_ = 0;
 }
 
-bool ContoPlaylist::Passo(std::size_t file) {
+bool ContoBrani::Passo(std::size_t file) {
   for (; file > 0 && prossima_ < righe_.size(); ++prossima_) {
     Noto& known = noti_[Chiave(righe_[prossima_])];
     if (known.Giro == giro_) continue;
@@ -37,38 +37,38 @@ bool ContoPlaylist::Passo(std::size_t file) {
   return prossima_ < righe_.size();
 }
 
-FattiBrano ContoPlaylist::Guarda(const RigaPlaylist& riga) {
-  const auto size = GrandezzaFile(contesto_, riga.Brano);
+FattiBrano ContoBrani::Guarda(const RigaProgetto& riga) {
+  const auto size = GrandezzaFile(contesto_, riga);
   if (!size) return {true, 0, 0};
-  std::string path = AggiungiBarra(riga.Brano.FilePath) + riga.Brano.FileName;
-  if (!FileExists(contesto_.Files, path)) path = FileDelProgetto(contesto_, riga.Brano.Alias);
+  std::string path = AggiungiBarra(riga.FilePath) + riga.FileName;
+  if (!FileExists(contesto_.Files, path)) path = FileDelProgetto(contesto_, riga.Alias);
   const InfoMp3 info = lettore_.LeggiInfoMp3(path);
   return {false, *size, info.Valid ? info.Duration : 0};
 }
 
-const FattiBrano* ContoPlaylist::Fatti(const RigaPlaylist& riga) const {
+const FattiBrano* ContoBrani::Fatti(const RigaProgetto& riga) const {
   const auto found = noti_.find(Chiave(riga));
   return found == noti_.end() ? nullptr : &found->second.Fatti;
 }
 
-std::size_t ContoPlaylist::Mancanti() const {
+std::size_t ContoBrani::Mancanti() const {
   std::size_t missing = 0;
-  for (const RigaPlaylist& each : righe_) {
+  for (const RigaProgetto& each : righe_) {
     const FattiBrano* facts = Fatti(each);
     if (facts != nullptr && facts->Mancante) ++missing;
   }
   return missing;
 }
 
-std::string ContoPlaylist::Parole() const {
+std::string ContoBrani::Parole() const {
   if (righe_.empty() || prossima_ < righe_.size()) return {};
   std::int64_t seconds = 0;
   std::uint64_t bytes = 0;
   std::unordered_set<std::string> seen;
-  for (const RigaPlaylist& each : righe_) {
+  for (const RigaProgetto& each : righe_) {
     const FattiBrano& facts = *Fatti(each);
     seconds += facts.Secondi;
-    const std::string file = AggiungiBarra(each.Brano.FilePath) + each.Brano.FileName;
+    const std::string file = AggiungiBarra(each.FilePath) + each.FileName;
     if (seen.insert(FoldCase(file)).second) bytes += facts.Byte;
   }
   std::string words = DurataInParole(seconds) + ", " + QuantitaInParole(bytes, contesto_.Luogo);

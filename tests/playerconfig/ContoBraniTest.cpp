@@ -1,6 +1,10 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
 #include "core/Lingua.h"
-#include "playlists/BancoPlaylist.h"
-#include "playlists/ContoPlaylist.h"
+#include "playerconfig/ContoBrani.h"
+#include "support/Banco.h"
 
 namespace kvr5 {
 namespace {
@@ -8,14 +12,14 @@ namespace {
 /// Frames of 417 bytes that make a minute of 128 kbit/s, and 938 KB.
 constexpr int kMinute = 2304;
 
-class PlaylistFigures : public test::BancoPlaylist {
+class ListFigures : public testing::Test {
  protected:
-  void SetUp() override { Progetto(4, 5); }
+  void SetUp() override { b.CreaProgetto("Hall", 4, 5); }
   /// A track whose file, if it has one, is in the folder "music".
-  RigaPlaylist Track(const std::string& name, const std::string& alias = "") const {
-    return {0, {"playlist.mdb", 1, 1, alias, Musica() + "\\", name, false}};
+  RigaProgetto Track(const std::string& name, const std::string& alias = "") const {
+    return {"playlist.mdb", 1, 1, alias, b.Percorso("music") + "\\", name, false};
   }
-  std::string All(const std::vector<RigaPlaylist>& tracks) {
+  std::string All(const std::vector<RigaProgetto>& tracks) {
     figures.Imposta(tracks);
     while (figures.Passo(1)) {
     }
@@ -23,28 +27,29 @@ class PlaylistFigures : public test::BancoPlaylist {
   }
   void Delete(const char* name) { std::filesystem::remove(b.Cartella.Host() / name); }
 
-  ContoPlaylist figures{b.C};
+  test::Banco b;
+  ContoBrani figures{b.C};
 };
 
-TEST_F(PlaylistFigures, AreTimeAndMegabytes) {
+TEST_F(ListFigures, AreTimeAndMegabytes) {
   b.ScriviMp3("music/a.mp3", 1, kMinute);
   b.ScriviMp3("music/b.mp3", 2, 2 * kMinute);
   EXPECT_EQ(All({Track("a.mp3")}), "1:00, 938 KB");
   EXPECT_EQ(All({Track("a.mp3"), Track("b.mp3")}), "3:00, 3 MB");
 }
 
-TEST_F(PlaylistFigures, CountTheTimeOfEachTrackAndTheMegabytesOfEachFile) {
+TEST_F(ListFigures, CountTheTimeOfEachTrackAndTheMegabytesOfEachFile) {
   b.ScriviMp3("music/a.mp3", 1, kMinute);
   EXPECT_EQ(All({Track("a.mp3"), Track("a.mp3"), Track("A.MP3")}), "3:00, 938 KB");
 }
 
-TEST_F(PlaylistFigures, CountAFileOnceWhereOnlyOneOfItsTracksHasItsNameOnTheCard) {
+TEST_F(ListFigures, CountAFileOnceWhereOnlyOneOfItsTracksHasItsNameOnTheCard) {
   b.ScriviMp3("music/a.mp3", 1, kMinute);
   EXPECT_EQ(All({Track("a.mp3", "P01-001.mp3"), Track("a.mp3")}), "2:00, 938 KB")
       << "the second was added after the save";
 }
 
-TEST_F(PlaylistFigures, AreSilentUntilAllIsKnown) {
+TEST_F(ListFigures, AreSilentUntilAllIsKnown) {
   for (const char* name : {"music/a.mp3", "music/b.mp3", "music/c.mp3"}) b.ScriviMp3(name);
   const std::vector tracks{Track("a.mp3"), Track("b.mp3"), Track("c.mp3")};
   figures.Imposta(tracks);
@@ -59,14 +64,14 @@ TEST_F(PlaylistFigures, AreSilentUntilAllIsKnown) {
   EXPECT_NE(figures.Parole(), "");
 }
 
-TEST_F(PlaylistFigures, OfNoTrackAreNone) {
+TEST_F(ListFigures, OfNoTrackAreNone) {
   figures.Imposta({});
   EXPECT_FALSE(figures.Passo(10));
   EXPECT_EQ(figures.Parole(), "");
   EXPECT_EQ(figures.Mancanti(), 0U);
 }
 
-TEST_F(PlaylistFigures, AFileThatIsKnownTakesNoStep) {
+TEST_F(ListFigures, AFileThatIsKnownTakesNoStep) {
   b.ScriviMp3("music/a.mp3");
   b.ScriviMp3("music/b.mp3");
   All({Track("a.mp3")});
@@ -74,11 +79,11 @@ TEST_F(PlaylistFigures, AFileThatIsKnownTakesNoStep) {
   EXPECT_FALSE(figures.Passo(1)) << "the only new one is the last";
 }
 
-TEST_F(PlaylistFigures, AFileIsMissingWhereNeitherSourceNorAliasCopyIsThere) {
+TEST_F(ListFigures, AFileIsMissingWhereNeitherSourceNorAliasCopyIsThere) {
   b.ScriviMp3("program/Projects/Hall/P01-001.mp3", 1, kMinute);
-  const RigaPlaylist copied = Track("gone.mp3", "P01-001.mp3");
-  const RigaPlaylist missing = Track("gone.mp3", "P01-002.mp3");
-  const RigaPlaylist unnamed = Track("gone too.mp3");
+  const RigaProgetto copied = Track("gone.mp3", "P01-001.mp3");
+  const RigaProgetto missing = Track("gone.mp3", "P01-002.mp3");
+  const RigaProgetto unnamed = Track("gone too.mp3");
   EXPECT_EQ(All({copied, missing, unnamed}), "1:00, 938 KB, 2 " + TestoLingua(b.C, "0040063"));
   EXPECT_FALSE(figures.Fatti(copied)->Mancante);
   EXPECT_EQ(figures.Fatti(copied)->Secondi, 60);
@@ -87,21 +92,21 @@ TEST_F(PlaylistFigures, AFileIsMissingWhereNeitherSourceNorAliasCopyIsThere) {
   EXPECT_EQ(figures.Mancanti(), 2U);
 }
 
-TEST_F(PlaylistFigures, TheSourceGoesBeforeTheAliasCopy) {
+TEST_F(ListFigures, TheSourceGoesBeforeTheAliasCopy) {
   b.ScriviMp3("music/a.mp3", 1, kMinute);
   b.ScriviMp3("program/Projects/Hall/P01-001.mp3", 1, 2 * kMinute);
   EXPECT_EQ(All({Track("a.mp3", "P01-001.mp3")}), "1:00, 938 KB");
 }
 
-TEST_F(PlaylistFigures, AFileOfNoMusicHasNoTime) {
+TEST_F(ListFigures, AFileOfNoMusicHasNoTime) {
   b.Cartella.Write("music/text.mp3", std::string(2048, 'x'));
   EXPECT_EQ(All({Track("text.mp3")}), "0:00, 2 KB");
   EXPECT_FALSE(figures.Fatti(Track("text.mp3"))->Mancante);
 }
 
-TEST_F(PlaylistFigures, BegunAnewSeeWhatCameAndWent) {
+TEST_F(ListFigures, BegunAnewSeeWhatCameAndWent) {
   b.ScriviMp3("music/a.mp3", 1, kMinute);
-  const RigaPlaylist track = Track("a.mp3");
+  const RigaProgetto track = Track("a.mp3");
   All({track});
   Delete("music/a.mp3");
   EXPECT_FALSE(figures.Passo(10));
@@ -119,9 +124,9 @@ TEST_F(PlaylistFigures, BegunAnewSeeWhatCameAndWent) {
   EXPECT_EQ(figures.Parole(), "1:00, 938 KB");
 }
 
-TEST_F(PlaylistFigures, HaveHoursWhereTheyNeedThem) {
+TEST_F(ListFigures, HaveHoursWhereTheyNeedThem) {
   b.ScriviMp3("music/a.mp3", 1, 10 * kMinute);
-  EXPECT_EQ(All(std::vector<RigaPlaylist>(500, Track("a.mp3"))), "83:20:00, 9 MB");
+  EXPECT_EQ(All(std::vector<RigaProgetto>(500, Track("a.mp3"))), "83:20:00, 9 MB");
 }
 
 TEST(LengthInWords, HasMinutesAndHours) {

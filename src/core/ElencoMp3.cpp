@@ -1,4 +1,4 @@
-#include "playerconfig/ElencoMp3.h"
+#include "core/ElencoMp3.h"
 
 #include "core/Lingua.h"
 #include "platform/Fold.h"

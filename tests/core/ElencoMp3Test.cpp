@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "playerconfig/ElencoMp3.h"
+#include "core/ElencoMp3.h"
 #include "support/Banco.h"
 #include "support/FaultyFileSystem.h"
 
