@@ -56,7 +56,7 @@ _kvr5card() {
   esac
   if [[ -z $verb ]]; then
     _kvr5card_words "$word" --program --lang --json --yes --no --help --version \
-      mp3 new projects show config inputs save playlists report record
+      mp3 new projects show config inputs save playlists schedule report record
     return
   fi
   if [[ $word == -* && $n == 0 ]]; then
@@ -66,7 +66,7 @@ _kvr5card() {
     return
   fi
   case $verb:$n in
-    show:0 | config:0 | inputs:0 | save:0 | playlists:0 | report:0 | record:0)
+    show:0 | config:0 | inputs:0 | save:0 | playlists:0 | schedule:0 | report:0 | record:0)
       _kvr5card_offer "$word" < <("$command" "${program[@]}" projects 2>/dev/null)
       ;;
     config:1) _kvr5card_words "$word" get set ;;
@@ -78,7 +78,7 @@ _kvr5card() {
     inputs:1) _kvr5card_words "$word" list set clear ;;
     new:*) _kvr5card_words "$word" --mode ;;
     save:*) _kvr5card_words "$word" --copy-inputs ;;
-    projects:* | show:* | playlists:* | report:*) ;;
+    projects:* | show:* | playlists:* | schedule:* | report:*) ;;
     *) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
   esac
 }

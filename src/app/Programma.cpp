@@ -84,8 +84,9 @@ void Programma::Mostra(Schermata schermata) {
       return hub_->Mostra();
     case Schermata::EditorPlaylist:
       return editorPlaylist_->Mostra();
-    case Schermata::Nessuna:
     case Schermata::Palinsesto:
+      return palinsesto_->Mostra();
+    case Schermata::Nessuna:
       return;
   }
 }
@@ -104,6 +105,12 @@ void Programma::ApriPlaylist(Schermata chiamante) {
   if (editorPlaylist_.Caricata()) return;  // its load lets events run
   editorPlaylist_->FormSuccessivo = chiamante;
   editorPlaylist_->Mostra();
+}
+
+void Programma::ApriPalinsesto(Schermata chiamante) {
+  if (palinsesto_.Caricata()) return;  // its load lets events run
+  palinsesto_->FormSuccessivo = chiamante;
+  palinsesto_->Mostra();
 }
 
 void Programma::ScegliScheda(Schermata chiamante) {

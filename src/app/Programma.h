@@ -28,6 +28,7 @@
 #include "projects/screens/frmCaricaProgetto.h"
 #include "projects/screens/frmRichiestaNomeForm.h"
 #include "projects/screens/frmWizardPanel1.h"
+#include "schedule/screens/frmPalinsesto.h"
 
 namespace kvr5 {
 
@@ -51,6 +52,7 @@ class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
   void MostraElencoProgetti(Schermata chiamante) override;
   void ApriConfigurazione(std::int16_t apreDaFlash) override;
   void ApriPlaylist(Schermata chiamante) override;
+  void ApriPalinsesto(Schermata chiamante) override;
   void ScegliScheda(Schermata chiamante) override;
   void AggiornaPercorsoMemoryCard() override;
   void ApriTempiFade() override;
@@ -97,6 +99,8 @@ class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
   FormPredefinita<frmPlayerConfig> hub_{[this] { return new frmPlayerConfig(ambiente_, *this); }};
   FormPredefinita<frmPlaylistEditor> editorPlaylist_{
       [this] { return new frmPlaylistEditor(ambiente_, progresso_); }};
+  FormPredefinita<frmPalinsesto> palinsesto_{
+      [this] { return new frmPalinsesto(ambiente_, progresso_); }};
   FormPredefinita<frmTempiFade> tempiFade_{[this] { return new frmTempiFade(ambiente_); }};
   FormPredefinita<frmPanelExtra> panelExtra_{[this] { return new frmPanelExtra(ambiente_); }};
   FormPredefinita<frmConfig485> config485_{[this] { return new frmConfig485(ambiente_); }};

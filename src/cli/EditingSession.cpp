@@ -55,6 +55,24 @@ Outcome EditingCommands::Refuse(const std::string& why) {
   return Outcome::Refused;
 }
 
+Outcome EditingCommands::SaveBy(const std::function<void(FinestraProgresso&)>& save) {
+  TerminalProgress progress(session_.Context(), session_.Line());
+  session_.Events().Watch(&progress);
+  session_.Copy().TakeFailure();
+  save(progress);
+  session_.Events().Watch(nullptr);
+  session_.Line().Clear();
+  const bool cancelled = session_.Context().Stato.AnnullatoDaUtente;
+  return session_.Copy().TakeFailure() || cancelled ? Outcome::Failed : Outcome::Saved;
+}
+
+Json ValueOf(const Recordset& rows, const char* column) {
+  const auto value = rows.Get(column);
+  if (!value || std::holds_alternative<std::monostate>(value.Value())) return nullptr;
+  if (const auto* number = std::get_if<std::int64_t>(&value.Value())) return *number;
+  return rows.Text(column);
+}
+
 std::optional<std::vector<std::string>> WordsOf(std::string_view line) {
   std::vector<std::string> words;
   bool quoted = false;

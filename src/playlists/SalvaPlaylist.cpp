@@ -9,8 +9,8 @@
 #include "platform/db/Walk.h"
 #include "playlists/AliasPlaylist.h"
 #include "playlists/BraniPlaylist.h"
-#include "playlists/ListeDiTesto.h"
 #include "projects/CartellaProgetto.h"
+#include "projects/ListeDiTesto.h"
 #include "reports/ReportPlaylist.h"
 
 namespace kvr5 {

@@ -12,7 +12,7 @@
 #include "platform/db/Recordset.h"
 #include "platform/db/Walk.h"
 #include "playlists/EditorPlaylist.h"
-#include "playlists/RigheDelDatabase.h"
+#include "support/RigheDelDatabase.h"
 #include "projects/CartellaProgetto.h"
 #include "support/Banco.h"
 #include "support/FaultyFileSystem.h"

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "playlists/BancoPlaylist.h"
-#include "playlists/RigheDelDatabase.h"
+#include "support/RigheDelDatabase.h"
 #include "playlists/SalvaPlaylist.h"
 #include "support/ProgressoVisto.h"
 

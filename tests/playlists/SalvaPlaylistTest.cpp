@@ -1,6 +1,6 @@
 #include "playlists/AliasPlaylist.h"
 #include "playlists/BancoSalva.h"
-#include "playlists/ListeDiTesto.h"
+#include "projects/ListeDiTesto.h"
 
 namespace kvr5 {
 namespace {

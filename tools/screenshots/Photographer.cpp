@@ -1,6 +1,7 @@
 #include "Photographer.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QTimer>
 
 #include "core/Aiuti.h"
@@ -50,6 +51,13 @@ void Photographer::Project(const std::string& name, std::int16_t type, std::int1
   if (kvr5::PreparaCartella(C(), name, false) == kvr5::EsitoNuovo::Creato) {
     kvr5::RiempiCartella(C());
   }
+}
+
+void WaitFor(const std::function<bool()>& done) {
+  constexpr qint64 kPatience = 5000;  // milliseconds
+  QElapsedTimer watch;
+  watch.start();
+  while (!done() && watch.elapsed() < kPatience) QCoreApplication::processEvents();
 }
 
 }  // namespace shots

@@ -38,6 +38,10 @@ void TakeHubs(Photographer& camera);
 void TakeParameters(Photographer& camera);
 /// The editor of playlists, in its forms and states, and the dialog for a name.
 void TakePlaylists(Photographer& camera);
+/// The editor of the schedule, in its forms and states.
+void TakeSchedules(Photographer& camera);
+/// Waits for what a screen does by itself.
+void WaitFor(const std::function<bool()>& done);
 /// The boxes and the windows that stand before others.
 void TakeBoxes(Photographer& camera);
 

@@ -1,5 +1,4 @@
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QTimer>
 
 #include "Photographer.h"
@@ -17,14 +16,6 @@ kvr5::frmPlaylistEditor& Editor() {
     if (editor != nullptr && editor->isVisible()) return *editor;
   }
   qFatal("the editor isn't on the screen");
-}
-
-/// Waits for what the screen does by itself.
-void WaitFor(const std::function<bool()>& done) {
-  constexpr qint64 kPatience = 5000;  // milliseconds
-  QElapsedTimer watch;
-  watch.start();
-  while (!done() && watch.elapsed() < kPatience) QCoreApplication::processEvents();
 }
 
 /// A list with a file that has gone, and names for the mode that has them.

@@ -90,6 +90,7 @@ int main(int argc, char** argv) {
   TakeHubs(camera);
   TakeParameters(camera);
   TakePlaylists(camera);
+  TakeSchedules(camera);
   TakeList(camera, QStringLiteral("frmCaricaProgetto"));
   TakeBoxes(camera);
   return EXIT_SUCCESS;

@@ -25,13 +25,6 @@ using Words = std::vector<std::string>;
 
 constexpr std::uint32_t kHighest = 2147483647;  // of a number in a command
 
-Json Value(const Recordset& rows, const char* column) {
-  const auto value = rows.Get(column);
-  if (!value || std::holds_alternative<std::monostate>(value.Value())) return nullptr;
-  if (const auto* number = std::get_if<std::int64_t>(&value.Value())) return *number;
-  return rows.Text(column);
-}
-
 class PlaylistSession : public EditingCommands {
  public:
   explicit PlaylistSession(Session& session)
@@ -44,12 +37,7 @@ class PlaylistSession : public EditingCommands {
   Outcome Run(const Words& words) override;
 
  private:
-  /// A command, how many words may follow it, and what runs it.
-  struct Command {
-    std::string_view Name;
-    std::size_t Least, Most;
-    Outcome (PlaylistSession::*Do)(const Words& words);
-  };
+  using Command = EditingCommand<PlaylistSession>;
   static constexpr std::size_t kAny = static_cast<std::size_t>(-1);
 
   Contesto& Context() { return session_.Context(); }
@@ -90,13 +78,7 @@ Outcome PlaylistSession::Run(const Words& words) {
       Command{"import", 1, 1, &S::Import}, Command{"new", 1, 2, &S::New},
       Command{"delete", 0, 0, &S::Delete}, Command{"report", 0, 0, &S::Report},
       Command{"save", 0, 0, &S::Save}};
-  const std::size_t follow = words.size() - 1;
-  for (const Command& each : kCommands) {
-    if (each.Name != words.front()) continue;
-    if (follow < each.Least || follow > each.Most) return Outcome::Unknown;
-    return (this->*each.Do)(words);
-  }
-  return Outcome::Unknown;
+  return RunCommand(*this, kCommands, words);
 }
 
 bool PlaylistSession::GoTo(const std::string& pos) {
@@ -140,7 +122,7 @@ Outcome PlaylistSession::List(const Words& /*words*/) {
     if (out.IsJson()) {
       Json row;
       for (const char* column : {"ID", "Pos", "NPlaylist", "FileName", "FilePath", "Alias"}) {
-        row[column] = Value(rows, column);
+        row[column] = ValueOf(rows, column);
       }
       out.Object(row);
     } else {
@@ -260,14 +242,7 @@ Outcome PlaylistSession::Report(const Words& /*words*/) {
 }
 
 Outcome PlaylistSession::Save(const Words& /*words*/) {
-  TerminalProgress progress(Context(), session_.Line());
-  session_.Events().Watch(&progress);
-  session_.Copy().TakeFailure();
-  SalvaPlaylist(editor_, progress);
-  session_.Events().Watch(nullptr);
-  session_.Line().Clear();
-  const bool cancelled = Context().Stato.AnnullatoDaUtente;
-  return session_.Copy().TakeFailure() || cancelled ? Outcome::Failed : Outcome::Saved;
+  return SaveBy([this](FinestraProgresso& progress) { SalvaPlaylist(editor_, progress); });
 }
 
 }  // namespace

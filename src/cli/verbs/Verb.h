@@ -31,6 +31,7 @@ int RunConfig(Session& session, const std::vector<std::string>& arguments);
 int RunInputs(Session& session, const std::vector<std::string>& arguments);
 int RunSave(Session& session, const std::vector<std::string>& arguments);
 int RunPlaylists(Session& session, const std::vector<std::string>& arguments);
+int RunSchedule(Session& session, const std::vector<std::string>& arguments);
 int RunReport(Session& session, const std::vector<std::string>& arguments);
 int RunRecord(Session& session, const std::vector<std::string>& arguments);
 

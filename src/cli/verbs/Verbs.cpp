@@ -38,6 +38,13 @@ constexpr std::array kVerbs{
         "clear, up POS, down POS, shuffle [SEED], import LIST, new NAME [SECOND], delete, report,\n"
         "yes, no.",
         true, RunPlaylists},
+    Verb{
+        "schedule", "PROJECT",
+        "An editing session of the schedule: commands on standard input, one a line; it ends with\n"
+        "save or cancel. day N, list, segment add, segment select ID, segment copy, segment\n"
+        "remove, time HH MM, spot add SLOT FILE, spot remove SLOT, spot up SLOT, spot down SLOT,\n"
+        "report, yes, no.",
+        true, RunSchedule},
     Verb{"report", "PROJECT", "Writes the project report and prints its path.", true, RunReport},
     Verb{"record", "PROJECT CARD...",
          "Records a project onto one card after another. CARD is a drive letter or a folder.", true,

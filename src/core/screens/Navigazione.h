@@ -20,6 +20,8 @@ class Navigazione {
   virtual void ApriConfigurazione(std::int16_t apreDaFlash) = 0;
   /// Shows frmPlaylistEditor, which comes back to `chiamante`.
   virtual void ApriPlaylist(Schermata chiamante) = 0;
+  /// Shows frmPalinsesto, which comes back to `chiamante`.
+  virtual void ApriPalinsesto(Schermata chiamante) = 0;
   /// Shows frmSelectFlash modally for `chiamante`.
   virtual void ScegliScheda(Schermata chiamante) = 0;
   /// Has frmPlayerConfig show the chosen card anew.

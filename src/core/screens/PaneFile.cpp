@@ -12,9 +12,9 @@
 
 namespace kvr5 {
 
-PaneFile::PaneFile(Contesto& contesto, QWidget* padre)
+PaneFile::PaneFile(Contesto& contesto, int tag, QWidget* padre)
     : Riquadro("fraFile", {}, -1, padre), contesto_(contesto) {
-  Costruisci();
+  Costruisci(tag);
   DirDirectoryMp3->SuCambio = [this] {
     const QString folder = Qs(PercorsoPerPersone(contesto_, DirDirectoryMp3->Percorso()));
     lblPercorso->setText(folder);
@@ -32,10 +32,10 @@ PaneFile::PaneFile(Contesto& contesto, QWidget* padre)
   });
 }
 
-void PaneFile::Costruisci() {
+void PaneFile::Costruisci(int tag) {
   picDisk = new Coppia("picDisk", "", {}, "cartella", -1, this);
   picDisk->ImpostaGenere(Coppia::Genere::Quieto);
-  lblMp3_Dir = NuovaEtichetta("lblMp3_Dir", QStringLiteral("MP3 Directory"), 7, this);
+  lblMp3_Dir = NuovaEtichetta("lblMp3_Dir", QStringLiteral("MP3 Directory"), tag, this);
   Veste(*lblMp3_Dir, Carattere::Riquadro);
   lblPercorso = new EtichettaElisa("lblPercorso", this, Qt::ElideMiddle);
   Veste(*lblPercorso, Carattere::Suggerimento, Ruolo::Attenuato);

@@ -16,7 +16,8 @@ namespace kvr5 {
 /// The file pane of an editor: a folder, and its MP3 files, of which several may be selected.
 class PaneFile : public Riquadro {
  public:
-  PaneFile(Contesto& contesto, QWidget* padre);
+  /// `tag`: the number of lblMp3_Dir among the form's texts.
+  PaneFile(Contesto& contesto, int tag, QWidget* padre);
 
   Coppia* picDisk;
   QLabel* lblMp3_Dir;
@@ -40,7 +41,7 @@ class PaneFile : public Riquadro {
   std::function<void()> SuCartella;
 
  private:
-  void Costruisci();
+  void Costruisci(int tag);
   void Riempi();
   void Cerca(bool prossimo);
 

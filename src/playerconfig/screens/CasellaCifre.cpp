@@ -10,16 +10,12 @@
 
 #include "core/screens/Form.h"
 #include "core/screens/Icona.h"
+#include "core/screens/TastoDigitato.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
 
 namespace kvr5 {
 namespace {
-
-/// A menu over the field or another program's window is no leaving.
-bool LeavesTheField(const QFocusEvent& event) {
-  return event.reason() != Qt::PopupFocusReason && event.reason() != Qt::ActiveWindowFocusReason;
-}
 
 QToolButton* NewArrow(const char* name, const char* icon, QWidget* parent) {
   auto* arrow = new QToolButton(parent);
@@ -41,17 +37,6 @@ QLineEdit* NewField(const char* name, QWidget* parent) {
   field->setProperty(kLasciaAlClic, true);
   field->setAttribute(Qt::WA_InputMethodEnabled, false);  // digits are typed key by key
   return field;
-}
-
-/// The character that a key types; 0 for none.
-char32_t Typed(const QKeyEvent& key) {
-  if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) return U'\r';
-  // Editing keys and shortcuts aren't characters that are typed; with the modifier that types the
-  // third character of a key (Ctrl and Alt at once, or Alt alone) they are.
-  const bool shortcut =
-      (key.modifiers() & Qt::ControlModifier) != 0 && (key.modifiers() & Qt::AltModifier) == 0;
-  const bool edits = key.key() == Qt::Key_Delete || key.key() == Qt::Key_Escape || shortcut;
-  return edits || key.text().isEmpty() ? 0 : key.text().toUcs4().first();
 }
 
 }  // namespace
@@ -120,7 +105,7 @@ bool CasellaCifre::SuTasto(const QKeyEvent& tasto) {
     (tasto.key() == Qt::Key_Up ? Su : Giu)->click();
     return true;
   }
-  const char32_t character = Typed(tasto);
+  const char32_t character = TastoDigitato(tasto);
   const bool passes = character == 0 || numero_->Tasto(character);
   if (character == U'\r') Cambiata();  // it was checked
   return !passes;
@@ -128,7 +113,7 @@ bool CasellaCifre::SuTasto(const QKeyEvent& tasto) {
 
 bool CasellaCifre::eventFilter(QObject* object, QEvent* event) {
   if (event->type() == QEvent::KeyPress) return SuTasto(*static_cast<QKeyEvent*>(event));
-  if (event->type() == QEvent::FocusOut && LeavesTheField(*static_cast<QFocusEvent*>(event))) {
+  if (event->type() == QEvent::FocusOut && LasciaIlCampo(*static_cast<QFocusEvent*>(event))) {
     Controlla();
   }
   return QWidget::eventFilter(object, event);

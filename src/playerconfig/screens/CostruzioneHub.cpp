@@ -184,6 +184,7 @@ void frmPlayerConfig::CollegaComandi() {
   CollegaAscolto();
   connect(Barra->picSave, &QAbstractButton::clicked, this, [this] { Salva(); });
   connect(Barra->picPlaylist, &QAbstractButton::clicked, this, [this] { ApriPlaylist(); });
+  connect(Barra->picPalinsesto, &QAbstractButton::clicked, this, [this] { ApriPalinsesto(); });
   connect(Barra->picReport, &QAbstractButton::clicked, this, [this] { MostraReport(); });
   connect(Barra->picRecordFlash, &QAbstractButton::clicked, this, [this] { Registra(); });
   connect(Barra->picEsci, &QAbstractButton::clicked, this, [this] { Scarica(); });
@@ -215,7 +216,7 @@ void frmPlayerConfig::CollegaParametri() {
 
 void frmPlayerConfig::DisabilitaFuturi() {
   for (QWidget* control :
-       {static_cast<QWidget*>(Barra->picPalinsesto), static_cast<QWidget*>(Barra->picCancellaFlash),
+       {static_cast<QWidget*>(Barra->picCancellaFlash),
         static_cast<QWidget*>(Barra->picVerifica)}) {
     control->setEnabled(false);
     control->setToolTip(Qs(TestoLingua(C(), "0130244")));
@@ -235,7 +236,8 @@ void frmPlayerConfig::RiempiAltro() {
     return FileExists(C().Files, FileDelProgetto(C(), database));
   };
   if (!layout_.picPalinsesto && has("scheduler.mdb")) {
-    later("0130151");
+    connect(menu.addAction(text("0130151")), &QAction::triggered, this,
+            [this] { ApriPalinsesto(); });
   }
   if (!layout_.picPlaylist && has("playlist.mdb")) {
     connect(menu.addAction(text("0130152")), &QAction::triggered, this, [this] { ApriPlaylist(); });

@@ -1,4 +1,4 @@
-// What the hub's buttons do at length: recording, saving, the report, and the way to the playlists.
+// What the hub's buttons do at length: recording, saving, the report, and the way to the editors.
 
 #include "platform/FileOps.h"
 #include "playerconfig/Salvataggio.h"
@@ -73,6 +73,14 @@ void frmPlayerConfig::MostraReport() {
 }
 
 void frmPlayerConfig::ApriPlaylist() {
+  ApriEditor("tmpPlaylist.mdb", &Navigazione::ApriPlaylist);
+}
+
+void frmPlayerConfig::ApriPalinsesto() {
+  ApriEditor("tmpScheduler.mdb", &Navigazione::ApriPalinsesto);
+}
+
+void frmPlayerConfig::ApriEditor(const char* copia, void (Navigazione::*apri)(Schermata)) {
   if (lavora_) return;
   const Impegno stays(*this);
   const OwnError own(C().Errore);
@@ -81,9 +89,9 @@ void frmPlayerConfig::ApriPlaylist() {
   conta_.stop();
   guardia_.stop();
   conto_.Interrompi();  // the editor copies the database
-  const std::string stale = FileDelProgetto(C(), "tmpPlaylist.mdb");
+  const std::string stale = FileDelProgetto(C(), copia);
   if (FileExists(C().Files, stale)) C().Errore.Record(C().Files.Delete(stale));
-  ambiente_.Schermi.ApriPlaylist(Schermata::Configurazione);
+  (ambiente_.Schermi.*apri)(Schermata::Configurazione);
   Nascondi();
   guardia_.stop();  // a box of the editor's load may have brought the hub to the front
   conta_.stop();

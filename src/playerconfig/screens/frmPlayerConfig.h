@@ -151,6 +151,9 @@ class frmPlayerConfig : public Form {
   void MostraReport();
   /// Hands over to the editor of playlists.
   void ApriPlaylist();
+  void ApriPalinsesto();
+  /// Hands over to an editor; `copia` is its working copy, of which a crash may have left one.
+  void ApriEditor(const char* copia, void (Navigazione::*apri)(Schermata));
   /// Tells of what a screen of parameters couldn't write, which closes all the same.
   void AvvisaNonScritto();
   void AggiornaNonSalvato();

@@ -83,7 +83,7 @@ QWidget* frmPlaylistEditor::CostruisciSinistra(QWidget* corpo) {
   auto* lines = new QVBoxLayout(left);
   lines->setContentsMargins(0, 0, 0, 0);
   lines->setSpacing(12);
-  fraFile = new PaneFile(C(), left);
+  fraFile = new PaneFile(C(), 7, left);
   fraFileInfo = new PannelloInfo({}, -1, 5, kFileInfoDelay, left, 2);
   lblFileInfo = new EtichettaElisa("lblFileInfo", fraFileInfo);
   lblFileInfo->setText(QStringLiteral("FileInfo"));

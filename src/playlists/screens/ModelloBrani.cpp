@@ -7,6 +7,7 @@
 #include "core/Parole.h"
 #include "core/ParoleCopia.h"
 #include "core/screens/Icona.h"
+#include "core/screens/TabellaEditor.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
 
@@ -84,6 +85,8 @@ QVariant ModelloBrani::data(const QModelIndex& indice, int ruolo) const {
   const bool missing = facts != nullptr && facts->Mancante;
   const bool twice = doppi_.Contiene(row.Brano.FileName);
   switch (ruolo) {
+    case TabellaEditor::kRuoloId:
+      return QVariant::fromValue<qlonglong>(row.ID);
     case Qt::DisplayRole:
       return Testo(row, indice.column());
     case Qt::ToolTipRole:

@@ -4,11 +4,11 @@
 #include <QDragEnterEvent>
 #include <QMimeData>
 #include <QPainter>
-#include <QUrl>
 #include <QVBoxLayout>
 
 #include "core/Lingua.h"
 #include "core/screens/EtichettaElisa.h"
+#include "core/screens/FileTrascinati.h"
 #include "core/screens/Pagina.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
@@ -19,14 +19,6 @@ namespace {
 constexpr std::uint32_t kRed = 255;
 constexpr std::uint32_t kGreen = 65280;
 constexpr int kBlink = 500;  // milliseconds
-
-std::vector<std::string> FilesOf(const QMimeData& data) {
-  std::vector<std::string> files;
-  for (const QUrl& each : data.urls()) {
-    if (each.isLocalFile()) files.push_back(Std(each.toLocalFile()));
-  }
-  return files;
-}
 
 }  // namespace
 
@@ -111,7 +103,8 @@ void RiquadroBrani::Sopra(bool sopra) {
 }
 
 void RiquadroBrani::dragEnterEvent(QDragEnterEvent* event) {
-  if (FilesOf(*event->mimeData()).empty() || QApplication::activeModalWidget() != nullptr) return;
+  if (FileTrascinati(*event->mimeData()).empty() || QApplication::activeModalWidget() != nullptr)
+    return;
   // The files stay where they are, whatever a file manager proposes.
   event->setDropAction(Qt::CopyAction);
   event->accept();
@@ -129,7 +122,7 @@ void RiquadroBrani::dropEvent(QDropEvent* event) {
   // Not from within the drop: the program that it comes from waits for its end.
   QMetaObject::invokeMethod(
       this,
-      [this, files = FilesOf(*event->mimeData())] {
+      [this, files = FileTrascinati(*event->mimeData())] {
         const bool boxed = QApplication::activeModalWidget() != nullptr;
         if (SuFile && !boxed) SuFile(files);
       },

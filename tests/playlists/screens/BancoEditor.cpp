@@ -15,7 +15,7 @@
 #include "platform/db/Connection.h"
 #include "platform/db/Recordset.h"
 #include "platform/db/Walk.h"
-#include "playlists/RigheDelDatabase.h"
+#include "support/RigheDelDatabase.h"
 #include "projects/CartellaProgetto.h"
 
 namespace kvr5::test {

@@ -5,7 +5,7 @@
 #include "platform/db/Connection.h"
 #include "platform/db/Recordset.h"
 #include "platform/db/Walk.h"
-#include "playlists/RigheDelDatabase.h"
+#include "support/RigheDelDatabase.h"
 #include "playlists/screens/BancoEditor.h"
 #include "projects/CartellaProgetto.h"
 

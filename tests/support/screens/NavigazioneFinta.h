@@ -19,6 +19,7 @@ class NavigazioneFinta : public Navigazione {
   void MostraElencoProgetti(Schermata chiamante) override { ElenchiPer.push_back(chiamante); }
   void ApriConfigurazione(std::int16_t apreDaFlash) override { Aperture.push_back(apreDaFlash); }
   void ApriPlaylist(Schermata chiamante) override { EditorPer.push_back(chiamante); }
+  void ApriPalinsesto(Schermata chiamante) override { PalinsestiPer.push_back(chiamante); }
   void ScegliScheda(Schermata chiamante) override {
     SchedePer.push_back(chiamante);
     if (SuScegliScheda) SuScegliScheda();
@@ -35,11 +36,12 @@ class NavigazioneFinta : public Navigazione {
   void RiavviaMain() override { ++Riavvii; }
   void TerminaProgramma() override { ++Fini; }
 
-  std::vector<Schermata> Mostrate;     ///< without Nessuna
-  std::vector<Schermata> ElenchiPer;   ///< the callers of frmCaricaProgetto
-  std::vector<std::int16_t> Aperture;  ///< the ApreDaFlash of each opening of the hub
-  std::vector<Schermata> EditorPer;    ///< the callers of frmPlaylistEditor
-  std::vector<Schermata> SchedePer;    ///< the callers of frmSelectFlash
+  std::vector<Schermata> Mostrate;       ///< without Nessuna
+  std::vector<Schermata> ElenchiPer;     ///< the callers of frmCaricaProgetto
+  std::vector<std::int16_t> Aperture;    ///< the ApreDaFlash of each opening of the hub
+  std::vector<Schermata> PalinsestiPer;  ///< the callers of frmPalinsesto
+  std::vector<Schermata> EditorPer;      ///< the callers of frmPlaylistEditor
+  std::vector<Schermata> SchedePer;      ///< the callers of frmSelectFlash
   int TempiFade = 0;
   int PannelliExtra = 0;
   std::vector<bool> Seriali;  ///< the form of the serial screen at each opening: true is RS-232

@@ -1,4 +1,4 @@
-#include "playlists/ListeDiTesto.h"
+#include "projects/ListeDiTesto.h"
 
 #include <algorithm>
 

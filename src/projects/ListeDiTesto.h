@@ -10,7 +10,8 @@
 
 namespace kvr5 {
 
-/// The playlist files of a save: plain text, a track a line, CR LF, in the host's ANSI code page.
+/// The files for the player that a save writes into the project's folder, playlists and schedules:
+/// plain text, CR LF, in the host's ANSI code page.
 /// Their lines are gathered and written in one go, so that a save of many rows opens each file
 /// once. Names are compared without regard to case.
 class ListeDiTesto {

@@ -1,13 +1,26 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
 #include "core/ParoleCopia.h"
-#include "playlists/BancoSalva.h"
-#include "playlists/ListeDiTesto.h"
+#include "projects/ListeDiTesto.h"
+#include "support/Banco.h"
 
 namespace kvr5 {
 namespace {
 
-class TextLists : public test::BancoSalva {
+class TextLists : public testing::Test {
  protected:
-  void SetUp() override { Progetto(4, 5); }
+  void SetUp() override { b.CreaProgetto("Hall", 4, 5); }
+  std::string Read(const std::string& name) const {
+    return b.Cartella.Read("program/Projects/Hall/" + name);
+  }
+  bool Exists(const std::string& name) const {
+    return b.Cartella.Exists("program/Projects/Hall/" + name);
+  }
+  std::string Musica() const { return b.Percorso("music"); }
+
+  test::Banco b;
   ListeDiTesto lists{b.C};
 };
 
@@ -16,25 +29,25 @@ TEST_F(TextLists, HaveEachPathAsPeopleReadIt) {
     b.ScriviMp3(name);
   }
   const std::string music = b.Percorso("Music") + "\\";
-  const Righe paths{music + "gone.mp3",
-                    music + "Song.mp3",
-                    music + "b.mp3",
-                    music + "SONG.MP3",
-                    music + "Song.mp3",
-                    b.Percorso("MUSIC") + "\\b.mp3",
-                    b.Percorso("MUSIC") + "\\Song.mp3",
-                    b.Percorso("MUSIC") + "\\song.mp3",
-                    music + "sub\\c.mp3",
-                    music + "SUB\\..\\b.mp3",
-                    music + "\\b.mp3",
-                    b.Percorso("other") + "\\Song.mp3",
-                    b.Percorso("nowhere") + "\\a.mp3",
-                    "Q:\\a.mp3",
-                    "C:\\a.mp3",
-                    "a.mp3",
-                    "sub\\c.mp3",
-                    "..\\c.mp3",
-                    "\\c.mp3"};
+  const std::vector<std::string> paths{music + "gone.mp3",
+                                       music + "Song.mp3",
+                                       music + "b.mp3",
+                                       music + "SONG.MP3",
+                                       music + "Song.mp3",
+                                       b.Percorso("MUSIC") + "\\b.mp3",
+                                       b.Percorso("MUSIC") + "\\Song.mp3",
+                                       b.Percorso("MUSIC") + "\\song.mp3",
+                                       music + "sub\\c.mp3",
+                                       music + "SUB\\..\\b.mp3",
+                                       music + "\\b.mp3",
+                                       b.Percorso("other") + "\\Song.mp3",
+                                       b.Percorso("nowhere") + "\\a.mp3",
+                                       "Q:\\a.mp3",
+                                       "C:\\a.mp3",
+                                       "a.mp3",
+                                       "sub\\c.mp3",
+                                       "..\\c.mp3",
+                                       "\\c.mp3"};
   std::string expected;
   for (int twice = 0; twice < 2; ++twice) {
     for (const std::string& each : paths) {

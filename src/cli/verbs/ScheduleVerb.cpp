@@ -1,0 +1,266 @@
+#include <array>
+
+#include "cli/EditingSession.h"
+#include "cli/FileGiven.h"
+#include "cli/verbs/Verb.h"
+#include "core/Aiuti.h"
+#include "core/ParoleCopia.h"
+#include "mp3/Accettazione.h"
+#include "platform/FileOps.h"
+#include "platform/db/Walk.h"
+#include "projects/CartellaProgetto.h"
+#include "projects/OraDelSegmento.h"
+#include "schedule/OrarioSegmento.h"
+#include "schedule/SalvaPalinsesto.h"
+#include "schedule/Segmenti.h"
+#include "schedule/Spot.h"
+
+namespace kvr5::cli {
+namespace {
+
+using Words = std::vector<std::string>;
+
+constexpr std::uint32_t kHighest = 2147483647;  // of a number in a command
+constexpr const char* kNoSegment = "no segment is selected";
+
+class ScheduleSession : public EditingCommands {
+ public:
+  explicit ScheduleSession(Session& session)
+      : EditingCommands(session), editor_(session.Context()), reader_(session.Context().Files) {
+    editor_.Carica();
+    editor_.PrimoGiorno();
+  }
+  bool IsOpen() { return editor_.rsSegmenti().IsOpen(); }
+
+ protected:
+  Outcome Run(const Words& words) override;
+
+ private:
+  using Command = EditingCommand<ScheduleSession>;
+
+  Contesto& Context() { return session_.Context(); }
+  bool HasSegment() const { return editor_.SegmentoCorrente() > 0; }
+  /// What `work` does with a slot, counted from 0; refused where there is no such slot. `occupied`:
+  /// one that holds a spot.
+  template <typename Work>
+  Outcome WithSlot(const std::string& word, bool occupied, Work work);
+  /// The current row of the grid, and its spots.
+  void ListSegment();
+  Json SpotsOfCurrent();
+
+  Outcome Day(const Words& words);
+  Outcome List(const Words& words);
+  Outcome SegmentAdd(const Words& words);
+  Outcome SegmentSelect(const Words& words);
+  Outcome SegmentCopy(const Words& words);
+  Outcome SegmentRemove(const Words& words);
+  Outcome Time(const Words& words);
+  Outcome SpotAdd(const Words& words);
+  Outcome SpotRemove(const Words& words);
+  Outcome SpotUp(const Words& words);
+  Outcome SpotDown(const Words& words);
+  Outcome Report(const Words& words);
+  Outcome Save(const Words& words);
+
+  EditorPalinsesto editor_;
+  modMp3Infos reader_;
+};
+
+Outcome ScheduleSession::Run(const Words& words) {
+  using S = ScheduleSession;
+  static constexpr std::array kCommands{Command{"day", 1, 1, &S::Day},
+                                        Command{"list", 0, 0, &S::List},
+                                        Command{"segment add", 0, 0, &S::SegmentAdd},
+                                        Command{"segment select", 1, 1, &S::SegmentSelect},
+                                        Command{"segment copy", 0, 0, &S::SegmentCopy},
+                                        Command{"segment remove", 0, 0, &S::SegmentRemove},
+                                        Command{"time", 2, 2, &S::Time},
+                                        Command{"spot add", 2, 2, &S::SpotAdd},
+                                        Command{"spot remove", 1, 1, &S::SpotRemove},
+                                        Command{"spot up", 1, 1, &S::SpotUp},
+                                        Command{"spot down", 1, 1, &S::SpotDown},
+                                        Command{"report", 0, 0, &S::Report},
+                                        Command{"save", 0, 0, &S::Save}};
+  return RunCommand(*this, kCommands, words);
+}
+
+template <typename Work>
+Outcome ScheduleSession::WithSlot(const std::string& word, bool occupied, Work work) {
+  if (!IsWholeNumber(word)) return Outcome::Unknown;
+  const auto slot = NumberOf(word, SlotSpot::kPosti);
+  if (!slot || *slot < 1) return Refuse("a segment has the slots 1 to 8");
+  if (!HasSegment()) return Refuse(kNoSegment);
+  const int index = static_cast<int>(*slot) - 1;
+  if (occupied && index >= editor_.QuantiSpot()) return Refuse("this slot is empty");
+  return work(index);
+}
+
+Outcome ScheduleSession::Day(const Words& words) {
+  if (!IsWholeNumber(words[1])) return Outcome::Unknown;
+  constexpr std::uint32_t kSunday = 7;
+  const auto day = NumberOf(words[1], kSunday);
+  if (!editor_.Disposizione().picFraDay) return Refuse("this project has one schedule");
+  if (!day || *day < 1) return Refuse("the days are 1 (Monday) to 7 (Sunday)");
+  editor_.ScegliGiorno(static_cast<std::int16_t>(*day));
+  return Outcome::Done;
+}
+
+Json ScheduleSession::SpotsOfCurrent() {
+  Json all = Json::array();
+  auto& spots = editor_.rsDettaglio();
+  const Error failure = WalkRows(spots, [&] {
+    Json spot;
+    for (const char* column : {"ID", "Pos", "NPlaylist", "FileName", "FilePath", "Alias"}) {
+      spot[column] = ValueOf(spots, column);
+    }
+    all.push_back(std::move(spot));
+    return true;
+  });
+  if (failure) session_.Out().Say("scheduler.mdb: " + failure.Description());
+  return all;
+}
+
+void ScheduleSession::ListSegment() {
+  auto& out = session_.Out();
+  auto& rows = editor_.rsSegmenti();
+  const std::string time = OraConDuePunti(OraDa(rows.Text("StartTime")));
+  const Json spots = SpotsOfCurrent();
+  if (out.IsJson()) {
+    out.Object({{"ID", rows.Number("ID")},
+                {"NScheduler", editor_.GiornoCorrente()},
+                {"StartTime", time.empty() ? Json(nullptr) : Json(time)},
+                {"Spots", spots}});
+    return;
+  }
+  out.Line((time.empty() ? "--:--" : time) + "  segment " + rows.Text("ID"));
+  for (const Json& each : spots) {
+    const auto text = [&each](const char* column) {
+      return each[column].is_string() ? each[column].get<std::string>() : std::string();
+    };
+    const std::string pos = each["Pos"].is_null() ? "-" : each["Pos"].dump();
+    const std::string path = AggiungiBarra(text("FilePath")) + text("FileName");
+    out.Line("    " + pos + "  " + PercorsoPerPersone(Context(), path));
+  }
+}
+
+Outcome ScheduleSession::List(const Words& /*words*/) {
+  auto& rows = editor_.rsSegmenti();
+  const std::int64_t current = editor_.SegmentoCorrente();
+  const Error failure = WalkRows(rows, [this] {
+    editor_.RigaCambiata();
+    ListSegment();
+    return true;
+  });
+  if (failure) session_.Out().Say("scheduler.mdb: " + failure.Description());
+  editor_.VaiAlSegmento(current);
+  if (session_.Out().IsJson()) {
+    session_.Out().Object({{"end", "list"}, {"rows", editor_.QuantiSegmenti()}});
+  }
+  return Outcome::Done;
+}
+
+Outcome ScheduleSession::SegmentAdd(const Words& /*words*/) {
+  const int before = editor_.QuantiSegmenti();
+  if (before <= kSegmentiOltreCui && !IsOpen()) return Refuse("scheduler.mdb can't be read");
+  AggiungiSegmento(editor_);
+  const bool told = before > kSegmentiOltreCui;
+  if (told || editor_.QuantiSegmenti() > before) return Outcome::Done;
+  return Refuse("the working copy can't be written");
+}
+
+Outcome ScheduleSession::SegmentSelect(const Words& words) {
+  if (!IsWholeNumber(words[2])) return Outcome::Unknown;
+  const auto id = NumberOf(words[2], kHighest);
+  const std::int64_t current = editor_.SegmentoCorrente();
+  if (id && editor_.VaiAlSegmento(*id)) return Outcome::Done;
+  editor_.VaiAlSegmento(current);
+  return Refuse("the day has no segment with this number");
+}
+
+Outcome ScheduleSession::SegmentCopy(const Words& /*words*/) {
+  if (!HasSegment()) return Refuse(kNoSegment);
+  DuplicaSegmento(editor_);
+  return Outcome::Done;
+}
+
+Outcome ScheduleSession::SegmentRemove(const Words& /*words*/) {
+  if (!HasSegment()) return Refuse(kNoSegment);
+  RimuoviSegmento(editor_);
+  return Outcome::Done;
+}
+
+Outcome ScheduleSession::Time(const Words& words) {
+  if (!HasSegment()) return Refuse(kNoSegment);
+  if (!editor_.Disposizione().OreBloccate) {
+    editor_.txtOre = DigitatoSopra(editor_.txtOre, words[1]);
+    LasciaOre(editor_);
+  }
+  editor_.txtMin = DigitatoSopra(editor_.txtMin, words[2]);
+  LasciaMin(editor_);
+  return Outcome::Done;
+}
+
+Outcome ScheduleSession::SpotAdd(const Words& words) {
+  return WithSlot(words[2], false, [&](int slot) {
+    if (slot > editor_.QuantiSpot()) return Refuse("a slot before this one is free");
+    const FileGiven given = LookAtFile(session_, reader_, words[3], BuonoPerEditor, "0140040");
+    if (!given.Why.empty()) return Refuse(words[3] + ": " + given.Why);
+    editor_.FileMp3Valido = true;  // the rule of the panel has passed it
+    const auto end =
+        AggiungiSpot(editor_, slot, EstraiCartella(given.Path), EstraiNomeFile(given.Path));
+    if (end != EsitoSpot::NonScritto) return Outcome::Done;
+    return Refuse("the working copy can't be written");
+  });
+}
+
+Outcome ScheduleSession::SpotRemove(const Words& words) {
+  return WithSlot(words[2], true, [this](int slot) {
+    RimuoviSpot(editor_, slot);
+    return Outcome::Done;
+  });
+}
+
+Outcome ScheduleSession::SpotUp(const Words& words) {
+  return WithSlot(words[2], true, [this](int slot) {
+    if (slot == 0) return Refuse("this is the first spot");
+    SpostaSpot(editor_, slot, false);
+    return Outcome::Done;
+  });
+}
+
+Outcome ScheduleSession::SpotDown(const Words& words) {
+  return WithSlot(words[2], true, [this](int slot) {
+    if (slot + 1 >= editor_.QuantiSpot()) return Refuse("this is the last spot");
+    SpostaSpot(editor_, slot, true);
+    return Outcome::Done;
+  });
+}
+
+Outcome ScheduleSession::Report(const Words& /*words*/) {
+  ScriviReport(editor_);
+  return Context().Stato.ReportIntero ? Outcome::Done : Refuse("Scheduler.htm can't be written");
+}
+
+Outcome ScheduleSession::Save(const Words& /*words*/) {
+  return SaveBy([this](FinestraProgresso& progress) { SalvaPalinsesto(editor_, progress); });
+}
+
+}  // namespace
+
+int RunSchedule(Session& session, const std::vector<std::string>& arguments) {
+  if (arguments.size() != 1) return kUsage;
+  if (const int status = session.OpenProject(arguments.front()); status != kDone) return status;
+  auto& context = session.Context();
+  if (!FileExists(context.Files, FileDelProgetto(context, "scheduler.mdb"))) {
+    session.Out().Say("this project has no scheduler.mdb");
+    return kMissing;
+  }
+  ScheduleSession editor(session);
+  if (!editor.IsOpen()) {
+    session.Out().Say("scheduler.mdb can't be read");
+    return kRefused;
+  }
+  return editor.RunAll();
+}
+
+}  // namespace kvr5::cli

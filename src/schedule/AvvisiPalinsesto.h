@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <set>
+#include <string>
+
+#include "schedule/EditorPalinsesto.h"
+
+namespace kvr5 {
+
+/// What a recording would do to the spots without a word, told beforehand.
+///
+/// A copy in the project's folder has the name that its spot has on the card, and a recording takes
+/// it whatever the row says. So a spot that comes to a name under which another's copy lies there
+/// would be recorded from that copy. And each spot has a name of its own on the card, but a file
+/// gets there once, under the name of the first of its spots: the player finds nothing under the
+/// others.
+class AvvisiPalinsesto {
+ public:
+  AvvisiPalinsesto() = default;
+  explicit AvvisiPalinsesto(EditorPalinsesto& editor);
+
+  /// Whether a recording would take an older copy for the spot of this ID.
+  bool CopiaVecchia(std::int64_t id) const { return vecchie_.contains(id); }
+  /// Whether its file gets onto the card under the name of another spot alone.
+  bool Ripetuto(std::int64_t id) const { return ripetuti_.contains(id); }
+  /// What to do about them, a line for each kind that there is, which names the first one.
+  std::string Parole(Contesto& contesto) const;
+  /// The same about a spot of this name.
+  static std::string ParoleCopiaDi(Contesto& contesto, const std::string& nome);
+  static std::string ParoleRipetutoDi(Contesto& contesto, const std::string& nome);
+
+ private:
+  std::set<std::int64_t> vecchie_;
+  std::set<std::int64_t> ripetuti_;
+  std::string primaVecchia_;  ///< the name of the first one
+  std::string primoRipetuto_;
+};
+
+}  // namespace kvr5

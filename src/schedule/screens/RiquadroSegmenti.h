@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QLabel>
+#include <QMenu>
+
+#include "core/screens/Avvisi.h"
+#include "core/screens/Coppia.h"
+#include "core/screens/Riquadro.h"
+#include "schedule/screens/GrigliaSegmenti.h"
+
+namespace kvr5 {
+
+/// The segments of the current day, and what is done with them.
+class RiquadroSegmenti : public Riquadro {
+ public:
+  RiquadroSegmenti(Contesto& contesto, ModelloSegmenti& modello, QWidget* padre);
+
+  QLabel* lblVociInElenco;
+  GrigliaSegmenti* grdSegmenti;
+  EtichettaAvviso* lblAvvisi;  ///< what a recording would do wrong
+  Coppia *picAggiungiSegmento, *picCopiaSegmento, *picRimuoviSegmento;
+  QLabel *lblAggiungi, *lblDuplicaSegmento, *lblRimuovi;
+  QMenu mnuOpzioni;  ///< of the grid
+  QAction* mnuDuplicaRiga;
+
+  void MostraAvvisi(const QString& testo);
+  void Localizza();
+
+ private:
+  Contesto& contesto_;
+};
+
+}  // namespace kvr5
