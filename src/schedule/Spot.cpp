@@ -112,12 +112,12 @@ void SpostaSpot(EditorPalinsesto& editor, int slot, bool giu) {
   const std::string to = spots.Text("Pos");
   Transaction both(editor.ConnessionePalinsesto());
   editor.Record(spots.Set("Pos", from));
-  if (!editor.Record(spots.Update())) spots.CancelUpdate();
-  editor.Record(editor.ConnessionePalinsesto().Execute("UPDATE [List] SET [Pos]=" + to +
-                                                       " WHERE ID=" + std::to_string(id)));
-  editor.Record(both.End());
+  const bool neighbour = editor.Record(spots.Update());
+  if (!neighbour) spots.CancelUpdate();
+  const bool itself = editor.Record(editor.ConnessionePalinsesto().Execute(
+      "UPDATE [List] SET [Pos]=" + to + " WHERE ID=" + std::to_string(id)));
+  if (editor.Record(both.End()) && (neighbour || itself)) editor.Modificato();
   RinumeraSpot(editor, editor.SegmentoCorrente());
-  editor.Modificato();
   editor.AggiornaElencoSegmenti(editor.SegmentoCorrente());
   if (editor.QuantiSpot() > 0 && !editor.Record(spots.Find("ID=" + std::to_string(id)))) return;
   editor.AggiornaSlotSpot();
