@@ -1,30 +1,16 @@
 #include "schedule/AvvisiPalinsesto.h"
 
-#include <map>
-#include <string_view>
-
 #include "core/Aiuti.h"
 #include "core/Lingua.h"
 #include "core/Parole.h"
 #include "platform/Fold.h"
 #include "platform/db/Walk.h"
+#include "playerconfig/NomiCartella.h"
 #include "schedule/AliasSpot.h"
 
 namespace kvr5 {
-namespace {
-
-/// The names in the project's folder, with their letters made small.
-std::set<std::string, std::less<>> NamesInProject(Contesto& context) {
-  std::set<std::string, std::less<>> names;
-  if (const auto entries = context.Files.List(context.Stato.CartellaProgetto)) {
-    for (const FileInfo& each : entries.Value()) names.insert(FoldCase(each.Name));
-  }
-  return names;
-}
-
-}  // namespace
-
-AvvisiPalinsesto::AvvisiPalinsesto(EditorPalinsesto& editor) {
+AvvisiPalinsesto::AvvisiPalinsesto(EditorPalinsesto& editor, const CopieDegliSpot& copie)
+    : senzaNome_(copie.SenzaNome(editor.C())) {
   auto& context = editor.C();
   Recordset rows;
   if (!editor.ConnessionePalinsesto().IsOpen() ||
@@ -32,22 +18,22 @@ AvvisiPalinsesto::AvvisiPalinsesto(EditorPalinsesto& editor) {
                                "SELECT * FROM [LIST] ORDER BY [NPlaylist],[IDSChed],[Pos]"))) {
     return;
   }
-  const auto names = NamesInProject(context);
-  const std::string project = FoldCase(AggiungiBarra(context.Stato.CartellaProgetto));
+  const NomiCartella names(context.Files, context.Stato.CartellaProgetto);
   std::set<std::string> seen;
   NumeroSegmento number;
   editor.Record(WalkRows(rows, [&] {
     const std::string day = rows.Text("NPlaylist");
     const std::int64_t id = rows.Number("ID");
     const std::string name = rows.Text("FileName");
-    const std::string folder = FoldCase(AggiungiBarra(rows.Text("FilePath")));
-    const std::string alias = FoldCase(
-        AliasDelloSpot(day, number.Di(day, rows.Text("IDSched")), rows.Text("Pos")));
-    if (names.contains(alias)) {
-      if (folder == project && FoldCase(rows.Text("Alias")) == alias) return true;  // its own
+    const std::string folder = rows.Text("FilePath");
+    const std::string alias =
+        AliasDelloSpot(day, number.Di(day, rows.Text("IDSched")), rows.Text("Pos"));
+    if (names.Contiene(alias)) {
+      const bool own = copie.Propria(id, folder, name) && EqualFold(rows.Text("Alias"), alias);
+      if (own) return true;
       if (vecchie_.empty()) primaVecchia_ = name;
       vecchie_.insert(id);
-    } else if (!seen.insert(folder + FoldCase(name)).second) {
+    } else if (!seen.insert(FoldCase(AggiungiBarra(folder) + name)).second) {
       if (ripetuti_.empty()) primoRipetuto_ = name;
       ripetuti_.insert(id);
     }
@@ -68,9 +54,13 @@ std::string AvvisiPalinsesto::ParoleRipetutoDi(Contesto& contesto, const std::st
 
 std::string AvvisiPalinsesto::Parole(Contesto& contesto) const {
   std::string words;
-  if (!vecchie_.empty()) words = ParoleCopiaDi(contesto, primaVecchia_);
-  if (ripetuti_.empty()) return words;
-  return words + (words.empty() ? "" : "\n") + ParoleRipetutoDi(contesto, primoRipetuto_);
+  const auto line = [&words](const std::string& text) {
+    words += (words.empty() ? "" : "\n") + text;
+  };
+  if (senzaNome_) line(TestoLinguaO(contesto, "0140132", "Give the copies their names back."));
+  if (!vecchie_.empty()) line(ParoleCopiaDi(contesto, primaVecchia_));
+  if (!ripetuti_.empty()) line(ParoleRipetutoDi(contesto, primoRipetuto_));
+  return words;
 }
 
 }  // namespace kvr5

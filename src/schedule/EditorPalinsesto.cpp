@@ -64,10 +64,17 @@ void EditorPalinsesto::AggiornaElencoSegmenti(std::int64_t daSelezionare) {
 bool EditorPalinsesto::VaiAlSegmento(std::int64_t id) {
   if (QuantiSegmenti() < 1) return false;
   if (segmenti_.AbsolutePosition() > 0 && segmenti_.Number("ID", -1) == id) return true;
-  if (segmenti_.MoveFirst() || segmenti_.Find("ID=" + std::to_string(id))) return false;
-  const bool found = !segmenti_.Eof();
+  const std::int64_t before = segmentoCorrente_;
+  if (!Trova(id)) {
+    Trova(before);
+    return false;
+  }
   RigaCambiata();
-  return found;
+  return true;
+}
+
+bool EditorPalinsesto::Trova(std::int64_t id) {
+  return !segmenti_.MoveFirst() && !segmenti_.Find("ID=" + std::to_string(id)) && !segmenti_.Eof();
 }
 
 void EditorPalinsesto::RigaCambiata() {

@@ -66,7 +66,7 @@ class EditorPalinsesto {
   std::string IstruzioneSpot(std::int64_t segmento) const;
   /// Reads the day anew and goes to a segment, or with -1 to the first.
   void AggiornaElencoSegmenti(std::int64_t daSelezionare);
-  /// Goes to a segment of the day; false where it has none of this ID.
+  /// Goes to a segment of the day; false where it has none of this ID, and then it stays.
   bool VaiAlSegmento(std::int64_t id);
   /// What follows when rsSegmenti has come to another row: its spots and its time are shown.
   void RigaCambiata();
@@ -92,6 +92,7 @@ class EditorPalinsesto {
   TurniEditor Turni;
 
  private:
+  bool Trova(std::int64_t id);
   void MostraOrario();
   void AggiornaVociInElenco();
 

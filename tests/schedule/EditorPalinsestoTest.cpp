@@ -222,6 +222,7 @@ TEST_F(ScheduleEditor, IsLoadedAgainAfterAClose) {
     editor.Chiudi();
   }
   editor.Carica();
+  EXPECT_EQ(editor.SegmentoCorrente(), 0) << "not that of the load before";
   EXPECT_FALSE(editor.FileMp3Valido);
   EXPECT_EQ(editor.Modifiche(), 0);
 }

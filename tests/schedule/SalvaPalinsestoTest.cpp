@@ -72,6 +72,27 @@ TEST_F(SavedSchedule, KeepsThePlaceOfALineAndItsAliasWhereTheTimeIsChanged) {
   EXPECT_EQ(Leggi("PALIN.TXT"), "23:00\tF0-0011\t\r\n02:00\tF0-0021\t\r\n");
 }
 
+TEST_F(SavedSchedule, CountsTheSegmentsOfADayWhereTheDaysWereMadeInTurns) {
+  Progetto(3, 3);
+  for (const int day : {1, 2, 1, 2, 1}) Spot(day, Segmento(day, "01.00"), 1, "a.mp3");
+  Salva();
+  EXPECT_EQ(Giorni(),
+            "1: 01:00\tF1-0011\t\r\n01:00\tF1-0021\t\r\n01:00\tF1-0031\t\r\n"
+            "2: 01:00\tF2-0011\t\r\n01:00\tF2-0021\t\r\n");
+}
+
+TEST_F(SavedSchedule, TheTwelfthSegmentOfWednesdayNamesItsSecondSpotSo) {
+  Progetto(3, 3);
+  for (int i = 1; i <= 12; ++i) {
+    const auto segment = Segmento(3, "08.30");
+    Spot(3, segment, 1, "a.mp3");
+    Spot(3, segment, 2, "b.mp3");
+  }
+  Salva();
+  EXPECT_EQ(Alias().back(), "F3-0122.mp3");
+  EXPECT_TRUE(Leggi("3.pal").starts_with("08:30\tF3-0011\t\tF3-0012\t\r\n"));
+}
+
 TEST_F(SavedSchedule, ASecondTimeWithoutChangesIsTheSame) {
   Progetto(3, 3);
   for (const int day : {1, 1, 4}) {
@@ -166,6 +187,15 @@ TEST_F(SavedSchedule, TheOldOneOfModeTwoIsReplaced) {
   Salva();
   EXPECT_EQ(Leggi("PALIN.TXT"), "01:00\tF0-0011\t\r\n");
   EXPECT_EQ(Leggi("1.pal"), "of another mode");
+}
+
+TEST_F(SavedSchedule, AnOldOneOfAnotherSpellingGoes) {
+  Progetto(3, 2);
+  b.Cartella.Write("program/Projects/Hall/palin.txt", "old");
+  Spot(0, Segmento(0, "01.00"), 1, "a.mp3");
+  Salva();
+  EXPECT_FALSE(Ha("palin.txt"));
+  EXPECT_EQ(Leggi("PALIN.TXT"), "01:00\tF0-0011\t\r\n");
 }
 
 TEST_F(SavedSchedule, WithoutASegmentIsEmptyFilesAndNoQuestion) {

@@ -124,7 +124,7 @@ QLayout* frmPalinsesto::CostruisciComandi() {
 void frmPalinsesto::OrdinaTab() {
   OrdineTab({picHelp, cmbGiorno, fraFile->picDisk, fraFile->DirDirectoryMp3, fraFile->txtCerca,
              fraFile->filMp3, cmdPlayFileSx, cmdStopFileSx, Segmenti->grdSegmenti,
-             Segmenti->picAggiungiSegmento, Segmenti->picCopiaSegmento,
+             Segmenti->picNomiCopie, Segmenti->picAggiungiSegmento, Segmenti->picCopiaSegmento,
              Segmenti->picRimuoviSegmento, picDettaglio->txtOre, picDettaglio->txtMin,
              picDettaglio->grdDettaglio});
   QWidget* before = picDettaglio->grdDettaglio;

@@ -19,6 +19,9 @@ RiquadroSegmenti::RiquadroSegmenti(Contesto& contesto, ModelloSegmenti& modello,
   lblAvvisi->setWordWrap(true);
   lblAvvisi->hide();
   Corpo()->addWidget(lblAvvisi);
+  picNomiCopie = new Coppia("picNomiCopie", "lblNomiCopie", {}, "duplica", 131, this);
+  picNomiCopie->hide();
+  Corpo()->addLayout(Riga({picNomiCopie, nullptr}));
   const auto button = [this](const char* pic, const char* lbl, const char* caption,
                              const char* icon, int tag) {
     return new Coppia(pic, lbl, QLatin1String(caption), icon, tag, this);
@@ -39,10 +42,11 @@ RiquadroSegmenti::RiquadroSegmenti(Contesto& contesto, ModelloSegmenti& modello,
   });
 }
 
-void RiquadroSegmenti::MostraAvvisi(const QString& testo) {
+void RiquadroSegmenti::MostraAvvisi(const QString& testo, bool senzaNome) {
   constexpr int kWord = 240;  // pixels: the name of a file may have no blank to break at
   lblAvvisi->setText(Spezzabile(testo, lblAvvisi->fontMetrics(), kWord));
   lblAvvisi->setVisible(!testo.isEmpty());
+  picNomiCopie->setVisible(senzaNome);
 }
 
 void RiquadroSegmenti::Localizza() {
@@ -50,6 +54,8 @@ void RiquadroSegmenti::Localizza() {
   mnuDuplicaRiga->setText(text("0140038"));
   grdSegmenti->setAccessibleName(text("0140024"));
   grdSegmenti->ImpostaVuota(text("0140123"));
+  picNomiCopie->ImpostaScritta(text("0140131"));
+  picNomiCopie->setToolTip(text("0140133"));
   picAggiungiSegmento->setToolTip(text("0140109"));
   picCopiaSegmento->setToolTip(text("0140110"));
   picRimuoviSegmento->setToolTip(text("0140111"));

@@ -18,12 +18,14 @@ class RiquadroSegmenti : public Riquadro {
   QLabel* lblVociInElenco;
   GrigliaSegmenti* grdSegmenti;
   EtichettaAvviso* lblAvvisi;  ///< what a recording would do wrong
+  Coppia* picNomiCopie;        ///< gives the copies in the project their own names
   Coppia *picAggiungiSegmento, *picCopiaSegmento, *picRimuoviSegmento;
   QLabel *lblAggiungi, *lblDuplicaSegmento, *lblRimuovi;
   QMenu mnuOpzioni;  ///< of the grid
   QAction* mnuDuplicaRiga;
 
-  void MostraAvvisi(const QString& testo);
+  /// What a recording would do wrong, "" for nothing, and whether copies want their names.
+  void MostraAvvisi(const QString& testo, bool senzaNome);
   void Localizza();
 
  private:

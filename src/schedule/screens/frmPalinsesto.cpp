@@ -80,6 +80,12 @@ void frmPalinsesto::CollegaSegmenti() {
   does(Segmenti->picAggiungiSegmento, AggiungiSegmento);
   does(Segmenti->picCopiaSegmento, DuplicaSegmento);
   does(Segmenti->picRimuoviSegmento, RimuoviSegmento);
+  connect(Segmenti->picNomiCopie, &QAbstractButton::clicked, this, [this] {
+    Comando([this] {
+      copie_.RidaiNomi(editor_);
+      contate_ = -1;
+    });
+  });
   connect(Segmenti->mnuDuplicaRiga, &QAction::triggered, this,
           [this] { Comando([this] { DuplicaSegmento(editor_); }); });
   Segmenti->grdSegmenti->SuRiga = [this](std::int64_t id) {
@@ -239,7 +245,10 @@ void frmPalinsesto::AggiornaVista() {
 
 void frmPalinsesto::MostraElenco() {
   std::vector<RigaSegmento> rows = RigheDellaGriglia(editor_);
-  if (!std::exchange(settimanaLetta_, true)) settimana_.Leggi(editor_);
+  if (!std::exchange(settimanaLetta_, true)) {
+    settimana_.Leggi(editor_);
+    copie_.Leggi(editor_);
+  }
   settimana_.Rinnova(editor_.GiornoCorrente(), rows);
   std::vector<RigaProgetto> files;
   for (const RigaSegmento& segment : rows) {
@@ -288,8 +297,8 @@ void frmPalinsesto::Conta() {
   if (more) return;
   conta_.stop();
   if (std::exchange(contate_, editor_.Modifiche()) == editor_.Modifiche()) return;
-  const AvvisiPalinsesto warnings(editor_);
-  Segmenti->MostraAvvisi(Qs(warnings.Parole(C())));
+  const AvvisiPalinsesto warnings(editor_, copie_);
+  Segmenti->MostraAvvisi(Qs(warnings.Parole(C())), warnings.SenzaNome());
   modelloSpot_.ImpostaAvvisi(warnings);
 }
 

@@ -129,6 +129,7 @@ class frmPalinsesto : public Form {
   ModelloSegmenti modelloSegmenti_;
   ModelloSpot modelloSpot_;
   SettimanaPalinsesto settimana_;
+  CopieDegliSpot copie_;
   AscoltoEditor ascolto_{C(), ambiente_.Documenti, *mci1, *mciPreview, RiquadroSpot::kPosti};
   QTimer conta_;
   QTimer tmrLasciati_;
