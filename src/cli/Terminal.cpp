@@ -149,7 +149,8 @@ bool TerminalCopy::Progress(const CopyState& state) {
     line_.Show(CopyLine(operation_, state, elapsed.count()));
   }
   if (state.BytesTotal > 0 && state.BytesDone == state.BytesTotal) line_.Clear();
-  return !Interrupt::Pressed();
+  // A press amid a copy that nothing stops is for what follows it.
+  return !state.Stoppable || !Interrupt::Pressed();
 }
 
 void TerminalCopy::Failed(const CopyFailure& failure) {

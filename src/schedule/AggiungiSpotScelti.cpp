@@ -13,13 +13,14 @@ namespace {
 /// Adds one file that was looked at; what is against it, in words.
 std::string AddOne(EditorPalinsesto& editor, int slot, const FileOfferto& file, bool& full) {
   if (slot >= SlotSpot::kPosti) {
-    return TestoLinguaO(editor.C(), "0140101", "All eight slots of this segment are used.");
+    return TestoLinguaO(editor.C(), "0140101", "All eight places of this segment are used.");
   }
   const bool before = std::exchange(editor.FileMp3Valido, true);
   const EsitoSpot end = AggiungiSpot(editor, slot, EstraiCartella(file.Percorso), file.Nome);
   editor.FileMp3Valido = before;
   full = end == EsitoSpot::Pieno;
-  return {};
+  if (end == EsitoSpot::Aggiunto || full) return {};
+  return TestoLinguaO(editor.C(), "0140134", "It couldn't be stored.");
 }
 
 }  // namespace

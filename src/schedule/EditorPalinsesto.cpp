@@ -97,6 +97,8 @@ void EditorPalinsesto::MostraOrario() {
   const std::size_t dot = time.find('.');
   txtOre = time.substr(0, dot);
   txtMin = dot == std::string::npos ? std::string() : time.substr(dot + 1);
+  // The hour can't be typed there: without it a segment without a time could never get one.
+  if (time.empty() && segmentoCorrente_ > 0 && disposizione_.OreBloccate) txtOre = "00";
 }
 
 void EditorPalinsesto::AggiornaSlotSpot() {

@@ -83,6 +83,10 @@ class EditorPalinsesto {
   std::function<void()> SuElenco;
   std::function<void()> SuDettaglio;
   std::function<void()> SuFuocoOrario;
+  /// Called when the fields of the time are to be shown, and all that has changed, at once: a box
+  /// follows.
+  std::function<void()> SuOrario;
+  std::function<void()> SuMostra;
 
   /// How many changes were made since the load, as a person counts them.
   int Modifiche() const { return modifiche_; }

@@ -21,6 +21,12 @@ std::string Left(const std::string& text, double limit, const Locale& locale) {
   return FormatDigits(number && *number < limit ? *number : 0, 2);
 }
 
+/// Shows the fields as they are now, also under the box that may follow, and saves.
+bool Save(EditorPalinsesto& editor) {
+  if (editor.SuOrario) editor.SuOrario();
+  return SalvaOrarioSegmento(editor, false);
+}
+
 }  // namespace
 
 bool TastoOrario(char32_t carattere) {
@@ -36,23 +42,29 @@ std::string DigitatoSopra(std::string_view contenuto, std::string_view testo) {
   return digits.empty() ? std::string(contenuto) : digits;
 }
 
-void LasciaOre(EditorPalinsesto& editor) {
+bool LasciaOre(EditorPalinsesto& editor) {
   editor.txtOre = Left(editor.txtOre, kHours, editor.C().Luogo);
-  SalvaOrarioSegmento(editor, false);
+  return Save(editor);
 }
 
-void LasciaMin(EditorPalinsesto& editor) {
+bool LasciaMin(EditorPalinsesto& editor) {
   editor.txtMin = Left(editor.txtMin, kMinutes, editor.C().Luogo);
-  SalvaOrarioSegmento(editor, false);
+  return Save(editor);
 }
 
-void SalvaOrarioSegmento(EditorPalinsesto& editor, bool controllaDoppi) {
+bool LasciaOreEMin(EditorPalinsesto& editor) {
+  editor.txtOre = Left(editor.txtOre, kHours, editor.C().Luogo);
+  editor.txtMin = Left(editor.txtMin, kMinutes, editor.C().Luogo);
+  return Save(editor);
+}
+
+bool SalvaOrarioSegmento(EditorPalinsesto& editor, bool controllaDoppi) {
   const Locale& locale = editor.C().Luogo;
   const OwnError own(editor.C().Errore);
   const std::int64_t id = editor.SegmentoCorrente();
   const auto hours = TextToNumber(editor.txtOre, locale);
   const auto minutes = TextToNumber(editor.txtMin, locale);
-  if (id <= 0 || !hours || !minutes) return;
+  if (id <= 0 || !hours || !minutes) return false;
   const std::string time = FormatDigits(*hours, 2) + "." + FormatDigits(*minutes, 2);
   const std::string before = OraConPunto(OraDa(editor.rsSegmenti().Text("StartTime")));
   const bool stored = editor.Record(editor.ConnessionePalinsesto().Execute(
@@ -60,6 +72,7 @@ void SalvaOrarioSegmento(EditorPalinsesto& editor, bool controllaDoppi) {
   if (stored && before != time) editor.Modificato();
   if (!controllaDoppi) VerificaOrarioDoppio(editor, time, id);
   editor.AggiornaElencoSegmenti(id);
+  return stored;
 }
 
 void VerificaOrarioDoppio(EditorPalinsesto& editor, const std::string& orario, std::int64_t id) {

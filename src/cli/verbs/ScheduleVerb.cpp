@@ -22,6 +22,7 @@ using Words = std::vector<std::string>;
 
 constexpr std::uint32_t kHighest = 2147483647;  // of a number in a command
 constexpr const char* kNoSegment = "no segment is selected";
+constexpr const char* kNotWritten = "the working copy can't be written";
 
 class ScheduleSession : public EditingCommands {
  public:
@@ -44,9 +45,14 @@ class ScheduleSession : public EditingCommands {
   /// one that holds a spot.
   template <typename Work>
   Outcome WithSlot(const std::string& word, bool occupied, Work work);
+  /// Runs a command that changes something; refused where nothing was.
+  template <typename Work>
+  Outcome Changing(Work work);
   /// The current row of the grid, and its spots.
   void ListSegment();
   Json SpotsOfCurrent();
+  template <typename Visit>
+  void WalkSpots(Visit visit);
 
   Outcome Day(const Words& words);
   Outcome List(const Words& words);
@@ -91,8 +97,18 @@ Outcome ScheduleSession::WithSlot(const std::string& word, bool occupied, Work w
   if (!slot || *slot < 1) return Refuse("a segment has the slots 1 to 8");
   if (!HasSegment()) return Refuse(kNoSegment);
   const int index = static_cast<int>(*slot) - 1;
-  if (occupied && index >= editor_.QuantiSpot()) return Refuse("this slot is empty");
+  const bool used = index < editor_.QuantiSpot();
+  if (occupied && !used) return Refuse("this slot is empty");
+  // The routines go by Pos, which damage, or a duplicate's hidden spots, may have led astray.
+  if (used && !VaiAlloSlot(editor_, index)) return Refuse("no spot of this segment has this place");
   return work(index);
+}
+
+template <typename Work>
+Outcome ScheduleSession::Changing(Work work) {
+  const int before = editor_.Modifiche();
+  work();
+  return editor_.Modifiche() > before ? Outcome::Done : Refuse(kNotWritten);
 }
 
 Outcome ScheduleSession::Day(const Words& words) {
@@ -105,18 +121,25 @@ Outcome ScheduleSession::Day(const Words& words) {
   return Outcome::Done;
 }
 
+template <typename Visit>
+void ScheduleSession::WalkSpots(Visit visit) {
+  const Error failure = WalkRows(editor_.rsDettaglio(), [&] {
+    visit();
+    return true;
+  });
+  if (failure) session_.Out().Say("scheduler.mdb: " + failure.Description());
+}
+
 Json ScheduleSession::SpotsOfCurrent() {
   Json all = Json::array();
   auto& spots = editor_.rsDettaglio();
-  const Error failure = WalkRows(spots, [&] {
+  WalkSpots([&] {
     Json spot;
     for (const char* column : {"ID", "Pos", "NPlaylist", "FileName", "FilePath", "Alias"}) {
       spot[column] = ValueOf(spots, column);
     }
     all.push_back(std::move(spot));
-    return true;
   });
-  if (failure) session_.Out().Say("scheduler.mdb: " + failure.Description());
   return all;
 }
 
@@ -124,37 +147,36 @@ void ScheduleSession::ListSegment() {
   auto& out = session_.Out();
   auto& rows = editor_.rsSegmenti();
   const std::string time = OraConDuePunti(OraDa(rows.Text("StartTime")));
-  const Json spots = SpotsOfCurrent();
   if (out.IsJson()) {
     out.Object({{"ID", rows.Number("ID")},
                 {"NScheduler", editor_.GiornoCorrente()},
                 {"StartTime", time.empty() ? Json(nullptr) : Json(time)},
-                {"Spots", spots}});
+                {"Spots", SpotsOfCurrent()}});
     return;
   }
   out.Line((time.empty() ? "--:--" : time) + "  segment " + rows.Text("ID"));
-  for (const Json& each : spots) {
-    const auto text = [&each](const char* column) {
-      return each[column].is_string() ? each[column].get<std::string>() : std::string();
-    };
-    const std::string pos = each["Pos"].is_null() ? "-" : each["Pos"].dump();
-    const std::string path = AggiungiBarra(text("FilePath")) + text("FileName");
-    out.Line("    " + pos + "  " + PercorsoPerPersone(Context(), path));
-  }
+  auto& spots = editor_.rsDettaglio();
+  WalkSpots([&] {
+    const std::string pos = spots.Text("Pos");
+    const std::string path = AggiungiBarra(spots.Text("FilePath")) + spots.Text("FileName");
+    out.Line("    " + (pos.empty() ? "-" : pos) + "  " + PercorsoPerPersone(Context(), path));
+  });
 }
 
 Outcome ScheduleSession::List(const Words& /*words*/) {
   auto& rows = editor_.rsSegmenti();
   const std::int64_t current = editor_.SegmentoCorrente();
-  const Error failure = WalkRows(rows, [this] {
+  int listed = 0;
+  const Error failure = WalkRows(rows, [&] {
     editor_.RigaCambiata();
     ListSegment();
+    ++listed;
     return true;
   });
   if (failure) session_.Out().Say("scheduler.mdb: " + failure.Description());
   editor_.VaiAlSegmento(current);
   if (session_.Out().IsJson()) {
-    session_.Out().Object({{"end", "list"}, {"rows", editor_.QuantiSegmenti()}});
+    session_.Out().Object({{"end", "list"}, {"rows", listed}});
   }
   return Outcome::Done;
 }
@@ -165,7 +187,7 @@ Outcome ScheduleSession::SegmentAdd(const Words& /*words*/) {
   AggiungiSegmento(editor_);
   const bool told = before > kSegmentiOltreCui;
   if (told || editor_.QuantiSegmenti() > before) return Outcome::Done;
-  return Refuse("the working copy can't be written");
+  return Refuse(kNotWritten);
 }
 
 Outcome ScheduleSession::SegmentSelect(const Words& words) {
@@ -179,14 +201,16 @@ Outcome ScheduleSession::SegmentSelect(const Words& words) {
 
 Outcome ScheduleSession::SegmentCopy(const Words& /*words*/) {
   if (!HasSegment()) return Refuse(kNoSegment);
-  DuplicaSegmento(editor_);
-  return Outcome::Done;
+  return Changing([this] { DuplicaSegmento(editor_); });
 }
 
 Outcome ScheduleSession::SegmentRemove(const Words& /*words*/) {
   if (!HasSegment()) return Refuse(kNoSegment);
+  constexpr std::uint8_t kYes = 1;
+  const int before = editor_.Modifiche();
   RimuoviSegmento(editor_);
-  return Outcome::Done;
+  const bool kept = editor_.Modifiche() == before && Context().Stato.RispostaSiNo == kYes;
+  return kept ? Refuse(kNotWritten) : Outcome::Done;
 }
 
 Outcome ScheduleSession::Time(const Words& words) {
@@ -196,8 +220,7 @@ Outcome ScheduleSession::Time(const Words& words) {
     LasciaOre(editor_);
   }
   editor_.txtMin = DigitatoSopra(editor_.txtMin, words[2]);
-  LasciaMin(editor_);
-  return Outcome::Done;
+  return LasciaMin(editor_) ? Outcome::Done : Refuse(kNotWritten);
 }
 
 Outcome ScheduleSession::SpotAdd(const Words& words) {
@@ -209,30 +232,26 @@ Outcome ScheduleSession::SpotAdd(const Words& words) {
     const auto end =
         AggiungiSpot(editor_, slot, EstraiCartella(given.Path), EstraiNomeFile(given.Path));
     if (end != EsitoSpot::NonScritto) return Outcome::Done;
-    return Refuse("the working copy can't be written");
+    return Refuse(kNotWritten);
   });
 }
 
 Outcome ScheduleSession::SpotRemove(const Words& words) {
-  return WithSlot(words[2], true, [this](int slot) {
-    RimuoviSpot(editor_, slot);
-    return Outcome::Done;
-  });
+  return WithSlot(words[2], true,
+                  [this](int slot) { return Changing([&] { RimuoviSpot(editor_, slot); }); });
 }
 
 Outcome ScheduleSession::SpotUp(const Words& words) {
   return WithSlot(words[2], true, [this](int slot) {
     if (slot == 0) return Refuse("this is the first spot");
-    SpostaSpot(editor_, slot, false);
-    return Outcome::Done;
+    return Changing([&] { SpostaSpot(editor_, slot, false); });
   });
 }
 
 Outcome ScheduleSession::SpotDown(const Words& words) {
   return WithSlot(words[2], true, [this](int slot) {
     if (slot + 1 >= editor_.QuantiSpot()) return Refuse("this is the last spot");
-    SpostaSpot(editor_, slot, true);
-    return Outcome::Done;
+    return Changing([&] { SpostaSpot(editor_, slot, true); });
   });
 }
 

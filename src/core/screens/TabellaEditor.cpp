@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScrollBar>
 
 #include "core/screens/Tabella.h"
 #include "core/screens/Tema.h"
@@ -43,9 +44,19 @@ void TabellaEditor::VaiA(std::int64_t id) {
     return;
   }
   const QModelIndex first = model()->index(row, 0);
+  const int sideways = horizontalScrollBar()->value();  // the user looks at other columns
   selectionModel()->setCurrentIndex(
       first, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
   scrollTo(first);
+  horizontalScrollBar()->setValue(sideways);
+}
+
+QItemSelectionModel::SelectionFlags TabellaEditor::selectionCommand(const QModelIndex& indice,
+                                                                    const QEvent* evento) const {
+  if (selectionMode() != SingleSelection) return QTableView::selectionCommand(indice, evento);
+  // The current row is the selected one, whatever keys are held.
+  return indice.isValid() ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
+                          : QItemSelectionModel::NoUpdate;
 }
 
 void TabellaEditor::ImpostaVuota(const QString& testo) {

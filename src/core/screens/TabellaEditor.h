@@ -47,6 +47,8 @@ class TabellaEditor : public QTableView {
   };
 
   void currentChanged(const QModelIndex& ora, const QModelIndex& prima) override;
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& indice,
+                                                       const QEvent* evento) const override;
   void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 

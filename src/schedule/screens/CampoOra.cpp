@@ -19,6 +19,7 @@ CampoOra::CampoOra(const char* nome, QWidget* padre) : QLineEdit(padre) {
   setFixedSize(kWidth, kHeight);
   setProperty(kLasciaAlClic, true);
   setAttribute(Qt::WA_InputMethodEnabled, false);  // digits are typed key by key
+  setAcceptDrops(false);                           // files come with their paths as text
 }
 
 void CampoOra::Mostra(const QString& testo) {
@@ -28,6 +29,7 @@ void CampoOra::Mostra(const QString& testo) {
 }
 
 void CampoOra::keyPressEvent(QKeyEvent* event) {
+  if (PrimaDelTasto) PrimaDelTasto();
   const char32_t character = TastoDigitato(*event);
   if (character == U'\r') {
     if (SuInvio) SuInvio();

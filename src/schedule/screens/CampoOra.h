@@ -13,8 +13,8 @@ class CampoOra : public QLineEdit {
 
   /// Shows a text unless it stands there already.
   void Mostra(const QString& testo);
-  /// Called when the field is left, and for Enter.
-  std::function<void()> SuLascia, SuInvio;
+  /// Called when the field is left, for Enter, and before each key.
+  std::function<void()> SuLascia, SuInvio, PrimaDelTasto;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;

@@ -18,7 +18,7 @@ QToolButton* NewArrow(const QString& name, const char* icon, QWidget* parent) {
   arrow->setIconSize({12, 12});
   arrow->setFixedSize(kSize);
   arrow->setAutoRaise(true);
-  arrow->setFocusPolicy(Qt::TabFocus);
+  arrow->setFocusPolicy(Qt::StrongFocus);  // a click leaves a field that is being typed in
   return arrow;
 }
 

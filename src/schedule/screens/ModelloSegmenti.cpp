@@ -69,13 +69,11 @@ std::size_t ModelloSegmenti::Mancanti(const RigaSegmento& riga) const {
 QString ModelloSegmenti::Contiene(const RigaSegmento& riga) const {
   if (riga.Spot.empty()) return senzaSpot_;
   QString words = Qs(ParoleSpot(contesto_, riga.Spot.size()));
-  if (const std::string length = Durata(riga); !length.empty()) {
-    words += QStringLiteral(", ") + Qs(length);
-  }
   if (const std::size_t missing = Mancanti(riga); missing > 0) {
-    words += QStringLiteral(", ") + Qs(ParoleMancanti(contesto_, missing));
+    return words + QStringLiteral(", ") + Qs(ParoleMancanti(contesto_, missing));
   }
-  return words;
+  const std::string length = Durata(riga);
+  return length.empty() ? words : words + QStringLiteral(", ") + Qs(length);
 }
 
 QString ModelloSegmenti::Riassunto(const RigaSegmento& riga) const {

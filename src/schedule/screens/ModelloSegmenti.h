@@ -24,7 +24,8 @@ class ModelloSegmenti : public QAbstractTableModel {
   const RigaSegmento* Riga(std::int64_t id) const;
   /// Shows what was learnt of the files.
   void FattiCambiati();
-  /// What a segment holds: "3 spots, 2:14, 1 missing"; the time once all its files were looked at.
+  /// What a segment holds: "3 spots, 2:14", the time once all its files were looked at; or "3
+  /// spots, 1 missing".
   QString Contiene(const RigaSegmento& riga) const;
   /// Takes its words from the language file.
   void Localizza();

@@ -135,6 +135,21 @@ void RiquadroSpot::MostraSlot(const SlotSpot& slot) {
   }
 }
 
+bool RiquadroSpot::Perde(const QWidget& controllo, const SlotSpot& slot) const {
+  for (std::size_t i = 0; i < kPosti; ++i) {
+    const UnoSlot& one = slot.Slot[i];
+    const FrecceSpot& arrows = *UpDownFile[i];
+    const bool last = static_cast<int>(i) == slot.CopriDown;
+    if (&controllo == picPlay[i]) return !one.picPlay;
+    if (&controllo == picStop[i]) return !one.picStop;
+    if (&controllo == picAggiungiSpot[i]) return !one.picAggiungiSpot;
+    if (&controllo == picRimuoviSpot[i]) return !one.picRimuoviSpot;
+    if (&controllo == arrows.Su) return !one.UpDownFile || i == 0;
+    if (&controllo == arrows.Giu) return !one.UpDownFile || last;
+  }
+  return false;
+}
+
 void RiquadroSpot::MostraEsito(const QString& testo) {
   constexpr int kWord = 240;  // pixels: the name of a file may have no blank to break at
   lblEsito->setText(Spezzabile(testo, lblEsito->fontMetrics(), kWord));

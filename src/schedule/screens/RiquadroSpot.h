@@ -35,6 +35,8 @@ class RiquadroSpot : public Riquadro {
 
   /// Shows and hides the controls of the slots.
   void MostraSlot(const SlotSpot& slot);
+  /// Whether a control that has the keyboard is among those that these slots hide or cover.
+  bool Perde(const QWidget& controllo, const SlotSpot& slot) const;
   /// Says what was not taken; "" takes that away.
   void MostraEsito(const QString& testo);
   /// The stop buttons take room only where this program plays.

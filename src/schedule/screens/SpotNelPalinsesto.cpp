@@ -132,6 +132,7 @@ void frmPalinsesto::CollegaSlot() {
     };
   }
   picDettaglio->SuFile = [this](int slot, const std::vector<std::string>& files) {
+    LasciaIlCampo();  // files from another program take no keyboard with them
     Comando([this, slot, &files] { AggiungiFile(slot, files); });
   };
   grid->SuRimuovi = [this] {

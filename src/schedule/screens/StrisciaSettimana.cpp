@@ -31,6 +31,7 @@ StrisciaSettimana::StrisciaSettimana(Contesto& contesto, QWidget* padre)
   setObjectName(QStringLiteral("picSettimana"));
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   setCursor(Qt::PointingHandCursor);
+  setFocusPolicy(Qt::ClickFocus);  // a click leaves a field that is being typed in
 }
 
 void StrisciaSettimana::ImpostaForma(Forma forma) {

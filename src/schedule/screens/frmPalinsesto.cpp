@@ -43,6 +43,8 @@ void frmPalinsesto::Collega() {
   editor_.SuElenco = [this] { elencoCambiato_ = true; };
   editor_.SuDettaglio = [this] { dettaglioCambiato_ = true; };
   editor_.SuFuocoOrario = [this] { fuocoOrario_ = true; };
+  editor_.SuOrario = [this] { MostraOrario(); };
+  editor_.SuMostra = [this] { AggiornaVista(); };
   for (QTimer* each : {&tmrIniziale, &tmrAggiornaLayout, &tmrLasciati_}) each->setSingleShot(true);
   tmrLasciati_.setInterval(kPoll);
   connect(&tmrIniziale, &QTimer::timeout, this,
@@ -89,7 +91,9 @@ void frmPalinsesto::CollegaSegmenti() {
   connect(Segmenti->mnuDuplicaRiga, &QAction::triggered, this,
           [this] { Comando([this] { DuplicaSegmento(editor_); }); });
   Segmenti->grdSegmenti->SuRiga = [this](std::int64_t id) {
-    Comando([this, id] { editor_.VaiAlSegmento(id); });
+    segmentoVoluto_ = id;
+    // A list that is sorted anew under the pressed button would have the click select another row.
+    if (!Lasciati() || QGuiApplication::mouseButtons() == Qt::NoButton) VaiAlVoluto();
   };
   Segmenti->grdSegmenti->SuRimuovi = [this] { Comando([this] { RimuoviSegmento(editor_); }); };
   picSettimana->SuSegmento = [this](std::int16_t day, std::int64_t segment) {
@@ -104,6 +108,10 @@ void frmPalinsesto::CollegaOrario() {
           [this](const QString& text) { editor_.txtOre = Std(text); });
   connect(minutes, &QLineEdit::textEdited, this,
           [this](const QString& text) { editor_.txtMin = Std(text); });
+  // A key may come before the check of the field that was left has had its turn.
+  minutes->PrimaDelTasto = hours->PrimaDelTasto = [this] {
+    if (Lasciati()) VaiAlVoluto();
+  };
   hours->SuInvio = [minutes] { minutes->setFocus(Qt::TabFocusReason); };
   minutes->SuInvio = [this] { picDettaglio->grdDettaglio->setFocus(Qt::TabFocusReason); };
   hours->SuLascia = [this] {
@@ -117,17 +125,36 @@ void frmPalinsesto::CollegaOrario() {
 }
 
 void frmPalinsesto::ControllaLasciati() {
-  if (std::exchange(lasciateOre_, false)) LasciaOre(editor_);
-  if (std::exchange(lasciatiMin_, false)) LasciaMin(editor_);
+  const bool hours = std::exchange(lasciateOre_, false);
+  const bool minutes = std::exchange(lasciatiMin_, false);
+  if (hours && minutes) {
+    LasciaOreEMin(editor_);
+  } else if (hours) {
+    LasciaOre(editor_);
+  } else if (minutes) {
+    LasciaMin(editor_);
+  }
+}
+
+void frmPalinsesto::LasciaIlCampo() {
+  lasciateOre_ = lasciateOre_ || focusWidget() == picDettaglio->txtOre;
+  lasciatiMin_ = lasciatiMin_ || focusWidget() == picDettaglio->txtMin;
+}
+
+void frmPalinsesto::VaiAlVoluto() {
+  const auto id = std::exchange(segmentoVoluto_, 0);
+  Comando([this, id] {
+    if (id > 0) editor_.VaiAlSegmento(id);
+  });
 }
 
 void frmPalinsesto::ControllaPoi() {
-  if (!lasciateOre_ && !lasciatiMin_) return;
+  if (!Lasciati()) return;
   if (QGuiApplication::mouseButtons() != Qt::NoButton) {
     tmrLasciati_.start(kPoll);
     return;
   }
-  Comando([] {});
+  VaiAlVoluto();
 }
 
 void frmPalinsesto::RiempiGiorni() {
@@ -275,15 +302,32 @@ void frmPalinsesto::MostraDettaglio() {
     const auto at = std::min(static_cast<std::size_t>(std::max(slot, 0)), spots.size() - 1);
     picDettaglio->grdDettaglio->VaiA(spots[at].ID);
   }
-  picDettaglio->txtOre->Mostra(Qs(editor_.txtOre));
-  picDettaglio->txtMin->Mostra(Qs(editor_.txtMin));
+  MostraOrario();
   picDettaglio->lblTotaleSpot->setText(segment == nullptr ? QString()
                                                           : modelloSegmenti_.Contiene(*segment));
+  TieniFuoco();
   picDettaglio->MostraSlot(editor_.Slot());
   for (QWidget* each : {Segmenti->picCopiaSegmento, Segmenti->picRimuoviSegmento}) {
     each->setEnabled(id > 0);
   }
   MostraAscolto();
+}
+
+void frmPalinsesto::MostraOrario() {
+  picDettaglio->txtOre->Mostra(Qs(editor_.txtOre));
+  picDettaglio->txtMin->Mostra(Qs(editor_.txtMin));
+}
+
+void frmPalinsesto::TieniFuoco() {
+  QWidget* const focus = focusWidget();
+  if (focus == nullptr) return;
+  const bool inside = picDettaglio->isAncestorOf(focus);
+  const bool buttons = focus == Segmenti->picCopiaSegmento || focus == Segmenti->picRimuoviSegmento;
+  if (!editor_.Slot().picDettaglio) {
+    if (inside || buttons) Segmenti->picAggiungiSegmento->setFocus(Qt::OtherFocusReason);
+  } else if (inside && picDettaglio->Perde(*focus, editor_.Slot())) {
+    picDettaglio->grdDettaglio->setFocus(Qt::OtherFocusReason);
+  }
 }
 
 void frmPalinsesto::Conta() {

@@ -90,11 +90,20 @@ class frmPalinsesto : public Form {
   void Comando(const std::function<void()>& azione);
   /// The checks of the fields of the start time that were left.
   void ControllaLasciati();
+  bool Lasciati() const { return lasciateOre_ || lasciatiMin_; }
+  /// A field that has the keyboard is left, though it keeps it: something else changes the segment.
+  void LasciaIlCampo();
+  /// Goes to the segment that was clicked, if one was, after the checks.
+  void VaiAlVoluto();
   /// Has them run by themselves, once no button of the mouse is held: a box amid a click would
   /// swallow the rest of it.
   void ControllaPoi();
   void AggiornaVista();
   void MostraElenco();
+  void MostraOrario();
+  /// Leads the keyboard away from a control that is about to be hidden or disabled: by itself it
+  /// might come to the button that leaves.
+  void TieniFuoco();
   void MostraDettaglio();
   /// Learns about a few more of the files.
   void Conta();
@@ -136,11 +145,12 @@ class frmPalinsesto : public Form {
   bool lasciateOre_ = false, lasciatiMin_ = false;
   bool elencoCambiato_ = false, dettaglioCambiato_ = false, fuocoOrario_ = false;
   bool settimanaLetta_ = false;
-  bool daContare_ = false;      ///< once no run is under way
-  int contate_ = -1;            ///< the changes at the last look for warnings
-  std::int64_t mostrato_ = -1;  ///< the segment that the detail shows
-  int slotVoluto_ = -1;         ///< to be the current row of grdDettaglio
-  int suonaSlot_ = -1;          ///< the slot that plays, and whose segment it is
+  bool daContare_ = false;           ///< once no run is under way
+  int contate_ = -1;                 ///< the changes at the last look for warnings
+  std::int64_t mostrato_ = -1;       ///< the segment that the detail shows
+  std::int64_t segmentoVoluto_ = 0;  ///< clicked while a check waits
+  int slotVoluto_ = -1;              ///< to be the current row of grdDettaglio
+  int suonaSlot_ = -1;               ///< the slot that plays, and whose segment it is
   std::int64_t suonaSegmento_ = 0;
   bool suonaMuto_ = false;
   bool lasciata_ = false;
