@@ -21,9 +21,9 @@ std::string Query() {
   std::string query = "SELECT [HEAD].ID,[HEAD].[NScheduler],[HEAD].[StartTime]";
   for (int place = 1; place <= kPlaces; ++place) {
     const std::string number = std::to_string(place);
-    query +=
-        ",(SELECT TOP 1 [Filename] FROM [List] WHERE [NPlaylist]=[HEAD].[NScheduler] AND Pos=" +
-        number + " AND IDSched=[HEAD].ID) AS Spot" + number;
+    query.append(",(SELECT TOP 1 [Filename] FROM [List] WHERE [NPlaylist]=[HEAD].[NScheduler]")
+        .append(" AND Pos=" + number)
+        .append(" AND IDSched=[HEAD].ID) AS Spot" + number);
   }
   return query + " FROM [HEAD] ORDER BY [HEAD].[NScheduler],[HEAD].[StartTime] ASC";
 }

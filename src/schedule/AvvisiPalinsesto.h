@@ -26,6 +26,7 @@ class AvvisiPalinsesto {
   bool CopiaVecchia(std::int64_t id) const { return vecchie_.contains(id); }
   /// Whether its file gets onto the card under the name of another spot alone.
   bool Ripetuto(std::int64_t id) const { return ripetuti_.contains(id); }
+  bool Ripetuti() const { return !ripetuti_.empty(); }
   /// Whether copies are to be given their own names first.
   bool SenzaNome() const { return senzaNome_; }
   /// What to do about them, a line for each kind that there is, which names the first one.

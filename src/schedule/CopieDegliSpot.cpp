@@ -85,9 +85,11 @@ void CopieDegliSpot::PortaInProgetto(EditorPalinsesto& editor, std::int64_t id, 
   const std::string project = AggiungiBarra(context.Stato.CartellaProgetto);
   const bool there = FileExists(context.Files, FileDelProgetto(context, copia.Nome));
   if (!there || EqualFold(copia.Cartella, project)) return;
-  const Error error = editor.ConnessionePalinsesto().Execute(
-      "UPDATE [List] SET [FilePath]='" + project + "' WHERE ID=" + std::to_string(id));
-  if (!editor.Record(error)) return;
+  Recordset row;
+  const std::string query = "SELECT * FROM [List] WHERE ID=" + std::to_string(id);
+  if (!editor.Record(row.Open(editor.ConnessionePalinsesto(), query))) return;
+  editor.Record(row.Set("FilePath", project));
+  if (!editor.Record(row.Update())) return;
   copia.Cartella = project;
   editor.Modificato();
 }

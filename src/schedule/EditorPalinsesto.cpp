@@ -38,8 +38,9 @@ std::string EditorPalinsesto::IstruzioneSegmenti() const {
   std::string query = "SELECT [HEAD].ID,[HEAD].[StartTime]";
   for (int place = 1; place <= SlotSpot::kPosti; ++place) {
     const std::string number = std::to_string(place);
-    query += ",(SELECT TOP 1 [Filename] FROM [List] WHERE [NPlaylist]=" + day +
-             " AND Pos=" + number + " AND IDSched=[HEAD].ID) AS Spot" + number;
+    query.append(",(SELECT TOP 1 [Filename] FROM [List] WHERE [NPlaylist]=" + day)
+        .append(" AND Pos=" + number)
+        .append(" AND IDSched=[HEAD].ID) AS Spot" + number);
   }
   return query + " FROM [HEAD] WHERE [NScheduler]=" + day + " ORDER BY [StartTime] ASC";
 }

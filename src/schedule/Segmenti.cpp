@@ -107,6 +107,7 @@ void DuplicaSegmento(EditorPalinsesto& editor) {
   if (to < 1) return;
   CopySpots(editor, from, to);
   editor.SelezionaNuovo(to);
+  if (editor.SuFuocoOrario) editor.SuFuocoOrario();
   if (editor.SuMostra) editor.SuMostra();
   DiciPalinsesto(context, TestoLingua(context, "0140038"), TestoLingua(context, "0140039"));
 }

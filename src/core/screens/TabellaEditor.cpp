@@ -96,6 +96,11 @@ void TabellaEditor::keyPressEvent(QKeyEvent* event) {
 
 void TabellaEditor::paintEvent(QPaintEvent* event) {
   QTableView::paintEvent(event);
+  if (frameShape() == NoFrame && hasFocus()) {  // no frame shows it
+    QPainter ring(viewport());
+    ring.setPen(QPen(Tema::Corrente().Fuoco, 2));
+    ring.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
+  }
   if (model()->rowCount() > 0 || vuota_.isEmpty()) return;
   QPainter painter(viewport());
   painter.setPen(Tema::Corrente().Attenuato);

@@ -124,9 +124,9 @@ QLayout* frmPalinsesto::CostruisciComandi() {
 void frmPalinsesto::OrdinaTab() {
   OrdineTab({picHelp, cmbGiorno, fraFile->picDisk, fraFile->DirDirectoryMp3, fraFile->txtCerca,
              fraFile->filMp3, cmdPlayFileSx, cmdStopFileSx, Segmenti->grdSegmenti,
-             Segmenti->picNomiCopie, Segmenti->picAggiungiSegmento, Segmenti->picCopiaSegmento,
-             Segmenti->picRimuoviSegmento, picDettaglio->txtOre, picDettaglio->txtMin,
-             picDettaglio->grdDettaglio});
+             Segmenti->picNomiCopie, Segmenti->picCopiaRipetuti, Segmenti->picAggiungiSegmento,
+             Segmenti->picCopiaSegmento, Segmenti->picRimuoviSegmento, picDettaglio->txtOre,
+             picDettaglio->txtMin, picDettaglio->grdDettaglio});
   QWidget* before = picDettaglio->grdDettaglio;
   const auto next = [&before](QWidget* after) {
     setTabOrder(before, after);

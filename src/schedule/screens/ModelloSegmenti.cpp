@@ -37,6 +37,11 @@ const RigaSegmento* ModelloSegmenti::Riga(std::int64_t id) const {
   return found == righe_.end() ? nullptr : &*found;
 }
 
+void ModelloSegmenti::ImpostaAvvisi(AvvisiPalinsesto avvisi) {
+  avvisi_ = std::move(avvisi);
+  FattiCambiati();
+}
+
 void ModelloSegmenti::FattiCambiati() {
   if (!righe_.empty()) emit dataChanged(index(0, 0), index(rowCount() - 1, Colonne - 1));
 }
@@ -101,10 +106,17 @@ QString ModelloSegmenti::Suggerisce(const RigaSegmento& riga) const {
   return Suggerimento(tip);
 }
 
+bool ModelloSegmenti::Avvisa(const RigaSegmento& riga) const {
+  return riga.StessaOra || riga.Spot.empty() ||
+         std::ranges::any_of(riga.Spot, [this](const RigaSpot& each) {
+           return avvisi_.CopiaVecchia(each.ID) || avvisi_.Ripetuto(each.ID);
+         });
+}
+
 QVariant ModelloSegmenti::Colore(const RigaSegmento& riga, int colonna) const {
   const Tema& tema = Tema::Corrente();
   if (colonna == Contenuto && Mancanti(riga) > 0) return tema.Errore;
-  const bool warns = colonna == Inizio ? riga.StessaOra : riga.StessaOra || riga.Spot.empty();
+  const bool warns = colonna == Inizio ? riga.StessaOra : Avvisa(riga);
   if (colonna <= Contenuto && warns) return tema.Avviso;
   return colonna == Contenuto ? QVariant(tema.Attenuato) : QVariant();
 }
@@ -123,7 +135,7 @@ QVariant ModelloSegmenti::data(const QModelIndex& indice, int ruolo) const {
     case Qt::ForegroundRole:
       return Colore(row, column);
     case Qt::DecorationRole:
-      if (column != Contenuto || !(row.StessaOra || row.Spot.empty())) return {};
+      if (column != Contenuto || !Avvisa(row)) return {};
       return IconaDi(QStringLiteral("avviso"), Tema::Corrente().Avviso);
     default:
       return {};

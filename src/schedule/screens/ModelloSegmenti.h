@@ -24,6 +24,8 @@ class ModelloSegmenti : public QAbstractTableModel {
   const RigaSegmento* Riga(std::int64_t id) const;
   /// Shows what was learnt of the files.
   void FattiCambiati();
+  /// Marks the segments with spots that a recording would do wrong by.
+  void ImpostaAvvisi(AvvisiPalinsesto avvisi);
   /// What a segment holds: "3 spots, 2:14", the time once all its files were looked at; or "3
   /// spots, 1 missing".
   QString Contiene(const RigaSegmento& riga) const;
@@ -42,10 +44,13 @@ class ModelloSegmenti : public QAbstractTableModel {
   std::string Durata(const RigaSegmento& riga) const;
   QString Suggerisce(const RigaSegmento& riga) const;
   QVariant Colore(const RigaSegmento& riga, int colonna) const;
+  /// Whether something of it wants to be looked at.
+  bool Avvisa(const RigaSegmento& riga) const;
   std::size_t Mancanti(const RigaSegmento& riga) const;
 
   Contesto& contesto_;
   const ContoBrani& conto_;
+  AvvisiPalinsesto avvisi_;
   std::vector<RigaSegmento> righe_;
   QStringList titoli_;
   QString senzaSpot_, stessaOra_;

@@ -19,9 +19,12 @@ RiquadroSegmenti::RiquadroSegmenti(Contesto& contesto, ModelloSegmenti& modello,
   lblAvvisi->setWordWrap(true);
   lblAvvisi->hide();
   Corpo()->addWidget(lblAvvisi);
-  picNomiCopie = new Coppia("picNomiCopie", "lblNomiCopie", {}, "duplica", 131, this);
-  picNomiCopie->hide();
-  Corpo()->addLayout(Riga({picNomiCopie, nullptr}));
+  picNomiCopie = new Coppia("picNomiCopie", "lblNomiCopie", {}, "duplica", -1, this);
+  picCopiaRipetuti = new Coppia("picCopiaRipetuti", "lblCopiaRipetuti", {}, "duplica", -1, this);
+  for (Coppia* each : {picNomiCopie, picCopiaRipetuti}) {
+    each->hide();
+    Corpo()->addWidget(each, 0, Qt::AlignLeft);
+  }
   const auto button = [this](const char* pic, const char* lbl, const char* caption,
                              const char* icon, int tag) {
     return new Coppia(pic, lbl, QLatin1String(caption), icon, tag, this);
@@ -42,11 +45,12 @@ RiquadroSegmenti::RiquadroSegmenti(Contesto& contesto, ModelloSegmenti& modello,
   });
 }
 
-void RiquadroSegmenti::MostraAvvisi(const QString& testo, bool senzaNome) {
+void RiquadroSegmenti::MostraAvvisi(const QString& testo, bool senzaNome, bool ripetuti) {
   constexpr int kWord = 240;  // pixels: the name of a file may have no blank to break at
   lblAvvisi->setText(Spezzabile(testo, lblAvvisi->fontMetrics(), kWord));
   lblAvvisi->setVisible(!testo.isEmpty());
   picNomiCopie->setVisible(senzaNome);
+  picCopiaRipetuti->setVisible(ripetuti);
 }
 
 void RiquadroSegmenti::Localizza() {
@@ -56,6 +60,8 @@ void RiquadroSegmenti::Localizza() {
   grdSegmenti->ImpostaVuota(text("0140123"));
   picNomiCopie->ImpostaScritta(text("0140131"));
   picNomiCopie->setToolTip(text("0140133"));
+  picCopiaRipetuti->ImpostaScritta(text("0140135"));
+  picCopiaRipetuti->setToolTip(text("0140136"));
   picAggiungiSegmento->setToolTip(text("0140109"));
   picCopiaSegmento->setToolTip(text("0140110"));
   picRimuoviSegmento->setToolTip(text("0140111"));

@@ -19,13 +19,14 @@ class RiquadroSegmenti : public Riquadro {
   GrigliaSegmenti* grdSegmenti;
   EtichettaAvviso* lblAvvisi;  ///< what a recording would do wrong
   Coppia* picNomiCopie;        ///< gives the copies in the project their own names
+  Coppia* picCopiaRipetuti;    ///< gives spots that share a file each its own
   Coppia *picAggiungiSegmento, *picCopiaSegmento, *picRimuoviSegmento;
   QLabel *lblAggiungi, *lblDuplicaSegmento, *lblRimuovi;
   QMenu mnuOpzioni;  ///< of the grid
   QAction* mnuDuplicaRiga;
 
-  /// What a recording would do wrong, "" for nothing, and whether copies want their names.
-  void MostraAvvisi(const QString& testo, bool senzaNome);
+  /// What a recording would do wrong, "" for nothing, and which remedies there are.
+  void MostraAvvisi(const QString& testo, bool senzaNome, bool ripetuti);
   void Localizza();
 
  private:

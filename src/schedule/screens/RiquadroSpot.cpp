@@ -73,7 +73,7 @@ QLayout* RiquadroSpot::CostruisciSlot() {
   lines->setVerticalSpacing(0);
   constexpr int kPlaces = static_cast<int>(kPosti);
   grdDettaglio->setFixedHeight(kRow * kPlaces);
-  grdDettaglio->setMinimumWidth(160);
+  grdDettaglio->setMinimumWidth(110);
   grdDettaglio->setFrameShape(QFrame::NoFrame);
   grdDettaglio->setSelectionMode(QAbstractItemView::SingleSelection);
   grdDettaglio->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -11,6 +11,7 @@
 #include "core/screens/Testo.h"
 #include "platform/FileOps.h"
 #include "projects/CartellaProgetto.h"
+#include "schedule/CopieRipetuti.h"
 #include "schedule/OrarioSegmento.h"
 #include "schedule/SalvaPalinsesto.h"
 #include "schedule/Segmenti.h"
@@ -82,12 +83,17 @@ void frmPalinsesto::CollegaSegmenti() {
   does(Segmenti->picAggiungiSegmento, AggiungiSegmento);
   does(Segmenti->picCopiaSegmento, DuplicaSegmento);
   does(Segmenti->picRimuoviSegmento, RimuoviSegmento);
-  connect(Segmenti->picNomiCopie, &QAbstractButton::clicked, this, [this] {
-    Comando([this] {
-      copie_.RidaiNomi(editor_);
-      contate_ = -1;
+  const auto mends = [this](QAbstractButton* button, const std::function<void()>& action) {
+    connect(button, &QAbstractButton::clicked, this, [this, action] {
+      Comando([this, &action] {
+        action();
+        contate_ = -1;  // the disk has changed, perhaps no row
+        daContare_ = true;
+      });
     });
-  });
+  };
+  mends(Segmenti->picNomiCopie, [this] { copie_.RidaiNomi(editor_); });
+  mends(Segmenti->picCopiaRipetuti, [this] { CopiaRipetuti(editor_, AvvisiPalinsesto(editor_, copie_)); });
   connect(Segmenti->mnuDuplicaRiga, &QAction::triggered, this,
           [this] { Comando([this] { DuplicaSegmento(editor_); }); });
   Segmenti->grdSegmenti->SuRiga = [this](std::int64_t id) {
@@ -293,6 +299,7 @@ void frmPalinsesto::MostraDettaglio() {
   const std::int64_t id = editor_.SegmentoCorrente();
   const bool same = std::exchange(mostrato_, id) == id;
   const int slot = slotVoluto_ >= 0 ? slotVoluto_ : same ? SlotScelto() : 0;
+  if (!same) picDettaglio->MostraEsito({});  // it told of another segment
   Segmenti->grdSegmenti->VaiA(id);
   picSettimana->Mostra(settimana_, editor_.GiornoCorrente(), id);
   const RigaSegmento* segment = modelloSegmenti_.Riga(id);
@@ -341,9 +348,10 @@ void frmPalinsesto::Conta() {
   if (more) return;
   conta_.stop();
   if (std::exchange(contate_, editor_.Modifiche()) == editor_.Modifiche()) return;
-  const AvvisiPalinsesto warnings(editor_, copie_);
-  Segmenti->MostraAvvisi(Qs(warnings.Parole(C())), warnings.SenzaNome());
-  modelloSpot_.ImpostaAvvisi(warnings);
+  avvisi_ = AvvisiPalinsesto(editor_, copie_);
+  Segmenti->MostraAvvisi(Qs(avvisi_.Parole(C())), avvisi_.SenzaNome(), avvisi_.Ripetuti());
+  modelloSegmenti_.ImpostaAvvisi(avvisi_);
+  modelloSpot_.ImpostaAvvisi(avvisi_);
 }
 
 void frmPalinsesto::ScegliSegmento(std::int16_t giorno, std::int64_t segmento) {

@@ -139,6 +139,7 @@ class frmPalinsesto : public Form {
   ModelloSpot modelloSpot_;
   SettimanaPalinsesto settimana_;
   CopieDegliSpot copie_;
+  AvvisiPalinsesto avvisi_;
   AscoltoEditor ascolto_{C(), ambiente_.Documenti, *mci1, *mciPreview, RiquadroSpot::kPosti};
   QTimer conta_;
   QTimer tmrLasciati_;
