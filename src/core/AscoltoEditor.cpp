@@ -70,7 +70,8 @@ void AscoltoEditor::PlaySpot(std::size_t indice, Recordset& rsDettaglio,
   if (!Esiste(folder, name)) {
     DiciMancante(folder + name);
   } else if (Fuori()) {
-    ApriFuori(documenti_, AggiungiBarra(cartella) + file);
+    // With no file picked in the pane it would get the folder.
+    if (!file.empty()) ApriFuori(documenti_, AggiungiBarra(cartella) + file);
   } else {
     SuonaRiga(indice, folder + name);
   }

@@ -12,8 +12,8 @@ TEST(Usage, HelpGoesToStandardOutputWithStatus0) {
   const Compagno k;
   const auto run = k.Esegui({"--help"});
   EXPECT_EQ(run.Stato, 0);
-  for (const char* verb :
-       {"mp3", "new", "projects", "show", "config", "inputs", "save", "report", "record"}) {
+  for (const char* verb : {"mp3", "new", "projects", "show", "config", "inputs", "save",
+                           "playlists", "schedule", "report", "record"}) {
     EXPECT_NE(run.Uscita.find(verb), std::string::npos) << verb;
     const auto help = k.Esegui({verb, "--help"});
     EXPECT_EQ(help.Stato, 0) << verb;
@@ -53,6 +53,9 @@ TEST(Usage, WrongWordsAreStatus2WithHelpOnStandardError) {
       {"inputs", "Hall", "set", "1"},
       {"inputs", "Hall", "set", "256", "a.mp3"},
       {"inputs", "Hall", "clear", "IN9"},
+      {"playlists"},
+      {"schedule"},
+      {"schedule", "Hall", "list"},
       {"record", "Hall"},
   };
   k.Esegui({"new", "Hall", "--mode", "1"});

@@ -56,13 +56,11 @@ void frmPalinsesto::CollegaAscolto() {
 void frmPalinsesto::AscoltaSlot(int slot) {
   slotVoluto_ = slot;
   dettaglioCambiato_ = true;
-  // The external player gets the pane's file, whatever the spot's is; without one it would get the
-  // folder.
-  if (C().Stato.UsaPlayerEsterno && fraFile->Corrente().empty()) {
-    return picDettaglio->MostraEsito(Qs(TestoLingua(C(), "0140108")));
-  }
   ascolto_.PlaySpot(static_cast<std::size_t>(slot), editor_.rsDettaglio(),
                     fraFile->DirDirectoryMp3->Percorso(), fraFile->Corrente());
+  // The external player gets the pane's file, whatever the spot's is.
+  const bool nothing = C().Stato.UsaPlayerEsterno && fraFile->Corrente().empty();
+  if (nothing) picDettaglio->MostraEsito(Qs(TestoLingua(C(), "0140108")));
 }
 
 void frmPalinsesto::MostraAscolto() {

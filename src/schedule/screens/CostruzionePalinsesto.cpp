@@ -122,11 +122,11 @@ QLayout* frmPalinsesto::CostruisciComandi() {
 }
 
 void frmPalinsesto::OrdinaTab() {
-  OrdineTab({picHelp, cmbGiorno, fraFile->picDisk, fraFile->DirDirectoryMp3, fraFile->txtCerca,
-             fraFile->filMp3, cmdPlayFileSx, cmdStopFileSx, Segmenti->grdSegmenti,
-             Segmenti->picNomiCopie, Segmenti->picCopiaRipetuti, Segmenti->picAggiungiSegmento,
-             Segmenti->picCopiaSegmento, Segmenti->picRimuoviSegmento, picDettaglio->txtOre,
-             picDettaglio->txtMin, picDettaglio->grdDettaglio});
+  OrdineTab({picHelp, fraFile->picDisk, fraFile->DirDirectoryMp3, fraFile->txtCerca,
+             fraFile->filMp3, cmdPlayFileSx, cmdStopFileSx, cmbGiorno,
+             Segmenti->picAggiungiSegmento, Segmenti->grdSegmenti, Segmenti->picNomiCopie,
+             Segmenti->picCopiaRipetuti, Segmenti->picCopiaSegmento, Segmenti->picRimuoviSegmento,
+             picDettaglio->txtOre, picDettaglio->txtMin, picDettaglio->grdDettaglio});
   QWidget* before = picDettaglio->grdDettaglio;
   const auto next = [&before](QWidget* after) {
     setTabOrder(before, after);

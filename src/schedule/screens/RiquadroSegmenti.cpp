@@ -35,7 +35,9 @@ RiquadroSegmenti::RiquadroSegmenti(Contesto& contesto, ModelloSegmenti& modello,
   lblAggiungi = picAggiungiSegmento->Etichetta();
   lblDuplicaSegmento = picCopiaSegmento->Etichetta();
   lblRimuovi = picRimuoviSegmento->Etichetta();
-  Corpo()->addLayout(Riga({picAggiungiSegmento, picCopiaSegmento, nullptr, picRimuoviSegmento}));
+  // Two lines of buttons: side by side the three would take more room than a small screen has.
+  Testata()->addWidget(picAggiungiSegmento);
+  Corpo()->addLayout(Riga({picCopiaSegmento, nullptr, picRimuoviSegmento}));
   mnuDuplicaRiga = mnuOpzioni.addAction(QStringLiteral("Duplica"));
   mnuDuplicaRiga->setObjectName(QStringLiteral("mnuDuplicaRiga"));
   connect(grdSegmenti, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {

@@ -93,7 +93,8 @@ void frmPalinsesto::CollegaSegmenti() {
     });
   };
   mends(Segmenti->picNomiCopie, [this] { copie_.RidaiNomi(editor_); });
-  mends(Segmenti->picCopiaRipetuti, [this] { CopiaRipetuti(editor_, AvvisiPalinsesto(editor_, copie_)); });
+  mends(Segmenti->picCopiaRipetuti,
+        [this] { CopiaRipetuti(editor_, AvvisiPalinsesto(editor_, copie_)); });
   connect(Segmenti->mnuDuplicaRiga, &QAction::triggered, this,
           [this] { Comando([this] { DuplicaSegmento(editor_); }); });
   Segmenti->grdSegmenti->SuRiga = [this](std::int64_t id) {

@@ -8,7 +8,7 @@
 namespace kvr5 {
 namespace {
 
-using test::Frattanto;
+using test::Frattempo;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
@@ -51,7 +51,7 @@ TEST_F(AddingAll, TakesWhatThePlayerTakesInTheOrderOfThePane) {
 
 TEST_F(AddingAll, HidesTheGridBehindTheWaitDisplay) {
   EXPECT_EQ(Words(), kRed);
-  const Frattanto look(Begun(), [this] {
+  const Frattempo look(Begun(), [this] {
     EXPECT_FALSE(SiVede("grdPlaylist"));
     EXPECT_TRUE(SiVede("lblAttendere"));
     EXPECT_TRUE(form->Brani->tmrAttendere.isActive());
@@ -104,7 +104,7 @@ TEST_F(AddingAll, ASaveAmidItComesAtItsEndAndHoldsAllRows) {
   b.Finestre.Rispondi(Risposta::No);
   std::size_t asked = 99;
   b.Finestre.SuBox = [&](const test::BoxVisto&) { asked = Tutti("tmpPlaylist.mdb").size(); };
-  const Frattanto save(Begun(), [this] {
+  const Frattempo save(Begun(), [this] {
     Clic("picSave");
     EXPECT_TRUE(form->isVisible());
     EXPECT_THAT(progresso.Seen, IsEmpty()) << "not yet";
@@ -122,7 +122,7 @@ TEST_F(AddingAll, ASaveAmidItComesAtItsEndAndHoldsAllRows) {
 
 TEST_F(AddingAll, ASecondSaveAmidItIsPassedOver) {
   b.Finestre.Rispondi(Risposta::No);
-  const Frattanto save(Begun(), [this] {
+  const Frattempo save(Begun(), [this] {
     Clic("picSave");
     Clic("picSave");
     test::Clicca(Trova<QWidget>("lblSave"));
@@ -136,7 +136,7 @@ TEST_F(AddingAll, ASecondSaveAmidItIsPassedOver) {
 
 TEST_F(AddingAll, OnceASaveWasAskedForNoOtherCommandIsDone) {
   b.Finestre.Rispondi(Risposta::No);
-  const Frattanto save(Begun(), [this] {
+  const Frattempo save(Begun(), [this] {
     Clic("picSave");
     for (const char* name : {"cmdRimuoviTuttiFile", "cmdRandom", "cmdRimuoviFile", "picImporta",
                              "cmdAggiungiTuttiFiles", "picReport"}) {
@@ -157,7 +157,7 @@ TEST_F(AddingAll, OnceASaveWasAskedForNoOtherCommandIsDone) {
 
 TEST_F(AddingAll, ACloseAmidItComesAtItsEndAndDropsAllRows) {
   const std::string before = Leggi("playlist.mdb");
-  const Frattanto leave(Begun(), [this] {
+  const Frattempo leave(Begun(), [this] {
     Clic("picAnnulla");
     EXPECT_TRUE(form->isVisible());
     EXPECT_TRUE(Ha("tmpPlaylist.mdb"));
@@ -171,7 +171,7 @@ TEST_F(AddingAll, ACloseAmidItComesAtItsEndAndDropsAllRows) {
 
 TEST_F(AddingAll, TheWindowsOwnButtonAmidItDoesTheSame) {
   const std::string before = Leggi("playlist.mdb");
-  const Frattanto leave(Begun(), [this] { form->close(); });
+  const Frattempo leave(Begun(), [this] { form->close(); });
   AddAll();
   EXPECT_TRUE(SiChiude());
   EXPECT_TRUE(Leggi("playlist.mdb") == before);
@@ -180,7 +180,7 @@ TEST_F(AddingAll, TheWindowsOwnButtonAmidItDoesTheSame) {
 
 TEST_F(AddingAll, ASaveAfterACloseWasAskedForSavesNothing) {
   const std::string before = Leggi("playlist.mdb");
-  const Frattanto leave(Begun(), [this] {
+  const Frattempo leave(Begun(), [this] {
     Clic("picAnnulla");
     Clic("picSave");
   });
@@ -198,7 +198,7 @@ TEST_F(AddingAll, AnotherListAmidItGetsTheRest) {
   std::filesystem::remove(Host("other.mp3"));
   Apri();
   int at = 0;
-  const Frattanto choose(Begun(), [&] {
+  const Frattempo choose(Begun(), [&] {
     at = InLista() - 1;
     Selettore().setFocus();
     Premi(Qt::Key_Down);
@@ -221,7 +221,7 @@ TEST_F(AddingAll, OnceACloseWasAskedForTheSelectorStaysWhereItIs) {
   Dimentica();
   Progetto(3, 7);
   Apri();
-  const Frattanto leave(Begun(), [this] {
+  const Frattempo leave(Begun(), [this] {
     Clic("picAnnulla");
     auto& box = Trova<QCheckBox>("chkIn_2");
     test::Clicca(box);
@@ -236,7 +236,7 @@ TEST_F(AddingAll, OnceACloseWasAskedForTheSelectorStaysWhereItIs) {
 }
 
 TEST_F(AddingAll, ASecondRunAmidItAddsItsOwn) {
-  const Frattanto again(Begun(), [this] { AddAll(); });
+  const Frattempo again(Begun(), [this] { AddAll(); });
   AddAll();
   EXPECT_THAT(Griglia(), SizeIs(2 * kFiles));
   EXPECT_TRUE(SiVede("grdPlaylist"));
@@ -244,7 +244,7 @@ TEST_F(AddingAll, ASecondRunAmidItAddsItsOwn) {
 }
 
 TEST_F(AddingAll, AShuffleAmidItLosesNoRow) {
-  const Frattanto shuffle(Begun(), [this] { Clic("cmdRandom"); });
+  const Frattempo shuffle(Begun(), [this] { Clic("cmdRandom"); });
   AddAll();
   Righe names = Nomi();
   std::ranges::sort(names);
@@ -254,7 +254,7 @@ TEST_F(AddingAll, AShuffleAmidItLosesNoRow) {
 
 TEST_F(AddingAll, AnEmptyingAmidItKeepsWhatComesAfterwards) {
   b.Finestre.Rispondi(Risposta::Si);
-  const Frattanto clear(Begun(), [this] { Clic("cmdRimuoviTuttiFile"); });
+  const Frattempo clear(Begun(), [this] { Clic("cmdRimuoviTuttiFile"); });
   AddAll();
   EXPECT_EQ(b.Finestre.Prossimo().Titolo, "Empty the playlist");
   EXPECT_LT(Griglia().size(), static_cast<std::size_t>(kFiles));
@@ -263,7 +263,7 @@ TEST_F(AddingAll, AnEmptyingAmidItKeepsWhatComesAfterwards) {
 }
 
 TEST_F(AddingAll, AFolderThatVanishesAmidItEndsItQuietly) {
-  const Frattanto gone(Begun(),
+  const Frattempo gone(Begun(),
                        [this] { std::filesystem::remove_all(b.Cartella.Host() / "music"); });
   AddAll();
   EXPECT_GE(Griglia().size(), 3U);
@@ -278,7 +278,7 @@ TEST_F(AddingAll, AFolderThatVanishesAmidItEndsItQuietly) {
 }
 
 TEST_F(AddingAll, TheClockGoesOnAmidItAndThePanelToo) {
-  const Frattanto pick(Begun(), [this] {
+  const Frattempo pick(Begun(), [this] {
     ClicFile("002.mp3");
     EXPECT_TRUE(QTest::qWaitFor([this] { return SiVede("cmdAggiungiFile"); }));
   });

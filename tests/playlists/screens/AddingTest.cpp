@@ -225,7 +225,7 @@ TEST_F(AddingFiles, DroppedInNumbersHideTheGridMeanwhile) {
         QString::fromStdString(Host(std::to_string(1000 + i).substr(1) + ".mp3"))));
   }
   b.Finestre.Rispondi(Risposta::No);
-  const test::Frattanto save([this] { return InLista() >= 3; },
+  const test::Frattempo save([this] { return InLista() >= 3; },
                              [this] {
                                EXPECT_FALSE(SiVede("grdPlaylist"));
                                EXPECT_TRUE(SiVede("lblAttendere"));

@@ -15,21 +15,10 @@
 #include "platform/db/Connection.h"
 #include "platform/db/Recordset.h"
 #include "platform/db/Walk.h"
-#include "support/RigheDelDatabase.h"
 #include "projects/CartellaProgetto.h"
+#include "support/RigheDelDatabase.h"
 
 namespace kvr5::test {
-
-Frattanto::Frattanto(std::function<bool()> quando, std::function<void()> azione) {
-  QObject::connect(&battito_, &QTimer::timeout, &battito_,
-                   [this, when = std::move(quando), what = std::move(azione)] {
-                     if (fatto_ || !when()) return;
-                     fatto_ = true;  // before it acts: its own click may run the loop
-                     battito_.stop();
-                     what();
-                   });
-  battito_.start(0);
-}
 
 BancoEditor::BancoEditor(Boxes boxes) : b(boxes) {
   std::filesystem::create_directories(b.Cartella.Host() / "music");

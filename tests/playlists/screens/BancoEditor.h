@@ -5,8 +5,6 @@
 
 #include <QComboBox>
 #include <QPointer>
-#include <QTimer>
-#include <functional>
 #include <initializer_list>
 #include <string>
 #include <vector>
@@ -14,24 +12,11 @@
 #include "playlists/screens/frmPlaylistEditor.h"
 #include "support/ProgressoVisto.h"
 #include "support/screens/BancoSchermi.h"
+#include "support/screens/Frattempo.h"
 #include "support/screens/Mano.h"
 #include "support/screens/Pilota.h"
 
 namespace kvr5::test {
-
-/// Does something amid a long run, once, as soon as a condition holds: between two files of the
-/// run, as a user's click comes.
-class Frattanto {
- public:
-  Frattanto(std::function<bool()> quando, std::function<void()> azione);
-  ~Frattanto() { EXPECT_TRUE(fatto_) << "the moment never came"; }
-  Frattanto(const Frattanto&) = delete;
-  Frattanto& operator=(const Frattanto&) = delete;
-
- private:
-  QTimer battito_;
-  bool fatto_ = false;
-};
 
 /// The editor of the playlists of a project named Hall, whose pane of files stands in the folder
 /// "music".

@@ -202,7 +202,7 @@ TEST_F(EditorListening, AStopWorksAmidALongRun) {
   Clic("cmdPlayMp3");
   Musica(20);
   Attiva();
-  const test::Frattanto stop([this] { return InLista() >= 4; },
+  const test::Frattempo stop([this] { return InLista() >= 4; },
                              [this] {
                                Told();
                                Clic("cmdStopMp3");

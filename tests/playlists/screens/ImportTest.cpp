@@ -101,7 +101,7 @@ TEST_F(Importing, ASaveAmidItComesAtItsEnd) {
   std::string lines;
   for (int i = 0; i < 100; ++i) lines += Host("a.mp3") + "\r\n";
   b.Finestre.Rispondi(Risposta::No);
-  const test::Frattanto save([this] { return InLista() >= 3; },
+  const test::Frattempo save([this] { return InLista() >= 3; },
                              [this] {
                                EXPECT_FALSE(SiVede("grdPlaylist"));
                                EXPECT_TRUE(SiVede("lblAttendere"));

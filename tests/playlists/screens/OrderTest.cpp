@@ -198,7 +198,7 @@ TEST_F(Ordering, AShuffleGivesTheSameRowsANewOrder) {
 }
 
 TEST_F(Ordering, AShuffleHidesTheGridAndTakesACloseAtItsEnd) {
-  const test::Frattanto leave([this] { return !SiVede("grdPlaylist"); },
+  const test::Frattempo leave([this] { return !SiVede("grdPlaylist"); },
                               [this] {
                                 EXPECT_TRUE(SiVede("lblAttendere"));
                                 Clic("picAnnulla");

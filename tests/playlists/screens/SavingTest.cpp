@@ -5,9 +5,9 @@
 #include "platform/db/Connection.h"
 #include "platform/db/Recordset.h"
 #include "platform/db/Walk.h"
-#include "support/RigheDelDatabase.h"
 #include "playlists/screens/BancoEditor.h"
 #include "projects/CartellaProgetto.h"
+#include "support/RigheDelDatabase.h"
 
 // A save from its button to the hub, with the real question.
 

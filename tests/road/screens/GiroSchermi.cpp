@@ -86,6 +86,9 @@ void GiroSchermi::Percorri(const Guarda& guarda) {
   NellEditor();
   NegliAltriEditor();
   AlNomeDellaPlaylist();
+  NelPalinsesto();
+  NelPalinsestoInUso();
+  NegliAltriPalinsesti();
   NegliHub();
   NellHubInUso();
   NellHubConScheda();

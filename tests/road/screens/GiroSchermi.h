@@ -8,6 +8,7 @@
 #include "core/screens/Form.h"
 #include "playerconfig/screens/frmPlayerConfig.h"
 #include "playlists/screens/frmPlaylistEditor.h"
+#include "schedule/screens/frmPalinsesto.h"
 #include "support/screens/BancoSchermi.h"
 
 namespace kvr5::test {
@@ -60,6 +61,9 @@ class GiroSchermi {
   void NellEditor();
   void NegliAltriEditor();
   void AlNomeDellaPlaylist();
+  void NelPalinsesto();
+  void NelPalinsestoInUso();
+  void NegliAltriPalinsesti();
   void NegliHub();
   void NellHubInUso();
   void NellHubConScheda();
@@ -73,6 +77,10 @@ class GiroSchermi {
   void Progetto(const std::string& nome, std::int16_t tipo, std::int16_t modo);
   std::unique_ptr<frmPlayerConfig> Hub();
   std::unique_ptr<frmPlaylistEditor> Editor();
+  std::unique_ptr<frmPalinsesto> Palinsesto();
+  /// A segment of the open project's schedule; `ora` is "08.30".
+  void Segmento(int giorno, const std::string& ora);
+  void Spot(int giorno, int segmento, int pos, const std::string& nome);
   void Domanda(const std::string& nome, const BoxSiNo& box);
   void Messaggio(const std::string& nome, const kvr5::Messaggio& messaggio);
   std::string Testo(const char* chiave);

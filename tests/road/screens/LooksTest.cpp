@@ -48,6 +48,9 @@ void ExpectWholeTexts(const SchermoVisto& screen) {
   }
   for (const QAbstractButton* button : screen.Finestra.findChildren<QAbstractButton*>()) {
     if (!button->isVisible() || button->text().isEmpty()) continue;
+    // A picture alone draws no text.
+    const auto* pair = dynamic_cast<const Coppia*>(button);
+    if (pair != nullptr && pair->Etichetta() == nullptr) continue;
     EXPECT_GE(button->width(), button->sizeHint().width())
         << screen.Nome << ": " << button->objectName().toStdString();
   }
