@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "schedule/CopieDegliSpot.h"
 
@@ -26,7 +27,8 @@ class AvvisiPalinsesto {
   bool CopiaVecchia(std::int64_t id) const { return vecchie_.contains(id); }
   /// Whether its file gets onto the card under the name of another spot alone.
   bool Ripetuto(std::int64_t id) const { return ripetuti_.contains(id); }
-  bool Ripetuti() const { return !ripetuti_.empty(); }
+  /// Whether a file of such a spot is there to be copied.
+  bool Copiabili() const { return copiabili_; }
   /// Whether copies are to be given their own names first.
   bool SenzaNome() const { return senzaNome_; }
   /// What to do about them, a line for each kind that there is, which names the first one.
@@ -36,9 +38,17 @@ class AvvisiPalinsesto {
   static std::string ParoleRipetutoDi(Contesto& contesto, const std::string& nome);
 
  private:
+  /// A spot that a recording takes from its source.
+  struct Candidato {
+    std::int64_t Giorno = 0, Pos = 0, ID = 0;
+    std::string Percorso, Nome;
+  };
+  void SegnaRipetuti(const Contesto& contesto, std::vector<Candidato>& candidati);
+
   std::set<std::int64_t> vecchie_;
   std::set<std::int64_t> ripetuti_;
   bool senzaNome_ = false;
+  bool copiabili_ = false;
   std::string primaVecchia_;  ///< the name of the first one
   std::string primoRipetuto_;
 };

@@ -1,7 +1,6 @@
 #include "schedule/CopieDegliSpot.h"
 
 #include <algorithm>
-#include <set>
 #include <utility>
 #include <vector>
 
@@ -14,6 +13,7 @@
 #include "platform/db/Walk.h"
 #include "playerconfig/NomiCartella.h"
 #include "projects/CartellaProgetto.h"
+#include "schedule/NomeLibero.h"
 
 namespace kvr5 {
 namespace {
@@ -21,6 +21,17 @@ namespace {
 /// Whether a file of the project can have this name.
 bool CanBeNamed(const std::string& name) {
   return CardCanHold(name) && FaultOf(name) == NameFault::None;
+}
+
+/// Whether a copy is of this file: as long and as old, as copies are made. A file that is gone
+/// can't speak against it.
+bool IsCopyOf(const Contesto& context, const std::string& alias, const std::string& source) {
+  const auto file = context.Files.Info(source);
+  if (!file || file.Value().IsFolder) return true;
+  const auto copy = context.Files.Info(FileDelProgetto(context, alias));
+  constexpr std::int64_t kFat = 2;  // seconds that a card's file system rounds to
+  return copy && copy.Value().Size == file.Value().Size &&
+         std::abs(copy.Value().Modified - file.Value().Modified) <= kFat;
 }
 
 }  // namespace
@@ -38,8 +49,8 @@ void CopieDegliSpot::Leggi(EditorPalinsesto& editor) {
   }
   editor.Record(WalkRows(rows, [&] {
     Copia copy{rows.Text("Alias"), rows.Text("FilePath"), rows.Text("FileName")};
-    const bool other = !EqualFold(copy.Alias, copy.Nome);
-    if (other && !copy.Alias.empty() && names.Contiene(copy.Alias)) {
+    const bool there = !copy.Alias.empty() && names.Contiene(copy.Alias);
+    if (there && IsCopyOf(context, copy.Alias, AggiungiBarra(copy.Cartella) + copy.Nome)) {
       copie_.emplace(rows.Number("ID"), std::move(copy));
     }
     return true;
@@ -53,43 +64,56 @@ bool CopieDegliSpot::Propria(std::int64_t id, const std::string& cartella,
          EqualFold(found->second.Cartella, cartella);
 }
 
+bool CopieDegliSpot::SenzaFile(const Contesto& contesto, const Copia& copia) {
+  return CanBeNamed(copia.Nome) &&
+         !FileExists(contesto.Files, AggiungiBarra(copia.Cartella) + copia.Nome);
+}
+
 bool CopieDegliSpot::SenzaNome(Contesto& contesto) const {
-  if (copie_.empty()) return false;
-  const NomiCartella names(contesto.Files, contesto.Stato.CartellaProgetto);
-  return std::ranges::any_of(copie_, [&](const auto& each) {
-    return CanBeNamed(each.second.Nome) && !names.Contiene(each.second.Nome);
-  });
+  return std::ranges::any_of(copie_,
+                             [&](const auto& each) { return SenzaFile(contesto, each.second); });
 }
 
 void CopieDegliSpot::RidaiNomi(EditorPalinsesto& editor) {
   auto& context = editor.C();
   const OwnError own(context.Errore);
-  const NomiCartella names(context.Files, context.Stato.CartellaProgetto);
+  NomiCartella names(context.Files, context.Stato.CartellaProgetto);
   ListaCopia list;
-  std::set<std::string> given;
-  std::vector<std::int64_t> named;
+  std::vector<std::pair<std::int64_t, std::string>> named;
   for (const auto& [id, each] : copie_) {
-    if (!CanBeNamed(each.Nome) || names.Contiene(each.Nome)) continue;
-    if (!given.insert(FoldCase(each.Nome)).second) continue;
-    list.Aggiungi(FileDelProgetto(context, each.Alias), FileDelProgetto(context, each.Nome));
-    named.push_back(id);
+    if (!SenzaFile(context, each)) continue;
+    const bool taken = names.Contiene(each.Nome);
+    std::string name = taken ? NomeLibero(names, each.Nome) : each.Nome;
+    if (!taken) names.Rinominato({}, name);
+    list.Aggiungi(FileDelProgetto(context, each.Alias), FileDelProgetto(context, name));
+    named.emplace_back(id, std::move(name));
   }
   if (named.empty()) return;
   CopiaFileShell(context, list.ListaSorgenti(), list.ListaDestinazioni());
-  for (const std::int64_t id : named) PortaInProgetto(editor, id, copie_.at(id));
+  {
+    Transaction all(editor.ConnessionePalinsesto());
+    for (const auto& [id, name] : named) PortaInProgetto(editor, id, copie_.at(id), name);
+    editor.Record(all.End());
+  }
   editor.AggiornaElencoSegmenti(editor.SegmentoCorrente());
 }
 
-void CopieDegliSpot::PortaInProgetto(EditorPalinsesto& editor, std::int64_t id, Copia& copia) {
+void CopieDegliSpot::PortaInProgetto(EditorPalinsesto& editor, std::int64_t id, Copia& copia,
+                                     const std::string& nome) {
   auto& context = editor.C();
   const std::string project = AggiungiBarra(context.Stato.CartellaProgetto);
-  const bool there = FileExists(context.Files, FileDelProgetto(context, copia.Nome));
-  if (!there || EqualFold(copia.Cartella, project)) return;
+  const bool same = copia.Nome == nome && EqualFold(copia.Cartella, project);
+  if (same || !FileExists(context.Files, FileDelProgetto(context, nome))) return;
   Recordset row;
   const std::string query = "SELECT * FROM [List] WHERE ID=" + std::to_string(id);
   if (!editor.Record(row.Open(editor.ConnessionePalinsesto(), query))) return;
-  editor.Record(row.Set("FilePath", project));
-  if (!editor.Record(row.Update())) return;
+  const bool unchanged = row.RecordCount() == 1 && row.Text("FileName") == copia.Nome &&
+                         row.Text("FilePath") == copia.Cartella;
+  if (!unchanged) return;  // another file has taken its place meanwhile
+  const bool set =
+      editor.Record(row.Set("FileName", nome)) && editor.Record(row.Set("FilePath", project));
+  if (!set || !editor.Record(row.Update())) return row.CancelUpdate();
+  copia.Nome = nome;
   copia.Cartella = project;
   editor.Modificato();
 }

@@ -13,25 +13,31 @@ namespace kvr5 {
 /// its name, whatever the row says: once the order of the spots changes the copies are others'.
 class CopieDegliSpot {
  public:
-  /// Looks which there are as the editor comes up: nothing has been edited yet, so that each copy
-  /// belongs to the row that has its name.
+  /// Looks which there are as the editor comes up: nothing has been edited yet, so that a copy
+  /// belongs to the row that has its name. Where the row's own file is there, too, the copy has to
+  /// be as long and as old as it: a spot that was replaced and saved with No has the copy of the
+  /// one before.
   void Leggi(EditorPalinsesto& editor);
 
   /// Whether there is a copy of this row's file: the row is what it was then.
   bool Propria(std::int64_t id, const std::string& cartella, const std::string& nome) const;
-  /// Whether there is one whose file isn't in the project under its own name as well.
+  /// Whether there is one that is all that the project has of its file.
   bool SenzaNome(Contesto& contesto) const;
-  /// Copies each under the file's own name, where that is free, and has its row find it there: a
-  /// save with Yes then finds all sources. One copy operation, with its window and cancel; of two
-  /// files of one name the first spot's gets it.
+  /// Copies each of those under its file's own name, or one like it where that is taken, and has
+  /// its row find it there: a save with Yes then finds all sources. One copy operation, with its
+  /// window and cancel.
   void RidaiNomi(EditorPalinsesto& editor);
 
  private:
   struct Copia {
     std::string Alias, Cartella, Nome;
   };
-  /// Has a row find its file in the project, where it is there.
-  static void PortaInProgetto(EditorPalinsesto& editor, std::int64_t id, Copia& copia);
+  /// Whether the file that the row names isn't there.
+  static bool SenzaFile(const Contesto& contesto, const Copia& copia);
+  /// Has a row find its file in the project under a new name, where it is there and the row is
+  /// still the same.
+  static void PortaInProgetto(EditorPalinsesto& editor, std::int64_t id, Copia& copia,
+                              const std::string& nome);
 
   std::map<std::int64_t, Copia> copie_;
 };

@@ -8,8 +8,8 @@
 #include "core/ListaCopia.h"
 #include "platform/FileOps.h"
 #include "platform/db/Walk.h"
-#include "playerconfig/NomiCartella.h"
 #include "projects/CartellaProgetto.h"
+#include "schedule/NomeLibero.h"
 
 namespace kvr5 {
 namespace {
@@ -20,16 +20,6 @@ struct OwnCopy {
   std::string Source;
   std::string Name;
 };
-
-/// "gong (2).mp3", or the next number that is free; it is taken from then on.
-std::string FreeName(NomiCartella& names, const std::string& name) {
-  for (int number = 2;; ++number) {
-    std::string next = TogliEstensione(name) + " (" + std::to_string(number) + ").mp3";
-    if (names.Contiene(next)) continue;
-    names.Rinominato({}, next);
-    return next;
-  }
-}
 
 std::vector<OwnCopy> CopiesToMake(EditorPalinsesto& editor, const AvvisiPalinsesto& warnings) {
   auto& context = editor.C();
@@ -44,7 +34,7 @@ std::vector<OwnCopy> CopiesToMake(EditorPalinsesto& editor, const AvvisiPalinses
     const std::string name = rows.Text("FileName");
     const std::string source = AggiungiBarra(rows.Text("FilePath")) + name;
     if (warnings.Ripetuto(id) && FileExists(context.Files, source)) {
-      copies.push_back({id, source, FreeName(names, name)});
+      copies.push_back({id, source, NomeLibero(names, name)});
     }
     return true;
   }));
@@ -58,9 +48,11 @@ void LeadTo(EditorPalinsesto& editor, const OwnCopy& copy) {
   Recordset row;
   const std::string query = "SELECT * FROM [List] WHERE ID=" + std::to_string(copy.Spot);
   if (!editor.Record(row.Open(editor.ConnessionePalinsesto(), query))) return;
-  editor.Record(row.Set("FileName", copy.Name));
-  editor.Record(row.Set("FilePath", AggiungiBarra(context.Stato.CartellaProgetto)));
-  if (editor.Record(row.Update())) editor.Modificato();
+  const std::string project = AggiungiBarra(context.Stato.CartellaProgetto);
+  const bool set =
+      editor.Record(row.Set("FileName", copy.Name)) && editor.Record(row.Set("FilePath", project));
+  if (set && editor.Record(row.Update())) return editor.Modificato();
+  row.CancelUpdate();
 }
 
 }  // namespace
@@ -76,8 +68,9 @@ void CopiaRipetuti(EditorPalinsesto& editor, const AvvisiPalinsesto& avvisi) {
   }
   CopiaFileShell(context, list.ListaSorgenti(), list.ListaDestinazioni());
   {
-    const Transaction all(editor.ConnessionePalinsesto());
+    Transaction all(editor.ConnessionePalinsesto());
     for (const OwnCopy& each : copies) LeadTo(editor, each);
+    editor.Record(all.End());
   }
   editor.AggiornaElencoSegmenti(editor.SegmentoCorrente());
 }

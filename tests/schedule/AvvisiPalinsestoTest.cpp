@@ -7,6 +7,8 @@
 namespace kvr5 {
 namespace {
 
+using testing::ElementsAre;
+
 /// What a recording would get wrong, told before the save.
 class ScheduleWarnings : public test::BancoPalinsesto {
  protected:
@@ -212,14 +214,91 @@ TEST_F(CopiesOfSpots, OfAProjectFromACardLeadTheirRowsHome) {
   EXPECT_EQ(Look().Parole(b.C), "");
 }
 
-TEST_F(CopiesOfSpots, OfTwoFilesOfOneNameGiveItToTheFirst) {
+TEST_F(CopiesOfSpots, OfTwoFilesOfOneNameGetNamesThatDiffer) {
   editor.Chiudi();
   Esegui("UPDATE [List] SET [FileName]='same.mp3' WHERE [Pos]<3");
   Open();
   copies.RidaiNomi(editor);
   EXPECT_EQ(Leggi("same.mp3"), music[0]);
+  EXPECT_EQ(Leggi("same (2).mp3"), music[1]);
   EXPECT_EQ(Leggi("c.mp3"), music[2]);
   EXPECT_FALSE(Look().SenzaNome());
+  SpostaSpot(editor, 0, true);
+  Save(Risposta::Si);
+  EXPECT_TRUE(b.Copia.Guasti.empty());
+  EXPECT_EQ(Leggi("F0-0011.mp3"), music[1]);
+  EXPECT_EQ(Leggi("F0-0012.mp3"), music[0]);
+}
+
+TEST_F(CopiesOfSpots, DontTakeTheNameOfAnotherFileOfTheProject) {
+  editor.Chiudi();
+  Esegui("UPDATE [List] SET [FilePath]='C:\\Elsewhere\\'");
+  b.Cartella.Write("program/Projects/Hall/b.mp3", "the file of an input");
+  Open();
+  copies.RidaiNomi(editor);
+  EXPECT_EQ(Leggi("b.mp3"), "the file of an input");
+  EXPECT_EQ(Leggi("b (2).mp3"), music[1]);
+  EXPECT_THAT(Griglia(), ElementsAre("00:10:00 a.mp3 b (2).mp3 c.mp3"));
+}
+
+TEST_F(CopiesOfSpots, OfASpotThatWasReplacedAndSavedWithNoAreNotItsOwn) {
+  b.ScriviMp3("music/new.mp3", 9, 20);
+  Aggiungi(0, "new.mp3", b.Percorso("music"));
+  Save(Risposta::No);
+  Open();
+  EXPECT_TRUE(Look().CopiaVecchia(1)) << "the card would get the one before";
+  EXPECT_FALSE(copies.Propria(1, b.Percorso("music") + "\\", "new.mp3"));
+  copies.RidaiNomi(editor);
+  EXPECT_FALSE(Ha("new.mp3")) << "the copy isn't of this file";
+  EXPECT_THAT(Griglia(), ElementsAre("00:10:00 new.mp3 b.mp3 c.mp3"));
+  Save(Risposta::Si);
+  EXPECT_EQ(Leggi("F0-0011.mp3"), b.Cartella.Read("music/new.mp3"));
+  Open();
+  EXPECT_FALSE(Look().CopiaVecchia(1)) << "now it is";
+}
+
+TEST_F(CopiesOfSpots, OfASpotThatIsReplacedMeanwhileDontLeadItAstray) {
+  editor.Chiudi();
+  Esegui("UPDATE [List] SET [FilePath]='C:\\Elsewhere\\'");
+  Open();
+  b.ScriviMp3("music/new.mp3", 9);
+  Aggiungi(0, "new.mp3", b.Percorso("music"));
+  copies.RidaiNomi(editor);
+  EXPECT_THAT(Colonna("FilePath", "tmpScheduler.mdb"),
+              ElementsAre(b.Percorso("music") + "\\", Hall(), Hall()));
+}
+
+TEST_F(CopiesOfSpots, ThatAreTheFilesThemselvesWantNothing) {
+  editor.Chiudi();
+  Esegui("UPDATE [List] SET [FileName]=[Alias]");
+  Open();
+  EXPECT_EQ(Look().Parole(b.C), "");
+}
+
+TEST_F(ScheduleWarnings, OfAStaleCopyOfASharedFileAreBoth) {
+  Progetto(4, 2);
+  const auto segment = Segmento(0, "00.10");
+  Add(0, segment, 1, "gong.mp3");
+  const auto both = Add(0, segment, 2, "gong.mp3");
+  b.ScriviMp3("music/gong.mp3");
+  Copy("F0-0012.mp3");
+  const AvvisiPalinsesto warnings = Look();
+  EXPECT_TRUE(warnings.Ripetuto(both));
+  EXPECT_TRUE(warnings.CopiaVecchia(both));
+  EXPECT_TRUE(warnings.Copiabili());
+}
+
+TEST_F(ScheduleWarnings, TakeTheSpotThatARecordingComesToFirst) {
+  Progetto(4, 2);
+  const auto early = Segmento(0, "00.10");
+  const auto late = Segmento(0, "00.20");
+  Add(0, early, 1, "a.mp3");
+  const auto second = Add(0, early, 2, "gong.mp3");
+  const auto first = Add(0, late, 1, "gong.mp3");
+  const AvvisiPalinsesto warnings = Look();
+  EXPECT_FALSE(warnings.Ripetuto(first)) << "it goes by the place, whatever the segment";
+  EXPECT_TRUE(warnings.Ripetuto(second));
+  EXPECT_FALSE(warnings.Copiabili()) << "there is no such file to be copied";
 }
 
 TEST_F(CopiesOfSpots, WhoseNamesNoCardHoldsAreLeftAsTheyAre) {
@@ -238,7 +317,7 @@ TEST_F(ScheduleWarnings, NameBothKinds) {
   Add(0, segment, 2, "gong.mp3");
   Add(0, segment, 3, "gong.mp3");
   Copy("F0-0011.mp3");
-  EXPECT_EQ(Look().Parole(b.C), Old("old.mp3") + "\n" + Twice("gong.mp3"));
+  EXPECT_EQ(Look().Parole(b.C), Twice("gong.mp3") + "\n" + Old("old.mp3"));
 }
 
 TEST_F(ScheduleWarnings, AreNoneWithoutADatabase) {

@@ -48,7 +48,7 @@ TEST_F(SharedFiles, GetACopyInTheProjectForEachSpotButTheFirst) {
   EXPECT_EQ(Leggi("gong (2).mp3"), gong);
   EXPECT_EQ(Leggi("gong (3).mp3"), gong);
   EXPECT_EQ(editor.Modifiche(), 3);
-  EXPECT_FALSE(Look().Ripetuti());
+  EXPECT_FALSE(Look().Copiabili());
   EXPECT_THAT(Griglia(), ElementsAre("00:10:00 gong.mp3 it's.mp3",
                                      "00:20:00 gong (2).mp3 it's (2).mp3 gong (3).mp3"))
       << "shown at once";

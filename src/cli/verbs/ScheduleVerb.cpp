@@ -243,14 +243,15 @@ Outcome ScheduleSession::SpotRemove(const Words& words) {
 
 Outcome ScheduleSession::SpotUp(const Words& words) {
   return WithSlot(words[2], true, [this](int slot) {
-    if (slot == 0) return Refuse("this is the first spot");
+    if (editor_.rsDettaglio().AbsolutePosition() == 1) return Refuse("this is the first spot");
     return Changing([&] { SpostaSpot(editor_, slot, false); });
   });
 }
 
 Outcome ScheduleSession::SpotDown(const Words& words) {
   return WithSlot(words[2], true, [this](int slot) {
-    if (slot + 1 >= editor_.QuantiSpot()) return Refuse("this is the last spot");
+    const bool last = editor_.rsDettaglio().AbsolutePosition() == editor_.QuantiSpot();
+    if (last) return Refuse("this is the last spot");
     return Changing([&] { SpostaSpot(editor_, slot, true); });
   });
 }

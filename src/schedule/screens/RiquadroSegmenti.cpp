@@ -51,6 +51,10 @@ void RiquadroSegmenti::MostraAvvisi(const QString& testo, bool senzaNome, bool r
   constexpr int kWord = 240;  // pixels: the name of a file may have no blank to break at
   lblAvvisi->setText(Spezzabile(testo, lblAvvisi->fontMetrics(), kWord));
   lblAvvisi->setVisible(!testo.isEmpty());
+  // The keyboard would come to the next button, for a second press.
+  const bool leaves =
+      (picNomiCopie->hasFocus() && !senzaNome) || (picCopiaRipetuti->hasFocus() && !ripetuti);
+  if (leaves) grdSegmenti->setFocus(Qt::OtherFocusReason);
   picNomiCopie->setVisible(senzaNome);
   picCopiaRipetuti->setVisible(ripetuti);
 }

@@ -100,7 +100,7 @@ void frmPalinsesto::CollegaSegmenti() {
   Segmenti->grdSegmenti->SuRiga = [this](std::int64_t id) {
     segmentoVoluto_ = id;
     // A list that is sorted anew under the pressed button would have the click select another row.
-    if (!Lasciati() || QGuiApplication::mouseButtons() == Qt::NoButton) VaiAlVoluto();
+    if (!Lasciati() || QGuiApplication::mouseButtons() == Qt::NoButton) Comando([] {});
   };
   Segmenti->grdSegmenti->SuRimuovi = [this] { Comando([this] { RimuoviSegmento(editor_); }); };
   picSettimana->SuSegmento = [this](std::int16_t day, std::int64_t segment) {
@@ -117,7 +117,7 @@ void frmPalinsesto::CollegaOrario() {
           [this](const QString& text) { editor_.txtMin = Std(text); });
   // A key may come before the check of the field that was left has had its turn.
   minutes->PrimaDelTasto = hours->PrimaDelTasto = [this] {
-    if (Lasciati()) VaiAlVoluto();
+    if (Lasciati()) Comando([] {});
   };
   hours->SuInvio = [minutes] { minutes->setFocus(Qt::TabFocusReason); };
   minutes->SuInvio = [this] { picDettaglio->grdDettaglio->setFocus(Qt::TabFocusReason); };
@@ -148,20 +148,13 @@ void frmPalinsesto::LasciaIlCampo() {
   lasciatiMin_ = lasciatiMin_ || focusWidget() == picDettaglio->txtMin;
 }
 
-void frmPalinsesto::VaiAlVoluto() {
-  const auto id = std::exchange(segmentoVoluto_, 0);
-  Comando([this, id] {
-    if (id > 0) editor_.VaiAlSegmento(id);
-  });
-}
-
 void frmPalinsesto::ControllaPoi() {
   if (!Lasciati()) return;
   if (QGuiApplication::mouseButtons() != Qt::NoButton) {
     tmrLasciati_.start(kPoll);
     return;
   }
-  VaiAlVoluto();
+  Comando([] {});
 }
 
 void frmPalinsesto::RiempiGiorni() {
@@ -250,6 +243,7 @@ void frmPalinsesto::Comando(const std::function<void()>& azione) {
   const OwnError own(C().Errore);
   editor_.Turni.Comando([this, &azione] {
     ControllaLasciati();
+    if (const auto id = std::exchange(segmentoVoluto_, 0); id > 0) editor_.VaiAlSegmento(id);
     azione();
   });
   if (!editor_.Turni.UltimoChiesto()) AggiornaVista();
@@ -350,7 +344,7 @@ void frmPalinsesto::Conta() {
   conta_.stop();
   if (std::exchange(contate_, editor_.Modifiche()) == editor_.Modifiche()) return;
   avvisi_ = AvvisiPalinsesto(editor_, copie_);
-  Segmenti->MostraAvvisi(Qs(avvisi_.Parole(C())), avvisi_.SenzaNome(), avvisi_.Ripetuti());
+  Segmenti->MostraAvvisi(Qs(avvisi_.Parole(C())), avvisi_.SenzaNome(), avvisi_.Copiabili());
   modelloSegmenti_.ImpostaAvvisi(avvisi_);
   modelloSpot_.ImpostaAvvisi(avvisi_);
 }

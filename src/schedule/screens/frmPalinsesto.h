@@ -85,16 +85,14 @@ class frmPalinsesto : public Form {
   void RiempiGiorni();
   void AvvisaIlleggibile();
 
-  /// Runs what a control asks for, after the checks of the fields that were left, amid the events
-  /// of another as well, and shows what it changed.
+  /// Runs what a control asks for, after the checks of the fields that were left and the way to the
+  /// segment that was clicked, amid the events of another as well, and shows what it changed.
   void Comando(const std::function<void()>& azione);
   /// The checks of the fields of the start time that were left.
   void ControllaLasciati();
   bool Lasciati() const { return lasciateOre_ || lasciatiMin_; }
   /// A field that has the keyboard is left, though it keeps it: something else changes the segment.
   void LasciaIlCampo();
-  /// Goes to the segment that was clicked, if one was, after the checks.
-  void VaiAlVoluto();
   /// Has them run by themselves, once no button of the mouse is held: a box amid a click would
   /// swallow the rest of it.
   void ControllaPoi();
