@@ -133,18 +133,18 @@ TEST_F(ScheduleLists, TellOfMissingFilesAndWhereTheyWere) {
 }
 
 TEST_F(ScheduleLists, AFileThatStandsInSeveralSpotsIsToldOf) {
-  Segmento(0, "08.30", {"a.mp3", "b.mp3"});
-  Segmento(0, "09.30", {"b.mp3"});
+  Segmento(0, "08.30", {"b.mp3", "a.mp3"});
+  Segmento(0, "09.30", {"c.mp3", "b.mp3"});
   Apri();
   EXPECT_TRUE(QTest::qWaitFor([this] { return !Avvisi().empty(); }));
   EXPECT_THAT(Avvisi(), testing::StartsWith("b.mp3 stands in several spots: "));
-  EXPECT_FALSE(SpotRole(1, Qt::ForegroundRole).value<QColor>() == Tema::Corrente().Avviso)
+  EXPECT_FALSE(SpotRole(0, Qt::ForegroundRole).value<QColor>() == Tema::Corrente().Avviso)
       << "the first of them is on the card";
   ClicSegmento(1);
-  EXPECT_EQ(SpotRole(0, Qt::ForegroundRole).value<QColor>(), Tema::Corrente().Avviso);
-  EXPECT_THAT(SpotRole(0, Qt::ToolTipRole).toString().toStdString(),
+  EXPECT_EQ(SpotRole(1, Qt::ForegroundRole).value<QColor>(), Tema::Corrente().Avviso);
+  EXPECT_THAT(SpotRole(1, Qt::ToolTipRole).toString().toStdString(),
               HasSubstr("b.mp3 stands in several spots"));
-  Clic("picRimuoviSpot", 0);
+  Clic("picRimuoviSpot", 1);
   EXPECT_TRUE(QTest::qWaitFor([this] { return Avvisi().empty(); }));
 }
 
