@@ -33,7 +33,8 @@ void GrigliaSegmenti::AggiornaLayout() {
   int contents = fontMetrics().horizontalAdvance(marked) + kSign + kEdges;
   const int rest = viewport()->width() - start - contents;
   const int names = std::max(0, rest / kName);
-  if (names == 0) contents = std::max(contents, viewport()->width() - start);
+  // In a narrow list the words end in "…" rather than at the frame.
+  if (names == 0) contents = std::max(kName, viewport()->width() - start);
   header->resizeSection(ModelloSegmenti::Inizio, start);
   header->resizeSection(ModelloSegmenti::Contenuto, contents);
   for (int column = ModelloSegmenti::Spot1; column < ModelloSegmenti::Colonne; ++column) {
