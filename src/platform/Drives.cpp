@@ -7,6 +7,25 @@
 #include "platform/IniFile.h"
 
 namespace kvr5 {
+namespace {
+
+Drive DriveOf(char letter, const Volume& volume, const std::optional<VolumeRoom>& room) {
+  Drive drive{.Letter = letter,
+              .Label = volume.Label,
+              .FileSystem = volume.FileSystem,
+              .Mount = volume.Mount,
+              .Device = volume.Device,
+              .HasMedium = room.has_value()};
+  if (room) {
+    drive.Size = room->Size;
+    drive.Free = room->Free;
+    drive.ReadOnly = room->ReadOnly;
+  }
+  return drive;
+}
+
+}  // namespace
+
 std::map<char, std::string> RemovableFolders(std::string_view iniText) {
   constexpr std::size_t kLongestPath = 4096;
   const CodePage utf8(65001);
@@ -32,13 +51,15 @@ std::vector<Drive> Drives::List() {
     if (!paths_.Bind(letter, folder)) continue;
     const std::string root = paths_.Root(letter);
     const auto mounted = std::ranges::find(volumes, root, &Volume::Mount);
-    Add(drives, letter, mounted == volumes.end() ? Volume{root, "", ""} : *mounted);
+    const Volume volume = mounted == volumes.end() ? Volume{root, "", ""} : *mounted;
+    drives.emplace(letter, DriveOf(letter, volume, RoomOfEntry(root)));
   }
   for (const Volume& volume : volumes) {
     const auto isThere = [&](const auto& entry) { return entry.second.Mount == volume.Mount; };
     if (std::ranges::any_of(drives, isThere)) continue;
     const char letter = paths_.LetterOf(volume.Mount);
-    if (letter != '\0') Add(drives, letter, volume);
+    if (letter == '\0') continue;
+    drives.emplace(letter, DriveOf(letter, volume, volumes_.Room(volume.Mount)));
   }
   std::vector<Drive> list;
   list.reserve(drives.size());
@@ -46,19 +67,11 @@ std::vector<Drive> Drives::List() {
   return list;
 }
 
-void Drives::Add(std::map<char, Drive>& drives, char letter, const Volume& volume) const {
-  const std::optional<VolumeRoom> room = volumes_.Room(volume.Mount);
-  Drive drive{.Letter = letter,
-              .Label = volume.Label,
-              .FileSystem = volume.FileSystem,
-              .Mount = volume.Mount,
-              .HasMedium = room.has_value()};
-  if (room) {
-    drive.Size = room->Size;
-    drive.Free = room->Free;
-    drive.ReadOnly = room->ReadOnly;
-  }
-  drives.emplace(letter, std::move(drive));
+std::optional<VolumeRoom> Drives::RoomOfEntry(const std::string& folder) {
+  const std::optional<VolumeRoom> room = volumes_.Room(folder);
+  if (room && room->OwnVolume) seenAsVolumes_.insert(folder);
+  const bool isLeftBehind = room && !room->OwnVolume && seenAsVolumes_.contains(folder);
+  return isLeftBehind ? std::nullopt : room;
 }
 
 }  // namespace kvr5

@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,10 +20,13 @@ struct Drive {
   std::string Label;       ///< UTF-8; "" when the volume has none
   std::string FileSystem;  ///< as the host calls it ("vfat", "exfat"); "" for a plain folder
   std::string Mount;       ///< the folder in the host's form
+  std::string Device;      ///< the block device as sysfs calls it ("sdb1"); "" for a plain folder
   std::uint64_t Size = 0;  ///< bytes
   std::uint64_t Free = 0;  ///< bytes free for this user
   bool ReadOnly = false;
-  bool HasMedium = true;  ///< false for an entry of Drives.ini whose folder isn't there
+  /// False for an entry of Drives.ini whose folder isn't there, or is but the empty place where a
+  /// card was mounted.
+  bool HasMedium = true;
 
   /// The drive's root in the system's form, such as "D:\".
   std::string Root() const { return std::string(1, Letter) + ":\\"; }
@@ -34,13 +38,15 @@ struct Volume {
   std::string Mount;
   std::string Label;
   std::string FileSystem;
+  std::string Device = {};  ///< the block device as sysfs calls it, such as "sdb1"
 };
 
-/// Room on a volume.
+/// Room under a folder.
 struct VolumeRoom {
   std::uint64_t Size = 0;  ///< bytes
   std::uint64_t Free = 0;  ///< bytes free for this user
   bool ReadOnly = false;
+  bool OwnVolume = false;  ///< the folder is the root of a volume, not a folder of its parent's one
 };
 
 /// What the host tells of its volumes.
@@ -69,15 +75,19 @@ class Drives {
       : paths_(paths), volumes_(volumes), iniText_(std::move(iniText)) {}
 
   /// All drives by letter. An entry of Drives.ini wins over a volume mounted at the same folder;
-  /// one whose letter already stands for another folder is left out.
+  /// one whose letter already stands for another folder is left out. A folder of Drives.ini that
+  /// was once seen as the root of a volume has a medium only while it is: without the card it is an
+  /// empty folder of the system's disk.
   std::vector<Drive> List();
 
  private:
-  void Add(std::map<char, Drive>& drives, char letter, const Volume& volume) const;
+  /// The room of a folder of Drives.ini; nothing while the card that belongs there is out.
+  std::optional<VolumeRoom> RoomOfEntry(const std::string& folder);
 
   PathMap& paths_;
   const VolumeSource& volumes_;
   std::function<std::string()> iniText_;
+  std::set<std::string> seenAsVolumes_;  ///< folders of Drives.ini
 };
 
 }  // namespace kvr5

@@ -20,7 +20,7 @@ class FakeVolumes : public VolumeSource {
 class DrivesOf : public testing::Test {
  protected:
   void Mount(const std::string& folder, const std::string& label = "", bool readOnly = false) {
-    volumes_.Mounted.push_back({folder, label, "vfat"});
+    volumes_.Mounted.push_back({folder, label, "vfat", "sdb1"});
     volumes_.Rooms[folder] = {1000, 400, readOnly};
   }
   std::string Letters() {
@@ -48,6 +48,7 @@ TEST_F(DrivesOf, AMountedVolumeTellsAllAboutIt) {
   EXPECT_EQ(drives[0].Label, "My card");
   EXPECT_EQ(drives[0].FileSystem, "vfat");
   EXPECT_EQ(drives[0].Mount, "/media/anna/CARD");
+  EXPECT_EQ(drives[0].Device, "sdb1");
   EXPECT_EQ(drives[0].Size, 1000U);
   EXPECT_EQ(drives[0].Free, 400U);
   EXPECT_TRUE(drives[0].ReadOnly);
@@ -77,6 +78,7 @@ TEST_F(DrivesOf, TheIniFileWins) {
   EXPECT_EQ(drives[0].Letter, 'D');
   EXPECT_EQ(drives[0].Mount, "/srv/card");
   EXPECT_EQ(drives[0].FileSystem, "");
+  EXPECT_EQ(drives[0].Device, "");
   EXPECT_EQ(drives[0].Free, 20U);
   EXPECT_EQ(drives[1].Letter, 'E');
   EXPECT_EQ(drives[1].Mount, "/media/b");
@@ -89,6 +91,32 @@ TEST_F(DrivesOf, AnEntryWhoseFolderIsGoneHasNoMedium) {
   const std::vector<Drive> drives = drives_.List();
   ASSERT_EQ(drives.size(), 1U);
   EXPECT_FALSE(drives[0].HasMedium);
+}
+
+TEST_F(DrivesOf, TheFolderThatACardLeavesBehindIsNoMedium) {
+  ini_ = "[Removable]\nE=/mnt/reader\n";
+  volumes_.Rooms["/mnt/reader"] = {.Size = 1000, .Free = 400, .OwnVolume = true};
+  EXPECT_TRUE(drives_.List()[0].HasMedium);
+  volumes_.Rooms["/mnt/reader"] = {.Size = 500000, .Free = 300000};
+  const Drive out = drives_.List()[0];
+  EXPECT_FALSE(out.HasMedium);
+  EXPECT_EQ(out.Free, 0U) << "the room of the system's disk is none of the card's";
+  volumes_.Rooms.clear();
+  EXPECT_FALSE(drives_.List()[0].HasMedium);
+  volumes_.Rooms["/mnt/reader"] = {.Size = 1000, .Free = 400, .OwnVolume = true};
+  EXPECT_TRUE(drives_.List()[0].HasMedium) << "put back in";
+}
+
+TEST_F(DrivesOf, APlainFolderCountsAsLongAsItIsThere) {
+  ini_ = "[Removable]\nE=/srv/card\nF=/mnt/reader\n";
+  volumes_.Rooms["/srv/card"] = {.Size = 1000, .Free = 400};
+  volumes_.Rooms["/mnt/reader"] = {.Size = 1000, .Free = 400, .OwnVolume = true};
+  EXPECT_TRUE(drives_.List()[0].HasMedium);
+  volumes_.Rooms["/mnt/reader"].OwnVolume = false;
+  EXPECT_TRUE(drives_.List()[0].HasMedium) << "what is seen of one folder tells nothing of another";
+  EXPECT_FALSE(drives_.List()[1].HasMedium);
+  volumes_.Rooms.erase("/srv/card");
+  EXPECT_FALSE(drives_.List()[0].HasMedium);
 }
 
 TEST_F(DrivesOf, AnEntryDoesNotTakeALetterAway) {

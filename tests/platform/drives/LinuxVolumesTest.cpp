@@ -89,6 +89,7 @@ TEST_F(LinuxVolumesOf, AnOrdinaryComputerOffersTheStick) {
   EXPECT_EQ(volumes[0].Mount, "/media/anna/MY CARD");
   EXPECT_EQ(volumes[0].FileSystem, "exfat");
   EXPECT_EQ(volumes[0].Label, "MY CàRD");
+  EXPECT_EQ(volumes[0].Device, "sdb1");
 }
 
 TEST_F(LinuxVolumesOf, UsbDisksAndBuiltInReadersThatCallThemselvesFixedAreOffered) {
@@ -222,6 +223,15 @@ TEST(LinuxVolumes, TellsTheRoomOfAFolder) {
   EXPECT_GT(room->Size, room->Free);
   EXPECT_FALSE(room->ReadOnly);
   EXPECT_FALSE(LinuxVolumes().Room((folder.Host() / "none").string()));
+}
+
+TEST(LinuxVolumes, TellsTheRootOfAVolumeFromAFolderOfOne) {
+  const test::TempFolder folder;
+  EXPECT_FALSE(LinuxVolumes().Room(folder.Host().string())->OwnVolume);
+  EXPECT_TRUE(LinuxVolumes().Room("/proc")->OwnVolume);
+  EXPECT_FALSE(LinuxVolumes().Room("/proc/self")->OwnVolume);
+  fs::create_directory_symlink("/proc", folder.Host() / "link");
+  EXPECT_TRUE(LinuxVolumes().Room((folder.Host() / "link").string())->OwnVolume);
 }
 
 TEST(LinuxVolumes, NeverOffersTheRootOfThisComputer) {

@@ -1,5 +1,6 @@
 #include "platform/host/posix/LinuxVolumes.h"
 
+#include <sys/stat.h>
 #include <sys/statvfs.h>
 
 #include <algorithm>
@@ -72,6 +73,14 @@ std::set<fs::path> SystemDisks(const std::vector<MountEntry>& mounts, const Bloc
   return disks;
 }
 
+/// True when a folder is the root of a volume, as far as its parent tells.
+bool IsRootOfVolume(const std::string& folder) {
+  struct stat own {};
+  struct stat parent {};
+  return ::stat(folder.c_str(), &own) == 0 && ::stat((folder + "/..").c_str(), &parent) == 0 &&
+         own.st_dev != parent.st_dev;
+}
+
 }  // namespace
 
 std::vector<Volume> LinuxVolumes::Removable() const {
@@ -93,8 +102,10 @@ std::vector<Volume> LinuxVolumes::Removable() const {
                         });
     if (!isCard) continue;
     offered.insert(*device);
-    volumes.push_back(
-        {.Mount = entry.Folder, .Label = labels[device->filename()], .FileSystem = entry.Type});
+    volumes.push_back({.Mount = entry.Folder,
+                       .Label = labels[device->filename()],
+                       .FileSystem = entry.Type,
+                       .Device = device->filename().string()});
   }
   return volumes;
 }
@@ -104,7 +115,8 @@ std::optional<VolumeRoom> LinuxVolumes::Room(const std::string& folder) const {
   if (::statvfs(folder.c_str(), &volume) != 0) return std::nullopt;
   return VolumeRoom{.Size = static_cast<std::uint64_t>(volume.f_blocks) * volume.f_frsize,
                     .Free = static_cast<std::uint64_t>(volume.f_bavail) * volume.f_frsize,
-                    .ReadOnly = (volume.f_flag & ST_RDONLY) != 0};
+                    .ReadOnly = (volume.f_flag & ST_RDONLY) != 0,
+                    .OwnVolume = IsRootOfVolume(folder)};
 }
 
 }  // namespace host
