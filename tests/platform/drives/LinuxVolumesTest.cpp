@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/host/posix/LinuxVolumes.h"
+#include "platform/host/posix/UdevDatabase.h"
 #include "support/TempFolder.h"
 
 namespace kvr5::host {
@@ -50,13 +51,15 @@ class LinuxVolumesOf : public testing::Test {
   void Mount(const std::string& number, const std::string& mounted,
              const std::string& type = "vfat", const std::string& source = "/dev/x",
              const std::string& root = "/") {
+    const std::string ids = mounted == "/" ? "1 0" : std::to_string(++mounts_) + " 1";
     table_ +=
-        "1 2 " + number + " " + root + " " + mounted + " rw - " + type + " " + source + " rw\n";
+        ids + " " + number + " " + root + " " + mounted + " rw - " + type + " " + source + " rw\n";
   }
   std::vector<Volume> Removable() {
     folder_.Write("mountinfo", table_);
     return LinuxVolumes({.MountTable = folder_.Host() / "mountinfo",
                          .Sys = Sys(),
+                         .Udev = folder_.Host() / "udev",
                          .Labels = folder_.Host() / "labels"})
         .Removable();
   }
@@ -72,6 +75,7 @@ class LinuxVolumesOf : public testing::Test {
 
   test::TempFolder folder_;
   std::string table_;
+  int mounts_ = 1;
 };
 
 using Names = std::vector<std::string>;
@@ -90,6 +94,43 @@ TEST_F(LinuxVolumesOf, AnOrdinaryComputerOffersTheStick) {
   EXPECT_EQ(volumes[0].FileSystem, "exfat");
   EXPECT_EQ(volumes[0].Label, "MY CàRD");
   EXPECT_EQ(volumes[0].Device, "sdb1");
+}
+
+TEST_F(LinuxVolumesOf, CardsOfOneLabelHaveItBoth) {
+  Disk(kUsb, "sdb", 16, "1");
+  Disk(kUsb, "sdc", 32, "1");
+  Mount("8:17", "/media/anna/AUDIO");
+  Mount("8:33", "/media/anna/AUDIO1");
+  folder_.Write("udev/b8:17",
+                "I:1\nE:ID_FS_LABEL=HALL_1\nE:ID_FS_LABEL_ENC=HALL\\x201\nG:systemd\n");
+  folder_.Write("udev/b8:33", "E:ID_FS_LABEL_ENC=HALL\\x201");
+  fs::create_directories(folder_.Host() / "labels");
+  fs::create_symlink("../../sdc1", folder_.Host() / "labels" / R"(HALL\x201)");
+  const std::vector<Volume> volumes = Removable();
+  ASSERT_EQ(volumes.size(), 2U);
+  EXPECT_EQ(volumes[0].Label, "HALL 1");
+  EXPECT_EQ(volumes[1].Label, "HALL 1");
+}
+
+TEST_F(LinuxVolumesOf, WhereUdevKnowsNoLabelTheLinkTells) {
+  Disk(kUsb, "sdb", 16, "1");
+  Mount("0:50", "/media/anna/AUDIO", "fuse.exfat", "/dev/sdb1");
+  folder_.Write("udev/b8:17", "E:ID_FS_TYPE=exfat\nE:XID_FS_LABEL_ENC=NO\n");
+  folder_.Write("udev/b8:16", "E:ID_FS_LABEL_ENC=NO\n");
+  EXPECT_EQ(Removable().at(0).Label, "");
+  fs::create_directories(folder_.Host() / "labels");
+  fs::create_symlink("../../sdb", folder_.Host() / "labels" / "NO");
+  fs::create_symlink("../../sdb1", folder_.Host() / "labels" / "YES");
+  EXPECT_EQ(Removable().at(0).Label, "YES");
+}
+
+TEST(DecodedUdevText, IsWhatTheVolumeCallsItself) {
+  EXPECT_EQ(DecodedUdevText(""), "");
+  EXPECT_EQ(DecodedUdevText(R"(A\x20B\x2fC)"), "A B/C");
+  EXPECT_EQ(DecodedUdevText(R"(caff\xc3\xa8 è)"), "caffè è");
+  EXPECT_EQ(DecodedUdevText(R"(\x5cx41)"), R"(\x41)");
+  EXPECT_EQ(DecodedUdevText(R"(a\x2\xzz\x)"), R"(a\x2\xzz\x)");
+  EXPECT_EQ(DecodedUdevText(R"(CITT\xb7\x0a\x1b)"), "CITT\uFFFD\uFFFD\uFFFD") << "no UTF-8";
 }
 
 TEST_F(LinuxVolumesOf, UsbDisksAndBuiltInReadersThatCallThemselvesFixedAreOffered) {
@@ -211,6 +252,7 @@ TEST_F(LinuxVolumesOf, ATreeThatItselfLiesBelowAUsbFolderMakesNothingRemovable) 
 TEST_F(LinuxVolumesOf, NoTreeAndNoTableIsNoVolume) {
   EXPECT_TRUE(LinuxVolumes({.MountTable = folder_.Host() / "none",
                             .Sys = folder_.Host() / "none",
+                            .Udev = folder_.Host() / "none",
                             .Labels = folder_.Host() / "none"})
                   .Removable()
                   .empty());

@@ -4,14 +4,14 @@
 #include <sys/statvfs.h>
 
 #include <algorithm>
-#include <charconv>
 #include <fstream>
-#include <map>
 #include <set>
 #include <sstream>
 
 #include "platform/host/posix/BlockDevices.h"
 #include "platform/host/posix/MountTable.h"
+#include "platform/host/posix/UdevDatabase.h"
+#include "platform/host/posix/VolumeLabels.h"
 
 namespace kvr5 {
 
@@ -25,38 +25,6 @@ std::string ContentOf(const fs::path& file) {
   std::ostringstream content;
   content << in.rdbuf();
   return content.str();
-}
-
-/// Labels stand as names of links, where "\x20" is a blank.
-std::string Unescaped(std::string_view name) {
-  std::string label;
-  while (!name.empty()) {
-    unsigned value = 0;
-    const char* digits = name.data() + 2;
-    if (name.starts_with("\\x") && name.size() >= 4 &&
-        std::from_chars(digits, digits + 2, value, 16).ptr == digits + 2) {
-      label += static_cast<char>(value);
-      name.remove_prefix(4);
-    } else {
-      label += name[0];
-      name.remove_prefix(1);
-    }
-  }
-  return label;
-}
-
-/// The labels by the name of the device ("sdb1").
-std::map<std::string, std::string> LabelsIn(const fs::path& folder) {
-  std::map<std::string, std::string> labels;
-  std::error_code failed;
-  for (fs::directory_iterator it(folder, failed), end; !failed && it != end; it.increment(failed)) {
-    std::error_code unreadable;
-    const fs::path device = fs::read_symlink(it->path(), unreadable);
-    if (!unreadable) {
-      labels[device.filename().string()] = Unescaped(it->path().filename().string());
-    }
-  }
-  return labels;
 }
 
 bool IsPicture(const std::string& type) {
@@ -87,7 +55,7 @@ std::vector<Volume> LinuxVolumes::Removable() const {
   const std::vector<MountEntry> mounts = ParseMountTable(ContentOf(places_.MountTable));
   const BlockDevices devices(places_.Sys);
   const std::set<fs::path> ofSystem = SystemDisks(mounts, devices);
-  std::map<std::string, std::string> labels = LabelsIn(places_.Labels);
+  const VolumeLabels labels(UdevDatabase(places_.Udev), places_.Labels);
   std::vector<Volume> volumes;
   std::set<fs::path> offered;
   for (const MountEntry& entry : mounts) {
@@ -103,7 +71,7 @@ std::vector<Volume> LinuxVolumes::Removable() const {
     if (!isCard) continue;
     offered.insert(*device);
     volumes.push_back({.Mount = entry.Folder,
-                       .Label = labels[device->filename()],
+                       .Label = labels.Of(*device),
                        .FileSystem = entry.Type,
                        .Device = device->filename().string()});
   }

@@ -18,6 +18,7 @@ class LinuxVolumes : public VolumeSource {
   struct Places {
     std::filesystem::path MountTable = "/proc/self/mountinfo";
     std::filesystem::path Sys = "/sys";
+    std::filesystem::path Udev = "/run/udev/data";
     std::filesystem::path Labels = "/dev/disk/by-label";
   };
 
