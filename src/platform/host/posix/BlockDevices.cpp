@@ -1,5 +1,6 @@
 #include "platform/host/posix/BlockDevices.h"
 
+#include <algorithm>
 #include <fstream>
 
 namespace kvr5::host {
@@ -38,6 +39,15 @@ bool Exists(const fs::path& path) {
   return fs::exists(path, ignored);
 }
 
+/// Where the links of a folder lead to.
+std::vector<fs::path> TargetsIn(const fs::path& folder) {
+  std::vector<fs::path> targets;
+  for (const fs::path& link : EntriesOf(folder)) {
+    if (auto target = Resolved(link)) targets.push_back(std::move(*target));
+  }
+  return targets;
+}
+
 constexpr std::string_view kScsiOptical = "5";
 
 }  // namespace
@@ -51,21 +61,19 @@ std::optional<fs::path> BlockDevices::DeviceOf(const MountEntry& entry) const {
     return Resolved(sys_ / "dev" / "block" / number);
   }
   const fs::path source = entry.Source;  // btrfs and some processes tell no number
-  const fs::path all = sys_ / "class" / "block";
-  if (source.parent_path() == "/dev") return Resolved(all / source.filename());
+  if (source.parent_path() == "/dev") {
+    return Resolved(sys_ / "class" / "block" / source.filename());
+  }
   if (source.parent_path() != "/dev/mapper") return std::nullopt;
-  for (const fs::path& device : EntriesOf(all)) {
-    if (LineOf(device / "dm" / "name") == source.filename()) return Resolved(device);
+  for (const fs::path& device : All()) {
+    if (LineOf(device / "dm" / "name") == source.filename()) return device;
   }
   return std::nullopt;
 }
 
 std::set<fs::path> BlockDevices::DisksOf(const fs::path& device) const {
   std::set<fs::path> disks;
-  for (const fs::path& slave : EntriesOf(device / "slaves")) {
-    const std::optional<fs::path> beneath = Resolved(slave);
-    if (beneath) disks.merge(DisksOf(*beneath));
-  }
+  for (const fs::path& beneath : TargetsIn(device / "slaves")) disks.merge(DisksOf(beneath));
   if (disks.empty()) disks.insert(Exists(device / "partition") ? device.parent_path() : device);
   return disks;
 }
@@ -78,6 +86,24 @@ bool BlockDevices::IsRemovable(const fs::path& disk) const {
   if (removable.empty()) return false;
   const std::string inTree = disk.string().substr(sys_.string().size());
   return removable == "1" || type == "SD" || inTree.find("/usb") != std::string::npos;
+}
+
+fs::path BlockDevices::FileBehind(const fs::path& disk) {
+  return LineOf(disk / "loop" / "backing_file");
+}
+
+std::vector<fs::path> BlockDevices::BtrfsMembers(const std::optional<fs::path>& device) const {
+  std::vector<fs::path> members;
+  for (const fs::path& volume : EntriesOf(sys_ / "fs" / "btrfs")) {
+    const std::vector<fs::path> own = TargetsIn(volume / "devices");
+    if (device && std::ranges::find(own, *device) == own.end()) continue;
+    members.insert(members.end(), own.begin(), own.end());
+  }
+  return members;
+}
+
+std::vector<fs::path> BlockDevices::All() const {
+  return TargetsIn(sys_ / "class" / "block");
 }
 
 }  // namespace kvr5::host

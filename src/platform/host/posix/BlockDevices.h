@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <optional>
 #include <set>
-#include <string>
+#include <vector>
 
 #include "platform/host/posix/MountTable.h"
 
@@ -23,6 +23,13 @@ class BlockDevices {
   /// True for a disk that can be taken out: the kernel calls it removable, it hangs on USB, or it
   /// is an SD card (built-in readers and USB disks call themselves fixed). Never a floppy or a CD.
   bool IsRemovable(const std::filesystem::path& disk) const;
+  /// The file that a loop device reads from; empty for any other device.
+  static std::filesystem::path FileBehind(const std::filesystem::path& disk);
+  /// The devices of the btrfs that `device` is a part of; of each one there is when it isn't known.
+  std::vector<std::filesystem::path> BtrfsMembers(
+      const std::optional<std::filesystem::path>& device) const;
+  /// All disks, partitions and mapped devices.
+  std::vector<std::filesystem::path> All() const;
 
  private:
   std::filesystem::path sys_;

@@ -10,6 +10,7 @@
 
 #include "platform/host/posix/BlockDevices.h"
 #include "platform/host/posix/MountTable.h"
+#include "platform/host/posix/SystemDisks.h"
 #include "platform/host/posix/UdevDatabase.h"
 #include "platform/host/posix/VolumeLabels.h"
 
@@ -28,17 +29,18 @@ std::string ContentOf(const fs::path& file) {
 }
 
 bool IsPicture(const std::string& type) {
-  return type == "iso9660" || type == "udf";
+  return type == "iso9660" || type == "udf" || type == "squashfs" || type == "erofs";
 }
 
-/// The disks that the running system stands on.
-std::set<fs::path> SystemDisks(const std::vector<MountEntry>& mounts, const BlockDevices& devices) {
-  std::set<fs::path> disks;
-  for (const MountEntry& entry : mounts) {
-    if (!IsSystemFolder(entry.Folder)) continue;
-    if (const auto device = devices.DeviceOf(entry)) disks.merge(devices.DisksOf(*device));
-  }
-  return disks;
+/// True for a device that lies on removable disks alone and on none of the system's. One that is
+/// mapped onto others (encrypted, a part of a larger volume) is none a player reads.
+bool MayBeCard(const fs::path& device, const BlockDevices& devices, const SystemDisks& ofSystem) {
+  if (devices.BtrfsMembers(device).size() > 1) return false;
+  const std::set<fs::path> disks = devices.DisksOf(device);
+  const bool isPlain = disks.contains(device) || disks.contains(device.parent_path());
+  return isPlain && std::ranges::all_of(disks, [&](const fs::path& disk) {
+           return devices.IsRemovable(disk) && !ofSystem.Contains(disk);
+         });
 }
 
 /// True when a folder is the root of a volume, as far as its parent tells.
@@ -54,21 +56,15 @@ bool IsRootOfVolume(const std::string& folder) {
 std::vector<Volume> LinuxVolumes::Removable() const {
   const std::vector<MountEntry> mounts = ParseMountTable(ContentOf(places_.MountTable));
   const BlockDevices devices(places_.Sys);
-  const std::set<fs::path> ofSystem = SystemDisks(mounts, devices);
-  const VolumeLabels labels(UdevDatabase(places_.Udev), places_.Labels);
+  const UdevDatabase udev(places_.Udev);
+  const SystemDisks ofSystem(mounts, devices, udev);
+  const VolumeLabels labels(udev, places_.Labels);
   std::vector<Volume> volumes;
   std::set<fs::path> offered;
   for (const MountEntry& entry : mounts) {
-    if (entry.Root != "/" || IsPicture(entry.Type)) continue;
+    if (entry.Root != "/" || entry.Covered || IsPicture(entry.Type)) continue;
     const std::optional<fs::path> device = devices.DeviceOf(entry);
-    if (!device || offered.contains(*device)) continue;
-    // One that is mapped onto others (encrypted, a part of a larger volume) is none a player reads.
-    const std::set<fs::path> disks = devices.DisksOf(*device);
-    const bool isPlain = disks.contains(*device) || disks.contains(device->parent_path());
-    const bool isCard = isPlain && std::ranges::all_of(disks, [&](const fs::path& disk) {
-                          return devices.IsRemovable(disk) && !ofSystem.contains(disk);
-                        });
-    if (!isCard) continue;
+    if (!device || offered.contains(*device) || !MayBeCard(*device, devices, ofSystem)) continue;
     offered.insert(*device);
     volumes.push_back({.Mount = entry.Folder,
                        .Label = labels.Of(*device),

@@ -10,8 +10,8 @@ namespace kvr5::host {
 /// The removable volumes by the mount table and sysfs.
 ///
 /// Never offered: a disk that "/" or another folder of the running system stands on, in whole or
-/// in part; what only a part of a volume is mounted of; CDs and floppies; what isn't known well
-/// enough to tell.
+/// in part; what only a part of a volume is mounted of; what another volume is mounted over; CDs
+/// and floppies; what isn't known well enough to tell.
 class LinuxVolumes : public VolumeSource {
  public:
   /// Where the system tells about its volumes.

@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <optional>
+#include <set>
 
 namespace kvr5::host {
 namespace {
@@ -41,8 +42,8 @@ bool ToNumber(std::string_view text, unsigned& value) {
 /// "36 35 98:0 / /mnt/a rw,noatime master:1 - ext3 /dev/root rw"
 std::optional<MountEntry> ParseLine(std::string_view line) {
   MountEntry entry;
-  TakeUntil(line, ' ');  // the mount's number
-  TakeUntil(line, ' ');  // its parent's
+  if (!ToNumber(TakeUntil(line, ' '), entry.Id)) return std::nullopt;
+  if (!ToNumber(TakeUntil(line, ' '), entry.Parent)) return std::nullopt;
   std::string_view device = TakeUntil(line, ' ');
   const std::string_view major = TakeUntil(device, ':');
   if (!ToNumber(major, entry.Major) || !ToNumber(device, entry.Minor)) return std::nullopt;
@@ -52,8 +53,34 @@ std::optional<MountEntry> ParseLine(std::string_view line) {
   }
   entry.Type = Unescaped(TakeUntil(line, ' '));
   entry.Source = Unescaped(TakeUntil(line, ' '));
+  entry.Options = Unescaped(TakeUntil(line, ' '));
   if (!entry.Folder.starts_with('/') || entry.Source.empty()) return std::nullopt;
   return entry;
+}
+
+bool LiesIn(std::string_view folder, std::string_view tree) {
+  return tree == "/" ||
+         (folder.starts_with(tree) && (folder.size() == tree.size() || folder[tree.size()] == '/'));
+}
+
+/// True when one of `mounts` lies over a folder on the way from the parent of `entry` to it.
+bool IsCutOff(const MountEntry& entry, const std::vector<MountEntry>& mounts) {
+  return std::ranges::any_of(mounts, [&](const MountEntry& other) {
+    return other.Parent == entry.Parent && other.Folder != entry.Folder &&
+           LiesIn(entry.Folder, other.Folder);
+  });
+}
+
+/// What lies below a mount stands behind it in the table, and so does what was mounted over it.
+void MarkCovered(std::vector<MountEntry>& mounts) {
+  std::set<unsigned> cutOff;
+  for (auto entry = mounts.begin(); entry != mounts.end(); ++entry) {
+    if (cutOff.contains(entry->Parent) || IsCutOff(*entry, mounts)) cutOff.insert(entry->Id);
+    entry->Covered = cutOff.contains(entry->Id) ||
+                     std::any_of(entry + 1, mounts.end(), [&](const MountEntry& later) {
+                       return later.Folder == entry->Folder;
+                     });
+  }
 }
 
 }  // namespace
@@ -62,27 +89,26 @@ std::vector<MountEntry> ParseMountTable(std::string_view text) {
   std::vector<MountEntry> entries;
   while (!text.empty()) {
     std::optional<MountEntry> entry = ParseLine(TakeUntil(text, '\n'));
-    if (!entry) continue;
-    std::erase_if(entries, [&](const MountEntry& old) { return old.Folder == entry->Folder; });
-    entries.push_back(std::move(*entry));
+    if (entry) entries.push_back(std::move(*entry));
   }
+  MarkCovered(entries);
   return entries;
 }
 
 bool IsSystemFolder(std::string_view mountFolder) {
-  static constexpr std::array<std::string_view, 9> kFolders{
-      "/", "/home", "/root", "/opt", "/srv", "/tmp", "/etc", "/cdrom", "/isodevice"};
-  static constexpr std::array<std::string_view, 10> kTrees{
-      "/boot",     "/efi",           "/usr",         "/var",      "/nix",
-      "/run/live", "/run/initramfs", "/run/archiso", "/lib/live", "/sysroot"};
+  static constexpr std::array<std::string_view, 8> kFolders{
+      "/", "/home", "/root", "/opt", "/srv", "/tmp", "/cdrom", "/isodevice"};
+  // A live system keeps its medium somewhere in /run, each in a place of its own.
+  static constexpr std::array<std::string_view, 12> kTrees{
+      "/boot", "/efi",    "/usr", "/var",     "/etc",  "/nix",
+      "/lib",  "/initrd", "/run", "/sysroot", "/live", "/mnt-system"};
+  if (LiesIn(mountFolder, "/run/media")) return false;
   if (std::ranges::find(kFolders, mountFolder) != kFolders.end()) return true;
   if (mountFolder.starts_with("/home/")) {  // one user's home
     return mountFolder.find('/', std::string_view("/home/").size()) == std::string_view::npos;
   }
-  return std::ranges::any_of(kTrees, [&](std::string_view tree) {
-    return mountFolder.starts_with(tree) &&
-           (mountFolder.size() == tree.size() || mountFolder[tree.size()] == '/');
-  });
+  return std::ranges::any_of(kTrees,
+                             [&](std::string_view tree) { return LiesIn(mountFolder, tree); });
 }
 
 }  // namespace kvr5::host
