@@ -78,7 +78,7 @@ function(kvr5_add_library name)
   cmake_parse_arguments(ARG "" "" "DEPENDS;LINK" ${ARGN})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}"
     "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp" "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
-  list(FILTER sources EXCLUDE REGEX "^(screens|qt|main|audio)/")
+  list(FILTER sources EXCLUDE REGEX "^(screens|qt|main|audio|udisks)/")
   add_library(kvr5_${name} STATIC ${sources})
   target_include_directories(kvr5_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
   list(TRANSFORM ARG_DEPENDS PREPEND kvr5_)
