@@ -8,7 +8,7 @@
 #include <string>
 
 #include "core/Contesto.h"
-#include "flashcard/SelezioneFlash.h"
+#include "core/SelezioneFlash.h"
 #include "platform/HostFileSystem.h"
 
 namespace kvr5::bench {

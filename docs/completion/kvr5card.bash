@@ -26,6 +26,11 @@ _kvr5card_languages() {
   done
 }
 
+# The letters of the cards that are there now.
+_kvr5card_cards() {
+  _kvr5card_offer "$1" < <("$command" "${program[@]}" cards 2>/dev/null | cut -d' ' -f1)
+}
+
 _kvr5card() {
   local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]}
   local command=${COMP_WORDS[0]//[\"\'\\]/}
@@ -35,7 +40,7 @@ _kvr5card() {
   [[ $before == "=" ]] && before=${COMP_WORDS[COMP_CWORD - 2]}
   for ((i = 1; i < COMP_CWORD; i++)); do
     case ${COMP_WORDS[i]} in
-      --program | --lang | --mode)
+      --program | --lang | --mode | --name)
         value=${COMP_WORDS[i]}
         [[ ${COMP_WORDS[i + 1]} == "=" ]] && ((i++))
         ((++i < COMP_CWORD)) || break
@@ -56,17 +61,19 @@ _kvr5card() {
   esac
   if [[ -z $verb ]]; then
     _kvr5card_words "$word" --program --lang --json --yes --no --help --version \
-      mp3 new projects show config inputs save playlists schedule report record
+      mp3 new projects show config inputs save playlists schedule report cards record readback \
+      erase verify
     return
   fi
   if [[ $word == -* && $n == 0 ]]; then
     _kvr5card_words "$word" --help
     [[ $verb == new ]] && _kvr5card_words "$word" --mode
     [[ $verb == save ]] && _kvr5card_words "$word" --copy-inputs
+    [[ $verb == readback ]] && _kvr5card_words "$word" --name
     return
   fi
   case $verb:$n in
-    show:0 | config:0 | inputs:0 | save:0 | playlists:0 | schedule:0 | report:0 | record:0)
+    show:0 | config:0 | inputs:0 | save:0 | playlists:0 | schedule:0 | report:0 | record:0 | verify:0)
       _kvr5card_offer "$word" < <("$command" "${program[@]}" projects 2>/dev/null)
       ;;
     config:1) _kvr5card_words "$word" get set ;;
@@ -78,7 +85,12 @@ _kvr5card() {
     inputs:1) _kvr5card_words "$word" list set clear ;;
     new:*) _kvr5card_words "$word" --mode ;;
     save:*) _kvr5card_words "$word" --copy-inputs ;;
-    projects:* | show:* | playlists:* | schedule:* | report:*) ;;
+    record:* | readback:0 | erase:0 | verify:1)
+      _kvr5card_cards "$word"
+      mapfile -t -O ${#COMPREPLY[@]} COMPREPLY < <(compgen -d -- "$word")
+      ;;
+    readback:*) _kvr5card_words "$word" --name ;;
+    projects:* | cards:* | erase:* | verify:* | show:* | playlists:* | schedule:* | report:*) ;;
     *) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
   esac
 }

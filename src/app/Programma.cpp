@@ -1,9 +1,14 @@
 #include "app/Programma.h"
 
 #include <QCoreApplication>
+#include <QEventLoop>
 
 #include "core/Aiuti.h"
+#include "core/Lingua.h"
+#include "core/screens/Testo.h"
 #include "flashcard/AvvisoNonLetti.h"
+#include "flashcard/CancellaFlash.h"
+#include "flashcard/ParoleEspulsione.h"
 #include "flashcard/Registrazione.h"
 #include "platform/FileOps.h"
 
@@ -120,6 +125,16 @@ void Programma::ScegliScheda(Schermata chiamante) {
   eventi_.LasciaCorrere();
 }
 
+void Programma::ChiediNomeProgetto(Schermata chiamante, const std::string& nome) {
+  nomeProgetto_->Carica();
+  nomeProgetto_->txtNomeProgetto->setText(Qs(nome));
+  nomeProgetto_->txtNomeProgetto->selectAll();
+  nomeProgetto_->setWindowTitle(Qs(TestoLingua(contesto_, "0030011")));
+  nomeProgetto_->SoloNome = true;
+  nomeProgetto_->FormSuccessivo = chiamante;
+  nomeProgetto_->MostraModale();
+}
+
 void Programma::AggiornaPercorsoMemoryCard() {
   hub_->AggiornaPercorsoMemoryCard();
 }
@@ -168,6 +183,50 @@ bool Programma::RegistraProgetto(TabellaIngressi& ingressi) {
   const auto end = RegistraProgettoSuFlash(contesto_, ingressi, progresso_, choice);
   AvvisaNonLetti(contesto_, end);
   return end.Fine == FineRegistrazione::Annullata;
+}
+
+bool Programma::ChiediScheda() {
+  SceltaDalDialogo choice(*this);
+  return ScegliSchedaSeManca(contesto_, choice);
+}
+
+void Programma::SvuotaScheda() {
+  SceltaDalDialogo choice(*this);
+  CancellaFlash(contesto_, choice);
+}
+
+void Programma::VerificaScheda() {
+  if (verifica_.Caricata()) return;
+  verifica_->FormChiamante = Schermata::Configurazione;
+  verifica_->MostraModale();
+}
+
+void Programma::ApriCopiaManuale() {
+  copiaManuale_->FormChiamante = Schermata::Configurazione;
+  copiaManuale_->Mostra();
+  documenti_.Apri(contesto_.Stato.PercorsoMemoryCard);
+}
+
+bool Programma::PuoEspellere() {
+  const auto drive = FattiDellaScheda();
+  return drive && espulsore_.CanEject(*drive);
+}
+
+void Programma::EspelliScheda() {
+  const auto drive = FattiDellaScheda();
+  if (!drive) return;
+  eventi_.ImpostaPuntatore(Puntatore::Attesa);
+  std::optional<Error> outcome;
+  QEventLoop wait;
+  espulsore_.Eject(*drive, [&](const Error& error) {
+    outcome = error;
+    wait.quit();
+  });
+  // What is still in the host's memory may take a while to get onto the card.
+  if (!outcome) wait.exec(QEventLoop::ExcludeUserInputEvents);
+  eventi_.ImpostaPuntatore(Puntatore::Normale);
+  finestre_.MostraMessaggio(
+      BoxEspulsione(contesto_, drive->Root(), outcome.value_or(Error(errors::DeviceUnavailable))));
 }
 
 std::optional<Drive> Programma::FattiDellaScheda() {

@@ -16,10 +16,14 @@
 #include "core/screens/frmMain.h"
 #include "core/screens/frmSalva.h"
 #include "core/screens/frmSplash.h"
+#include "flashcard/screens/frmCopiaManuale.h"
 #include "flashcard/screens/frmProgress.h"
 #include "flashcard/screens/frmSelectFlash.h"
+#include "flashcard/screens/frmVerifica.h"
 #include "platform/Drives.h"
 #include "platform/HostFileSystem.h"
+#include "platform/udisks/UDisks.h"
+#include "platform/udisks/VolumesWithLabels.h"
 #include "playerconfig/screens/frmConfig485.h"
 #include "playerconfig/screens/frmPanelExtra.h"
 #include "playerconfig/screens/frmPlayerConfig.h"
@@ -54,6 +58,7 @@ class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
   void ApriPlaylist(Schermata chiamante) override;
   void ApriPalinsesto(Schermata chiamante) override;
   void ScegliScheda(Schermata chiamante) override;
+  void ChiediNomeProgetto(Schermata chiamante, const std::string& nome) override;
   void AggiornaPercorsoMemoryCard() override;
   void ApriTempiFade() override;
   void ApriPanelExtra() override;
@@ -66,6 +71,12 @@ class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
   void AvviaTempoSplash() override;
 
   bool RegistraProgetto(TabellaIngressi& ingressi) override;
+  bool ChiediScheda() override;
+  void SvuotaScheda() override;
+  void VerificaScheda() override;
+  void ApriCopiaManuale() override;
+  bool PuoEspellere() override;
+  void EspelliScheda() override;
   FinestraProgresso& Progresso() override { return progresso_; }
   std::optional<Drive> FattiDellaScheda() override;
 
@@ -86,7 +97,9 @@ class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
   VitaForme vita_;
   AnteprimeAudio suono_{contesto_};
   Ambiente ambiente_;
-  std::unique_ptr<VolumeSource> volumi_ = HostVolumes();
+  UDisks espulsore_;
+  std::unique_ptr<VolumeSource> volumi_ =
+      std::make_unique<VolumesWithLabels>(HostVolumes(), espulsore_);
   Drives drives_;
   DriveDelComputer driveDelComputer_{drives_, files_};
   ProgressoQt progresso_;
@@ -95,7 +108,10 @@ class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
   FormPredefinita<frmMain> menu_{[this] { return new frmMain(ambiente_); }};
   FormPredefinita<frmConfig> impostazioni_{[this] { return new frmConfig(ambiente_); }};
   FormPredefinita<frmWizardPanel1> wizard_{[this] { return new frmWizardPanel1(ambiente_); }};
-  FormPredefinita<frmCaricaProgetto> elenco_{[this] { return new frmCaricaProgetto(ambiente_); }};
+  FormPredefinita<frmCaricaProgetto> elenco_{
+      [this] { return new frmCaricaProgetto(ambiente_, progresso_); }};
+  FormPredefinita<frmRichiestaNomeForm> nomeProgetto_{
+      [this] { return new frmRichiestaNomeForm(ambiente_); }};
   FormPredefinita<frmPlayerConfig> hub_{[this] { return new frmPlayerConfig(ambiente_, *this); }};
   FormPredefinita<frmPlaylistEditor> editorPlaylist_{
       [this] { return new frmPlaylistEditor(ambiente_, progresso_); }};
@@ -105,6 +121,8 @@ class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
   FormPredefinita<frmPanelExtra> panelExtra_{[this] { return new frmPanelExtra(ambiente_); }};
   FormPredefinita<frmConfig485> config485_{[this] { return new frmConfig485(ambiente_); }};
   FormPredefinita<frmSalva> salva_{[this] { return new frmSalva(ambiente_); }};
+  FormPredefinita<frmVerifica> verifica_{[this] { return new frmVerifica(ambiente_); }};
+  FormPredefinita<frmCopiaManuale> copiaManuale_{[this] { return new frmCopiaManuale(ambiente_); }};
   FormPredefinita<frmSelectFlash> scheda_{
       [this] { return new frmSelectFlash(ambiente_, driveDelComputer_); }};
 };

@@ -34,6 +34,8 @@ class Session {
 
   /// The removable drives; a look binds their letters.
   std::vector<Drive> ListDrives();
+  /// The same, for whoever looks at them more than once.
+  Drives& AllDrives() { return *drives_; }
   /// Reads language, options and projects folder, as every start of the program does. False when
   /// the language that was asked for isn't there (told).
   bool Start();

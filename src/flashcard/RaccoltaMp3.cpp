@@ -8,44 +8,55 @@
 namespace kvr5 {
 namespace {
 
-EsitoPassata CollectRow(Contesto& context, Passata pass, const Recordset& rows, ListaCopia& list,
-                        std::string_view card) {
-  const std::string alias = rows.Text("Alias");
-  const bool readable = static_cast<bool>(rows.Get("Alias"));
-  if (readable && alias.empty()) return {};
-  const std::string folder = rows.Text("FilePath");
-  const std::string name = rows.Text("FileName");
-  const std::string tested = AggiungiBarra(folder) + name;
-  EsitoPassata missing{false, pass == Passata::Ingressi ? name : tested};
-  // Every file sits in the card's root: a name that leads elsewhere is no alias. And the bar
-  // divides the lists.
-  if (!readable || alias.find_first_of("\\|") != std::string::npos) return missing;
-  const std::string target = AggiungiBarra(card) + alias;
-  const std::string copy = FileDelProgetto(context, alias);
-  if (FileExists(context.Files, copy)) {
-    if (!list.Contiene(copy)) list.Aggiungi(copy, target);
-    return {};
-  }
-  const std::string source = folder + name;
-  if (source.find('|') != std::string::npos) return missing;
-  if (pass == Passata::Ingressi) {
-    if (list.Contiene(source)) return missing;
-    list.Aggiungi(source, target);
-    return {};
-  }
-  if (!FileExists(context.Files, tested)) return missing;
-  if (!list.Contiene(source)) list.Aggiungi(source, target);
-  return {};
+using Fine = RigaRaccolta::Fine;
+
+/// The row of a file that lies where it was chosen. The input pass doesn't look whether it is
+/// there, and fails where another row has it already.
+Fine TakeSource(Contesto& context, Passata pass, const std::string& source,
+                const std::string& tested, const std::string& target, ListaCopia& list) {
+  const bool input = pass == Passata::Ingressi;
+  if (source.find('|') != std::string::npos) return Fine::Manca;
+  if (!input && !FileExists(context.Files, tested)) return Fine::Manca;
+  if (list.Contiene(source)) return input ? Fine::Manca : Fine::GiaPresente;
+  list.Aggiungi(source, target);
+  return Fine::Aggiunta;
 }
 
 }  // namespace
+
+RigaRaccolta RaccogliRiga(Contesto& contesto, Passata passata, const Recordset& righe,
+                          ListaCopia& lista, std::string_view scheda) {
+  const std::string alias = righe.Text("Alias");
+  const bool readable = static_cast<bool>(righe.Get("Alias"));
+  if (readable && alias.empty()) return {};
+  const std::string folder = righe.Text("FilePath");
+  const std::string name = righe.Text("FileName");
+  const std::string tested = AggiungiBarra(folder) + name;
+  const std::string missing = passata == Passata::Ingressi ? name : tested;
+  // Every file sits in the card's root: a name that leads elsewhere is no alias. And the bar
+  // divides the lists.
+  if (!readable || alias.find_first_of("\\|") != std::string::npos) {
+    return {Fine::Manca, {}, {}, missing};
+  }
+  const std::string target = AggiungiBarra(scheda) + alias;
+  const std::string copy = FileDelProgetto(contesto, alias);
+  if (FileExists(contesto.Files, copy)) {
+    if (lista.Contiene(copy)) return {Fine::GiaPresente, alias, copy};
+    lista.Aggiungi(copy, target);
+    return {Fine::Aggiunta, alias, copy};
+  }
+  const std::string source = folder + name;
+  const Fine end = TakeSource(contesto, passata, source, tested, target, lista);
+  return {end, alias, source, end == Fine::Manca ? missing : std::string()};
+}
 
 EsitoPassata RaccogliMp3(Contesto& contesto, Passata passata, Recordset& righe, ListaCopia& lista,
                          std::string_view database, std::string_view scheda) {
   if (!righe.IsOpen()) return {};
   EsitoPassata outcome;
   const Error error = WalkRows(righe, [&] {
-    outcome = CollectRow(contesto, passata, righe, lista, scheda);
+    RigaRaccolta row = RaccogliRiga(contesto, passata, righe, lista, scheda);
+    if (row.Esito == Fine::Manca) outcome = {false, std::move(row.FileMancante)};
     return outcome.Riuscita;
   });
   // A database that can't be read to its end would leave files off the card in silence.

@@ -12,6 +12,30 @@ namespace kvr5 {
 /// Which database a pass goes over; the input pass alone doesn't test that a source exists.
 enum class Passata { Ingressi, Playlist, Palinsesto };
 
+/// The query of the playlist and schedule passes.
+inline constexpr const char* kRigheDellaPassata =
+    "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC";
+
+/// What a pass makes of one row.
+struct RigaRaccolta {
+  enum class Fine {
+    SenzaAlias,   ///< passed over
+    Aggiunta,     ///< its pair was added to the lists
+    GiaPresente,  ///< its source is listed already, with the alias of an earlier row
+    Manca,        ///< its file can't be had
+  };
+  Fine Esito = Fine::SenzaAlias;
+  std::string Alias{};         ///< the name on the card; "" where the row's is no plain name
+  std::string Sorgente{};      ///< the file that is copied
+  std::string FileMancante{};  ///< as the message names it
+};
+
+/// Adds the source file of the current row to the lists, under the row's alias in the root `scheda`
+/// of the card: the copy of the project's folder that bears the alias, else the file where it was
+/// chosen.
+RigaRaccolta RaccogliRiga(Contesto& contesto, Passata passata, const Recordset& righe,
+                          ListaCopia& lista, std::string_view scheda);
+
 /// How a pass ended.
 struct EsitoPassata {
   bool Riuscita = true;
@@ -21,9 +45,7 @@ struct EsitoPassata {
   bool DatabaseIlleggibile = false;
 };
 
-/// Adds a source file for each row of `righe` to the lists, under the row's alias in the root
-/// `scheda` of the card: the copy of the project's folder that bears the alias, else the file where
-/// it was chosen.
+/// Adds a source file for each row of `righe` to the lists, as RaccogliRiga does.
 ///
 /// A closed or empty recordset is passed over. A row without an alias is passed over. A source
 /// that is listed already is dropped with its destination, so that a file in two rows reaches the

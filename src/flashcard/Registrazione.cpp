@@ -8,6 +8,7 @@
 #include "core/Lingua.h"
 #include "core/ListaCopia.h"
 #include "core/ParoleCopia.h"
+#include "flashcard/ContenutoScheda.h"
 #include "flashcard/RaccoltaMp3.h"
 #include "platform/FileOps.h"
 #include "projects/CartellaProgetto.h"
@@ -15,6 +16,8 @@
 
 namespace kvr5 {
 namespace {
+
+namespace scheda = contenuto_scheda;
 
 constexpr std::uint32_t kOrange = 33023;  // red 255, green 128, blue 0
 
@@ -32,7 +35,6 @@ class Recording {
   EsitoRegistrazione Run();
 
  private:
-  bool HasCard();
   bool CardIsWritable();
   void Begin();
   void Stage(const char* textKey);
@@ -69,7 +71,7 @@ class Recording {
 
 EsitoRegistrazione Recording::Run() {
   context_.Stato.AnnullatoDaUtente = false;
-  if (!HasCard()) return {FineRegistrazione::SenzaScheda};
+  if (!ScegliSchedaSeManca(context_, choice_)) return {FineRegistrazione::SenzaScheda};
   card_ = context_.Stato.PercorsoMemoryCard;
   if (!CardIsWritable()) {
     TellUnwritable();
@@ -91,14 +93,6 @@ EsitoRegistrazione Recording::Run() {
     outcome_.Fine = FineRegistrazione::Annullata;
   }
   return outcome_;
-}
-
-bool Recording::HasCard() {
-  const auto& state = context_.Stato;
-  if (!state.PercorsoMemoryCard.empty()) return true;
-  choice_.Scegli();
-  context_.Messaggi.LasciaCorrere();
-  return !state.SelezioneFlashAnnullata && !state.PercorsoMemoryCard.empty();
 }
 
 bool Recording::CardIsWritable() {
@@ -146,7 +140,7 @@ void Recording::Stage(const char* textKey) {
 void Recording::CopyDatabases() {  // stage 1
   progress_.Operazione(TestoLingua(context_, "0070014"));
   inputs_.Chiudi();  // a copy of a closed file
-  for (const char* name : {"inputcfg.mdb", "playlist.mdb", "scheduler.mdb"}) {
+  for (const char* name : scheda::kDatabase) {
     // A crash may have left it half changed: the card doesn't get the half.
     Ignora(RipristinaDatabase(context_, Source(name)));
     CopyIfThere(name);
@@ -156,26 +150,24 @@ void Recording::CopyDatabases() {  // stage 1
 
 void Recording::CopyConfiguration() {  // stage 2
   Stage("0070015");
-  for (const char* name : {"Config.txt", "Config.cfg"}) Copy(Source(name), Card(name));
+  for (const char* name : scheda::kConfigurazione) Copy(Source(name), Card(name));
 }
 
 void Recording::CopyLists() {  // stage 3
   Stage("0070016");
-  constexpr std::int16_t kNamedPlaylists = 9;
-  Copy(Source("*.m3u"), Card());
+  Copy(Source(scheda::kListe), Card());
   // The lists for use on the computer stay in the project where playlists have names.
-  const std::string local = Card("*_LOCAL_.m3u");
-  if (context_.Stato.PlayerMode == kNamedPlaylists && FileExists(context_.Files, local)) {
+  const std::string local = Card(scheda::kListeLocali);
+  if (context_.Stato.PlayerMode == scheda::kPlaylistConNome && FileExists(context_.Files, local)) {
     context_.Errore.Record(DeleteMatching(context_.Files, local));
   }
-  CopyIfThere("PALIN.TXT");
-  CopyMatching("*.pal");
+  CopyIfThere(scheda::kPalinsesto);
+  CopyMatching(scheda::kGiorni);
 }
 
 void Recording::CopyReports() {  // stage 4
   Stage("0070017");
-  CopyMatching("*.htm");
-  CopyMatching("*.jpg");
+  for (const char* wildcard : scheda::kReport) CopyMatching(wildcard);
 }
 
 bool Recording::CollectMp3() {  // stages 5 to 7
@@ -189,8 +181,8 @@ bool Recording::CollectMp3() {  // stages 5 to 7
 
 bool Recording::CollectInputs() {
   if (context_.Stato.Analyzer == 1) {
-    list_.Aggiungi(AggiungiBarra(context_.CartellaProgramma) + "Analyzer.mp3",
-                   Card("Analyzer.mp3"));
+    list_.Aggiungi(AggiungiBarra(context_.CartellaProgramma) + scheda::kAnalyzer,
+                   Card(scheda::kAnalyzer));
   }
   const auto& state = context_.Stato;
   if (!TabellaIngressi::SenzaIngressi(state.PlayerType, state.PlayerMode)) {
@@ -203,11 +195,10 @@ bool Recording::CollectInputs() {
 }
 
 bool Recording::CollectFrom(Passata pass, const char* database) {
-  constexpr const char* kQuery = "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC";
   rows_.Close();
   connection_.Close();
   Ignora(connection_.Open(Source(database)));  // a missing database skips its pass
-  Ignora(rows_.Open(connection_, kQuery));
+  Ignora(rows_.Open(connection_, kRigheDellaPassata));
   NoteUnread(database, rows_);
   const auto result = RaccogliMp3(context_, pass, rows_, list_, database, card_);
   if (!result.Riuscita) TellStop(result);

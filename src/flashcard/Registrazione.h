@@ -7,7 +7,7 @@
 
 #include "core/Contesto.h"
 #include "core/FinestraProgresso.h"
-#include "flashcard/SelezioneFlash.h"
+#include "core/SelezioneFlash.h"
 #include "playerconfig/TabellaIngressi.h"
 
 namespace kvr5 {

@@ -18,10 +18,11 @@ struct FileInfo {
   /// The spelling of the disk, UTF-8, without a folder; U+FFFD in place of what isn't UTF-8.
   std::string Name;
   bool IsFolder = false;
-  bool Hidden = false;        ///< FAT: the attribute; elsewhere: a name with a leading dot
-  bool System = false;        ///< FAT: the attribute; elsewhere: a pipe, device or socket
-  bool ReadOnly = false;      ///< FAT: the attribute; elsewhere: its owner can't write it
-  std::uint64_t Size = 0;     ///< bytes; 0 for a folder
+  bool Hidden = false;     ///< FAT: the attribute; elsewhere: a name with a leading dot
+  bool System = false;     ///< FAT: the attribute; elsewhere: a pipe, device or socket
+  bool ReadOnly = false;   ///< FAT: the attribute; elsewhere: its owner can't write it
+  bool IsLink = false;     ///< what the rest tells is of where it leads; only List tells of links
+  std::uint64_t Size = 0;  ///< bytes; 0 for a folder
   std::int64_t Modified = 0;  ///< seconds since 1970-01-01 UTC
   /// Why no path can name it: shown, but never opened. Only List tells of such names.
   NameFault Unusable = NameFault::None;
@@ -55,6 +56,9 @@ class File {
   /// Has the bytes before `end` written and waits for them, so that little is left for Flush. A
   /// hint that makes nothing sure; a failure is kept for Flush.
   virtual void Settle(std::uint64_t /*end*/) {}
+  /// Has the host forget what it keeps of the content in memory, so that reading asks the device;
+  /// what isn't on the device yet is kept. A hint.
+  virtual void ForgetCached() {}
   /// Puts what was written onto the device. A failure of an earlier write-back is told again.
   virtual Error Flush() = 0;
   /// Sets the time of the last change, in seconds since 1970-01-01 UTC.

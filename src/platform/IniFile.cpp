@@ -49,11 +49,19 @@ IniFile::IniFile(FileSystem& files, std::string path, CodePage page)
 
 std::string IniFile::Read(std::string_view section, std::string_view key, std::string_view fallback,
                           std::size_t size) const {
-  const Result<std::string> content = ReadWhole(files_, path_);
+  const Result<std::string> content = Content();
   std::optional<std::string_view> bytes;
   if (content) bytes = content.Value();
   return page_.Decode(ini::Read(bytes, page_.Encode(section), page_.Encode(key),
                                 page_.Encode(fallback), size, page_));
+}
+
+/// The bytes of the file. One beyond all measure, as a card may hold, is no settings file.
+Result<std::string> IniFile::Content() const {
+  constexpr std::uint64_t kMost = std::uint64_t{64} << 20U;
+  const Result<FileInfo> info = files_.Info(path_);
+  if (info && info.Value().Size > kMost) return Error(errors::OutOfMemory);
+  return ReadWhole(files_, path_);
 }
 
 Error IniFile::Write(std::string_view section, std::string_view key, std::string_view value) {
@@ -62,7 +70,7 @@ Error IniFile::Write(std::string_view section, std::string_view key, std::string
 }
 
 Error IniFile::Write(std::string_view section, std::span<const IniValue> values) {
-  Result<std::string> content = ReadWhole(files_, path_);
+  Result<std::string> content = Content();
   if (!content && !IsMissing(content.Err())) return content.Err();
   const std::string before = content ? content.Value() : std::string();
   std::string after = before;

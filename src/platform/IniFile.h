@@ -59,6 +59,8 @@ class IniFile {
   Error Write(std::string_view section, std::span<const IniValue> values);
 
  private:
+  Result<std::string> Content() const;
+
   FileSystem& files_;
   std::string path_;
   CodePage page_;

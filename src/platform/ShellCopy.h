@@ -12,7 +12,8 @@ namespace kvr5 {
 /// One source and where it goes. A source whose last component holds `*` or `?` takes every file
 /// that matches (with `*.*` also the subfolders), and the destination is a folder; so is a
 /// destination that ends in a backslash; any other is the file's new name. A source that names a
-/// folder takes it with all that is in it. Folders that the destination lacks are made.
+/// folder takes it with all that is in it. Folders that the destination lacks are made; with
+/// subfolders the links of the host are left out, since they may lead anywhere.
 struct CopyPair {
   std::string Source;
   std::string Destination;

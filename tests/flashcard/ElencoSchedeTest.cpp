@@ -3,6 +3,7 @@
 #include <map>
 
 #include "flashcard/ElencoSchede.h"
+#include "platform/Fold.h"
 #include "support/Banco.h"
 #include "support/EsecutoreFinto.h"
 
@@ -17,17 +18,17 @@ class FakeDrives : public SorgenteDrive {
   void Add(const std::string& entry, std::uint32_t type = tipo_drive::Rimovibile, int error = 0) {
     entries.push_back(entry);
     const std::string root = entry.substr(0, 2) + "\\";
-    types[root] = type;
-    listing[root] = error;
+    types[FoldCase(root)] = type;
+    listing[FoldCase(root)] = error;
   }
   std::vector<std::string> Voci() override { return entries; }
   std::uint32_t Tipo(const std::string& radice) override {
     asked += "type " + radice + " ";
-    return types.at(radice);
+    return types.at(FoldCase(radice));
   }
   Error Elenca(const std::string& radice) override {
     asked += "list " + radice + " ";
-    const int error = listing.at(radice);
+    const int error = listing.at(FoldCase(radice));
     return error == 0 ? Error() : Error(error);
   }
   std::vector<Drive> Fatti() override {
@@ -192,20 +193,47 @@ TEST_F(CardChoice, ExploreOpensTheSelectedCard) {
   EXPECT_EQ(host.Aperti, std::vector<std::string>{"F:\\"});
 }
 
-TEST_F(CardChoice, ReadsTheFactsOfAllCardsByOneLookAndTellsWhichIsOut) {
+TEST_F(CardChoice, ACardThatIsTakenOutLeavesTheListAndComesBackWithItsFacts) {
   for (const char* entry : {"e:", "f:", "g:"}) drives.Add(entry);
   ASSERT_TRUE(list.Carica());
   EXPECT_EQ(drives.looks, 1);
-  EXPECT_FALSE(list.RileggiFatti()) << "nothing has changed";
+  EXPECT_FALSE(list.Aggiorna()) << "nothing has changed";
   drives.gone = "F:\\";
-  EXPECT_TRUE(list.RileggiFatti());
-  EXPECT_EQ(drives.looks, 3);
-  EXPECT_TRUE(list.Schede()[1].Uscita);
-  EXPECT_FALSE(list.Schede()[0].Uscita || list.Schede()[2].Uscita);
+  EXPECT_TRUE(list.Aggiorna());
+  EXPECT_EQ(drives.looks, 3) << "one look a time";
+  EXPECT_EQ(Roots(), "E:\\G:\\");
   drives.gone.clear();
-  EXPECT_TRUE(list.RileggiFatti());
-  EXPECT_FALSE(list.Schede()[1].Uscita) << "put back in";
+  EXPECT_TRUE(list.Aggiorna());
+  EXPECT_EQ(Roots(), "E:\\F:\\G:\\");
   EXPECT_EQ(list.Schede()[1].Fatti->Label, "label of F:\\");
+}
+
+TEST_F(CardChoice, TheChosenCardStaysChosenWhateverHappensToItAndToTheOthers) {
+  for (const char* entry : {"f:", "g:"}) drives.Add(entry);
+  ASSERT_TRUE(list.Carica());
+  list.Scegli(1);
+  drives.gone = "G:\\";
+  EXPECT_TRUE(list.Aggiorna());
+  EXPECT_EQ(list.Testo(), "G:\\");
+  EXPECT_TRUE(list.Schede()[1].Uscita);
+  drives.Add("e:");
+  EXPECT_TRUE(list.Aggiorna());
+  EXPECT_EQ(Roots(), "E:\\F:\\G:\\");
+  EXPECT_EQ(list.Testo(), "G:\\") << "a card that comes in front of it changes nothing";
+  list.Scegli(0);
+  EXPECT_TRUE(list.Aggiorna());
+  EXPECT_EQ(Roots(), "E:\\F:\\") << "once another one is chosen it goes";
+}
+
+TEST_F(CardChoice, AFloppyAFixedDiskAndAnEmptyReaderNeverJoinTheList) {
+  drives.Add("e:");
+  ASSERT_TRUE(list.Carica());
+  drives.Add("b:");
+  drives.Add("f:", 3);
+  drives.Add("g:", tipo_drive::Rimovibile, errors::BadFileName);
+  drives.Add("h:", tipo_drive::Rimovibile, errors::DeviceIo);
+  EXPECT_TRUE(list.Aggiorna());
+  EXPECT_EQ(Roots(), "E:\\H:\\");
 }
 
 /// Volumes of a test under the real drive list.
@@ -261,11 +289,11 @@ TEST_F(CardsOfTheComputer, TellTheirFactsAfresh) {
   volumes.Mounted.push_back({Host("card"), "OLD", "vfat"});
   ASSERT_TRUE(here.Carica());
   volumes.Mounted[0].Label = "NEW";
-  EXPECT_TRUE(here.RileggiFatti());
+  EXPECT_TRUE(here.Aggiorna());
   ASSERT_TRUE(here.Schede()[0].Fatti);
   EXPECT_EQ(here.Schede()[0].Fatti->Label, "NEW");
   volumes.Mounted.clear();
-  EXPECT_TRUE(here.RileggiFatti());
+  EXPECT_TRUE(here.Aggiorna());
   EXPECT_FALSE(here.Schede()[0].Fatti);
   EXPECT_TRUE(computer.Fatti().empty());
 }

@@ -1,50 +1,17 @@
-#include <cctype>
-
+#include "cli/CardGiven.h"
 #include "cli/Interrupt.h"
 #include "cli/verbs/Verb.h"
-#include "core/Aiuti.h"
 #include "flashcard/Registrazione.h"
-#include "platform/FileOps.h"
-#include "platform/Path.h"
 
 namespace kvr5::cli {
 namespace {
 
-/// The card is on the command line: there is nothing to choose, and any folder will do.
-class NoChoice : public SelezioneFlash {
- public:
-  void Scegli() override {}
-  bool Presente() const override { return true; }
-};
-
-/// A card given as a letter: "E:", "E:\\" or "E" in either case; '\0' for anything else.
-char LetterGiven(const std::string& card) {
-  const bool letter =
-      (card.size() == 1 && std::isalpha(static_cast<unsigned char>(card[0])) != 0) ||
-      (card.size() == 2 && card[1] == ':') || (card.size() == 3 && card.ends_with(":\\"));
-  return letter ? static_cast<char>(std::toupper(static_cast<unsigned char>(card[0]))) : '\0';
-}
-
-/// The root of a card that was given as the letter of a removable drive or as a folder; "" where it
-/// can't be one. A letter means a drive that the card dialog would offer, never the host's root.
-std::string CardRoot(Session& session, const std::string& card) {
-  const auto folder = session.Context().Files.SystemPath(card);
-  std::string root = folder && !card.empty() ? AggiungiBarra(folder.Value()) : std::string();
-  const char letter = LetterGiven(card);
-  const bool bare = card.size() == 1;  // may be a folder's name as well
-  if (letter == '\0' || (bare && FolderExists(session.Context().Files, root))) return root;
-  for (const auto& drive : session.ListDrives()) {
-    if (drive.Letter == letter) return drive.Root();
-  }
-  return bare ? root : std::string();
-}
-
 EsitoRegistrazione RecordOnto(Session& session, TabellaIngressi& inputs, const std::string& root) {
   auto& context = session.Context();
-  context.Stato.PercorsoMemoryCard = root;
   TerminalProgress progress(context, session.Line());
   session.Events().Watch(&progress);
-  NoChoice choice;
+  CardGiven choice(context, root);
+  choice.Scegli();
   auto outcome = RegistraProgettoSuFlash(context, inputs, progress, choice);
   session.Events().Watch(nullptr);
   session.Line().Clear();

@@ -33,6 +33,10 @@ int RunSave(Session& session, const std::vector<std::string>& arguments);
 int RunPlaylists(Session& session, const std::vector<std::string>& arguments);
 int RunSchedule(Session& session, const std::vector<std::string>& arguments);
 int RunReport(Session& session, const std::vector<std::string>& arguments);
+int RunCards(Session& session, const std::vector<std::string>& arguments);
 int RunRecord(Session& session, const std::vector<std::string>& arguments);
+int RunReadback(Session& session, const std::vector<std::string>& arguments);
+int RunErase(Session& session, const std::vector<std::string>& arguments);
+int RunVerify(Session& session, const std::vector<std::string>& arguments);
 
 }  // namespace kvr5::cli

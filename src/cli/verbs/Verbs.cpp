@@ -46,9 +46,29 @@ constexpr std::array kVerbs{
         "report, yes, no.",
         true, RunSchedule},
     Verb{"report", "PROJECT", "Writes the project report and prints its path.", true, RunReport},
+    Verb{
+        "cards", "",
+        "Lists the drives that can be a card: letter, label, file system, size, free space, where\n"
+        "it is mounted, and whether it is locked.",
+        true, RunCards},
     Verb{"record", "PROJECT CARD...",
          "Records a project onto one card after another. CARD is a drive letter or a folder.", true,
          RunRecord},
+    Verb{
+        "readback", "CARD [--name NAME]",
+        "Brings the project of a card into a new folder of the projects folder and opens it, so\n"
+        "that its files get their own names back. NAME counts where a project has the card's name.",
+        true, RunReadback},
+    Verb{
+        "erase", "CARD",
+        "Deletes the files in a card's root; folders, hidden and read-only files stay. Asks twice.",
+        true, RunErase},
+    Verb{
+        "verify", "PROJECT CARD",
+        "Compares a card with what a recording of the project would put there, byte for byte, and\n"
+        "changes nothing. Findings: missing, different, stray, entry (a list names a file that is\n"
+        "not there), refused (the player would not take it), unchecked (it could not be read).",
+        true, RunVerify},
 };
 
 }  // namespace

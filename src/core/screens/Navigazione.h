@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <string>
 
 #include "core/Schermata.h"
 
@@ -24,6 +25,9 @@ class Navigazione {
   virtual void ApriPalinsesto(Schermata chiamante) = 0;
   /// Shows frmSelectFlash modally for `chiamante`.
   virtual void ScegliScheda(Schermata chiamante) = 0;
+  /// Shows frmRichiestaNomeForm modally for `chiamante`, to give another name than `nome`, which a
+  /// project has: ProjectName is the name that was given, or empty.
+  virtual void ChiediNomeProgetto(Schermata chiamante, const std::string& nome) = 0;
   /// Has frmPlayerConfig show the chosen card anew.
   virtual void AggiornaPercorsoMemoryCard() = 0;
   /// Shows frmTempiFade, frmPanelExtra or frmConfig485 modally over the hub.

@@ -15,7 +15,7 @@ namespace kvr5 {
 namespace {
 
 constexpr std::int16_t kForm = 6;
-constexpr int kWatch = 2000;  // milliseconds between two looks at the chosen card
+constexpr int kWatch = 1000;  // milliseconds between two looks at the cards
 
 /// How a form is called by the dialog that asks for its name.
 const char* NameOf(Schermata schermata) {
@@ -45,9 +45,7 @@ frmSelectFlash::frmSelectFlash(Ambiente& ambiente, SorgenteDrive& drive)
           [this] { elenco_.Esplora(ambiente_.Documenti); });
   guardia_.setInterval(kWatch);
   connect(&guardia_, &QTimer::timeout, this, [this] {
-    if (!elenco_.RileggiFatti()) return;
-    for (int i = 0; i < cmdFlash->count(); ++i) DescriviVoce(i);
-    MostraFatti();
+    if (elenco_.Aggiorna()) MostraSchede();
   });
   SuInvio(*picOk);
   SuTasto(Qt::Key_F1, [this] { Aiuto(); });
@@ -89,12 +87,26 @@ void frmSelectFlash::AlCaricamento() {
     Scarica();  // there is no card; that was told
     return;
   }
-  for (const auto& card : elenco_.Schede()) cmdFlash->addItem(Qs(card.Radice));
-  for (int i = 0; i < cmdFlash->count(); ++i) DescriviVoce(i);
-  cmdFlash->setCurrentIndex(0);
-  MostraFatti();
+  MostraSchede();
   cmdFlash->setFocus();
   guardia_.start();
+}
+
+/// Item by item, so that an open list stays open with what is selected in it.
+void frmSelectFlash::MostraSchede() {
+  const QSignalBlocker ours(cmdFlash);
+  const auto& cards = elenco_.Schede();
+  int row = 0;
+  for (const auto& card : cards) {
+    const QString root = Qs(card.Radice);
+    const int old = cmdFlash->findText(root);
+    if (old < 0) cmdFlash->insertItem(row, root);
+    for (int gone = row; gone < old; ++gone) cmdFlash->removeItem(row);
+    DescriviVoce(row++);
+  }
+  while (cmdFlash->count() > row) cmdFlash->removeItem(row);
+  cmdFlash->setCurrentIndex(static_cast<int>(elenco_.Scelta()));
+  MostraFatti();
 }
 
 void frmSelectFlash::DescriviVoce(int indice) {

@@ -37,12 +37,13 @@ class frmSelectFlash : public Form {
 
  private:
   void Costruisci();
+  void MostraSchede();
   void MostraFatti();
   void DescriviVoce(int indice);
   std::string FattiOUscita(const SchedaTrovata& scheda) const;
 
   ElencoSchede elenco_;
-  QTimer guardia_;  ///< looks whether the chosen card is still there
+  QTimer guardia_;  ///< looks which cards are there
 };
 
 }  // namespace kvr5

@@ -42,7 +42,8 @@ bool CopyTree::Enter(const std::string& source, const std::string& target) {
   if (!visitor_.Entered(source)) return false;
   open_.push_back(source);
   for (const FileInfo& info : list.Value()) {
-    if (info.Unusable != NameFault::None) continue;
+    // A whole tree, as a card's, is copied without what its links lead to, anywhere on the host.
+    if (info.Unusable != NameFault::None || (withSubfolders_ && info.IsLink)) continue;
     const std::string from = JoinPath(source, info.Name);
     const std::string to = JoinPath(target, info.Name);
     if (info.IsFolder) {

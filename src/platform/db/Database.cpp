@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "platform/db/Collation.h"
+#include "platform/db/SuperJournal.h"
 
 namespace kvr5 {
 namespace {
@@ -52,6 +53,7 @@ Result<std::shared_ptr<Database>> Database::Open(const std::string& hostPath) {
   std::error_code ignored;
   const std::filesystem::path path(std::u8string(hostPath.begin(), hostPath.end()));
   if (!std::filesystem::is_regular_file(path, ignored)) return Error(errors::CannotOpen);
+  if (JournalNamesAFile(path)) return Error(errors::CannotOpen);
   const std::shared_ptr<Database> database(new Database());
   const int outcome = sqlite3_open_v2(hostPath.c_str(), &database->handle_,
                                       SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);

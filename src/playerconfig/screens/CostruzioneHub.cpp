@@ -187,6 +187,10 @@ void frmPlayerConfig::CollegaComandi() {
   connect(Barra->picPalinsesto, &QAbstractButton::clicked, this, [this] { ApriPalinsesto(); });
   connect(Barra->picReport, &QAbstractButton::clicked, this, [this] { MostraReport(); });
   connect(Barra->picRecordFlash, &QAbstractButton::clicked, this, [this] { Registra(); });
+  connect(Barra->picCancellaFlash, &QAbstractButton::clicked, this, [this] { Svuota(); });
+  connect(Barra->picVerifica, &QAbstractButton::clicked, this, [this] { Verifica(); });
+  connect(Seriali->cmdCopiaFileManuale, &QAbstractButton::clicked, this,
+          [this] { CopiaManuale(); });
   connect(Barra->picEsci, &QAbstractButton::clicked, this, [this] { Scarica(); });
   connect(picHelp, &QAbstractButton::clicked, this, [this] { Aiuto(); });
   SuTasto(Qt::Key_F1, [this] { Aiuto(); });
@@ -214,22 +218,8 @@ void frmPlayerConfig::CollegaParametri() {
   }
 }
 
-void frmPlayerConfig::DisabilitaFuturi() {
-  for (QWidget* control :
-       {static_cast<QWidget*>(Barra->picCancellaFlash),
-        static_cast<QWidget*>(Barra->picVerifica)}) {
-    control->setEnabled(false);
-    control->setToolTip(Qs(TestoLingua(C(), "0130244")));
-  }
-}
-
 void frmPlayerConfig::RiempiAltro() {
   const auto text = [this](const char* key) { return SenzaMnemonico(Qs(TestoLingua(C(), key))); };
-  const auto later = [&](const char* key) {
-    QAction* entry = Barra->menuAltro.addAction(text(key));
-    entry->setEnabled(false);
-    entry->setToolTip(text("0130244"));
-  };
   QMenu& menu = Barra->menuAltro;
   menu.setToolTipsVisible(true);
   const auto has = [this](const char* database) {
@@ -242,7 +232,13 @@ void frmPlayerConfig::RiempiAltro() {
   if (!layout_.picPlaylist && has("playlist.mdb")) {
     connect(menu.addAction(text("0130152")), &QAction::triggered, this, [this] { ApriPlaylist(); });
   }
-  later("0130156");
+  connect(menu.addAction(text("0130156")), &QAction::triggered, this,
+          [this] { Seriali->cmdCopiaFileManuale->click(); });
+  QAction* eject = menu.addAction(text("0130158"));
+  eject->setToolTip(text("0130147"));
+  connect(eject, &QAction::triggered, this, [this] { Espelli(); });
+  connect(&menu, &QMenu::aboutToShow, eject,
+          [this, eject] { eject->setVisible(servizi_.PuoEspellere()); });
   QAction* open = menu.addAction(text("0130157"));
   connect(open, &QAction::triggered, this,
           [this] { ambiente_.Documenti.Apri(C().Stato.CartellaProgetto); });

@@ -50,6 +50,34 @@ void frmPlayerConfig::Registra() {
   Scheda->MostraStato(servizi_.FattiDellaScheda());
 }
 
+void frmPlayerConfig::Svuota() {
+  Lavora([this] { servizi_.SvuotaScheda(); });
+  Scheda->MostraStato(servizi_.FattiDellaScheda());
+}
+
+void frmPlayerConfig::Verifica() {
+  Lavora([this] {
+    if (servizi_.ChiediScheda()) servizi_.VerificaScheda();
+  });
+}
+
+void frmPlayerConfig::CopiaManuale() {
+  if (lavora_) return;
+  const Impegno stays(*this);
+  const OwnError own(C().Errore);
+  if (!servizi_.ChiediScheda()) return;
+  ascolto_.Stop();
+  Nascondi();
+  guardia_.stop();
+  DimenticaChiusura();  // asked for while the dialog stood: the bar is what is left to close
+  servizi_.ApriCopiaManuale();
+}
+
+void frmPlayerConfig::Espelli() {
+  Lavora([this] { servizi_.EspelliScheda(); });
+  Scheda->MostraStato(servizi_.FattiDellaScheda());
+}
+
 void frmPlayerConfig::Salva() {
   Lavora([this] {
     fraOutputLevel->Raccogli(controlli_);

@@ -15,6 +15,18 @@ class ServiziHub {
   /// Records the open project onto the card; `ingressi` is closed and reopened on the way. True
   /// when the user cancelled it, which was told.
   virtual bool RegistraProgetto(TabellaIngressi& ingressi) = 0;
+  /// Asks for the card where none is chosen; false to give the work up.
+  virtual bool ChiediScheda() = 0;
+  /// Deletes the files of the chosen card, after its questions.
+  virtual void SvuotaScheda() = 0;
+  /// Compares the chosen card with the open project and shows what it finds; modal.
+  virtual void VerificaScheda() = 0;
+  /// Opens the chosen card in the host's file manager, and a bar that brings the hub back.
+  virtual void ApriCopiaManuale() = 0;
+  /// Whether the host can eject the chosen card now.
+  virtual bool PuoEspellere() = 0;
+  /// Ejects it and tells what came of it.
+  virtual void EspelliScheda() = 0;
   /// frmProgress, which every long operation shares.
   virtual FinestraProgresso& Progresso() = 0;
   /// What the host tells of the chosen card now; nothing when it isn't there.

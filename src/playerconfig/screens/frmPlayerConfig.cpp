@@ -78,7 +78,6 @@ void frmPlayerConfig::AlCaricamento() {
   AggiornaElenco();
   modifiche_.Rileggi(C());
   AggiornaNonSalvato();
-  DisabilitaFuturi();
   RiempiAltro();
   guardia_.start();
   CominciaConto();

@@ -147,6 +147,12 @@ class frmPlayerConfig : public Form {
   /// Runs a long work that lets events run, one at a time, and shows then what it has changed.
   void Lavora(const std::function<void()>& lavoro);
   void Registra();
+  /// Deletes the card's files.
+  void Svuota();
+  void Verifica();
+  /// Leaves the card to the user: the hub hides until the bar that takes its place is closed.
+  void CopiaManuale();
+  void Espelli();
   void Salva();
   void MostraReport();
   /// Hands over to the editor of playlists.
@@ -161,7 +167,6 @@ class frmPlayerConfig : public Form {
   /// last count aren't read again.
   void CominciaConto(bool daCapo = true);
   void Conta();
-  void DisabilitaFuturi();
   void RiempiAltro();
 
   ServiziHub& servizi_;

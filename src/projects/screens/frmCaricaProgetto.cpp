@@ -15,12 +15,44 @@
 #include "core/screens/Testo.h"
 #include "platform/FileOps.h"
 #include "projects/ApriProgetto.h"
+#include "projects/CaricaDaFlash.h"
 
 namespace kvr5 {
 namespace {
 
 constexpr std::int16_t kForm = 8;
 constexpr std::int16_t kFromDisk = 1;
+constexpr std::int16_t kFromCard = 2;
+
+/// The card dialog, opened by this screen.
+class SceltaDallElenco : public SelezioneFlash {
+ public:
+  explicit SceltaDallElenco(Navigazione& schermi) : schermi_(schermi) {}
+  void Scegli() override { schermi_.ScegliScheda(Schermata::ElencoProgetti); }
+  bool Presente() const override { return true; }  // reading tells
+
+ private:
+  Navigazione& schermi_;
+};
+
+/// What the reading back of a card asks of this screen.
+class LetturaNellElenco : public SchermoLettura {
+ public:
+  LetturaNellElenco(QWidget& schermo, Navigazione& schermi)
+      : schermo_(schermo), schermi_(schermi) {}
+  void ChiediNome(const std::string& nome) override {
+    schermi_.ChiediNomeProgetto(Schermata::ElencoProgetti, nome);
+  }
+  void Disabilita() override { schermo_.setEnabled(false); }
+  void Riabilita() override {
+    schermo_.show();
+    schermo_.setEnabled(true);
+  }
+
+ private:
+  QWidget& schermo_;
+  Navigazione& schermi_;
+};
 
 /// Letters typed look for a name, wherever in its row the mouse was.
 class TabellaProgetti : public QTableView {
@@ -35,8 +67,8 @@ class TabellaProgetti : public QTableView {
 
 }  // namespace
 
-frmCaricaProgetto::frmCaricaProgetto(Ambiente& ambiente)
-    : Form(ambiente, "frmCaricaProgetto"), lista_(ambiente.C) {
+frmCaricaProgetto::frmCaricaProgetto(Ambiente& ambiente, FinestraProgresso& progresso)
+    : Form(ambiente, "frmCaricaProgetto"), progresso_(progresso), lista_(ambiente.C) {
   setWindowTitle(QStringLiteral("LoadProject"));
   resize(880, 560);
   Costruisci();
@@ -94,6 +126,7 @@ void frmCaricaProgetto::Collega() {
   connect(picOpen, &QAbstractButton::clicked, this, [this] { ApriScelto(); });
   connect(lstProgetti, &QTableView::doubleClicked, this, [this] { ApriScelto(); });
   connect(picLoad, &QAbstractButton::clicked, this, [this] { ApriAltraCartella(); });
+  connect(picLoadFlash, &QAbstractButton::clicked, this, [this] { CaricaDaFlash(); });
   connect(picindietro, &QAbstractButton::clicked, this, [this] { Indietro(); });
   connect(picHelp, &QAbstractButton::clicked, this, [this] { Aiuto(); });
   connect(txtCerca, &QLineEdit::textChanged, this, [this] { Cerca(); });
@@ -139,8 +172,7 @@ void frmCaricaProgetto::AlCaricamento() {
   txtCerca->setToolTip(Qs(TestoLingua(C(), "0130112")));
   lstProgetti->setAccessibleName(lblPrjInDefaultDir->text());
   picLoad->setToolTip(Qs(TestoLingua(C(), "0130115")));
-  picLoadFlash->setToolTip(Qs(TestoLingua(C(), "0130244")));
-  picLoadFlash->setEnabled(false);  // reading a card back comes with its own screen
+  picLoadFlash->setToolTip(Qs(TestoLingua(C(), "0130114")));
   CartellaScelta.clear();
   C().Messaggi.ImpostaPuntatore(Puntatore::Normale);
   (empty ? static_cast<QWidget*>(picLoad) : lstProgetti)->setFocus();
@@ -190,6 +222,24 @@ void frmCaricaProgetto::ApriAltraCartella() {
   if (Rifila(CartellaScelta).empty() || !FolderExists(C().Files, CartellaScelta)) return;
   ModoScelto = kFromDisk;
   ApriProgetto();
+}
+
+void frmCaricaProgetto::CaricaDaFlash() {
+  if (apre_) return;
+  EsitoLettura outcome;
+  {
+    const Impegno stays(*this);
+    const QScopedValueRollback reads(apre_, true);
+    SceltaDallElenco choice(ambiente_.Schermi);
+    LetturaNellElenco screen(*this, ambiente_.Schermi);
+    outcome = kvr5::CaricaDaFlash(C(), choice, screen, progresso_);
+    if (outcome.Fine == FineLettura::Copiata) DimenticaChiusura();  // what was read is opened
+  }
+  if (outcome.Fine != FineLettura::Copiata) return;
+  ModoScelto = kFromCard;
+  CartellaScelta = outcome.Cartella;
+  ApriProgetto();
+  if (!Scaricata()) setEnabled(true);  // what was read is no project: that was told
 }
 
 void frmCaricaProgetto::ApriProgetto() {

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "core/FinestraProgresso.h"
 #include "core/Schermata.h"
 #include "core/screens/Coppia.h"
 #include "core/screens/Form.h"
@@ -16,7 +17,8 @@ namespace kvr5 {
 /// The list of the projects, and the ways to those that lie elsewhere.
 class frmCaricaProgetto : public Form {
  public:
-  explicit frmCaricaProgetto(Ambiente& ambiente);
+  /// `progresso` is the window that every long operation shares.
+  frmCaricaProgetto(Ambiente& ambiente, FinestraProgresso& progresso);
 
   /// The screen that is shown when this one goes back.
   Schermata FormChiamante = Schermata::Nessuna;
@@ -49,6 +51,8 @@ class frmCaricaProgetto : public Form {
   void Collega();
   void ApriScelto();
   void ApriAltraCartella();
+  /// Brings the project of a card into a folder of its own and opens that.
+  void CaricaDaFlash();
   void ApriProgetto();
   /// True when the hub stands.
   bool Apre();
@@ -57,6 +61,7 @@ class frmCaricaProgetto : public Form {
   void MostraTrovato(std::optional<std::size_t> riga);
   void Indietro();
 
+  FinestraProgresso& progresso_;
   ListaProgetti lista_;
   /// A folder is being picked or opened: events run then, and a second press among them must do
   /// nothing. Stays on once the hub stands.

@@ -88,7 +88,8 @@ void frmRichiestaNomeForm::Avanti() {
     FormSuccessivo = Schermata::Configurazione;
     C().Messaggi.ImpostaPuntatore(Puntatore::Normale);
   }
-  if (outcome == EsitoNuovo::Creato || outcome == EsitoNuovo::SoloNome) Scarica();
+  dato_ = outcome == EsitoNuovo::Creato || outcome == EsitoNuovo::SoloNome;
+  if (dato_) Scarica();
 }
 
 bool frmRichiestaNomeForm::PuoChiudere(Causa causa) {
@@ -100,6 +101,8 @@ bool frmRichiestaNomeForm::PuoChiudere(Causa causa) {
 
 void frmRichiestaNomeForm::AlloScarico() {
   hide();
+  // A name that was tried and refused is none that was given.
+  if (SoloNome && !dato_) C().Stato.ProjectName.clear();
   C().Messaggi.LasciaCorrere();
   ambiente_.Schermi.Mostra(FormSuccessivo);
   C().Messaggi.LasciaCorrere();

@@ -40,6 +40,8 @@ class frmRichiestaNomeForm : public Form {
   void Collega();
   void CambiaNome();
   void Avanti();
+
+  bool dato_ = false;  ///< a name was taken
 };
 
 }  // namespace kvr5

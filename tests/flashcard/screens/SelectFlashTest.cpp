@@ -9,6 +9,7 @@
 #include "core/screens/frmSiNo.h"
 #include "flashcard/screens/VociScheda.h"
 #include "flashcard/screens/frmSelectFlash.h"
+#include "platform/Fold.h"
 #include "support/screens/BancoSchermi.h"
 #include "support/screens/Mano.h"
 #include "support/screens/Pilota.h"
@@ -26,13 +27,13 @@ class DriveFinti : public SorgenteDrive {
   void Aggiungi(const std::string& voce, std::uint32_t tipo = tipo_drive::Rimovibile,
                 int errore = 0) {
     voci_.push_back(voce);
-    tipi_[voce.substr(0, 2) + "\\"] = tipo;
-    errori_[voce.substr(0, 2) + "\\"] = errore;
+    tipi_[FoldCase(voce.substr(0, 2) + "\\")] = tipo;
+    errori_[FoldCase(voce.substr(0, 2) + "\\")] = errore;
   }
   std::vector<std::string> Voci() override { return voci_; }
-  std::uint32_t Tipo(const std::string& radice) override { return tipi_.at(radice); }
+  std::uint32_t Tipo(const std::string& radice) override { return tipi_.at(FoldCase(radice)); }
   Error Elenca(const std::string& radice) override {
-    const int error = errori_.at(radice);
+    const int error = errori_.at(FoldCase(radice));
     return error == 0 ? Error() : Error(error);
   }
   std::vector<Drive> Fatti() override {
@@ -253,13 +254,28 @@ TEST_F(SelectFlash, WatchesAllItsCardsByOneLookATime) {
   Show([this](frmSelectFlash& dialog) {
     EXPECT_EQ(drives.Sguardi, 1) << "the load";
     drives.Estratta = "G:\\";
-    EXPECT_TRUE(QTest::qWaitFor([&dialog] {
-      return dialog.cmdFlash->itemData(2, VociScheda::Fatti) == "taken out: put it back in";
-    }));
+    EXPECT_TRUE(QTest::qWaitFor([&dialog] { return dialog.cmdFlash->count() == 3; }));
     EXPECT_EQ(drives.Sguardi, 2) << "one beat";
-    EXPECT_EQ(dialog.cmdFlash->itemData(3, VociScheda::Fatti).toString().left(6), "CARD-H");
+    EXPECT_EQ(dialog.cmdFlash->itemText(2), "H:\\");
+    EXPECT_EQ(dialog.cmdFlash->itemData(2, VociScheda::Fatti).toString().left(6), "CARD-H");
     test::Clicca(*dialog.picCancel);
   });
+}
+
+TEST_F(SelectFlash, ACardThatIsPutInWhileTheListIsOpenJoinsItAndTheChoiceStays) {
+  for (const char* entry : {"f:", "g:"}) drives.Aggiungi(entry);
+  Show([this](frmSelectFlash& dialog) {
+    dialog.cmdFlash->setCurrentIndex(1);
+    dialog.cmdFlash->showPopup();
+    drives.Aggiungi("e:");
+    EXPECT_TRUE(QTest::qWaitFor([&dialog] { return dialog.cmdFlash->count() == 3; }));
+    EXPECT_EQ(dialog.cmdFlash->itemText(0), "E:\\");
+    EXPECT_EQ(dialog.cmdFlash->currentText(), "G:\\");
+    EXPECT_TRUE(dialog.cmdFlash->view()->isVisible());
+    dialog.cmdFlash->hidePopup();
+    test::Clicca(*dialog.picOk);
+  });
+  EXPECT_EQ(b.C.Stato.PercorsoMemoryCard, "G:\\");
 }
 
 }  // namespace

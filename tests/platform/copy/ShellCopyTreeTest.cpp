@@ -50,7 +50,7 @@ TEST_F(ShellCopyOfATree, LeavesOutWhatTheSystemKeepsThere) {
   EXPECT_EQ(OnCard(), (Names{"good"}));
 }
 
-TEST_F(ShellCopyOfATree, FollowsLinksButNeverInARound) {
+TEST_F(ShellCopyOfATree, LeavesLinksOut) {
   folder_.Write("from/sub/a", "A");
   folder_.Write("elsewhere/b", "B");
   fs::create_directory_symlink("..", Host("from/sub/up"));
@@ -58,9 +58,8 @@ TEST_F(ShellCopyOfATree, FollowsLinksButNeverInARound) {
   fs::create_directory_symlink(Host("elsewhere"), Host("from/link"));
   fs::create_symlink("nowhere", Host("from/dead"));
   EXPECT_EQ(Copy({{From("*.*"), Card()}}).Result, 0);
-  EXPECT_EQ(OnCard(), (Names{"link", "sub"}));
+  EXPECT_EQ(OnCard(), (Names{"sub"})) << "they may lead anywhere on the host";
   EXPECT_EQ(OnCard("sub"), (Names{"a"}));
-  EXPECT_EQ(OnCard("link"), (Names{"b"}));
 }
 
 TEST_F(ShellCopyOfATree, DoesNotCopyItsOwnDestination) {

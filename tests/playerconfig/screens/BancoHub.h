@@ -29,10 +29,26 @@ class ServiziFinti : public ServiziHub {
     if (SuRegistra) SuRegistra();
     return Annullata;
   }
+  bool ChiediScheda() override {
+    ++Richieste;
+    return HaScheda;
+  }
+  void SvuotaScheda() override { ++Svuotamenti; }
+  void VerificaScheda() override { ++Verifiche; }
+  void ApriCopiaManuale() override { ++CopieManuali; }
+  bool PuoEspellere() override { return Espellibile; }
+  void EspelliScheda() override { ++Espulsioni; }
   FinestraProgresso& Progresso() override { return Avanzamento; }
   std::optional<Drive> FattiDellaScheda() override { return Scheda; }
 
   int Registrazioni = 0;
+  int Richieste = 0;  ///< how often a card was asked for
+  bool HaScheda = true;
+  int Svuotamenti = 0;
+  int Verifiche = 0;
+  int CopieManuali = 0;
+  bool Espellibile = false;
+  int Espulsioni = 0;
   bool Annullata = false;
   std::function<void()> SuRegistra;
   std::optional<Drive> Scheda;

@@ -2,6 +2,8 @@
 
 #include <QCheckBox>
 #include <QTest>
+#include <filesystem>
+#include <fstream>
 
 #include "core/Aiuti.h"
 #include "core/Lingua.h"
@@ -12,8 +14,10 @@
 #include "core/screens/frmSalva.h"
 #include "core/screens/frmSiNo.h"
 #include "core/screens/frmSplash.h"
+#include "flashcard/screens/frmCopiaManuale.h"
 #include "flashcard/screens/frmProgress.h"
 #include "flashcard/screens/frmSelectFlash.h"
+#include "flashcard/screens/frmVerifica.h"
 #include "playerconfig/screens/frmConfig485.h"
 #include "playerconfig/screens/frmPanelExtra.h"
 #include "playerconfig/screens/frmTempiFade.h"
@@ -97,6 +101,8 @@ void GiroSchermi::Percorri(const Guarda& guarda) {
   NelSeriale();
   NellElenco(true);
   NelleSchede();
+  NellaVerifica();
+  AllaCopiaManuale();
   NelLavoro();
   NellaCopia();
   NelleDomande();
@@ -160,7 +166,8 @@ void GiroSchermi::NelSalvataggio() {
 }
 
 void GiroSchermi::NellElenco(bool conProgetti) {
-  frmCaricaProgetto list(b.A);
+  FinestraProgresso work(b.C);
+  frmCaricaProgetto list(b.A, work);
   Mostra(list, conProgetti ? "frmCaricaProgetto" : "frmCaricaProgetto empty", true);
   if (!conProgetti) return;
   list.txtCerca->setText(QStringLiteral("no such name"));
@@ -185,6 +192,38 @@ void GiroSchermi::NelleSchede() {
   two.cmdFlash->setCurrentIndex(1);
   ASSERT_NE(two.lblContenuto->text(), without) << "a project is on it";
   Vedi(two, "frmSelectFlash, the second card", true);
+}
+
+void GiroSchermi::NellaVerifica() {
+  Progetto("Verified", 4, 1);
+  const std::filesystem::path card = b.Cartella.Host() / "card3";
+  std::filesystem::copy(b.Cartella.Host() / "program/Projects/Verified", card);
+  b.C.Stato.PercorsoMemoryCard = b.Percorso("card3") + "\\";
+  const auto verify = [this](const std::string& name, const char* shown) {
+    frmVerifica window(b.A);
+    window.Mostra();
+    ASSERT_TRUE(Pronta(window)) << name;
+    const QWidget* words = window.findChild<QWidget*>(QLatin1String(shown));
+    ASSERT_TRUE(QTest::qWaitFor([words] { return words->isVisible(); })) << name;
+    Vedi(window, name, true);
+  };
+  std::filesystem::remove(card / "KVR5.gif");
+  verify("frmVerifica, all well", "lblBuono");
+  std::filesystem::remove(card / "Config.txt");
+  std::ofstream(card / "Config.cfg") << "other";
+  std::ofstream(card / "5.mp3") << "left";
+  std::ofstream(card / "1.m3u") << "P01-001\r\n";
+  verify("frmVerifica with findings", "lblEsito");
+  b.C.Stato.PercorsoMemoryCard = b.Percorso("nowhere") + "\\";
+  verify("frmVerifica without a card", "lblEsito");
+  b.C.Stato.PercorsoMemoryCard.clear();
+}
+
+void GiroSchermi::AllaCopiaManuale() {
+  b.C.Stato.PercorsoMemoryCard = "E:\\";
+  frmCopiaManuale bar(b.A);
+  Mostra(bar, "frmCopiaManuale", true);
+  b.C.Stato.PercorsoMemoryCard.clear();
 }
 
 void GiroSchermi::NelLavoro() {

@@ -26,6 +26,12 @@ class ServiziDelGiro : public ServiziHub {
  public:
   explicit ServiziDelGiro(Contesto& contesto) : avanzamento_(contesto) {}
   bool RegistraProgetto(TabellaIngressi& /*ingressi*/) override { return false; }
+  bool ChiediScheda() override { return false; }
+  void SvuotaScheda() override {}
+  void VerificaScheda() override {}
+  void ApriCopiaManuale() override {}
+  bool PuoEspellere() override { return true; }
+  void EspelliScheda() override {}
   FinestraProgresso& Progresso() override { return avanzamento_; }
   std::optional<Drive> FattiDellaScheda() override { return Scheda; }
   std::optional<Drive> Scheda;
@@ -54,6 +60,8 @@ class GiroSchermi {
   void NelSalvataggio();
   void NellElenco(bool conProgetti);
   void NelleSchede();
+  void NellaVerifica();
+  void AllaCopiaManuale();
   void NelLavoro();
   void NellaCopia();
   void NelleDomande();

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <string>
 #include <vector>
 
 #include "core/screens/Navigazione.h"
@@ -24,6 +25,10 @@ class NavigazioneFinta : public Navigazione {
     SchedePer.push_back(chiamante);
     if (SuScegliScheda) SuScegliScheda();
   }
+  void ChiediNomeProgetto(Schermata chiamante, const std::string& nome) override {
+    NomiPer.push_back(chiamante);
+    if (SuChiediNome) SuChiediNome(nome);
+  }
   void AggiornaPercorsoMemoryCard() override { ++PercorsiAggiornati; }
   void ApriTempiFade() override { ++TempiFade; }
   void ApriPanelExtra() override { ++PannelliExtra; }
@@ -42,6 +47,7 @@ class NavigazioneFinta : public Navigazione {
   std::vector<Schermata> PalinsestiPer;  ///< the callers of frmPalinsesto
   std::vector<Schermata> EditorPer;      ///< the callers of frmPlaylistEditor
   std::vector<Schermata> SchedePer;      ///< the callers of frmSelectFlash
+  std::vector<Schermata> NomiPer;        ///< the callers of frmRichiestaNomeForm
   int TempiFade = 0;
   int PannelliExtra = 0;
   std::vector<bool> Seriali;  ///< the form of the serial screen at each opening: true is RS-232
@@ -54,6 +60,7 @@ class NavigazioneFinta : public Navigazione {
   /// What a test wants to look at, or to do, in the place of the other screen.
   std::function<void(Schermata)> SuMostra;
   std::function<void()> SuScegliScheda;
+  std::function<void(const std::string&)> SuChiediNome;
 };
 
 }  // namespace kvr5::test

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <type_traits>
+
+#include "core/FinestraProgresso.h"
 #include "core/screens/FormPredefinita.h"
 #include "support/screens/BancoSchermi.h"
 #include "support/screens/Mano.h"
@@ -14,13 +17,21 @@ template <class T, Boxes Chi = Boxes::Finti>
 class ProvaForm : public testing::Test {
  protected:
   BancoSchermi b{Chi};
-  FormPredefinita<T> forma{[this] { return new T(b.A); }};
+  FinestraProgresso avanzamento{b.C};
+  FormPredefinita<T> forma{[this] { return Nuova(); }};
 
   /// Shows the form and waits until it has the keyboard.
   T& Apri() {
     forma->Mostra();
     EXPECT_TRUE(Pronta(*forma));
     return *forma;
+  }
+  T* Nuova() {
+    if constexpr (std::is_constructible_v<T, Ambiente&, FinestraProgresso&>) {
+      return new T(b.A, avanzamento);
+    } else {
+      return new T(b.A);
+    }
   }
   const std::string& DocumentoDiAiuto() const {
     static const std::string none;

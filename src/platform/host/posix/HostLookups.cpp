@@ -1,3 +1,4 @@
+#include <fcntl.h>
 #include <sys/statvfs.h>
 
 #include <algorithm>
@@ -46,6 +47,13 @@ FileInfo Describe(std::string_view name, const std::string& hostPath, const stru
     info.System = !info.IsFolder && !S_ISREG(status.st_mode);
   }
   return info;
+}
+
+bool IsLink(int folder, const dirent& entry) {
+  if (entry.d_type != DT_UNKNOWN) return entry.d_type == DT_LNK;
+  struct stat status {};
+  return ::fstatat(folder, &entry.d_name[0], &status, AT_SYMLINK_NOFOLLOW) == 0 &&
+         S_ISLNK(status.st_mode);
 }
 
 bool IsSame(const Place& a, const Place& b) {
@@ -151,6 +159,7 @@ Result<std::vector<FileInfo>> HostFileSystem::List(std::string_view folder) cons
     if (name != "." && name != ".." &&
         ::fstatat(::dirfd(entries.get()), entry->d_name, &status, 0) == 0) {
       FileInfo info = Describe(name, place.Path + '/' + entry->d_name, status, attributes_);
+      info.IsLink = IsLink(::dirfd(entries.get()), *entry);
       info.Unusable = FaultOf(name);
       if (info.Unusable == NameFault::NotUtf8) info.Name = Readable(name);
       list.push_back(std::move(info));

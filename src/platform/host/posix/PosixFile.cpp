@@ -91,6 +91,11 @@ void PosixFile::Settle(std::uint64_t end) {
   settled_ = end;
 }
 
+void PosixFile::ForgetCached() {
+  ::posix_fadvise(descriptor_, 0, 0, POSIX_FADV_DONTNEED);
+  ::posix_fadvise(descriptor_, 0, 0, POSIX_FADV_SEQUENTIAL);
+}
+
 Error PosixFile::Flush() {
   if (failed_) return failed_;
   if (Retry([&] { return ::fdatasync(descriptor_); }) != 0) failed_ = FromErrno(errno);

@@ -17,6 +17,7 @@ class PosixFile : public File {
   Result<std::size_t> ReadAt(std::uint64_t offset, std::span<char> buffer) override;
   Error Write(std::string_view bytes) override;
   void Settle(std::uint64_t end) override;
+  void ForgetCached() override;
   Error Flush() override;
   Error SetModified(std::int64_t seconds) override;
   Error Close() override;

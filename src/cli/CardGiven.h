@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+
+#include "cli/Session.h"
+#include "core/SelezioneFlash.h"
+
+namespace kvr5::cli {
+
+/// The root of a card that was given as the letter of a removable drive or as a folder, system form
+/// with its closing bar; "" where it can't be one. A letter means a drive that the card dialog
+/// would offer, never the host's root.
+std::string CardRoot(Session& session, const std::string& card);
+
+/// The card dialog where the card is on the command line: it has answered before it is asked.
+class CardGiven : public SelezioneFlash {
+ public:
+  /// `root` as CardRoot gives it.
+  CardGiven(Contesto& context, std::string root) : context_(context), root_(std::move(root)) {}
+
+  void Scegli() override;
+  bool Presente() const override;
+
+ private:
+  Contesto& context_;
+  std::string root_;
+};
+
+}  // namespace kvr5::cli

@@ -1,0 +1,125 @@
+#include <optional>
+
+#include "cli/CardGiven.h"
+#include "cli/Interrupt.h"
+#include "cli/verbs/Verb.h"
+#include "core/ParoleCopia.h"
+#include "platform/FileOps.h"
+#include "playerconfig/RientroDaScheda.h"
+#include "projects/ApriProgetto.h"
+#include "projects/CaricaDaFlash.h"
+#include "projects/NuovoProgetto.h"
+
+namespace kvr5::cli {
+namespace {
+
+struct ReadbackArguments {
+  std::string Card;
+  std::optional<std::string> Name;
+};
+
+std::optional<ReadbackArguments> Parse(const std::vector<std::string>& arguments) {
+  constexpr std::string_view kName = "--name";
+  ReadbackArguments parsed;
+  bool hasCard = false;
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const std::string& word = arguments[i];
+    if (word.starts_with("--name=")) {
+      parsed.Name = word.substr(kName.size() + 1);
+    } else if (word == kName) {
+      if (++i == arguments.size()) return {};
+      parsed.Name = arguments[i];
+    } else if (hasCard || word.starts_with("--")) {
+      return {};
+    } else {
+      parsed.Card = word;
+      hasCard = true;
+    }
+  }
+  if (!hasCard) return {};
+  return parsed;
+}
+
+/// The name dialog is answered once, by the option; without it, it is left.
+class NameGiven : public SchermoLettura {
+ public:
+  NameGiven(Session& session, const std::optional<std::string>& name)
+      : session_(session), name_(name) {}
+
+  void ChiediNome(const std::string& nome) override {
+    auto& context = session_.Context();
+    if (!name_) {
+      session_.Out().Say(nome + ": a project has this name; --name gives another one");
+      return;
+    }
+    const EsitoNuovo outcome = PreparaCartella(context, *name_, true);
+    if (outcome == EsitoNuovo::CarattereVietato) {
+      session_.Out().Say(NotaCaratteriVietati(context, " "));  // the note that the screen shows
+    }
+    if (outcome != EsitoNuovo::SoloNome) context.Stato.ProjectName.clear();
+  }
+  void Disabilita() override {}
+  void Riabilita() override {}
+
+ private:
+  Session& session_;
+  const std::optional<std::string>& name_;
+};
+
+int StatusOf(FineLettura end) {
+  switch (end) {
+    case FineLettura::Copiata:
+      return kDone;
+    case FineLettura::SenzaDescrittore:
+    case FineLettura::SenzaNome:
+      return kMissing;
+    default:
+      return kRefused;
+  }
+}
+
+/// Opens the copy as the hub does. 0, or the status to end with (told).
+int Open(Session& session, const std::string& folder) {
+  auto& context = session.Context();
+  if (ApriProgetto(context, folder) != EsitoApertura::Aperto) return kMissing;
+  TabellaIngressi inputs(context);
+  inputs.ApriSeCiSono();
+  RientroDaScheda(context, inputs);
+  return kDone;
+}
+
+void Report(Session& session, const std::string& folder) {
+  const std::string shown = PercorsoPerPersone(session.Context(), folder);
+  if (session.Out().IsJson()) {
+    session.Out().Object({{"project", shown}});
+  } else {
+    session.Out().Line(shown);
+  }
+}
+
+}  // namespace
+
+int RunReadback(Session& session, const std::vector<std::string>& arguments) {
+  const auto parsed = Parse(arguments);
+  if (!parsed) return kUsage;
+  auto& context = session.Context();
+  const std::string root = CardRoot(session, parsed->Card);
+  if (root.empty() || !FolderExists(context.Files, root)) {
+    session.Out().Say(parsed->Card + ": there is no such card");
+    return kRefused;
+  }
+  const Interrupt cancel;
+  CardGiven card(context, root);
+  NameGiven screen(session, parsed->Name);
+  TerminalProgress progress(context, session.Line());
+  session.Copy().TakeFailure();
+  const EsitoLettura outcome = CaricaDaFlash(context, card, screen, progress);
+  session.Line().Clear();
+  if (const int status = StatusOf(outcome.Fine); status != kDone) return status;
+  const bool whole = !session.Copy().TakeFailure();
+  if (const int status = Open(session, outcome.Cartella); status != kDone) return status;
+  Report(session, outcome.Cartella);
+  return whole ? kDone : kRefused;
+}
+
+}  // namespace kvr5::cli

@@ -1,0 +1,67 @@
+#include "flashcard/CancellaFlash.h"
+
+#include "core/Lingua.h"
+#include "core/ParoleCopia.h"
+#include "platform/FileOps.h"
+
+namespace kvr5 {
+namespace {
+
+bool Ask(Contesto& context, const std::string& text) {
+  return context.Finestre.MostraMessaggio({TestoLingua(context, "0040027"), text, Icona::Domanda,
+                                           Pulsanti::SiNo, Risposta::No}) == Risposta::Si;
+}
+
+void Tell(Contesto& context, const char* key) {
+  context.Finestre.MostraMessaggio({TestoLingua(context, "0040028"), TestoLingua(context, key),
+                                    Icona::Avviso, Pulsanti::Ok, Risposta::Ok});
+}
+
+/// All plain files of the card's root but those that are read-only.
+Error DeletePlainFiles(FileSystem& files, const std::string& card) {
+  bool found = false;
+  for (const FileInfo& file : ListMatching(files, card + "*.*")) {
+    if (file.ReadOnly) continue;
+    found = true;
+    if (Error error = files.Delete(card + file.Name)) return error;
+  }
+  return found ? Error() : Error(errors::FileNotFound);
+}
+
+FineSvuotamento Report(Contesto& context, const Error& error) {
+  if (!error) {
+    Tell(context, "0040030");
+    return FineSvuotamento::Svuotata;
+  }
+  if (error.Number() == errors::FileNotFound) {
+    Tell(context, "0040034");
+    return FineSvuotamento::GiaVuota;
+  }
+  Tell(context, "0040050");
+  return FineSvuotamento::Fallita;
+}
+
+}  // namespace
+
+FineSvuotamento CancellaFlash(Contesto& contesto, SelezioneFlash& scelta) {
+  if (!ScegliSchedaSeManca(contesto, scelta)) return FineSvuotamento::SenzaScheda;
+  const std::string card = contesto.Stato.PercorsoMemoryCard;
+  const std::string shown = PercorsoPerPersone(contesto, card);
+  if (!Ask(contesto, TestoLingua(contesto, "0040024") + " " + shown + "  ?")) {
+    return FineSvuotamento::Rinunciata;
+  }
+  if (!Ask(contesto, TestoLingua(contesto, "0040025") + " " + shown + "\r\n" +
+                         TestoLingua(contesto, "0040026"))) {
+    return FineSvuotamento::Rinunciata;
+  }
+  auto& error = contesto.Errore;
+  error.Clear();
+  error.Record(scelta.Presente() ? DeletePlainFiles(contesto.Files, card)
+                                 : Error(errors::DeviceUnavailable));
+  // What the user does while events run has errors of its own.
+  const Error outcome = error.Last();
+  contesto.Messaggi.LasciaCorrere();
+  return Report(contesto, outcome);
+}
+
+}  // namespace kvr5

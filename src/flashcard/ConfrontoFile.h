@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <string_view>
+
+#include "platform/FileSystem.h"
+
+namespace kvr5 {
+
+/// What comparing two files came to.
+enum class EsitoConfronto {
+  Uguali,
+  Diversi,
+  PrimoIlleggibile,
+  SecondoIlleggibile,
+  Interrotto,
+};
+
+/// Compares the first file, as its device has it and not the host's memory, with the second, byte
+/// by byte; of files of different length nothing is read. `passo` hears of each piece of at most
+/// 1 MiB and stops the work by false. A file that ends before its length counts as different.
+EsitoConfronto ConfrontaFile(FileSystem& files, std::string_view primo, std::string_view secondo,
+                             const std::function<bool(std::size_t byte)>& passo);
+
+}  // namespace kvr5

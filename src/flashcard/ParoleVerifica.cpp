@@ -1,0 +1,81 @@
+#include "flashcard/ParoleVerifica.h"
+
+#include "core/Lingua.h"
+#include "core/Parole.h"
+
+namespace kvr5 {
+namespace {
+
+/// A text by its key, and what stands in where the language has none.
+struct Words {
+  const char* Key;
+  const char* Fallback;
+};
+
+Words NameOf(Difetto kind) {
+  switch (kind) {
+    case Difetto::Mancante:
+      return {"0130282", "Not on the card"};
+    case Difetto::Diverso:
+      return {"0130283", "Differs"};
+    case Difetto::Estraneo:
+      return {"0130284", "Not of this project"};
+    case Difetto::VoceVuota:
+      return {"0130285", "Named in a list, not there"};
+    case Difetto::Rifiutato:
+      return {"0130286", "Player refuses it"};
+    case Difetto::NonLetto:
+      return {"0130287", "Not checked"};
+  }
+  return {"", ""};
+}
+
+Words RemedyOf(Difetto kind) {
+  switch (kind) {
+    case Difetto::Mancante:
+      return {"0130288", "Record the card again."};
+    case Difetto::Diverso:
+      return {"0130289", "Record the card again; if it stays so, use another card."};
+    case Difetto::Estraneo:
+      return {"0130290", "Left by another recording: erase the card, then record."};
+    case Difetto::VoceVuota:
+      return {"0130291", "Save playlists or schedule, then record; give shared files copies."};
+    case Difetto::Rifiutato:
+      return {"0130292", "Pick another file, or convert it as the screens say."};
+    case Difetto::NonLetto:
+      return {"0130293", "The card or the project's own file can't be read: look for both."};
+  }
+  return {"", ""};
+}
+
+std::string TextOf(Contesto& contesto, const Words& words) {
+  return TestoLinguaO(contesto, words.Key, words.Fallback);
+}
+
+}  // namespace
+
+std::string DifettoInParole(Contesto& contesto, Difetto difetto) {
+  return TextOf(contesto, NameOf(difetto));
+}
+
+std::string RimedioInParole(Contesto& contesto, Difetto difetto) {
+  return TextOf(contesto, RemedyOf(difetto));
+}
+
+std::string EsitoInParole(Contesto& contesto, const EsitoVerifica& esito) {
+  if (esito.SenzaScheda) {
+    return TestoLinguaO(contesto, "0130294", "The card can't be read. Put it in, then try again.");
+  }
+  const std::string findings = std::to_string(esito.Riscontri.size());
+  if (esito.Annullata) {
+    return ConValori(TestoLinguaO(contesto, "0130295", "Stopped: not all was compared. Found: %1"),
+                     {findings});
+  }
+  if (!esito.Riscontri.empty()) {
+    return ConValori(TestoLinguaO(contesto, "0130296", "Found: %1"), {findings});
+  }
+  return ConValori(TestoLinguaO(contesto, "0130297", "The card is as the project: %1 files, %2"),
+                   {std::to_string(esito.File), QuantitaInParole(esito.Byte, contesto.Luogo)});
+}
+
+}  // namespace kvr5

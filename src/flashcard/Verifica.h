@@ -1,0 +1,65 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/Contesto.h"
+#include "platform/ShellCopy.h"
+
+namespace kvr5 {
+
+/// What is wrong with a file of the card.
+enum class Difetto {
+  Mancante,   ///< a recording would put it there, and it isn't
+  Diverso,    ///< its bytes aren't those of the project's file
+  Estraneo,   ///< a recording wouldn't put it there
+  VoceVuota,  ///< a list names it, and it isn't there
+  Rifiutato,  ///< the player wouldn't take it
+  NonLetto,   ///< it, or the project's file, could not be read
+};
+
+/// The words of the companion for it: "missing", "different", "stray", "entry", "refused",
+/// "unchecked".
+std::string_view NomeDifetto(Difetto difetto);
+
+/// One finding.
+struct Riscontro {
+  Difetto Tipo = Difetto::Mancante;
+  std::string File;  ///< its name in the card's root
+  bool operator==(const Riscontro&) const = default;
+};
+
+/// What a verification came to.
+struct EsitoVerifica {
+  std::vector<Riscontro> Riscontri{};
+  std::size_t File = 0;      ///< files that were compared to their end
+  std::uint64_t Byte = 0;    ///< their bytes
+  bool Annullata = false;    ///< the findings are those up to the cancel
+  bool SenzaScheda = false;  ///< the card's root can't be read: nothing was compared
+
+  std::size_t Quanti(Difetto tipo) const;
+};
+
+/// Who watches a verification.
+class OsservatoreVerifica {
+ public:
+  virtual ~OsservatoreVerifica() = default;
+  /// Before each file and after each piece of at most 1 MiB; lets events run. False cancels.
+  virtual bool Avanza(const CopyState& stato) = 0;
+  virtual void Trovato(const Riscontro& /*riscontro*/) {}
+};
+
+/// Compares the card in the root `scheda` with what a recording of the open project would put there
+/// now, byte for byte, as the device gives them and not as the host remembers them. Then looks
+/// whether the player takes the files, whether every name in the card's lists is a file of it, and
+/// what else lies there. Nothing on the card is changed.
+///
+/// The findings come in the order of a recording, then the names in the lists, then the strays by
+/// name. Hidden and system files and folders are no findings.
+EsitoVerifica VerificaScheda(Contesto& contesto, const std::string& scheda,
+                             OsservatoreVerifica& osservatore);
+
+}  // namespace kvr5

@@ -1,0 +1,76 @@
+#include "flashcard/screens/ModelloRiscontri.h"
+
+#include "core/Lingua.h"
+#include "core/Parole.h"
+#include "core/screens/Icona.h"
+#include "core/screens/Tema.h"
+#include "core/screens/Testo.h"
+#include "flashcard/ParoleVerifica.h"
+
+namespace kvr5 {
+namespace {
+
+const char* IconOf(Difetto kind) {
+  switch (kind) {
+    case Difetto::Mancante:
+    case Difetto::VoceVuota:
+      return "mancante";
+    case Difetto::Diverso:
+    case Difetto::Rifiutato:
+      return "errore";
+    default:
+      return "avviso";
+  }
+}
+
+}  // namespace
+
+void ModelloRiscontri::Localizza() {
+  titoli_ = {Qs(TestoLinguaO(contesto_, "0130298", "Finding")),
+             Qs(TestoLinguaO(contesto_, "0130299", "File")),
+             Qs(TestoLinguaO(contesto_, "0130300", "What to do"))};
+  emit headerDataChanged(Qt::Horizontal, 0, Colonne - 1);
+}
+
+void ModelloRiscontri::Svuota() {
+  beginResetModel();
+  righe_.clear();
+  endResetModel();
+}
+
+void ModelloRiscontri::Aggiungi(const Riscontro& riscontro) {
+  const int row = rowCount();
+  beginInsertRows({}, row, row);
+  righe_.push_back(riscontro);
+  endInsertRows();
+}
+
+int ModelloRiscontri::rowCount(const QModelIndex& padre) const {
+  return padre.isValid() ? 0 : static_cast<int>(righe_.size());
+}
+
+int ModelloRiscontri::columnCount(const QModelIndex& padre) const {
+  return padre.isValid() ? 0 : static_cast<int>(Colonne);
+}
+
+QVariant ModelloRiscontri::data(const QModelIndex& indice, int ruolo) const {
+  if (!indice.isValid()) return {};
+  const Riscontro& row = righe_.at(static_cast<std::size_t>(indice.row()));
+  if (ruolo == Qt::DecorationRole && indice.column() == Che) {
+    return IconaDi(QLatin1String(IconOf(row.Tipo)), Tema::Corrente().Avviso);
+  }
+  if (ruolo != Qt::DisplayRole && ruolo != Qt::ToolTipRole) return {};
+  QString text = indice.column() == File  ? Qs(SuUnaRiga(row.File))
+                 : indice.column() == Che ? Qs(DifettoInParole(contesto_, row.Tipo))
+                                          : Qs(RimedioInParole(contesto_, row.Tipo));
+  return ruolo == Qt::ToolTipRole ? Suggerimento(text) : text;
+}
+
+QVariant ModelloRiscontri::headerData(int sezione, Qt::Orientation verso, int ruolo) const {
+  if (verso == Qt::Vertical || sezione >= titoli_.size()) return {};
+  if (ruolo == Qt::DisplayRole) return titoli_[sezione];
+  if (ruolo == Qt::TextAlignmentRole) return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+  return {};
+}
+
+}  // namespace kvr5

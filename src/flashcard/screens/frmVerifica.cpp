@@ -1,0 +1,172 @@
+#include "flashcard/screens/frmVerifica.h"
+
+#include <QHeaderView>
+#include <QShowEvent>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "core/Lingua.h"
+#include "core/Parole.h"
+#include "core/ParoleCopia.h"
+#include "core/screens/Pagina.h"
+#include "core/screens/Tabella.h"
+#include "core/screens/Tema.h"
+#include "core/screens/Testo.h"
+#include "flashcard/ParoleVerifica.h"
+
+namespace kvr5 {
+namespace {
+
+constexpr int kRow = 32;
+constexpr qint64 kRefresh = 100;  // milliseconds between two looks of the user at the state
+
+}  // namespace
+
+frmVerifica::frmVerifica(Ambiente& ambiente) : Form(ambiente, "frmVerifica"), modello_(ambiente.C) {
+  resize(880, 520);
+  Costruisci();
+  connect(picRipeti, &QAbstractButton::clicked, this, [this] { Verifica(); });
+  connect(picChiudi, &QAbstractButton::clicked, this, [this] { Chiudi(); });
+  connect(picHelp, &QAbstractButton::clicked, this, [this] { Aiuto(); });
+  SuTasto(Qt::Key_F1, [this] { Aiuto(); });
+  SuTasto(Qt::Key_Escape, [this] { Chiudi(); });
+}
+
+void frmVerifica::Costruisci() {
+  auto* page = NuovaPagina(*this);
+  lblTitolo = new EtichettaElisa("lblTitolo", this);
+  Veste(*lblTitolo, Carattere::Schermata);
+  picHelp = NuovoAiuto(this);
+  auto* top = Riga({lblTitolo, picHelp});
+  top->setStretch(0, 1);
+  page->addLayout(top);
+  lblFile = new EtichettaElisa("lblFile", this, Qt::ElideMiddle);
+  picAvanzamento = new Barra(this);
+  picAvanzamento->setObjectName(QStringLiteral("picAvanzamento"));
+  lblQuanto = NuovaEtichetta("lblQuanto", {}, -1, this);
+  Veste(*lblQuanto, Carattere::Suggerimento, Ruolo::Attenuato);
+  lblBuono = TestoLungo("lblBuono", {}, this);
+  Veste(*lblBuono, Carattere::Riquadro, Ruolo::Buono);
+  lblEsito = new EtichettaAvviso("lblEsito", {}, Carattere::Riquadro, this);
+  lblEsito->setWordWrap(true);
+  for (QWidget* each :
+       std::initializer_list<QWidget*>{lblFile, picAvanzamento, lblQuanto, lblBuono, lblEsito}) {
+    page->addWidget(each);
+  }
+  grdRiscontri = new QTableView(this);
+  grdRiscontri->setObjectName(QStringLiteral("grdRiscontri"));
+  grdRiscontri->setModel(&modello_);
+  grdRiscontri->setSelectionMode(QAbstractItemView::SingleSelection);
+  VestiTabella(*grdRiscontri, kRow);
+  auto* header = grdRiscontri->horizontalHeader();
+  header->resizeSection(ModelloRiscontri::Che, 210);
+  header->resizeSection(ModelloRiscontri::File, 200);
+  header->setSectionResizeMode(ModelloRiscontri::Rimedio, QHeaderView::Stretch);
+  page->addWidget(grdRiscontri, 1);
+  picRipeti = new Coppia("picRipeti", "lblRipeti", QStringLiteral("Again"), "verifica", -1, this);
+  picChiudi = new Coppia("picChiudi", "lblChiudi", QStringLiteral("Close"), "fatto", -1, this);
+  picChiudi->ImpostaGenere(Coppia::Genere::Primario);
+  lblRipeti = picRipeti->Etichetta();
+  lblChiudi = picChiudi->Etichetta();
+  page->addLayout(Riga({picRipeti, nullptr, picChiudi}));
+  OrdineTab({picHelp, grdRiscontri, picRipeti, picChiudi});
+}
+
+void frmVerifica::AlCaricamento() {
+  const auto& state = C().Stato;
+  const auto text = [this](const char* key, const char* words) {
+    return TestoLinguaO(C(), key, words);
+  };
+  setWindowTitle(Qs(text("0130159", "Verify card")));
+  lblTitolo->setText(Qs(ConValori(text("0130301", "Card %1 and project %2"),
+                                  {state.PercorsoMemoryCard, SuUnaRiga(state.ProjectName)})));
+  quanto_ = text("0130080", "File %1 of %2, %3 of %4");
+  ferma_ = text("0130169", "Stop");
+  chiudi_ = text("0130302", "Close");
+  picRipeti->ImpostaScritta(Qs(text("0130303", "Verify again")));
+  picAvanzamento->setAccessibleName(Qs(text("0130184", "Progress")));
+  grdRiscontri->setAccessibleName(Qs(text("0130298", "Finding")));
+  modello_.Localizza();
+  MostraLavoro(true);
+}
+
+void frmVerifica::showEvent(QShowEvent* event) {
+  Form::showEvent(event);
+  // The window is there first, and says what it does.
+  if (!event->spontaneous()) QTimer::singleShot(0, this, [this] { Verifica(); });
+}
+
+void frmVerifica::Verifica() {
+  if (lavora_) return;
+  const Impegno stays(*this);
+  lavora_ = true;
+  fermata_ = false;
+  modello_.Svuota();
+  scritto_.invalidate();
+  MostraLavoro(true);
+  C().Messaggi.LasciaCorrere();
+  const EsitoVerifica outcome = VerificaScheda(C(), C().Stato.PercorsoMemoryCard, *this);
+  lavora_ = false;
+  MostraEsito(outcome);
+}
+
+void frmVerifica::MostraLavoro(bool lavora) {
+  for (QWidget* each : std::initializer_list<QWidget*>{lblFile, picAvanzamento, lblQuanto}) {
+    each->setVisible(lavora);
+  }
+  lblBuono->hide();
+  lblEsito->hide();
+  if (lavora) {
+    lblFile->setText(Qs(TestoLinguaO(C(), "0130281", "Comparing files")));
+    lblQuanto->clear();
+    picAvanzamento->ImpostaParte(0);
+  }
+  picRipeti->setEnabled(!lavora);
+  picChiudi->ImpostaScritta(Qs(lavora ? ferma_ : chiudi_));
+  picChiudi->setFocus();
+}
+
+void frmVerifica::MostraEsito(const EsitoVerifica& esito) {
+  MostraLavoro(false);
+  const QString words = Qs(EsitoInParole(C(), esito));
+  const bool good = esito.Riscontri.empty() && !esito.Annullata && !esito.SenzaScheda;
+  lblBuono->setVisible(good);
+  lblEsito->setVisible(!good);
+  (good ? lblBuono : static_cast<QLabel*>(lblEsito))->setText(words);
+  if (modello_.rowCount() > 0) grdRiscontri->selectRow(0);
+}
+
+bool frmVerifica::Avanza(const CopyState& stato) {
+  if (!scritto_.isValid() || scritto_.elapsed() >= kRefresh) ScriviStato(stato);
+  C().Messaggi.LasciaCorrere();
+  return !fermata_ && !ChiusuraAttesa();
+}
+
+void frmVerifica::ScriviStato(const CopyState& stato) {
+  scritto_.start();
+  lblFile->setText(Qs(PercorsoPerPersone(C(), stato.File)));
+  if (stato.BytesTotal > 0) {
+    picAvanzamento->ImpostaParte(static_cast<double>(stato.BytesDone) /
+                                 static_cast<double>(stato.BytesTotal));
+  }
+  lblQuanto->setText(
+      Qs(ConValori(quanto_, {std::to_string(stato.FileNumber), std::to_string(stato.FileCount),
+                             QuantitaInParole(stato.BytesDone, C().Luogo),
+                             QuantitaInParole(stato.BytesTotal, C().Luogo)})));
+}
+
+void frmVerifica::Trovato(const Riscontro& riscontro) {
+  modello_.Aggiungi(riscontro);
+}
+
+void frmVerifica::Chiudi() {
+  if (!lavora_) return Scarica();
+  fermata_ = true;  // the work stops first, and what it has found stays to be read
+}
+
+void frmVerifica::AlloScarico() {
+  hide();
+  ambiente_.Schermi.Mostra(FormChiamante);
+}
+
+}  // namespace kvr5
