@@ -1,11 +1,15 @@
 #include <QApplication>
 #include <QTimer>
 #include <filesystem>
+#include <fstream>
 
 #include "Photographer.h"
 #include "core/screens/Davanti.h"
 #include "core/screens/frmSalva.h"
+#include "flashcard/ContenutoScheda.h"
+#include "flashcard/screens/frmCopiaManuale.h"
 #include "flashcard/screens/frmProgress.h"
+#include "flashcard/screens/frmVerifica.h"
 #include "projects/screens/frmRichiestaNomeForm.h"
 
 namespace shots {
@@ -54,6 +58,41 @@ void TakeCards(Photographer& camera) {
   camera.TakeModal("frmSelectFlash", QStringLiteral("frmSelectFlash-project"), choose);
 }
 
+void TakeVerified(Photographer& camera, kvr5::Ambiente& ambiente, const QString& name) {
+  kvr5::frmVerifica window(ambiente);
+  window.Mostra();
+  WaitFor([&window] { return window.picRipeti->isEnabled(); });
+  camera.Take("frmVerifica", name);
+}
+
+/// A card as the project is, one that isn't, and the bar of the copy by hand.
+void TakeVerification(Photographer& camera, kvr5::Ambiente& ambiente) {
+  namespace fs = std::filesystem;
+  auto& state = camera.C().Stato;
+  const auto& files = camera.C().Files;
+  const kvr5::StatoApplicazione before = state;
+  state.ProjectName = "Museum-Hall-2";
+  state.CartellaProgetto = state.CartellaProgetti + "\\Museum-Hall-2";
+  state.PercorsoMemoryCard = "F:\\";
+  const fs::path card = files.HostPath("F:\\");
+  fs::remove(card / "KVR5.gif");
+  for (const auto& file : kvr5::ContenutoDellaScheda(camera.C()).File) {
+    std::error_code missing;
+    fs::copy(files.HostPath(file.Sorgente), card / file.Nome, fs::copy_options::overwrite_existing,
+             missing);
+  }
+  TakeVerified(camera, ambiente, QStringLiteral("frmVerifica"));
+  fs::remove(card / "Config.txt");
+  std::ofstream(card / "Config.cfg") << "other";
+  std::ofstream(card / "5.mp3") << "left";
+  std::ofstream(card / "PLAYLIST.M3U") << "P01-001\r\n";
+  TakeVerified(camera, ambiente, QStringLiteral("frmVerifica-findings"));
+  kvr5::frmCopiaManuale bar(ambiente);
+  bar.Mostra();
+  camera.Take("frmCopiaManuale", QStringLiteral("frmCopiaManuale"));
+  state = before;
+}
+
 void TakeWork(Photographer& camera, kvr5::Ambiente& ambiente) {
   kvr5::ProgressoQt work(ambiente);
   work.Operazione(camera.Text("0070016"));
@@ -100,6 +139,7 @@ void TakeBoxes(Photographer& camera) {
   kvr5::EsecutoreQt documents(camera.C());
   kvr5::Ambiente ambiente{camera.C(), camera.Program(), documents, life, camera.Program().Suono()};
   TakeCards(camera);
+  TakeVerification(camera, ambiente);
   TakeQuestions(camera);
   TakeWork(camera, ambiente);
   TakeCopy(camera);

@@ -4,12 +4,14 @@
 #include <QPainter>
 #include <utility>
 
+#include "core/screens/Icona.h"
 #include "core/screens/Tema.h"
 
 namespace kvr5 {
 namespace {
 
 constexpr int kHeight = 48;
+constexpr int kSign = 18;
 
 }  // namespace
 
@@ -31,6 +33,11 @@ void VociScheda::paint(QPainter* pittore, const QStyleOptionViewItem& opzione,
   pittore->setPen(chosen ? tema.SuSelezione : tema.Testo);
   pittore->setFont(FontDi(Carattere::Corpo));
   pittore->drawText(inside.adjusted(0, 0, 0, -half), Qt::AlignLeft | Qt::AlignVCenter, root);
+  if (voce.data(Bloccata).toBool()) {
+    const QRectF where(inside.right() - kSign, inside.top(), kSign, kSign);
+    DipingiIcona(*pittore, where, QStringLiteral("blocco"),
+                 chosen ? tema.SuSelezione : tema.Avviso);
+  }
   pittore->setPen(chosen ? tema.SuSelezione : tema.Attenuato);
   pittore->setFont(FontDi(Carattere::Suggerimento));
   const QString facts = pittore->fontMetrics().elidedText(voce.data(Fatti).toString(),

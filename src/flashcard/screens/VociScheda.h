@@ -10,6 +10,8 @@ class VociScheda : public QStyledItemDelegate {
  public:
   /// Where an item keeps its facts.
   static constexpr int Fatti = Qt::UserRole + 1;
+  /// And whether it is write-protected, which a padlock shows.
+  static constexpr int Bloccata = Qt::UserRole + 2;
 
   using QStyledItemDelegate::QStyledItemDelegate;
 

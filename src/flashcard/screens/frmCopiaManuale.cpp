@@ -12,7 +12,7 @@ namespace kvr5 {
 
 frmCopiaManuale::frmCopiaManuale(Ambiente& ambiente) : Form(ambiente, "frmCopiaManuale") {
   setWindowFlag(Qt::Dialog);
-  resize(520, 84);
+  resize(560, 84);
   auto* page = NuovaPagina(*this);
   lblScheda = new EtichettaElisa("lblScheda", this);
   picTorna = new Coppia("picTorna", "lblTorna", QStringLiteral("Back"), "indietro", -1, this);

@@ -17,6 +17,12 @@ namespace {
 constexpr std::int16_t kForm = 6;
 constexpr int kWatch = 1000;  // milliseconds between two looks at the cards
 
+constexpr int kSign = 18;
+
+bool IsLocked(const SchedaTrovata& card) {
+  return card.Fatti && card.Fatti->HasMedium && card.Fatti->ReadOnly;
+}
+
 /// How a form is called by the dialog that asks for its name.
 const char* NameOf(Schermata schermata) {
   return schermata == Schermata::Configurazione ? "frmPlayerConfig" : "";
@@ -65,7 +71,11 @@ void frmSelectFlash::Costruisci() {
   lblFatti = TestoLungo("lblFatti", {}, this);
   lblContenuto = TestoLungo("lblContenuto", {}, this);
   Veste(*lblContenuto, Carattere::Corpo, Ruolo::Attenuato);
-  page->addWidget(lblFatti);
+  segno_ = SegnoDi("blocco", Tema::Corrente().Avviso, kSign, this);
+  auto* facts = Riga({segno_, lblFatti});
+  facts->setStretch(1, 1);
+  facts->setAlignment(segno_, Qt::AlignTop);
+  page->addLayout(facts);
   page->addWidget(lblContenuto);
   page->addStretch(1);
   picOpen = new Coppia("picOpen", "lblExplore", QStringLiteral("Explore"), "cartella", 6, this);
@@ -114,6 +124,7 @@ void frmSelectFlash::DescriviVoce(int indice) {
   const QString facts = Qs(FattiOUscita(card));
   cmdFlash->setItemData(indice, facts, VociScheda::Fatti);
   cmdFlash->setItemData(indice, facts, Qt::AccessibleDescriptionRole);
+  cmdFlash->setItemData(indice, IsLocked(card), VociScheda::Bloccata);
 }
 
 std::string frmSelectFlash::FattiOUscita(const SchedaTrovata& scheda) const {
@@ -127,7 +138,9 @@ void frmSelectFlash::MostraFatti() {
   const auto& card = cards[elenco_.Scelta()];
   lblFatti->setText(Qs(FattiOUscita(card)));
   const bool out = card.Uscita || (card.Fatti && !card.Fatti->HasMedium);
-  Veste(*lblFatti, Carattere::Corpo, out ? Ruolo::Avviso : Ruolo::Testo);
+  const bool locked = IsLocked(card);
+  segno_->setVisible(locked);
+  Veste(*lblFatti, Carattere::Corpo, out || locked ? Ruolo::Avviso : Ruolo::Testo);
   lblContenuto->setText(out ? QString() : Qs(ProgettoSullaScheda(C(), card.Radice)));
   QStringList heard{lblFatti->text(), lblContenuto->text()};
   heard.removeAll(QString());

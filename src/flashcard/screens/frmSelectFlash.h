@@ -43,6 +43,7 @@ class frmSelectFlash : public Form {
   std::string FattiOUscita(const SchedaTrovata& scheda) const;
 
   ElencoSchede elenco_;
+  QLabel* segno_;   ///< the padlock of a card that is write-protected
   QTimer guardia_;  ///< looks which cards are there
 };
 

@@ -17,13 +17,13 @@
 namespace kvr5 {
 namespace {
 
-constexpr int kRow = 32;
+constexpr int kRow = 44;  // two lines
 constexpr qint64 kRefresh = 100;  // milliseconds between two looks of the user at the state
 
 }  // namespace
 
 frmVerifica::frmVerifica(Ambiente& ambiente) : Form(ambiente, "frmVerifica"), modello_(ambiente.C) {
-  resize(880, 520);
+  resize(960, 560);
   Costruisci();
   connect(picRipeti, &QAbstractButton::clicked, this, [this] { Verifica(); });
   connect(picChiudi, &QAbstractButton::clicked, this, [this] { Chiudi(); });
@@ -58,9 +58,10 @@ void frmVerifica::Costruisci() {
   grdRiscontri->setModel(&modello_);
   grdRiscontri->setSelectionMode(QAbstractItemView::SingleSelection);
   VestiTabella(*grdRiscontri, kRow);
+  grdRiscontri->setWordWrap(true);
   auto* header = grdRiscontri->horizontalHeader();
-  header->resizeSection(ModelloRiscontri::Che, 210);
-  header->resizeSection(ModelloRiscontri::File, 200);
+  header->resizeSection(ModelloRiscontri::Che, 240);
+  header->resizeSection(ModelloRiscontri::File, 180);
   header->setSectionResizeMode(ModelloRiscontri::Rimedio, QHeaderView::Stretch);
   page->addWidget(grdRiscontri, 1);
   picRipeti = new Coppia("picRipeti", "lblRipeti", QStringLiteral("Again"), "verifica", -1, this);
