@@ -198,6 +198,7 @@ void Programma::SvuotaScheda() {
 void Programma::VerificaScheda() {
   if (verifica_.Caricata()) return;
   verifica_->FormChiamante = Schermata::Configurazione;
+  verifica_->Presente = [this] { return SceltaDalDialogo(*this).Presente(); };
   verifica_->MostraModale();
 }
 

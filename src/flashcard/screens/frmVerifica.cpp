@@ -106,7 +106,9 @@ void frmVerifica::Verifica() {
   scritto_.invalidate();
   MostraLavoro(true);
   C().Messaggi.LasciaCorrere();
-  const EsitoVerifica outcome = VerificaScheda(C(), C().Stato.PercorsoMemoryCard, *this);
+  const EsitoVerifica outcome = Presente()
+                                    ? VerificaScheda(C(), C().Stato.PercorsoMemoryCard, *this)
+                                    : EsitoVerifica{.SenzaScheda = true};
   lavora_ = false;
   MostraEsito(outcome);
 }

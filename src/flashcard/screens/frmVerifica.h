@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QTableView>
+#include <functional>
 #include <string>
 
 #include "core/Schermata.h"
@@ -24,6 +25,8 @@ class frmVerifica : public Form, private OsservatoreVerifica {
 
   /// The screen that opened it, shown again at its end.
   Schermata FormChiamante = Schermata::Nessuna;
+  /// Whether the host has the card still; the folder that it was mounted at may outlive it.
+  std::function<bool()> Presente = [] { return true; };
 
   EtichettaElisa* lblTitolo;
   EtichettaElisa* lblFile;  ///< the file at work
