@@ -24,6 +24,7 @@ class CompanionJob : public bench::RecordingJob {
  public:
   CompanionJob(int count, std::size_t bytes) : RecordingJob(count, bytes) {
     fs::create_directories(Folder("program"));
+    std::ofstream(Folder("program") / "KVR5Software.ini") << "[Path]\r\n";
     for (const auto& entry : fs::directory_iterator(KVR5_STAGED_PROGRAM)) {
       if (entry.path().extension() == ".ini") continue;
       fs::create_symlink(entry.path(), Folder("program") / entry.path().filename());

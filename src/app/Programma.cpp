@@ -21,12 +21,15 @@ class SceltaDalDialogo : public SelezioneFlash {
   explicit SceltaDalDialogo(Programma& programma) : programma_(programma) {}
   void Scegli() override { programma_.ScegliScheda(Schermata::Configurazione); }
   bool Presente() const override {
-    const auto facts = programma_.FattiDellaScheda();
+    // Of the card that the work began with, whatever is chosen meanwhile.
+    if (scheda_.empty()) scheda_ = programma_.C().Stato.PercorsoMemoryCard;
+    const auto facts = programma_.FattiDellaScheda(scheda_);
     return facts && facts->HasMedium;
   }
 
  private:
   Programma& programma_;
+  mutable std::string scheda_;
 };
 
 }  // namespace
@@ -231,9 +234,12 @@ void Programma::EspelliScheda() {
 }
 
 std::optional<Drive> Programma::FattiDellaScheda() {
-  const std::string& root = contesto_.Stato.PercorsoMemoryCard;
+  return FattiDellaScheda(contesto_.Stato.PercorsoMemoryCard);
+}
+
+std::optional<Drive> Programma::FattiDellaScheda(const std::string& radice) {
   for (const auto& drive : drives_.List()) {
-    if (drive.Root() == root) return drive;
+    if (drive.Root() == radice) return drive;
   }
   return {};
 }

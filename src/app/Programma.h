@@ -79,6 +79,8 @@ class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
   void EspelliScheda() override;
   FinestraProgresso& Progresso() override { return progresso_; }
   std::optional<Drive> FattiDellaScheda() override;
+  /// What the host tells of the drive with this root; nothing when it isn't there.
+  std::optional<Drive> FattiDellaScheda(const std::string& radice);
 
  private:
   std::string TestoDrives();

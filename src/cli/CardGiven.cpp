@@ -1,5 +1,7 @@
 #include "cli/CardGiven.h"
 
+#include <sys/stat.h>
+
 #include <cctype>
 
 #include "core/Aiuti.h"
@@ -8,12 +10,21 @@
 namespace kvr5::cli {
 namespace {
 
-/// A card given as a letter: "E:", "E:\\" or "E" in either case; '\0' for anything else.
+/// A card given as a letter: "E:", "E:\\", "E:/" or "E" in either case; '\0' for anything else.
 char LetterGiven(const std::string& card) {
   const bool letter =
       (card.size() == 1 && std::isalpha(static_cast<unsigned char>(card[0])) != 0) ||
-      (card.size() == 2 && card[1] == ':') || (card.size() == 3 && card.ends_with(":\\"));
+      (card.size() == 2 && card[1] == ':') ||
+      (card.size() == 3 && card[1] == ':' && (card[2] == '\\' || card[2] == '/'));
   return letter ? static_cast<char>(std::toupper(static_cast<unsigned char>(card[0]))) : '\0';
+}
+
+/// Which folder of which volume is at a path now; nothing where none is.
+std::optional<std::pair<dev_t, ino_t>> FolderAt(const Contesto& context, const std::string& root) {
+  struct stat status {};
+  const std::string path = context.Files.HostPath(root);
+  if (::stat(path.c_str(), &status) != 0 || !S_ISDIR(status.st_mode)) return std::nullopt;
+  return std::pair(status.st_dev, status.st_ino);
 }
 
 }  // namespace
@@ -30,6 +41,9 @@ std::string CardRoot(Session& session, const std::string& card) {
   return bare ? root : std::string();
 }
 
+CardGiven::CardGiven(Contesto& context, std::string root)
+    : context_(context), root_(std::move(root)), folder_(FolderAt(context_, root_)) {}
+
 void CardGiven::Scegli() {
   auto& state = context_.Stato;
   state.SelezioneFlashAnnullata = false;
@@ -37,7 +51,8 @@ void CardGiven::Scegli() {
 }
 
 bool CardGiven::Presente() const {
-  return FolderExists(context_.Files, root_);
+  // The folder that a card was mounted at may outlive it.
+  return folder_ && FolderAt(context_, root_) == folder_;
 }
 
 }  // namespace kvr5::cli

@@ -1,6 +1,10 @@
 #pragma once
 
+#include <sys/types.h>
+
+#include <optional>
 #include <string>
+#include <utility>
 
 #include "cli/Session.h"
 #include "core/SelezioneFlash.h"
@@ -16,7 +20,7 @@ std::string CardRoot(Session& session, const std::string& card);
 class CardGiven : public SelezioneFlash {
  public:
   /// `root` as CardRoot gives it.
-  CardGiven(Contesto& context, std::string root) : context_(context), root_(std::move(root)) {}
+  CardGiven(Contesto& context, std::string root);
 
   void Scegli() override;
   bool Presente() const override;
@@ -24,6 +28,7 @@ class CardGiven : public SelezioneFlash {
  private:
   Contesto& context_;
   std::string root_;
+  std::optional<std::pair<dev_t, ino_t>> folder_;  ///< what was there to begin with
 };
 
 }  // namespace kvr5::cli

@@ -17,6 +17,12 @@ void Tell(Contesto& context, const char* key) {
                                     Icona::Avviso, Pulsanti::Ok, Risposta::Ok});
 }
 
+/// A drive is shown as it was chosen, any other folder in the host's form.
+std::string AsChosen(const Contesto& context, const std::string& card) {
+  constexpr std::size_t kRoot = 3;  // "E:\"
+  return card.size() == kRoot ? card : PercorsoPerPersone(context, card);
+}
+
 /// All plain files of the card's root but those that are read-only.
 Error DeletePlainFiles(FileSystem& files, const std::string& card) {
   bool found = false;
@@ -46,7 +52,7 @@ FineSvuotamento Report(Contesto& context, const Error& error) {
 FineSvuotamento CancellaFlash(Contesto& contesto, SelezioneFlash& scelta) {
   if (!ScegliSchedaSeManca(contesto, scelta)) return FineSvuotamento::SenzaScheda;
   const std::string card = contesto.Stato.PercorsoMemoryCard;
-  const std::string shown = PercorsoPerPersone(contesto, card);
+  const std::string shown = AsChosen(contesto, card);
   if (!Ask(contesto, TestoLingua(contesto, "0040024") + " " + shown + "  ?")) {
     return FineSvuotamento::Rinunciata;
   }
@@ -60,6 +66,7 @@ FineSvuotamento CancellaFlash(Contesto& contesto, SelezioneFlash& scelta) {
                                  : Error(errors::DeviceUnavailable));
   // What the user does while events run has errors of its own.
   const Error outcome = error.Last();
+  Ignora(contesto.Files.SyncVolume(card));  // a card that is pulled out now must not have them back
   contesto.Messaggi.LasciaCorrere();
   return Report(contesto, outcome);
 }

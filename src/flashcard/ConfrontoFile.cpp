@@ -5,17 +5,17 @@
 #include <span>
 #include <string>
 
-#include "platform/FileOps.h"
-
 namespace kvr5 {
 namespace {
 
-constexpr std::size_t kPiece = std::size_t{1} << 20U;
+constexpr std::size_t kPiece = std::size_t{128} << 10U;
 
-EsitoConfronto CompareBytes(File& first, File& second,
-                            const std::function<bool(std::size_t)>& step) {
-  std::string mine(kPiece, '\0');
-  std::string theirs(kPiece, '\0');
+EsitoConfronto CompareBytes(File& first, File& second, const std::function<bool(std::size_t)>& step,
+                            PezziConfronto& pieces) {
+  std::string& mine = pieces.Primo;
+  std::string& theirs = pieces.Secondo;
+  mine.resize(kPiece);
+  theirs.resize(kPiece);
   for (;;) {
     const auto read = first.Read(mine);
     if (!read) return EsitoConfronto::PrimoIlleggibile;
@@ -36,10 +36,18 @@ EsitoConfronto CompareBytes(File& first, File& second,
 
 EsitoConfronto ConfrontaFile(FileSystem& files, std::string_view primo, std::string_view secondo,
                              const std::function<bool(std::size_t)>& passo) {
+  PezziConfronto pieces;
+  return ConfrontaFile(files, primo, secondo, passo, pieces);
+}
+
+EsitoConfronto ConfrontaFile(FileSystem& files, std::string_view primo, std::string_view secondo,
+                             const std::function<bool(std::size_t)>& passo, PezziConfronto& pezzi) {
   const auto first = files.Open(primo, OpenMode::Read);
   if (!first) return EsitoConfronto::PrimoIlleggibile;
   // A pipe in the place of a file would be waited for.
-  if (!FileExists(files, secondo)) return EsitoConfronto::SecondoIlleggibile;
+  const auto info = files.Info(secondo);
+  const bool endless = info && info.Value().System && info.Value().Size == 0;
+  if (!info || info.Value().IsFolder || endless) return EsitoConfronto::SecondoIlleggibile;
   const auto second = files.Open(secondo, OpenMode::Read);
   if (!second) return EsitoConfronto::SecondoIlleggibile;
   const auto length = first.Value()->Size();
@@ -48,7 +56,7 @@ EsitoConfronto ConfrontaFile(FileSystem& files, std::string_view primo, std::str
   if (!other) return EsitoConfronto::SecondoIlleggibile;
   if (length.Value() != other.Value()) return EsitoConfronto::Diversi;
   first.Value()->ForgetCached();
-  return CompareBytes(*first.Value(), *second.Value(), passo);
+  return CompareBytes(*first.Value(), *second.Value(), passo, pezzi);
 }
 
 }  // namespace kvr5

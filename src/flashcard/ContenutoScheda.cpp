@@ -109,7 +109,10 @@ void Contents::AddRow(Passata pass, const RigaRaccolta& row) {
   if (row.Esito == RigaRaccolta::Fine::Aggiunta) Add({row.Alias, row.Sorgente, rule});
   if (row.Esito != RigaRaccolta::Fine::Manca) return;
   // A row with a name that no card can hold is known by its file.
-  Add({row.Alias.empty() ? std::string(LastName(row.FileMancante)) : row.Alias, {}, rule});
+  Add({row.Alias.empty() ? std::string(LastName(row.FileMancante)) : row.Alias,
+       {},
+       rule,
+       row.FileMancante});
 }
 
 /// Of two files with one name the later one is copied over the earlier.

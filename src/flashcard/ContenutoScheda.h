@@ -32,6 +32,7 @@ struct FileDiScheda {
   std::string Nome;      ///< in the card's root
   std::string Sorgente;  ///< system path; "" where the project's row has no file any more
   RegolaMp3 Regola = RegolaMp3::Nessuna;
+  std::string Cercato{};  ///< where there is no source: what the row asks for, as people are told
 };
 
 /// What a recording of the open project would put on a card.

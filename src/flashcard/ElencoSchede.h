@@ -21,8 +21,7 @@ struct SchedaTrovata {
   bool operator==(const SchedaTrovata&) const = default;
 };
 
-/// frmSelectFlash without its pixels: the scan for cards and the choice of one. A dialog that goes
-/// by the window's own button calls neither Conferma nor Annulla, and leaves both flags.
+/// frmSelectFlash without its pixels: the scan for cards and the choice of one.
 class ElencoSchede {
  public:
   ElencoSchede(Contesto& contesto, SorgenteDrive& drive) : contesto_(contesto), drive_(drive) {}

@@ -2,6 +2,7 @@
 
 #include "core/Lingua.h"
 #include "core/Parole.h"
+#include "core/ParoleCopia.h"
 
 namespace kvr5 {
 namespace {
@@ -37,13 +38,13 @@ Words RemedyOf(Difetto kind) {
     case Difetto::Diverso:
       return {"0130289", "Record the card again; if it stays so, use another card."};
     case Difetto::Estraneo:
-      return {"0130290", "Left by another recording: erase the card, then record."};
+      return {"0130290", "Delete it, or erase the card and record again."};
     case Difetto::VoceVuota:
       return {"0130291", "Save playlists or schedule, then record; give shared files copies."};
     case Difetto::Rifiutato:
-      return {"0130292", "Pick another file, or convert it as the screens say."};
+      return {"0130292", "Pick another file, or convert it."};
     case Difetto::NonLetto:
-      return {"0130293", "The card or the project's own file can't be read: look for both."};
+      return {"0130293", "It can't be read on the card."};
   }
   return {"", ""};
 }
@@ -58,18 +59,23 @@ std::string DifettoInParole(Contesto& contesto, Difetto difetto) {
   return TextOf(contesto, NameOf(difetto));
 }
 
-std::string RimedioInParole(Contesto& contesto, Difetto difetto) {
-  return TextOf(contesto, RemedyOf(difetto));
+std::string RimedioInParole(Contesto& contesto, const Riscontro& riscontro) {
+  if (riscontro.DelProgetto.empty()) return TextOf(contesto, RemedyOf(riscontro.Tipo));
+  return ConValori(TestoLinguaO(contesto, "0130310", "Look for this file of the project first: %1"),
+                   {SuUnaRiga(PercorsoPerPersone(contesto, riscontro.DelProgetto))});
 }
 
-std::string EsitoInParole(Contesto& contesto, const EsitoVerifica& esito) {
+std::string EsitoInParole(Contesto& contesto, const EsitoVerifica& esito, std::size_t mostrati) {
   if (esito.SenzaScheda) {
     return TestoLinguaO(contesto, "0130294", "The card can't be read. Put it in, then try again.");
   }
-  const std::string findings = std::to_string(esito.Riscontri.size());
+  const std::string findings = std::to_string(mostrati);
   if (esito.Annullata) {
     return ConValori(TestoLinguaO(contesto, "0130295", "Stopped: not all was compared. Found: %1"),
                      {findings});
+  }
+  if (esito.Attesi > 0 && esito.Quanti(Difetto::Mancante) == esito.Attesi) {
+    return TestoLinguaO(contesto, "0130311", "Nothing of this project is on the card. Record it.");
   }
   if (!esito.Riscontri.empty()) {
     return ConValori(TestoLinguaO(contesto, "0130296", "Found: %1"), {findings});

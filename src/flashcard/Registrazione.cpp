@@ -54,6 +54,7 @@ class Recording {
 
   std::string Source(std::string_view name) const { return FileDelProgetto(context_, name); }
   std::string Card(std::string_view name = {}) const { return AggiungiBarra(card_).append(name); }
+  bool CardWentAway();
   void Copy(const std::string& from, const std::string& to);
   void CopyIfThere(std::string_view name);
   void CopyMatching(std::string_view wildcard);
@@ -67,6 +68,7 @@ class Recording {
   ListaCopia list_;
   EsitoRegistrazione outcome_;
   std::string card_;  ///< the one it began on, whatever is chosen while events run
+  bool gone_ = false;
 };
 
 EsitoRegistrazione Recording::Run() {
@@ -101,6 +103,11 @@ bool Recording::CardIsWritable() {
   // The folder that a card was mounted at may outlive it, and take the file.
   if (!choice_.Presente()) {
     error.Record(Error(errors::DeviceUnavailable));
+    return false;
+  }
+  // The lists for the computer, and whatever a recording writes, would be taken from the project.
+  if (context_.Files.SameFile(card_, context_.Stato.CartellaProgetto)) {
+    error.Record(Error(errors::PathFileAccess));
     return false;
   }
   const std::string path = Card("\\test.txt");  // the doubled backslash counts as one
@@ -158,7 +165,8 @@ void Recording::CopyLists() {  // stage 3
   Copy(Source(scheda::kListe), Card());
   // The lists for use on the computer stay in the project where playlists have names.
   const std::string local = Card(scheda::kListeLocali);
-  if (context_.Stato.PlayerMode == scheda::kPlaylistConNome && FileExists(context_.Files, local)) {
+  if (context_.Stato.PlayerMode == scheda::kPlaylistConNome && !gone_ &&
+      FileExists(context_.Files, local)) {
     context_.Errore.Record(DeleteMatching(context_.Files, local));
   }
   CopyIfThere(scheda::kPalinsesto);
@@ -223,7 +231,17 @@ void Recording::CopyMp3() {
   context_.Messaggi.LasciaCorrere();
 }
 
+/// The folder that a card was mounted at may outlive it. Told once; nothing is copied from then on.
+bool Recording::CardWentAway() {
+  if (!gone_ && !choice_.Presente()) {
+    gone_ = true;
+    context_.FinestraCopia.Failed({Card(), false, Error(errors::DeviceUnavailable)});
+  }
+  return gone_;
+}
+
 void Recording::Copy(const std::string& from, const std::string& to) {
+  if (CardWentAway()) return;
   const CopyOutcome copied = CopiaFileShell(context_, from, to);
   outcome_.File += copied.FilesCopied;
   outcome_.Byte += copied.BytesCopied;

@@ -1,6 +1,7 @@
 #include "flashcard/Verifica.h"
 
 #include <algorithm>
+#include <array>
 #include <map>
 #include <set>
 
@@ -12,6 +13,7 @@
 #include "mp3/modMp3Infos.h"
 #include "platform/FileOps.h"
 #include "platform/Fold.h"
+#include "projects/CartellaProgetto.h"
 
 namespace kvr5 {
 namespace {
@@ -32,6 +34,9 @@ class Verification {
   void CountBytes();
   void CheckAll();
   void Check(const FileDiScheda& file);
+  bool IsReadable(const std::string& path) const;
+  bool CardWentAway();
+  std::string MissingSource(const FileDiScheda& file) const;
   bool Compare(const FileDiScheda& file, const FileInfo& onCard);
   bool PlayerTakes(const FileDiScheda& file, const std::string& path);
   void CheckLists();
@@ -41,11 +46,14 @@ class Verification {
 
   /// The card's file of a name; null where it holds none.
   const FileInfo* OnCard(std::string_view name) const {
-    const auto found = onCard_.find(FoldCase(name));
-    return found == onCard_.end() ? nullptr : &found->second;
+    const auto [first, last] = onCard_.equal_range(FoldCase(name));
+    const auto exact =
+        std::find_if(first, last, [name](const auto& entry) { return entry.second.Name == name; });
+    if (exact != last) return &exact->second;
+    return first == last ? nullptr : &first->second;
   }
   std::string CardPath(std::string_view name) const { return std::string(card_).append(name); }
-  void Find(Difetto kind, std::string file);
+  void Find(Difetto kind, std::string file, std::string ofProject = {});
   bool Advance();
 
   Contesto& context_;
@@ -53,9 +61,13 @@ class Verification {
   OsservatoreVerifica& observer_;
   modMp3Infos reader_;
   ContenutoScheda expected_;
-  std::map<std::string, FileInfo> onCard_;  ///< by name without regard to case
-  std::set<std::string> entriesTold_;       ///< a file that several lists name is told once
+  /// By name without regard to case; a card that minds it may hold several of one.
+  std::multimap<std::string, FileInfo> onCard_;
+  std::set<const FileInfo*> taken_;      ///< those that a recording would put there
+  std::set<std::string> entriesTold_;    ///< a file that several lists name is told once
+  std::set<std::string> uncheckedTold_;  ///< and so is one that can't be read in several ways
   CopyState state_;
+  PezziConfronto pieces_;
   EsitoVerifica outcome_;
 };
 
@@ -69,8 +81,8 @@ EsitoVerifica Verification::Run() {
   }
   CountBytes();
   CheckAll();
-  if (!outcome_.Annullata) CheckLists();
-  if (!outcome_.Annullata) FindStrays();
+  if (!outcome_.Annullata && !outcome_.SenzaScheda) CheckLists();
+  if (!outcome_.Annullata && !outcome_.SenzaScheda) FindStrays();
   return outcome_;
 }
 
@@ -89,7 +101,7 @@ void Verification::CountBytes() {
     const FileInfo* there = OnCard(file.Nome);
     if (there != nullptr) state_.BytesTotal += there->Size;
   }
-  state_.FileCount = expected_.File.size();
+  state_.FileCount = outcome_.Attesi = expected_.File.size();
 }
 
 void Verification::CheckAll() {
@@ -98,29 +110,55 @@ void Verification::CheckAll() {
     ++state_.FileNumber;
     if (!Advance()) return;
     Check(file);
-    if (outcome_.Annullata) return;
+    if (outcome_.Annullata || CardWentAway()) return;
   }
-  for (const std::string& database : expected_.NonLetti) Find(Difetto::NonLetto, database);
+  for (const std::string& database : expected_.NonLetti) {
+    Find(Difetto::NonLetto, database, FileDelProgetto(context_, database));
+  }
 }
 
 void Verification::Check(const FileDiScheda& file) {
   const FileInfo* there = OnCard(file.Nome);
-  if (there == nullptr) return Find(Difetto::Mancante, file.Nome);
+  if (there == nullptr) return Find(Difetto::Mancante, file.Nome, MissingSource(file));
+  taken_.insert(there);
   const std::uint64_t before = state_.BytesDone;
   const bool readable = Compare(file, *there);
   state_.BytesDone = before + there->Size;
-  if (readable && !outcome_.Annullata && !PlayerTakes(file, CardPath(there->Name))) {
-    Find(Difetto::Rifiutato, file.Nome);
+  const std::string path = CardPath(there->Name);
+  if (!readable || outcome_.Annullata || PlayerTakes(file, path)) return;
+  // What can't be read any more is no reason to accuse the file.
+  Find(IsReadable(path) ? Difetto::Rifiutato : Difetto::NonLetto, file.Nome);
+}
+
+bool Verification::IsReadable(const std::string& path) const {
+  const auto file = context_.Files.Open(path, OpenMode::Read);
+  std::array<char, 1> first{};
+  return file && file.Value()->Read(first);
+}
+
+/// Once the card can't be read at all the rest would be findings of no use.
+bool Verification::CardWentAway() {
+  if (outcome_.Riscontri.empty() || outcome_.Riscontri.back().Tipo != Difetto::NonLetto) {
+    return false;
   }
+  outcome_.SenzaScheda = !context_.Files.List(card_);
+  return outcome_.SenzaScheda;
+}
+
+/// What a file that the card lacks lacks in the project too; "" where a recording would find it.
+std::string Verification::MissingSource(const FileDiScheda& file) const {
+  if (file.Sorgente.empty()) return file.Cercato;
+  return FileExists(context_.Files, file.Sorgente) ? std::string() : file.Sorgente;
 }
 
 /// False where the card's file can't be read.
 bool Verification::Compare(const FileDiScheda& file, const FileInfo& onCard) {
+  const auto step = [this](std::size_t read) {
+    state_.BytesDone += read;
+    return Advance();
+  };
   const auto result =
-      ConfrontaFile(context_.Files, CardPath(onCard.Name), file.Sorgente, [this](std::size_t read) {
-        state_.BytesDone += read;
-        return Advance();
-      });
+      ConfrontaFile(context_.Files, CardPath(onCard.Name), file.Sorgente, step, pieces_);
   switch (result) {
     case EsitoConfronto::Uguali:
       ++outcome_.File;
@@ -133,7 +171,7 @@ bool Verification::Compare(const FileDiScheda& file, const FileInfo& onCard) {
       Find(Difetto::NonLetto, file.Nome);
       return false;
     case EsitoConfronto::SecondoIlleggibile:
-      Find(Difetto::NonLetto, file.Nome);
+      Find(Difetto::NonLetto, file.Nome, file.Sorgente.empty() ? file.Cercato : file.Sorgente);
       return true;
     case EsitoConfronto::Interrotto:
       return true;
@@ -154,7 +192,10 @@ void Verification::CheckLists() {
     const bool tracks = MatchesWildcard(file.Name, scheda::kListe) && !local;
     const bool schedule =
         MatchesWildcard(file.Name, scheda::kGiorni) || EqualFold(file.Name, scheda::kPalinsesto);
-    if (tracks || schedule) CheckList(file);
+    if (!tracks && !schedule) continue;
+    state_.File = CardPath(file.Name);
+    if (!Advance()) return;
+    CheckList(file);
   }
 }
 
@@ -162,8 +203,9 @@ void Verification::CheckList(const FileInfo& list) {
   const bool tracks = MatchesWildcard(list.Name, contenuto_scheda::kListe);
   const VoceListe entry = [&](const std::string& name) { CheckEntry(name); };
   const std::string path = CardPath(list.Name);
-  const Error error =
-      tracks ? LeggiListaBrani(context_, path, entry) : LeggiPalinsesto(context_, path, entry);
+  const AvantiListe goOn = [this] { return Advance(); };
+  const Error error = tracks ? LeggiListaBrani(context_, path, entry, goOn)
+                             : LeggiPalinsesto(context_, path, entry, goOn);
   if (error) Find(Difetto::NonLetto, list.Name);
 }
 
@@ -178,15 +220,14 @@ void Verification::CheckEntry(const std::string& name) {
 }
 
 void Verification::FindStrays() {
-  std::set<std::string> expected;
-  for (const FileDiScheda& file : expected_.File) expected.insert(FoldCase(file.Nome));
   for (const auto& [name, file] : onCard_) {
-    if (!expected.contains(name)) Find(Difetto::Estraneo, file.Name);
+    if (!taken_.contains(&file)) Find(Difetto::Estraneo, file.Name);
   }
 }
 
-void Verification::Find(Difetto kind, std::string file) {
-  outcome_.Riscontri.push_back({kind, std::move(file)});
+void Verification::Find(Difetto kind, std::string file, std::string ofProject) {
+  if (kind == Difetto::NonLetto && !uncheckedTold_.insert(FoldCase(file)).second) return;
+  outcome_.Riscontri.push_back({kind, std::move(file), std::move(ofProject)});
   observer_.Trovato(outcome_.Riscontri.back());
 }
 

@@ -29,16 +29,21 @@ std::string_view NomeDifetto(Difetto difetto);
 struct Riscontro {
   Difetto Tipo = Difetto::Mancante;
   std::string File;  ///< its name in the card's root
-  bool operator==(const Riscontro&) const = default;
+  /// The project's own file, where that is what can't be had; as its row or path names it.
+  std::string DelProgetto{};
+
+  /// The same fault of the same file.
+  bool operator==(const Riscontro& altro) const { return Tipo == altro.Tipo && File == altro.File; }
 };
 
 /// What a verification came to.
 struct EsitoVerifica {
   std::vector<Riscontro> Riscontri{};
+  std::size_t Attesi = 0;    ///< files that a recording would put there
   std::size_t File = 0;      ///< files that were compared to their end
   std::uint64_t Byte = 0;    ///< their bytes
   bool Annullata = false;    ///< the findings are those up to the cancel
-  bool SenzaScheda = false;  ///< the card's root can't be read: nothing was compared
+  bool SenzaScheda = false;  ///< the card's root can't be read, or no more; the findings are old
 
   std::size_t Quanti(Difetto tipo) const;
 };
@@ -47,7 +52,7 @@ struct EsitoVerifica {
 class OsservatoreVerifica {
  public:
   virtual ~OsservatoreVerifica() = default;
-  /// Before each file and after each piece of at most 1 MiB; lets events run. False cancels.
+  /// Before each file and after each piece of at most 128 KiB; lets events run. False cancels.
   virtual bool Avanza(const CopyState& stato) = 0;
   virtual void Trovato(const Riscontro& /*riscontro*/) {}
 };

@@ -39,7 +39,8 @@ std::map<char, std::string> RemovableFolders(std::string_view iniText) {
     if (letter < 'D' || letter > 'Z' || folders.contains(letter)) continue;
     const std::string value = ini::Read(iniText, "Removable", key, "", kLongestPath, utf8);
     const std::string folder = PathMap::IsSystemForm(value) ? PathMap().ToHost(value) : value;
-    if (folder.starts_with('/')) folders.emplace(letter, folder);
+    const bool isRoot = folder.find_first_not_of("/.") == std::string::npos;
+    if (folder.starts_with('/') && !isRoot) folders.emplace(letter, folder);
   }
   return folders;
 }

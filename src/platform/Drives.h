@@ -63,7 +63,8 @@ class VolumeSource {
 std::unique_ptr<VolumeSource> HostVolumes();
 
 /// The entries of section [Removable] of a Drives.ini: folders of the host by their letter, 'D' to
-/// 'Z'. Entries that name no letter or no absolute folder, in either form, are passed over.
+/// 'Z'. Entries that name no letter or no absolute folder, in either form, or the root of all,
+/// which must never be taken for a card, are passed over.
 std::map<char, std::string> RemovableFolders(std::string_view iniText);
 
 /// The removable drives, looked up afresh at each call.

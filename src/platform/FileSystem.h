@@ -102,6 +102,9 @@ class FileSystem {
   /// Puts `from` in the place of `to` in one step, also where `to` is read-only; `to` keeps its
   /// spelling if it is there. 75 where `to` is a folder.
   virtual Error Replace(std::string_view from, std::string_view to) = 0;
+  /// For a run of Replace into one folder: while what is returned lives, the folder need not be
+  /// read anew for each. Names that others change meanwhile may be missed.
+  virtual std::shared_ptr<void> HoldNames() { return {}; }
   /// Copies up to `size` bytes from the current place of one file to that of another in the
   /// host's quickest way; 0 means the end of the source. A failure leaves both places where the
   /// bytes that were copied end, so that the copy can go on from there.

@@ -47,6 +47,7 @@ class HostFileSystem : public FileSystem {
   Error CreateFolder(std::string_view path) override;
   Error Rename(std::string_view from, std::string_view to) override;
   Error Replace(std::string_view from, std::string_view to) override;
+  std::shared_ptr<void> HoldNames() override;
   Result<std::size_t> CopyRange(File& from, File& to, std::size_t size) override;
   Error FlushAll(std::span<File* const> files) override;
   Error SyncVolume(std::string_view path) override;

@@ -95,7 +95,9 @@ bool ReadingBack::IsTaken() const {
 bool ReadingBack::AskName() {
   const std::string name = std::exchange(context_.Stato.ProjectName, {});
   screen_.ChiediNome(name);
-  return !context_.Stato.ProjectName.empty();
+  if (!context_.Stato.ProjectName.empty()) return true;
+  context_.Stato.CartellaProgetto = card_;  // a name that was refused has left its folder there
+  return false;
 }
 
 bool ReadingBack::MakeFolder() {

@@ -115,6 +115,9 @@ int RunReadback(Session& session, const std::vector<std::string>& arguments) {
   session.Copy().TakeFailure();
   const EsitoLettura outcome = CaricaDaFlash(context, card, screen, progress);
   session.Line().Clear();
+  if (outcome.Fine == FineLettura::SchedaVuota) {
+    session.Out().Say(parsed->Card + ": no file is on the card any more; the folder stays empty");
+  }
   if (const int status = StatusOf(outcome.Fine); status != kDone) return status;
   const bool whole = !session.Copy().TakeFailure();
   if (const int status = Open(session, outcome.Cartella); status != kDone) return status;

@@ -34,6 +34,8 @@ bool Report(Session& session, const std::string& card, const EsitoRegistrazione&
   } else if (good) {
     session.Out().Line(card + (card.ends_with(':') ? " " : ": ") + std::to_string(outcome.File) +
                        " files, " + std::to_string(outcome.Byte) + " bytes");
+  } else if (!outcome.NonLetti.empty() || outcome.Fine != FineRegistrazione::SenzaScheda) {
+    session.Out().Say(card + (card.ends_with(':') ? " " : ": ") + "not recorded whole");
   }
   return good;
 }

@@ -1,11 +1,14 @@
 #include "flashcard/screens/ModelloRiscontri.h"
 
+#include <algorithm>
+
 #include "core/Lingua.h"
 #include "core/Parole.h"
 #include "core/screens/Icona.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
 #include "flashcard/ParoleVerifica.h"
+#include "platform/Fold.h"
 
 namespace kvr5 {
 namespace {
@@ -38,7 +41,16 @@ void ModelloRiscontri::Svuota() {
   endResetModel();
 }
 
+/// That a list names it as well tells nothing more of a file that isn't there.
+bool ModelloRiscontri::SiSa(const Riscontro& riscontro) const {
+  return riscontro.Tipo == Difetto::VoceVuota &&
+         std::ranges::any_of(righe_, [&](const Riscontro& row) {
+           return row.Tipo == Difetto::Mancante && EqualFold(row.File, riscontro.File);
+         });
+}
+
 void ModelloRiscontri::Aggiungi(const Riscontro& riscontro) {
+  if (SiSa(riscontro)) return;
   const int row = rowCount();
   beginInsertRows({}, row, row);
   righe_.push_back(riscontro);
@@ -62,7 +74,7 @@ QVariant ModelloRiscontri::data(const QModelIndex& indice, int ruolo) const {
   if (ruolo != Qt::DisplayRole && ruolo != Qt::ToolTipRole) return {};
   QString text = indice.column() == File  ? Qs(SuUnaRiga(row.File))
                  : indice.column() == Che ? Qs(DifettoInParole(contesto_, row.Tipo))
-                                          : Qs(RimedioInParole(contesto_, row.Tipo));
+                                          : Qs(RimedioInParole(contesto_, row));
   return ruolo == Qt::ToolTipRole ? Suggerimento(text) : text;
 }
 

@@ -27,6 +27,8 @@ class ModelloRiscontri : public QAbstractTableModel {
   QVariant headerData(int sezione, Qt::Orientation verso, int ruolo) const override;
 
  private:
+  bool SiSa(const Riscontro& riscontro) const;
+
   Contesto& contesto_;
   std::vector<Riscontro> righe_;
   QStringList titoli_;

@@ -4,6 +4,7 @@
 
 #include "core/Lingua.h"
 #include "core/Parole.h"
+#include "core/ParoleCopia.h"
 #include "core/screens/Pagina.h"
 #include "core/screens/PrimoPiano.h"
 #include "core/screens/Testo.h"
@@ -12,7 +13,8 @@ namespace kvr5 {
 
 frmCopiaManuale::frmCopiaManuale(Ambiente& ambiente) : Form(ambiente, "frmCopiaManuale") {
   setWindowFlag(Qt::Dialog);
-  resize(560, 84);
+  resize(600, 84);
+  setMinimumWidth(440);
   auto* page = NuovaPagina(*this);
   lblScheda = new EtichettaElisa("lblScheda", this);
   picTorna = new Coppia("picTorna", "lblTorna", QStringLiteral("Back"), "indietro", -1, this);
@@ -23,12 +25,14 @@ frmCopiaManuale::frmCopiaManuale(Ambiente& ambiente) : Form(ambiente, "frmCopiaM
   page->addLayout(line);
   connect(picTorna, &QAbstractButton::clicked, this, [this] { Scarica(); });
   SuInvio(*picTorna);
+  SuTasto(Qt::Key_Escape, [this] { Scarica(); });
 }
 
 void frmCopiaManuale::AlCaricamento() {
   setWindowTitle(Qs(TestoLinguaO(C(), "0130304", "Copy by hand")));
   lblScheda->setText(Qs(ConValori(TestoLinguaO(C(), "0130305", "Copy your files to %1."),
-                                  {C().Stato.PercorsoMemoryCard})));
+                                  {C().Stato.PercorsoMemoryCard + ", " +
+                                   PercorsoPerPersone(C(), C().Stato.PercorsoMemoryCard)})));
   picTorna->ImpostaScritta(Qs(TestoLinguaO(C(), "0130306", "Back to the project")));
   ImpostaPrimoPiano(*this, true);
   picTorna->setFocus();

@@ -33,7 +33,9 @@ class frmSelectFlash : public Form {
 
  protected:
   void AlCaricamento() override;
+  bool PuoChiudere(Causa causa) override;
   void AlloScarico() override;
+  bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
   void Costruisci();

@@ -17,13 +17,14 @@
 namespace kvr5 {
 namespace {
 
-constexpr int kRow = 44;  // two lines
+constexpr int kRow = 44;          // two lines
 constexpr qint64 kRefresh = 100;  // milliseconds between two looks of the user at the state
 
 }  // namespace
 
 frmVerifica::frmVerifica(Ambiente& ambiente) : Form(ambiente, "frmVerifica"), modello_(ambiente.C) {
   resize(960, 560);
+  setMinimumSize(620, 360);
   Costruisci();
   connect(picRipeti, &QAbstractButton::clicked, this, [this] { Verifica(); });
   connect(picChiudi, &QAbstractButton::clicked, this, [this] { Chiudi(); });
@@ -126,12 +127,14 @@ void frmVerifica::MostraLavoro(bool lavora) {
   }
   picRipeti->setEnabled(!lavora);
   picChiudi->ImpostaScritta(Qs(lavora ? ferma_ : chiudi_));
+  picChiudi->ImpostaIcona(lavora ? "ferma" : "fatto");
   picChiudi->setFocus();
 }
 
 void frmVerifica::MostraEsito(const EsitoVerifica& esito) {
   MostraLavoro(false);
-  const QString words = Qs(EsitoInParole(C(), esito));
+  const QString words =
+      Qs(EsitoInParole(C(), esito, static_cast<std::size_t>(modello_.rowCount())));
   const bool good = esito.Riscontri.empty() && !esito.Annullata && !esito.SenzaScheda;
   lblBuono->setVisible(good);
   lblEsito->setVisible(!good);

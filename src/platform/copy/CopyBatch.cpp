@@ -77,6 +77,7 @@ bool CopyBatch::Awaits(std::string_view path) const {
 std::optional<CopyFailure> CopyBatch::Commit() {
   std::optional<CopyFailure> failure;
   const bool flushed = !FlushComplete();
+  const auto names = files_.HoldNames();
   for (Entry& entry : complete_) {
     unsettled_ -= entry.Size - entry.Settled;
     if (failure) {

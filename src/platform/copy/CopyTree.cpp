@@ -18,6 +18,12 @@ bool IsSystemFolder(std::string_view name) {
   return std::ranges::find(kNames, folded) != kNames.end() || folded.starts_with(".trash");
 }
 
+/// A whole tree, as a card's, is copied without what its links lead to, anywhere on the host, and
+/// without names that no other card could hold.
+bool Travels(const FileInfo& info) {
+  return !info.IsLink && CardCanHold(info.Name);
+}
+
 /// Pipes and devices can't be read to an end; a FAT volume's own system files can, unless empty.
 bool IsSpecial(const FileInfo& info) {
   return info.System && info.Size == 0;
@@ -40,10 +46,8 @@ bool CopyTree::Enter(const std::string& source, const std::string& target) {
   const Result<std::vector<FileInfo>> list = files_.List(source);
   if (!list) return visitor_.Unreadable(source, list.Err());
   if (!visitor_.Entered(source)) return false;
-  open_.push_back(source);
   for (const FileInfo& info : list.Value()) {
-    // A whole tree, as a card's, is copied without what its links lead to, anywhere on the host.
-    if (info.Unusable != NameFault::None || (withSubfolders_ && info.IsLink)) continue;
+    if (info.Unusable != NameFault::None || (withSubfolders_ && !Travels(info))) continue;
     const std::string from = JoinPath(source, info.Name);
     const std::string to = JoinPath(target, info.Name);
     if (info.IsFolder) {
@@ -53,16 +57,12 @@ bool CopyTree::Enter(const std::string& source, const std::string& target) {
       return false;
     }
   }
-  open_.pop_back();
   return true;
 }
 
 bool CopyTree::EnterSubfolder(const std::string& source, const FileInfo& info,
                               const std::string& target) {
-  const auto isThis = [&](const std::string& folder) { return files_.SameFile(source, folder); };
-  if (IsSystemFolder(info.Name) || isThis(destination_) || std::ranges::any_of(open_, isThis)) {
-    return true;
-  }
+  if (IsSystemFolder(info.Name) || files_.SameFile(source, destination_)) return true;
   return visitor_.TakeFolder(target) && Enter(source, target);
 }
 

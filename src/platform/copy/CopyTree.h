@@ -43,7 +43,6 @@ class CopyTree {
   bool withSubfolders_;
   CopyVisitor& visitor_;
   std::string destination_;
-  std::vector<std::string> open_;  ///< the folders from the first down to the one at work
 };
 
 }  // namespace kvr5

@@ -53,7 +53,9 @@ Result<std::shared_ptr<Database>> Database::Open(const std::string& hostPath) {
   std::error_code ignored;
   const std::filesystem::path path(std::u8string(hostPath.begin(), hostPath.end()));
   if (!std::filesystem::is_regular_file(path, ignored)) return Error(errors::CannotOpen);
-  if (JournalNamesAFile(path)) return Error(errors::CannotOpen);
+  // The journal lies beside the file itself, not beside a link to it.
+  const std::filesystem::path real = std::filesystem::canonical(path, ignored);
+  if (ignored || JournalNamesAFile(real)) return Error(errors::CannotOpen);
   const std::shared_ptr<Database> database(new Database());
   const int outcome = sqlite3_open_v2(hostPath.c_str(), &database->handle_,
                                       SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);

@@ -59,6 +59,7 @@ void frmPlayerConfig::Verifica() {
   Lavora([this] {
     if (servizi_.ChiediScheda()) servizi_.VerificaScheda();
   });
+  Scheda->MostraStato(servizi_.FattiDellaScheda());
 }
 
 void frmPlayerConfig::CopiaManuale() {
@@ -74,6 +75,7 @@ void frmPlayerConfig::CopiaManuale() {
 }
 
 void frmPlayerConfig::Espelli() {
+  if (!lavora_) FineAscolto();  // what plays may lie on the card
   Lavora([this] { servizi_.EspelliScheda(); });
   Scheda->MostraStato(servizi_.FattiDellaScheda());
 }

@@ -14,6 +14,7 @@
 #include "mp3/EtichetteMp3.h"
 #include "mp3/ParoleRifiuto.h"
 #include "platform/FileOps.h"
+#include "platform/Fold.h"
 #include "playerconfig/ModoDelPlayer.h"
 #include "playerconfig/RientroDaScheda.h"
 #include "projects/CartellaProgetto.h"
@@ -92,7 +93,10 @@ void frmPlayerConfig::Localizza() {
   setWindowTitle(QStringLiteral("KVR5 - ") + Qs(TestoLingua(C(), "0040000")) +
                  QStringLiteral(" - ") + Qs(C().Stato.ProjectName));
   fraFileName->lblfraFileName->setText(fraFileName->lblfraFileName->text() + QStringLiteral(" - "));
-  lblProgetto->setText(Qs(C().Stato.ProjectName));
+  // A copy of a project keeps its name: the folder tells the two apart.
+  const std::string folder = EstraiNomeFile(C().Stato.CartellaProgetto);
+  const bool same = EqualFold(folder, C().Stato.ProjectName);
+  lblProgetto->setText(Qs(C().Stato.ProjectName + (same ? "" : " (" + folder + ")")));
   lblNonSalvato->setText(Qs(TestoLinguaO(C(), "0130120", "Settings unsaved")));
   lblNonSalvato->setToolTip(Qs(TestoLingua(C(), "0130121")));
   fraOutputLevel->Localizza();

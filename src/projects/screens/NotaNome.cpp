@@ -5,6 +5,7 @@
 #include "core/ParoleCopia.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
+#include "platform/FileOps.h"
 #include "projects/NuovoProgetto.h"
 
 namespace kvr5 {
@@ -50,6 +51,12 @@ void ValutaNome(Contesto& contesto, QLineEdit& campo, EtichettaAvviso& nota, QLa
   if (blank || forbidden) return Scrivi(cartella, Ruolo::Attenuato, {});
   if (!warning.isEmpty()) return Scrivi(cartella, Ruolo::Avviso, warning);
   const std::string folder = AggiungiBarra(contesto.Stato.CartellaProgetti) + name;
+  if (FolderExists(contesto.Files, folder)) {
+    const QString taken =
+        Qs(TestoLinguaO(contesto, "0130312", "A project has this name. Choose another one."));
+    campo.setAccessibleDescription(taken);
+    return Scrivi(cartella, Ruolo::Avviso, taken);
+  }
   Scrivi(cartella, Ruolo::Attenuato,
          Qs(TestoLingua(contesto, "0130107") + " " + PercorsoPerPersone(contesto, folder)));
 }

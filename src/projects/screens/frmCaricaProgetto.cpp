@@ -1,6 +1,7 @@
 #include "projects/screens/frmCaricaProgetto.h"
 
 #include <QHeaderView>
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -43,15 +44,24 @@ class LetturaNellElenco : public SchermoLettura {
   void ChiediNome(const std::string& nome) override {
     schermi_.ChiediNomeProgetto(Schermata::ElencoProgetti, nome);
   }
-  void Disabilita() override { schermo_.setEnabled(false); }
+  void Disabilita() override {
+    tastiera_ = schermo_.focusWidget();
+    schermo_.setEnabled(false);
+  }
   void Riabilita() override {
     schermo_.show();
+    Rendi();
+  }
+  /// Has the screen take commands again, with the keyboard where it was.
+  void Rendi() {
     schermo_.setEnabled(true);
+    if (tastiera_) tastiera_->setFocus();
   }
 
  private:
   QWidget& schermo_;
   Navigazione& schermi_;
+  QPointer<QWidget> tastiera_;
 };
 
 /// Letters typed look for a name, wherever in its row the mouse was.
@@ -227,11 +237,11 @@ void frmCaricaProgetto::ApriAltraCartella() {
 void frmCaricaProgetto::CaricaDaFlash() {
   if (apre_) return;
   EsitoLettura outcome;
+  LetturaNellElenco screen(*this, ambiente_.Schermi);
   {
     const Impegno stays(*this);
     const QScopedValueRollback reads(apre_, true);
     SceltaDallElenco choice(ambiente_.Schermi);
-    LetturaNellElenco screen(*this, ambiente_.Schermi);
     outcome = kvr5::CaricaDaFlash(C(), choice, screen, progresso_);
     if (outcome.Fine == FineLettura::Copiata) DimenticaChiusura();  // what was read is opened
   }
@@ -239,7 +249,7 @@ void frmCaricaProgetto::CaricaDaFlash() {
   ModoScelto = kFromCard;
   CartellaScelta = outcome.Cartella;
   ApriProgetto();
-  if (!Scaricata()) setEnabled(true);  // what was read is no project: that was told
+  if (!Scaricata()) screen.Rendi();  // what was read is no project: that was told
 }
 
 void frmCaricaProgetto::ApriProgetto() {

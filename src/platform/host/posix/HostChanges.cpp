@@ -61,11 +61,20 @@ bool SameEntry(const Place& a, const Place& b) {
 }
 
 /// What was read of a folder's names is no longer true once this process changes some.
-struct ChangesNames {
+class ChangesNames {
+ public:
   ChangesNames() = default;
-  ~ChangesNames() { host::ForgetSpellings(); }
+  ~ChangesNames() {
+    if (!noted_) host::ForgetSpellings();
+  }
   ChangesNames(const ChangesNames&) = delete;
   ChangesNames& operator=(const ChangesNames&) = delete;
+
+  /// What was read has been changed in the same way.
+  void Noted() { noted_ = true; }
+
+ private:
+  bool noted_ = false;
 };
 
 }  // namespace
@@ -181,8 +190,12 @@ Error HostFileSystem::Rename(std::string_view from, std::string_view to) {
   return code == 0 ? Error() : Failure(to, code);
 }
 
+std::shared_ptr<void> HostFileSystem::HoldNames() {
+  return std::make_shared<host::SpellingsHeld>();
+}
+
 Error HostFileSystem::Replace(std::string_view from, std::string_view to) {
-  const ChangesNames change;
+  ChangesNames change;
   const Result<Place> source = Find(from);
   if (!source) return source.Err();
   const Result<Place> target = Find(to);
@@ -197,7 +210,13 @@ Error HostFileSystem::Replace(std::string_view from, std::string_view to) {
     // Who may read and write the file stays; a volume without owners has nothing to keep.
     static_cast<void>(::chmod(file.Path.c_str(), place.Stat.st_mode & kPermissions));
   }
-  return ::rename(file.Path.c_str(), spelled.c_str()) == 0 ? Error() : Failure(to, errno);
+  if (::rename(file.Path.c_str(), spelled.c_str()) != 0) return Failure(to, errno);
+  const std::string folder = host::ParentOf(spelled);
+  if (folder == host::ParentOf(file.Path) &&
+      host::NoteRenamed(folder, host::NameOf(file.Path), host::NameOf(spelled))) {
+    change.Noted();
+  }
+  return {};
 }
 
 }  // namespace kvr5

@@ -76,6 +76,8 @@ std::vector<Volume> LinuxVolumes::Removable() const {
 
 std::optional<VolumeRoom> LinuxVolumes::Room(const std::string& folder) const {
   struct statvfs volume {};
+  std::error_code ignored;
+  if (!fs::is_directory(folder, ignored)) return std::nullopt;
   if (::statvfs(folder.c_str(), &volume) != 0) return std::nullopt;
   return VolumeRoom{.Size = static_cast<std::uint64_t>(volume.f_blocks) * volume.f_frsize,
                     .Free = static_cast<std::uint64_t>(volume.f_bavail) * volume.f_frsize,

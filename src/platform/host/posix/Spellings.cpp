@@ -24,6 +24,7 @@ struct Reading {
 };
 
 std::optional<Reading> g_last;  // one thread, and runs ask one folder at a time
+int g_held = 0;
 
 bool SameState(const struct stat& a, const struct stat& b) {
   return a.st_dev == b.st_dev && a.st_ino == b.st_ino && a.st_mtim.tv_sec == b.st_mtim.tv_sec &&
@@ -48,8 +49,8 @@ bool IsSettled(const std::string& folder, const struct stat& state) {
 
 bool Serves(const std::string& folder, const struct stat& state) {
   constexpr auto kMoment = std::chrono::seconds(2);
-  return g_last && g_last->Folder == folder && SameState(g_last->State, state) &&
-         Clock::now() - g_last->Taken < kMoment;
+  if (!g_last || g_last->Folder != folder) return false;
+  return g_held > 0 || (SameState(g_last->State, state) && Clock::now() - g_last->Taken < kMoment);
 }
 
 std::optional<Reading> Read(const std::string& folder, const struct stat& state) {
@@ -75,12 +76,29 @@ std::optional<std::string> OtherSpelling(const std::string& folder, std::string_
   const auto found = g_last->Names.find(FoldCase(name));
   std::optional<std::string> spelling;
   if (found != g_last->Names.end()) spelling = found->second;
-  if (!IsSettled(folder, state)) g_last.reset();
+  if (g_held == 0 && !IsSettled(folder, state)) g_last.reset();
   return spelling;
 }
 
 void ForgetSpellings() {
   g_last.reset();
+}
+
+SpellingsHeld::SpellingsHeld() {
+  if (g_held++ == 0) g_last.reset();  // what was read before may be older than it says
+}
+
+SpellingsHeld::~SpellingsHeld() {
+  if (--g_held == 0) g_last.reset();
+}
+
+bool NoteRenamed(const std::string& folder, std::string_view from, std::string_view to) {
+  if (g_held == 0 || !g_last || g_last->Folder != folder) return false;
+  const auto old = g_last->Names.find(FoldCase(from));
+  if (old != g_last->Names.end() && old->second == from) g_last->Names.erase(old);
+  const auto [place, isNew] = g_last->Names.try_emplace(FoldCase(to), to);
+  if (!isNew && to < place->second) place->second = to;
+  return true;
 }
 
 }  // namespace kvr5::host

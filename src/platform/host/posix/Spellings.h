@@ -17,4 +17,18 @@ std::optional<std::string> OtherSpelling(const std::string& folder, std::string_
 /// To be called with every change that this process makes to the names on the disk.
 void ForgetSpellings();
 
+/// While one lives, what was read of a folder serves on, whatever the folder's time of change says:
+/// for a run of renames, each of which is told. What others change meanwhile isn't seen.
+class SpellingsHeld {
+ public:
+  SpellingsHeld();
+  ~SpellingsHeld();
+  SpellingsHeld(const SpellingsHeld&) = delete;
+  SpellingsHeld& operator=(const SpellingsHeld&) = delete;
+};
+
+/// Tells of a rename within one folder. False where nothing is held: the change is to be forgotten
+/// like any other.
+bool NoteRenamed(const std::string& folder, std::string_view from, std::string_view to);
+
 }  // namespace kvr5::host
