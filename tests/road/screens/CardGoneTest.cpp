@@ -147,12 +147,11 @@ TEST_F(CardGone, WithAFolderInThePlaceOfTheTestFileCountsAsUnwritable) {
   EXPECT_TRUE(b.Nomi("card").empty());
 }
 
-TEST_F(CardGone, WithAFileInThePlaceOfItsFolderIsToldAndTheFileStays) {
+TEST_F(CardGone, WithAFileInThePlaceOfItsFolderIsNotOfferedAndTheFileStays) {
   CreaHall();
   PullOut();
   b.Cartella.Write("card", "no folder");
-  ScegliScheda();
-  EXPECT_EQ(Registra(), kNotStarted);
+  EXPECT_EQ(Registra(), "No memory card");
   EXPECT_EQ(b.Cartella.Read("card"), "no folder");
   LasciaHall();
 }
