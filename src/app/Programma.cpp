@@ -201,7 +201,7 @@ void Programma::SvuotaScheda() {
 void Programma::VerificaScheda() {
   if (verifica_.Caricata()) return;
   verifica_->FormChiamante = Schermata::Configurazione;
-  verifica_->Presente = [this] { return SceltaDalDialogo(*this).Presente(); };
+  verifica_->SchedaPresente = [this] { return SceltaDalDialogo(*this).Presente(); };
   verifica_->MostraModale();
 }
 

@@ -4,6 +4,7 @@
 
 #include <cctype>
 
+#include "cli/Status.h"
 #include "core/Aiuti.h"
 #include "platform/FileOps.h"
 
@@ -39,6 +40,15 @@ std::string CardRoot(Session& session, const std::string& card) {
     if (drive.Letter == letter) return drive.Root();
   }
   return bare ? root : std::string();
+}
+
+std::string OfCard(const std::string& card, std::string_view words) {
+  return card + (card.ends_with(':') ? " " : ": ") + std::string(words);
+}
+
+int NoSuchCard(Session& session, const std::string& card) {
+  session.Out().Say(OfCard(card, "there is no such card"));
+  return kRefused;
 }
 
 CardGiven::CardGiven(Contesto& context, std::string root)

@@ -34,6 +34,14 @@ Error DeletePlainFiles(FileSystem& files, const std::string& card) {
   return found ? Error() : Error(errors::FileNotFound);
 }
 
+/// Deletes what is to be deleted, on the device too: a card that is pulled out afterwards mustn't
+/// have it back.
+Error Empty(FileSystem& files, const std::string& card) {
+  Error error = DeletePlainFiles(files, card);
+  const Error flushed = files.SyncVolume(card);
+  return error ? error : flushed;
+}
+
 FineSvuotamento Report(Contesto& context, const Error& error) {
   if (!error) {
     Tell(context, "0040030");
@@ -62,11 +70,9 @@ FineSvuotamento CancellaFlash(Contesto& contesto, SelezioneFlash& scelta) {
   }
   auto& error = contesto.Errore;
   error.Clear();
-  error.Record(scelta.Presente() ? DeletePlainFiles(contesto.Files, card)
-                                 : Error(errors::DeviceUnavailable));
+  error.Record(scelta.Presente() ? Empty(contesto.Files, card) : Error(errors::DeviceUnavailable));
   // What the user does while events run has errors of its own.
   const Error outcome = error.Last();
-  Ignora(contesto.Files.SyncVolume(card));  // a card that is pulled out now must not have them back
   contesto.Messaggi.LasciaCorrere();
   return Report(contesto, outcome);
 }

@@ -4,7 +4,6 @@
 
 #include "core/Aiuti.h"
 #include "core/ListaCopia.h"
-#include "flashcard/RaccoltaMp3.h"
 #include "platform/FileOps.h"
 #include "platform/Fold.h"
 #include "platform/db/Walk.h"
@@ -112,7 +111,8 @@ void Contents::AddRow(Passata pass, const RigaRaccolta& row) {
   Add({row.Alias.empty() ? std::string(LastName(row.FileMancante)) : row.Alias,
        {},
        rule,
-       row.FileMancante});
+       row.FileMancante,
+       row.Perche});
 }
 
 /// Of two files with one name the later one is copied over the earlier.

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/Contesto.h"
+#include "flashcard/RaccoltaMp3.h"
 
 namespace kvr5 {
 
@@ -33,6 +34,7 @@ struct FileDiScheda {
   std::string Sorgente;  ///< system path; "" where the project's row has no file any more
   RegolaMp3 Regola = RegolaMp3::Nessuna;
   std::string Cercato{};  ///< where there is no source: what the row asks for, as people are told
+  Mancanza Perche = Mancanza::Nessuna;  ///< and why it can't be had
 };
 
 /// What a recording of the open project would put on a card.

@@ -49,6 +49,24 @@ Words RemedyOf(Difetto kind) {
   return {"", ""};
 }
 
+/// What to do where the project's own file is what is missing; %1 stands for it.
+Words RemedyOf(Mancanza why) {
+  switch (why) {
+    case Mancanza::Comune:
+      return {"0130313", "Two inputs share this file: give one of them a copy. %1"};
+    case Mancanza::Nome:
+      return {"0130314", "No card can hold this name: pick another file. %1"};
+    case Mancanza::Illeggibile:
+      return {"0130315", "The project's own file can't be read. %1"};
+    case Mancanza::Database:
+      return {"0130316", "This database can't be read: close other programs. %1"};
+    case Mancanza::Assente:
+    case Mancanza::Nessuna:
+      break;
+  }
+  return {"0130310", "Look for this file of the project first: %1"};
+}
+
 std::string TextOf(Contesto& contesto, const Words& words) {
   return TestoLinguaO(contesto, words.Key, words.Fallback);
 }
@@ -60,13 +78,13 @@ std::string DifettoInParole(Contesto& contesto, Difetto difetto) {
 }
 
 std::string RimedioInParole(Contesto& contesto, const Riscontro& riscontro) {
-  if (riscontro.DelProgetto.empty()) return TextOf(contesto, RemedyOf(riscontro.Tipo));
-  return ConValori(TestoLinguaO(contesto, "0130310", "Look for this file of the project first: %1"),
+  if (riscontro.Perche == Mancanza::Nessuna) return TextOf(contesto, RemedyOf(riscontro.Tipo));
+  return ConValori(TextOf(contesto, RemedyOf(riscontro.Perche)),
                    {SuUnaRiga(PercorsoPerPersone(contesto, riscontro.DelProgetto))});
 }
 
 std::string EsitoInParole(Contesto& contesto, const EsitoVerifica& esito, std::size_t mostrati) {
-  if (esito.SenzaScheda) {
+  if (esito.SenzaScheda || esito.Sparita) {
     return TestoLinguaO(contesto, "0130294", "The card can't be read. Put it in, then try again.");
   }
   const std::string findings = std::to_string(mostrati);

@@ -10,16 +10,23 @@ namespace {
 
 using Fine = RigaRaccolta::Fine;
 
+struct Taken {
+  Fine End = Fine::Manca;
+  Mancanza Why = Mancanza::Nessuna;
+};
+
 /// The row of a file that lies where it was chosen. The input pass doesn't look whether it is
 /// there, and fails where another row has it already.
-Fine TakeSource(Contesto& context, Passata pass, const std::string& source,
-                const std::string& tested, const std::string& target, ListaCopia& list) {
+Taken TakeSource(Contesto& context, Passata pass, const std::string& source,
+                 const std::string& tested, const std::string& target, ListaCopia& list) {
   const bool input = pass == Passata::Ingressi;
-  if (source.find('|') != std::string::npos) return Fine::Manca;
-  if (!input && !FileExists(context.Files, tested)) return Fine::Manca;
-  if (list.Contiene(source)) return input ? Fine::Manca : Fine::GiaPresente;
+  if (source.find('|') != std::string::npos) return {Fine::Manca, Mancanza::Nome};
+  if (!input && !FileExists(context.Files, tested)) return {Fine::Manca, Mancanza::Assente};
+  if (list.Contiene(source)) {
+    return input ? Taken{Fine::Manca, Mancanza::Comune} : Taken{Fine::GiaPresente};
+  }
   list.Aggiungi(source, target);
-  return Fine::Aggiunta;
+  return {Fine::Aggiunta};
 }
 
 }  // namespace
@@ -36,7 +43,7 @@ RigaRaccolta RaccogliRiga(Contesto& contesto, Passata passata, const Recordset& 
   // Every file sits in the card's root: a name that leads elsewhere is no alias. And the bar
   // divides the lists.
   if (!readable || alias.find_first_of("\\|") != std::string::npos) {
-    return {Fine::Manca, {}, {}, missing};
+    return {Fine::Manca, {}, {}, missing, Mancanza::Nome};
   }
   const std::string target = AggiungiBarra(scheda) + alias;
   const std::string copy = FileDelProgetto(contesto, alias);
@@ -46,8 +53,8 @@ RigaRaccolta RaccogliRiga(Contesto& contesto, Passata passata, const Recordset& 
     return {Fine::Aggiunta, alias, copy};
   }
   const std::string source = folder + name;
-  const Fine end = TakeSource(contesto, passata, source, tested, target, lista);
-  return {end, alias, source, end == Fine::Manca ? missing : std::string()};
+  const auto [end, why] = TakeSource(contesto, passata, source, tested, target, lista);
+  return {end, alias, source, end == Fine::Manca ? missing : std::string(), why};
 }
 
 EsitoPassata RaccogliMp3(Contesto& contesto, Passata passata, Recordset& righe, ListaCopia& lista,

@@ -16,6 +16,16 @@ enum class Passata { Ingressi, Playlist, Palinsesto };
 inline constexpr const char* kRigheDellaPassata =
     "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC";
 
+/// Why a recording can't have a file of the project.
+enum class Mancanza {
+  Nessuna,
+  Assente,      ///< it isn't where the row says
+  Comune,       ///< another input has it already
+  Nome,         ///< a name or path that no card and no list can hold
+  Illeggibile,  ///< it is there, but can't be read
+  Database,     ///< it is a database that can't be read to its end
+};
+
 /// What a pass makes of one row.
 struct RigaRaccolta {
   enum class Fine {
@@ -28,6 +38,7 @@ struct RigaRaccolta {
   std::string Alias{};         ///< the name on the card; "" where the row's is no plain name
   std::string Sorgente{};      ///< the file that is copied
   std::string FileMancante{};  ///< as the message names it
+  Mancanza Perche = Mancanza::Nessuna;
 };
 
 /// Adds the source file of the current row to the lists, under the row's alias in the root `scheda`

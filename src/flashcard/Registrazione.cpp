@@ -168,6 +168,7 @@ void Recording::CopyLists() {  // stage 3
   if (context_.Stato.PlayerMode == scheda::kPlaylistConNome && !gone_ &&
       FileExists(context_.Files, local)) {
     context_.Errore.Record(DeleteMatching(context_.Files, local));
+    Ignora(context_.Files.SyncVolume(card_));  // nothing may be copied after it
   }
   CopyIfThere(scheda::kPalinsesto);
   CopyMatching(scheda::kGiorni);

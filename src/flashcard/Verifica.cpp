@@ -36,7 +36,9 @@ class Verification {
   void Check(const FileDiScheda& file);
   bool IsReadable(const std::string& path) const;
   bool CardWentAway();
-  std::string MissingSource(const FileDiScheda& file) const;
+  Riscontro Missing(const FileDiScheda& file) const;
+  Riscontro Unreadable(const FileDiScheda& file) const;
+  bool GoesOn() const { return !outcome_.Annullata && !outcome_.Sparita; }
   bool Compare(const FileDiScheda& file, const FileInfo& onCard);
   bool PlayerTakes(const FileDiScheda& file, const std::string& path);
   void CheckLists();
@@ -53,7 +55,7 @@ class Verification {
     return first == last ? nullptr : &first->second;
   }
   std::string CardPath(std::string_view name) const { return std::string(card_).append(name); }
-  void Find(Difetto kind, std::string file, std::string ofProject = {});
+  void Find(Riscontro finding);
   bool Advance();
 
   Contesto& context_;
@@ -73,16 +75,17 @@ class Verification {
 
 EsitoVerifica Verification::Run() {
   // What is still on its way to the card would be read from memory.
-  Ignora(context_.Files.SyncVolume(card_));
+  const bool present = observer_.Presente();
+  if (present) Ignora(context_.Files.SyncVolume(card_));
   expected_ = ContenutoDellaScheda(context_);
-  if (!ListCard()) {
+  if (!present || !ListCard()) {
     outcome_.SenzaScheda = true;
     return outcome_;
   }
   CountBytes();
   CheckAll();
-  if (!outcome_.Annullata && !outcome_.SenzaScheda) CheckLists();
-  if (!outcome_.Annullata && !outcome_.SenzaScheda) FindStrays();
+  if (GoesOn()) CheckLists();
+  if (GoesOn()) FindStrays();
   return outcome_;
 }
 
@@ -113,13 +116,13 @@ void Verification::CheckAll() {
     if (outcome_.Annullata || CardWentAway()) return;
   }
   for (const std::string& database : expected_.NonLetti) {
-    Find(Difetto::NonLetto, database, FileDelProgetto(context_, database));
+    Find({Difetto::NonLetto, database, FileDelProgetto(context_, database), Mancanza::Database});
   }
 }
 
 void Verification::Check(const FileDiScheda& file) {
   const FileInfo* there = OnCard(file.Nome);
-  if (there == nullptr) return Find(Difetto::Mancante, file.Nome, MissingSource(file));
+  if (there == nullptr) return Find(Missing(file));
   taken_.insert(there);
   const std::uint64_t before = state_.BytesDone;
   const bool readable = Compare(file, *there);
@@ -127,7 +130,7 @@ void Verification::Check(const FileDiScheda& file) {
   const std::string path = CardPath(there->Name);
   if (!readable || outcome_.Annullata || PlayerTakes(file, path)) return;
   // What can't be read any more is no reason to accuse the file.
-  Find(IsReadable(path) ? Difetto::Rifiutato : Difetto::NonLetto, file.Nome);
+  Find({IsReadable(path) ? Difetto::Rifiutato : Difetto::NonLetto, file.Nome});
 }
 
 bool Verification::IsReadable(const std::string& path) const {
@@ -141,14 +144,23 @@ bool Verification::CardWentAway() {
   if (outcome_.Riscontri.empty() || outcome_.Riscontri.back().Tipo != Difetto::NonLetto) {
     return false;
   }
-  outcome_.SenzaScheda = !context_.Files.List(card_);
-  return outcome_.SenzaScheda;
+  outcome_.Sparita = !observer_.Presente() || !context_.Files.List(card_);
+  return outcome_.Sparita;
 }
 
-/// What a file that the card lacks lacks in the project too; "" where a recording would find it.
-std::string Verification::MissingSource(const FileDiScheda& file) const {
-  if (file.Sorgente.empty()) return file.Cercato;
-  return FileExists(context_.Files, file.Sorgente) ? std::string() : file.Sorgente;
+/// A file that the card lacks; where a recording wouldn't find it either, with what it would miss.
+Riscontro Verification::Missing(const FileDiScheda& file) const {
+  if (file.Sorgente.empty()) return {Difetto::Mancante, file.Nome, file.Cercato, file.Perche};
+  if (FileExists(context_.Files, file.Sorgente)) return {Difetto::Mancante, file.Nome};
+  return {Difetto::Mancante, file.Nome, file.Sorgente, Mancanza::Assente};
+}
+
+/// A file that can't be compared, since the project's own can't be had.
+Riscontro Verification::Unreadable(const FileDiScheda& file) const {
+  if (file.Sorgente.empty()) return {Difetto::NonLetto, file.Nome, file.Cercato, file.Perche};
+  const bool there = FileExists(context_.Files, file.Sorgente);
+  return {Difetto::NonLetto, file.Nome, file.Sorgente,
+          there ? Mancanza::Illeggibile : Mancanza::Assente};
 }
 
 /// False where the card's file can't be read.
@@ -165,13 +177,13 @@ bool Verification::Compare(const FileDiScheda& file, const FileInfo& onCard) {
       outcome_.Byte += onCard.Size;
       return true;
     case EsitoConfronto::Diversi:
-      Find(Difetto::Diverso, file.Nome);
+      Find({Difetto::Diverso, file.Nome});
       return true;
     case EsitoConfronto::PrimoIlleggibile:
-      Find(Difetto::NonLetto, file.Nome);
+      Find({Difetto::NonLetto, file.Nome});
       return false;
     case EsitoConfronto::SecondoIlleggibile:
-      Find(Difetto::NonLetto, file.Nome, file.Sorgente.empty() ? file.Cercato : file.Sorgente);
+      Find(Unreadable(file));
       return true;
     case EsitoConfronto::Interrotto:
       return true;
@@ -196,6 +208,7 @@ void Verification::CheckLists() {
     state_.File = CardPath(file.Name);
     if (!Advance()) return;
     CheckList(file);
+    if (!GoesOn() || CardWentAway()) return;
   }
 }
 
@@ -206,7 +219,7 @@ void Verification::CheckList(const FileInfo& list) {
   const AvantiListe goOn = [this] { return Advance(); };
   const Error error = tracks ? LeggiListaBrani(context_, path, entry, goOn)
                              : LeggiPalinsesto(context_, path, entry, goOn);
-  if (error) Find(Difetto::NonLetto, list.Name);
+  if (error) Find({Difetto::NonLetto, list.Name});
 }
 
 /// The ending that a list leaves out is the player's to add, but for a file whose ending is in
@@ -216,18 +229,19 @@ void Verification::CheckEntry(const std::string& name) {
   const bool whole = FoldCase(name).ends_with(kEnding);
   const std::string file = whole ? name : name + std::string(kEnding);
   if (OnCard(file) != nullptr || !entriesTold_.insert(FoldCase(file)).second) return;
-  Find(Difetto::VoceVuota, file);
+  Find({Difetto::VoceVuota, file});
 }
 
 void Verification::FindStrays() {
   for (const auto& [name, file] : onCard_) {
-    if (!taken_.contains(&file)) Find(Difetto::Estraneo, file.Name);
+    if (!taken_.contains(&file)) Find({Difetto::Estraneo, file.Name});
   }
 }
 
-void Verification::Find(Difetto kind, std::string file, std::string ofProject) {
-  if (kind == Difetto::NonLetto && !uncheckedTold_.insert(FoldCase(file)).second) return;
-  outcome_.Riscontri.push_back({kind, std::move(file), std::move(ofProject)});
+void Verification::Find(Riscontro finding) {
+  const bool unchecked = finding.Tipo == Difetto::NonLetto;
+  if (unchecked && !uncheckedTold_.insert(FoldCase(finding.File)).second) return;
+  outcome_.Riscontri.push_back(std::move(finding));
   observer_.Trovato(outcome_.Riscontri.back());
 }
 

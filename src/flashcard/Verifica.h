@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/Contesto.h"
+#include "flashcard/RaccoltaMp3.h"
 #include "platform/ShellCopy.h"
 
 namespace kvr5 {
@@ -31,6 +32,7 @@ struct Riscontro {
   std::string File;  ///< its name in the card's root
   /// The project's own file, where that is what can't be had; as its row or path names it.
   std::string DelProgetto{};
+  Mancanza Perche = Mancanza::Nessuna;  ///< and why
 
   /// The same fault of the same file.
   bool operator==(const Riscontro& altro) const { return Tipo == altro.Tipo && File == altro.File; }
@@ -43,7 +45,8 @@ struct EsitoVerifica {
   std::size_t File = 0;      ///< files that were compared to their end
   std::uint64_t Byte = 0;    ///< their bytes
   bool Annullata = false;    ///< the findings are those up to the cancel
-  bool SenzaScheda = false;  ///< the card's root can't be read, or no more; the findings are old
+  bool SenzaScheda = false;  ///< there is no card
+  bool Sparita = false;      ///< the card went away amid it; the findings are those up to then
 
   std::size_t Quanti(Difetto tipo) const;
 };
@@ -55,6 +58,9 @@ class OsservatoreVerifica {
   /// Before each file and after each piece of at most 128 KiB; lets events run. False cancels.
   virtual bool Avanza(const CopyState& stato) = 0;
   virtual void Trovato(const Riscontro& /*riscontro*/) {}
+  /// Whether the host has the card: asked before all, and where something of it can't be read. The
+  /// folder that a card was mounted at may outlive it.
+  virtual bool Presente() { return true; }
 };
 
 /// Compares the card in the root `scheda` with what a recording of the open project would put there

@@ -1,6 +1,7 @@
 #include "platform/Drives.h"
 
 #include <algorithm>
+#include <filesystem>
 
 #include "platform/CodePage.h"
 #include "platform/Fold.h"
@@ -24,6 +25,12 @@ Drive DriveOf(char letter, const Volume& volume, const std::optional<VolumeRoom>
   return drive;
 }
 
+/// True for the host's root directory, however it is written: "/", "//", "/home/..".
+bool IsRoot(const std::string& folder) {
+  const auto plain = std::filesystem::path(folder).lexically_normal();
+  return plain.relative_path().empty();
+}
+
 }  // namespace
 
 std::map<char, std::string> RemovableFolders(std::string_view iniText) {
@@ -39,8 +46,7 @@ std::map<char, std::string> RemovableFolders(std::string_view iniText) {
     if (letter < 'D' || letter > 'Z' || folders.contains(letter)) continue;
     const std::string value = ini::Read(iniText, "Removable", key, "", kLongestPath, utf8);
     const std::string folder = PathMap::IsSystemForm(value) ? PathMap().ToHost(value) : value;
-    const bool isRoot = folder.find_first_not_of("/.") == std::string::npos;
-    if (folder.starts_with('/') && !isRoot) folders.emplace(letter, folder);
+    if (folder.starts_with('/') && !IsRoot(folder)) folders.emplace(letter, folder);
   }
   return folders;
 }

@@ -13,7 +13,8 @@ namespace kvr5 {
 /// that matches (with `*.*` also the subfolders), and the destination is a folder; so is a
 /// destination that ends in a backslash; any other is the file's new name. A source that names a
 /// folder takes it with all that is in it. Folders that the destination lacks are made; with
-/// subfolders the links of the host are left out, since they may lead anywhere.
+/// subfolders the links of the host are left out, since they may lead anywhere, and so are names
+/// that no card can hold (told by the outcome).
 struct CopyPair {
   std::string Source;
   std::string Destination;
@@ -56,6 +57,9 @@ struct CopyOutcome {
   int Result = 0;               ///< 0, 1223 for a cancel, or the failure's number
   std::size_t FilesCopied = 0;  ///< under their good names
   std::uint64_t BytesCopied = 0;
+  /// Files and folders of a whole tree that were left out for their names, which no card can hold
+  /// or no path can say; as their folders list them, the first hundred.
+  std::vector<std::string> LeftOut{};
 };
 
 /// Copies pairs one after another, overwriting without a question, read-only files too. A copy has

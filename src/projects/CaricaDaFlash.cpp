@@ -4,11 +4,13 @@
 #include <array>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "core/Aiuti.h"
 #include "core/CopiaFileShell.h"
 #include "core/Impostazioni.h"
 #include "core/Lingua.h"
+#include "core/Parole.h"
 #include "platform/FileOps.h"
 #include "platform/IniFile.h"
 #include "platform/Path.h"
@@ -40,7 +42,7 @@ class ReadingBack {
   bool AskName();
   bool MakeFolder();
   bool CardHasFiles() const;
-  void Copy();
+  std::vector<std::string> Copy();
   void Notice(const char* titleKey, const std::string& text, bool orange = false);
   std::string Text(const char* key) { return TestoLingua(context_, key); }
 
@@ -61,9 +63,9 @@ EsitoLettura ReadingBack::Run() {
   if (!CardHasFiles()) return {FineLettura::SchedaVuota, folder_};
   screen_.Disabilita();
   state.AnnullatoDaUtente = false;
-  Copy();
+  std::vector<std::string> left = Copy();
   progress_.Scarica();
-  if (!state.AnnullatoDaUtente) return {FineLettura::Copiata, folder_};
+  if (!state.AnnullatoDaUtente) return {FineLettura::Copiata, folder_, std::move(left)};
   Notice("0080005", Text("0080011"), true);
   screen_.Riabilita();
   return {FineLettura::Annullata, folder_};
@@ -95,9 +97,8 @@ bool ReadingBack::IsTaken() const {
 bool ReadingBack::AskName() {
   const std::string name = std::exchange(context_.Stato.ProjectName, {});
   screen_.ChiediNome(name);
-  if (!context_.Stato.ProjectName.empty()) return true;
-  context_.Stato.CartellaProgetto = card_;  // a name that was refused has left its folder there
-  return false;
+  context_.Stato.CartellaProgetto = card_;  // a name that was tried has left its folder there
+  return !context_.Stato.ProjectName.empty();
 }
 
 bool ReadingBack::MakeFolder() {
@@ -121,8 +122,8 @@ bool ReadingBack::CardHasFiles() const {
   });
 }
 
-void ReadingBack::Copy() {
-  CopiaFileShell(context_, AggiungiBarra(card_) + "*.*", AggiungiBarra(folder_));
+std::vector<std::string> ReadingBack::Copy() {
+  return CopiaFileShell(context_, AggiungiBarra(card_) + "*.*", AggiungiBarra(folder_)).LeftOut;
 }
 
 void ReadingBack::Notice(const char* titleKey, const std::string& text, bool orange) {
@@ -138,6 +139,20 @@ EsitoLettura CaricaDaFlash(Contesto& contesto, SelezioneFlash& scelta, SchermoLe
                            FinestraProgresso& progresso) {
   if (!ScegliScheda(contesto, scelta)) return {FineLettura::SenzaScheda};
   return ReadingBack(contesto, schermo, progresso).Run();
+}
+
+void AvvisaLasciati(Contesto& contesto, const EsitoLettura& esito) {
+  if (esito.Lasciati.empty()) return;
+  constexpr std::size_t kNamed = 10;
+  std::string names;
+  for (std::size_t i = 0; i < std::min(kNamed, esito.Lasciati.size()); ++i) {
+    names += (i == 0 ? "" : ", ") + SuUnaRiga(esito.Lasciati[i]);
+  }
+  if (esito.Lasciati.size() > kNamed) names += ", ...";
+  contesto.Finestre.MostraMessaggio(
+      {TestoLinguaO(contesto, "0130317", "Not all of the card was copied"),
+       ConValori(TestoLinguaO(contesto, "0130318", "Not copied, for their names: %1"), {names}),
+       Icona::Avviso, Pulsanti::Ok, Risposta::Ok});
 }
 
 }  // namespace kvr5

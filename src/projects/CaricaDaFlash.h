@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "core/Contesto.h"
 #include "core/FinestraProgresso.h"
@@ -24,6 +25,8 @@ enum class FineLettura {
 struct EsitoLettura {
   FineLettura Fine = FineLettura::Copiata;
   std::string Cartella{};  ///< the new folder, where one was made: system form, no closing bar
+  /// Files of the card that weren't copied, as no card of another computer could hold their names.
+  std::vector<std::string> Lasciati{};
 };
 
 /// What the reading back asks of the screen that it runs on.
@@ -49,5 +52,8 @@ class SchermoLettura {
 /// card until the next project is opened, and nothing that was made is taken back.
 EsitoLettura CaricaDaFlash(Contesto& contesto, SelezioneFlash& scelta, SchermoLettura& schermo,
                            FinestraProgresso& progresso);
+
+/// Says which files of the card weren't copied; says nothing where all were.
+void AvvisaLasciati(Contesto& contesto, const EsitoLettura& esito);
 
 }  // namespace kvr5

@@ -29,7 +29,7 @@ Terminale::~Terminale() {
 }
 
 bool Terminale::Read() {
-  constexpr int kPatience = 20'000;  // ms
+  constexpr int kPatience = 120'000;  // ms; a busy disk takes its time to write what is waiting
   pollfd ready{.fd = master_, .events = POLLIN, .revents = 0};
   if (poll(&ready, 1, kPatience) != 1) return false;
   std::array<char, 4096> bytes{};

@@ -7,10 +7,7 @@ namespace kvr5::cli {
 int RunErase(Session& session, const std::vector<std::string>& arguments) {
   if (arguments.size() != 1) return kUsage;
   const std::string root = CardRoot(session, arguments[0]);
-  if (root.empty()) {
-    session.Out().Say(arguments[0] + ": there is no such card");
-    return kRefused;
-  }
+  if (root.empty()) return NoSuchCard(session, arguments[0]);
   CardGiven card(session.Context(), root);
   const auto end = CancellaFlash(session.Context(), card);
   const bool empty = end == FineSvuotamento::Svuotata || end == FineSvuotamento::GiaVuota;

@@ -3,6 +3,7 @@
 #include "cli/CardGiven.h"
 #include "cli/Interrupt.h"
 #include "cli/verbs/Verb.h"
+#include "core/Parole.h"
 #include "core/ParoleCopia.h"
 #include "platform/FileOps.h"
 #include "playerconfig/RientroDaScheda.h"
@@ -105,8 +106,7 @@ int RunReadback(Session& session, const std::vector<std::string>& arguments) {
   auto& context = session.Context();
   const std::string root = CardRoot(session, parsed->Card);
   if (root.empty() || !FolderExists(context.Files, root)) {
-    session.Out().Say(parsed->Card + ": there is no such card");
-    return kRefused;
+    return NoSuchCard(session, parsed->Card);
   }
   const Interrupt cancel;
   CardGiven card(context, root);
@@ -119,10 +119,13 @@ int RunReadback(Session& session, const std::vector<std::string>& arguments) {
     session.Out().Say(parsed->Card + ": no file is on the card any more; the folder stays empty");
   }
   if (const int status = StatusOf(outcome.Fine); status != kDone) return status;
-  const bool whole = !session.Copy().TakeFailure();
-  if (const int status = Open(session, outcome.Cartella); status != kDone) return status;
-  Report(session, outcome.Cartella);
-  return whole ? kDone : kRefused;
+  const bool whole = !session.Copy().TakeFailure() && outcome.Lasciati.empty();
+  for (const std::string& name : outcome.Lasciati) {
+    session.Out().Say(SuUnaRiga(name) + ": not copied, since no card can hold a file of this name");
+  }
+  const int status = Open(session, outcome.Cartella);
+  if (status == kDone) Report(session, outcome.Cartella);
+  return whole ? status : kRefused;  // what it lacks, it lacks for that
 }
 
 }  // namespace kvr5::cli

@@ -32,10 +32,10 @@ bool Report(Session& session, const std::string& card, const EsitoRegistrazione&
                           {"bytes", outcome.Byte},
                           {"status", good ? kDone : kRefused}});
   } else if (good) {
-    session.Out().Line(card + (card.ends_with(':') ? " " : ": ") + std::to_string(outcome.File) +
-                       " files, " + std::to_string(outcome.Byte) + " bytes");
+    session.Out().Line(OfCard(
+        card, std::to_string(outcome.File) + " files, " + std::to_string(outcome.Byte) + " bytes"));
   } else if (!outcome.NonLetti.empty() || outcome.Fine != FineRegistrazione::SenzaScheda) {
-    session.Out().Say(card + (card.ends_with(':') ? " " : ": ") + "not recorded whole");
+    session.Out().Say(OfCard(card, "not recorded whole"));
   }
   return good;
 }
@@ -43,7 +43,7 @@ bool Report(Session& session, const std::string& card, const EsitoRegistrazione&
 EsitoRegistrazione Record(Session& session, TabellaIngressi& inputs, const std::string& card) {
   const std::string root = CardRoot(session, card);
   if (!root.empty()) return RecordOnto(session, inputs, root);
-  session.Out().Say(card + ": there is no such card");
+  NoSuchCard(session, card);
   return {FineRegistrazione::SenzaScheda};
 }
 
@@ -63,7 +63,8 @@ int RunRecord(Session& session, const std::vector<std::string>& arguments) {
     // Who stops the work doesn't mean one card of many: those that are left are not begun.
     const auto outcome = cancelled ? EsitoRegistrazione{FineRegistrazione::Annullata}
                                    : Record(session, inputs, arguments[i]);
-    cancelled = outcome.Fine == FineRegistrazione::Annullata;
+    // Where a file is missing the routine ends before it looks at the cancel.
+    cancelled = outcome.Fine == FineRegistrazione::Annullata || context.Stato.AnnullatoDaUtente;
     all = Report(session, arguments[i], outcome) && all;
   }
   return all ? kDone : kRefused;

@@ -15,8 +15,9 @@ namespace {
 /// Prints each finding as it is made, with the progress line below.
 class TerminalVerification : public OsservatoreVerifica {
  public:
-  explicit TerminalVerification(Session& session)
+  TerminalVerification(Session& session, const std::string& root)
       : session_(session),
+        card_(session.Context(), root),
         operation_(TestoLinguaO(session.Context(), "0130281", "Comparing files")) {}
 
   bool Avanza(const CopyState& stato) override {
@@ -34,17 +35,25 @@ class TerminalVerification : public OsservatoreVerifica {
     if (session_.Out().IsJson()) {
       session_.Out().Object({{"kind", kind}, {"file", riscontro.File}});
     } else {
-      session_.Out().Line(std::string(kind) + ": " + riscontro.File);
+      session_.Out().Line(std::string(kind) + ": " + SuUnaRiga(riscontro.File));
     }
   }
+
+  bool Presente() override { return card_.Presente(); }
 
  private:
   using Clock = std::chrono::steady_clock;
 
   Session& session_;
+  CardGiven card_;
   std::string operation_;
   Clock::time_point start_ = Clock::now();
 };
+
+/// True when all was compared that there is to compare.
+bool IsWhole(const EsitoVerifica& outcome) {
+  return !outcome.Annullata && !outcome.Sparita;
+}
 
 /// "12 files compared, 52 MB; missing 1, stray 2"
 std::string Counts(const EsitoVerifica& outcome, const Locale& locale) {
@@ -59,8 +68,9 @@ std::string Counts(const EsitoVerifica& outcome, const Locale& locale) {
     text.append(between).append(NomeDifetto(kind)).append(" ").append(std::to_string(count));
     between = ", ";
   }
-  if (outcome.Riscontri.empty() && !outcome.Annullata) text += "; nothing found";
+  if (outcome.Riscontri.empty() && IsWhole(outcome)) text += "; nothing found";
   if (outcome.Annullata) text += "; cancelled, not all was compared";
+  if (outcome.Sparita) text += "; the card went away, not all was compared";
   return text;
 }
 
@@ -81,16 +91,13 @@ int RunVerify(Session& session, const std::vector<std::string>& arguments) {
   if (const int status = session.OpenProject(arguments[0]); status != kDone) return status;
   const std::string root = CardRoot(session, arguments[1]);
   const Interrupt cancel;
-  TerminalVerification watch(session);
+  TerminalVerification watch(session, root);
   const auto outcome = root.empty() ? EsitoVerifica{.SenzaScheda = true}
                                     : VerificaScheda(session.Context(), root, watch);
   session.Line().Clear();
-  if (outcome.SenzaScheda) {
-    session.Out().Say(arguments[1] + ": there is no such card");
-    return kRefused;
-  }
+  if (outcome.SenzaScheda) return NoSuchCard(session, arguments[1]);
   TellCounts(session, outcome);
-  return outcome.Riscontri.empty() && !outcome.Annullata ? kDone : kRefused;
+  return outcome.Riscontri.empty() && IsWhole(outcome) ? kDone : kRefused;
 }
 
 }  // namespace kvr5::cli

@@ -1,7 +1,5 @@
 #include "flashcard/screens/ModelloRiscontri.h"
 
-#include <algorithm>
-
 #include "core/Lingua.h"
 #include "core/Parole.h"
 #include "core/screens/Icona.h"
@@ -38,19 +36,18 @@ void ModelloRiscontri::Localizza() {
 void ModelloRiscontri::Svuota() {
   beginResetModel();
   righe_.clear();
+  mancanti_.clear();
   endResetModel();
 }
 
 /// That a list names it as well tells nothing more of a file that isn't there.
 bool ModelloRiscontri::SiSa(const Riscontro& riscontro) const {
-  return riscontro.Tipo == Difetto::VoceVuota &&
-         std::ranges::any_of(righe_, [&](const Riscontro& row) {
-           return row.Tipo == Difetto::Mancante && EqualFold(row.File, riscontro.File);
-         });
+  return riscontro.Tipo == Difetto::VoceVuota && mancanti_.contains(FoldCase(riscontro.File));
 }
 
 void ModelloRiscontri::Aggiungi(const Riscontro& riscontro) {
   if (SiSa(riscontro)) return;
+  if (riscontro.Tipo == Difetto::Mancante) mancanti_.insert(FoldCase(riscontro.File));
   const int row = rowCount();
   beginInsertRows({}, row, row);
   righe_.push_back(riscontro);

@@ -2,6 +2,8 @@
 
 #include <QAbstractTableModel>
 #include <QStringList>
+#include <set>
+#include <string>
 #include <vector>
 
 #include "core/Contesto.h"
@@ -31,6 +33,7 @@ class ModelloRiscontri : public QAbstractTableModel {
 
   Contesto& contesto_;
   std::vector<Riscontro> righe_;
+  std::set<std::string> mancanti_;  ///< their names, without regard to case
   QStringList titoli_;
 };
 

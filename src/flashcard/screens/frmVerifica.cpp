@@ -95,7 +95,10 @@ void frmVerifica::AlCaricamento() {
 void frmVerifica::showEvent(QShowEvent* event) {
   Form::showEvent(event);
   // The window is there first, and says what it does.
-  if (!event->spontaneous()) QTimer::singleShot(0, this, [this] { Verifica(); });
+  if (event->spontaneous()) return;
+  QTimer::singleShot(0, this, [this] {
+    if (Caricata()) Verifica();  // it may have been closed before it was drawn
+  });
 }
 
 void frmVerifica::Verifica() {
@@ -107,9 +110,7 @@ void frmVerifica::Verifica() {
   scritto_.invalidate();
   MostraLavoro(true);
   C().Messaggi.LasciaCorrere();
-  const EsitoVerifica outcome = Presente()
-                                    ? VerificaScheda(C(), C().Stato.PercorsoMemoryCard, *this)
-                                    : EsitoVerifica{.SenzaScheda = true};
+  const EsitoVerifica outcome = VerificaScheda(C(), C().Stato.PercorsoMemoryCard, *this);
   lavora_ = false;
   MostraEsito(outcome);
 }
@@ -128,18 +129,24 @@ void frmVerifica::MostraLavoro(bool lavora) {
   picRipeti->setEnabled(!lavora);
   picChiudi->ImpostaScritta(Qs(lavora ? ferma_ : chiudi_));
   picChiudi->ImpostaIcona(lavora ? "ferma" : "fatto");
-  picChiudi->setFocus();
+  // A key that is pressed once too often mustn't stop the work, nor close what it has found.
+  grdRiscontri->setFocus();
 }
 
 void frmVerifica::MostraEsito(const EsitoVerifica& esito) {
   MostraLavoro(false);
   const QString words =
       Qs(EsitoInParole(C(), esito, static_cast<std::size_t>(modello_.rowCount())));
-  const bool good = esito.Riscontri.empty() && !esito.Annullata && !esito.SenzaScheda;
+  const bool good =
+      esito.Riscontri.empty() && !esito.Annullata && !esito.SenzaScheda && !esito.Sparita;
   lblBuono->setVisible(good);
   lblEsito->setVisible(!good);
   (good ? lblBuono : static_cast<QLabel*>(lblEsito))->setText(words);
-  if (modello_.rowCount() > 0) grdRiscontri->selectRow(0);
+  if (modello_.rowCount() > 0) {
+    grdRiscontri->selectRow(0);
+  } else {
+    picChiudi->setFocus();
+  }
 }
 
 bool frmVerifica::Avanza(const CopyState& stato) {

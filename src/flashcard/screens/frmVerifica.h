@@ -26,7 +26,7 @@ class frmVerifica : public Form, private OsservatoreVerifica {
   /// The screen that opened it, shown again at its end.
   Schermata FormChiamante = Schermata::Nessuna;
   /// Whether the host has the card still; the folder that it was mounted at may outlive it.
-  std::function<bool()> Presente = [] { return true; };
+  std::function<bool()> SchedaPresente = [] { return true; };
 
   EtichettaElisa* lblTitolo;
   EtichettaElisa* lblFile;  ///< the file at work
@@ -54,6 +54,7 @@ class frmVerifica : public Form, private OsservatoreVerifica {
   void MostraEsito(const EsitoVerifica& esito);
   bool Avanza(const CopyState& stato) override;
   void Trovato(const Riscontro& riscontro) override;
+  bool Presente() override { return SchedaPresente(); }
   void ScriviStato(const CopyState& stato);
 
   ModelloRiscontri modello_;

@@ -54,7 +54,9 @@ CopyOutcome CopyRun::Run(const std::vector<CopyPair>& pairs) {
   batch_.Abandon();
   static_cast<void>(Commit());
   SyncWritten();
-  CopyOutcome outcome{.FilesCopied = batch_.FilesCopied(), .BytesCopied = batch_.BytesCopied()};
+  CopyOutcome outcome{.FilesCopied = batch_.FilesCopied(),
+                      .BytesCopied = batch_.BytesCopied(),
+                      .LeftOut = std::move(leftOut_)};
   if (cancelled_) {
     outcome.Result = errors::Cancelled;
   } else if (failure_) {
@@ -233,6 +235,11 @@ bool CopyRun::TakeFolder(const std::string& target) {
 
 bool CopyRun::TakeFile(const std::string& source, const FileInfo& info, const std::string& target) {
   return CopyOne(source, info, target);
+}
+
+void CopyRun::LeftOut(const std::string& name) {
+  constexpr std::size_t kTold = 100;
+  if (leftOut_.size() < kTold) leftOut_.push_back(name);
 }
 
 bool CopyRun::Unreadable(const std::string& source, const Error& error) {

@@ -40,6 +40,7 @@ class CopyRun : private CopyVisitor {
   bool TakeFolder(const std::string& target) override;
   bool TakeFile(const std::string& source, const FileInfo& info,
                 const std::string& target) override;
+  void LeftOut(const std::string& name) override;
   bool Unreadable(const std::string& source, const Error& error) override;
 
   FileSystem& files_;
@@ -50,6 +51,7 @@ class CopyRun : private CopyVisitor {
   std::set<std::string> swept_;    ///< the target folders that were freed of leftovers
   std::set<std::string> written_;  ///< the target folders of the pairs that brought something
   std::optional<CopyFailure> failure_;
+  std::vector<std::string> leftOut_;  ///< names, see CopyOutcome
   bool cancelled_ = false;
 };
 

@@ -18,10 +18,9 @@ bool IsSystemFolder(std::string_view name) {
   return std::ranges::find(kNames, folded) != kNames.end() || folded.starts_with(".trash");
 }
 
-/// A whole tree, as a card's, is copied without what its links lead to, anywhere on the host, and
-/// without names that no other card could hold.
-bool Travels(const FileInfo& info) {
-  return !info.IsLink && CardCanHold(info.Name);
+/// A name that no path can say, or no other card could hold.
+bool IsImpossible(const FileInfo& info) {
+  return info.Unusable != NameFault::None || !CardCanHold(info.Name);
 }
 
 /// Pipes and devices can't be read to an end; a FAT volume's own system files can, unless empty.
@@ -47,7 +46,7 @@ bool CopyTree::Enter(const std::string& source, const std::string& target) {
   if (!list) return visitor_.Unreadable(source, list.Err());
   if (!visitor_.Entered(source)) return false;
   for (const FileInfo& info : list.Value()) {
-    if (info.Unusable != NameFault::None || (withSubfolders_ && !Travels(info))) continue;
+    if (Stays(info)) continue;
     const std::string from = JoinPath(source, info.Name);
     const std::string to = JoinPath(target, info.Name);
     if (info.IsFolder) {
@@ -58,6 +57,16 @@ bool CopyTree::Enter(const std::string& source, const std::string& target) {
     }
   }
   return true;
+}
+
+/// A whole tree, as a card's, is copied without what its links lead to, anywhere on the host, and
+/// without impossible names.
+bool CopyTree::Stays(const FileInfo& info) {
+  if (!withSubfolders_) return info.Unusable != NameFault::None;
+  if (info.IsLink) return true;
+  const bool impossible = IsImpossible(info);
+  if (impossible && !IsSpecial(info)) visitor_.LeftOut(info.Name);
+  return impossible;
 }
 
 bool CopyTree::EnterSubfolder(const std::string& source, const FileInfo& info,

@@ -19,6 +19,8 @@ class CopyVisitor {
   /// A file that the copy takes goes to `target`.
   virtual bool TakeFile(const std::string& source, const FileInfo& info,
                         const std::string& target) = 0;
+  /// A file or folder of a whole tree isn't taken, as no card can hold its name.
+  virtual void LeftOut(const std::string& /*name*/) {}
   /// A folder that can't be listed.
   virtual bool Unreadable(const std::string& source, const Error& error) = 0;
 };
@@ -36,6 +38,7 @@ class CopyTree {
 
  private:
   bool Enter(const std::string& source, const std::string& target);
+  bool Stays(const FileInfo& info);
   bool EnterSubfolder(const std::string& source, const FileInfo& info, const std::string& target);
 
   const FileSystem& files_;

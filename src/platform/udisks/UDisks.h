@@ -13,7 +13,7 @@ namespace kvr5 {
 /// How long UDisks2 may take for an answer.
 struct UDisksLimits {
   std::chrono::milliseconds Question{2000};  ///< of a question, for which somebody waits
-  std::chrono::milliseconds Work{std::chrono::minutes(30)};  ///< of one that writes to a card
+  std::chrono::milliseconds Work{std::chrono::minutes(5)};  ///< of one that writes to a card
 };
 
 /// The host's service of disks, UDisks2 (udisks.freedesktop.org), by the bus of the system. It is

@@ -70,6 +70,7 @@ void frmPlayerConfig::CopiaManuale() {
   ascolto_.Stop();
   Nascondi();
   guardia_.stop();
+  conta_.stop();
   DimenticaChiusura();  // asked for while the dialog stood: the bar is what is left to close
   servizi_.ApriCopiaManuale();
 }

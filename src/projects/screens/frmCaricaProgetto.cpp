@@ -243,6 +243,7 @@ void frmCaricaProgetto::CaricaDaFlash() {
     const QScopedValueRollback reads(apre_, true);
     SceltaDallElenco choice(ambiente_.Schermi);
     outcome = kvr5::CaricaDaFlash(C(), choice, screen, progresso_);
+    AvvisaLasciati(C(), outcome);
     if (outcome.Fine == FineLettura::Copiata) DimenticaChiusura();  // what was read is opened
   }
   if (outcome.Fine != FineLettura::Copiata) return;
