@@ -44,8 +44,11 @@ endif()
 option(KVR5_PRECOMPILE "Read common headers once a build, not once a source" OFF)
 
 # Of the sanitized builds only what is tested is worth optimising: the tests themselves take twice the
-# time to compile then.
+# time to compile then. And of a test the lines do for a debugger.
 function(kvr5_compile_quickly target kind)
+  if(kind MATCHES "tests$" AND CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+    target_compile_options(${target} PRIVATE $<$<CONFIG:Debug>:-g1>)
+  endif()
   if(KVR5_SANITIZE AND kind MATCHES "tests$")
     target_compile_options(${target} PRIVATE -O0)
   endif()
@@ -85,6 +88,20 @@ function(kvr5_add_library name)
   target_link_libraries(kvr5_${name} PUBLIC ${ARG_DEPENDS} ${ARG_LINK} PRIVATE kvr5_options)
 endfunction()
 
+# kvr5_list_tests(<target> <prefix> <seconds> <environment>)
+# Has ctest know the tests of a program, see Tests.cmake.
+function(kvr5_list_tests target prefix seconds environment)
+  set(script "${CMAKE_CURRENT_BINARY_DIR}/${target}_tests.cmake")
+  file(GENERATE OUTPUT "${script}" CONTENT "set(PROGRAM \"$<TARGET_FILE:${target}>\")
+set(PREFIX \"${prefix}\")
+set(FOLDER \"${CMAKE_CURRENT_BINARY_DIR}\")
+set(TIMEOUT ${seconds})
+set(ENVIRONMENT \"${environment}\")
+include(\"${PROJECT_SOURCE_DIR}/cmake/Tests.cmake\")
+")
+  set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${script}")
+endfunction()
+
 # kvr5_add_test(<name> LINK <target>... [HEADERS <kind>])
 # The GoogleTest program test_<name> of all sources of the current folder.
 function(kvr5_add_test name)
@@ -101,9 +118,7 @@ function(kvr5_add_test name)
   target_compile_definitions(test_${name} PRIVATE
     KVR5_TEST_DATA="${CMAKE_CURRENT_SOURCE_DIR}/data")
   kvr5_take_headers(test_${name} ${ARG_HEADERS})
-  include(GoogleTest)
-  gtest_discover_tests(test_${name} TEST_PREFIX "${name}/" DISCOVERY_MODE PRE_TEST
-    PROPERTIES TIMEOUT 300)
+  kvr5_list_tests(test_${name} "${name}/" 600 "")
 endfunction()
 
 # kvr5_add_screens(<name> [DEPENDS <target>...])
@@ -140,7 +155,5 @@ function(kvr5_add_screen_test name)
     add_custom_target(screen_tests)
   endif()
   add_dependencies(screen_tests ${target})
-  include(GoogleTest)
-  gtest_discover_tests(${target} TEST_PREFIX "${name}/screens/" DISCOVERY_MODE PRE_TEST
-    PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 120)
+  kvr5_list_tests(${target} "${name}/screens/" 600 "QT_QPA_PLATFORM=offscreen")
 endfunction()
