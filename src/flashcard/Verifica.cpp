@@ -4,6 +4,7 @@
 #include <array>
 #include <map>
 #include <set>
+#include <utility>
 
 #include "core/Aiuti.h"
 #include "flashcard/ConfrontoFile.h"
@@ -68,6 +69,7 @@ class Verification {
   std::set<const FileInfo*> taken_;      ///< those that a recording would put there
   std::set<std::string> entriesTold_;    ///< a file that several lists name is told once
   std::set<std::string> uncheckedTold_;  ///< and so is one that can't be read in several ways
+  bool unread_ = false;                  ///< something couldn't be read since the last look
   CopyState state_;
   PezziConfronto pieces_;
   EsitoVerifica outcome_;
@@ -141,9 +143,7 @@ bool Verification::IsReadable(const std::string& path) const {
 
 /// Once the card can't be read at all the rest would be findings of no use.
 bool Verification::CardWentAway() {
-  if (outcome_.Riscontri.empty() || outcome_.Riscontri.back().Tipo != Difetto::NonLetto) {
-    return false;
-  }
+  if (!std::exchange(unread_, false)) return false;
   outcome_.Sparita = !observer_.Presente() || !context_.Files.List(card_);
   return outcome_.Sparita;
 }
@@ -240,6 +240,7 @@ void Verification::FindStrays() {
 
 void Verification::Find(Riscontro finding) {
   const bool unchecked = finding.Tipo == Difetto::NonLetto;
+  unread_ = unread_ || unchecked;
   if (unchecked && !uncheckedTold_.insert(FoldCase(finding.File)).second) return;
   outcome_.Riscontri.push_back(std::move(finding));
   observer_.Trovato(outcome_.Riscontri.back());

@@ -11,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t kPiece = std::size_t{1} << 20U;
+constexpr std::size_t kPiece = std::size_t{128} << 10U;
 
 /// An open file that writes down when its content was to be read past the host's memory.
 class Ricordo : public File {

@@ -175,11 +175,17 @@ TEST_F(CardChoice, ACancelKeepsTheOldCardAndRaisesTheFlag) {
   EXPECT_FALSE(b.C.Stato.SelezioneFlashAnnullata) << "the next load clears it";
 }
 
-TEST_F(CardChoice, AWindowThatIsClosedLeavesBothFlags) {
+TEST_F(CardChoice, UntilACardIsConfirmedTheOldOneStaysWhateverIsSelected) {
   b.C.Stato.PercorsoMemoryCard = "F:\\";
+  b.C.Stato.SelezioneFlashAnnullata = true;  // of an earlier choice
   drives.Add("e:");
+  drives.Add("g:");
   EXPECT_TRUE(list.Carica());
+  list.Scegli(1);
   EXPECT_FALSE(b.C.Stato.SelezioneFlashAnnullata);
+  EXPECT_EQ(b.C.Stato.PercorsoMemoryCard, "F:\\");
+  list.Annulla();
+  EXPECT_TRUE(b.C.Stato.SelezioneFlashAnnullata) << "as the window's own button does";
   EXPECT_EQ(b.C.Stato.PercorsoMemoryCard, "F:\\");
 }
 

@@ -113,11 +113,12 @@ TEST_F(Recording, ACardThatIsNotThereIsToldBeforeAnythingElse) {
   }
 }
 
-TEST_F(Recording, AProtectedCardIsToldAndKeepsNoStray) {
+TEST_F(Recording, AFolderInThePlaceOfTheWriteTestIsACardThatCannotBeWrittenAndStays) {
   Project(4, 1);
-  b.Cartella.Write("card/test.txt/inside", "");  // a folder bears the name: the write test fails
+  b.Cartella.Write("card/test.txt/inside", "");
   EXPECT_EQ(Record(), FineRegistrazione::NonScrivibile);
-  b.Finestre.Prossimo();
+  EXPECT_EQ(b.Finestre.Prossimo().Titolo, "Recording not started");
+  EXPECT_EQ(b.C.Errore.Last().Number(), errors::PathFileAccess);
   EXPECT_EQ(Card(), Names{"test.txt/inside"});
 }
 

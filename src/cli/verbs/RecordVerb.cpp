@@ -63,8 +63,10 @@ int RunRecord(Session& session, const std::vector<std::string>& arguments) {
     // Who stops the work doesn't mean one card of many: those that are left are not begun.
     const auto outcome = cancelled ? EsitoRegistrazione{FineRegistrazione::Annullata}
                                    : Record(session, inputs, arguments[i]);
-    // Where a file is missing the routine ends before it looks at the cancel.
-    cancelled = outcome.Fine == FineRegistrazione::Annullata || context.Stato.AnnullatoDaUtente;
+    // Where a file is missing the routine ends before it looks at the cancel; and a press may come
+    // after its last look.
+    cancelled = outcome.Fine == FineRegistrazione::Annullata || context.Stato.AnnullatoDaUtente ||
+                Interrupt::Pressed();
     all = Report(session, arguments[i], outcome) && all;
   }
   return all ? kDone : kRefused;

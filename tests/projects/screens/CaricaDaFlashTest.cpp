@@ -53,11 +53,13 @@ TEST_F(CaricaDaFlash, LeavingTheCardDialogChangesNothing) {
   c.Stato.CartellaProgetto = "before";
   c.Stato.ProjectName = "name before";
   Apri();
+  // By its button, by Esc or by the window's own.
   b.Schermi.SuScegliScheda = [this] { c.Stato.SelezioneFlashAnnullata = true; };
   c.Stato.PercorsoMemoryCard = b.Percorso("card") + "\\";  // chosen before
   Leggi();
+  // Where there is no drive at all the dialog goes by itself, which is no cancel.
   b.Schermi.SuScegliScheda = [this] { c.Stato.SelezioneFlashAnnullata = false; };
-  c.Stato.PercorsoMemoryCard.clear();  // by the window's own button, or without any drive
+  c.Stato.PercorsoMemoryCard.clear();
   Leggi();
   EXPECT_EQ(c.Stato.CartellaProgetto, "before");
   EXPECT_EQ(c.Stato.ProjectName, "name before");
