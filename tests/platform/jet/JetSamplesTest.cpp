@@ -1,4 +1,4 @@
-// The samples in data/: NAME.mdb as another reader of the format wrote it, and NAME.json, what that
+// The samples: NAME.mdb as another reader of the format wrote it, and NAME.json, what that
 // reader finds in it. A file without a .json is no sound Jet 4 file.
 #include <gtest/gtest.h>
 
@@ -10,6 +10,7 @@
 
 #include "platform/HostFileSystem.h"
 #include "platform/jet/JetFile.h"
+#include "support/CampioniJet.h"
 
 namespace kvr5 {
 namespace {
@@ -34,13 +35,13 @@ constexpr std::array<WantedColumn, 4> kHead{{{"ID", Wanted::Counter},
                                              {"StartTime", Wanted::Time}}};
 
 std::string Sample(const std::string& file) {
-  return PathMap::FromHost(std::string(KVR5_TEST_DATA) + "/" + file).Value();
+  return PathMap::FromHost(test::CampioneJet(file).string()).Value();
 }
 
-/// All files of data/ with an ending, without it, that have or lack a partner.
+/// All samples, without it, that have or lack a partner.
 std::vector<std::string> Samples(bool sound) {
   std::vector<std::string> names;
-  for (const auto& entry : std::filesystem::directory_iterator(KVR5_TEST_DATA)) {
+  for (const auto& entry : std::filesystem::directory_iterator(test::CampioneJet({}))) {
     auto partner = entry.path();
     if (partner.extension() != ".mdb") continue;
     if (std::filesystem::exists(partner.replace_extension(".json")) == sound) {
@@ -84,7 +85,7 @@ TEST_P(SoundSample, HoldsWhatAnotherReaderFinds) {
   HostFileSystem files(paths);
   JetFile file;
   ASSERT_EQ(file.Open(files, Sample(GetParam() + ".mdb")).What, Fault::None);
-  std::ifstream stream(std::string(KVR5_TEST_DATA) + "/" + GetParam() + ".json");
+  std::ifstream stream(test::CampioneJet(GetParam() + ".json"));
   const Json told = Json::parse(stream);
   Rows list;
   Rows head;
@@ -108,7 +109,6 @@ TEST_P(UnsoundSample, IsRefused) {
   if (!trouble) trouble = ReadAll(file, "List", kList, rows);
   if (!trouble) trouble = ReadAll(file, "HEAD", kHead, rows);
   EXPECT_TRUE(trouble);
-  std::cout << GetParam() << " " << static_cast<int>(trouble.What) << " " << trouble.Where << "\n";
 }
 
 INSTANTIATE_TEST_SUITE_P(Jet, UnsoundSample, testing::ValuesIn(Samples(false)),
