@@ -3,36 +3,22 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <filesystem>
 #include <fstream>
 #include <nlohmann/json.hpp>
 
 #include "platform/HostFileSystem.h"
-#include "platform/jet/JetFile.h"
+#include "platform/jet/Tabelle.h"
 #include "support/CampioniJet.h"
 
 namespace kvr5 {
 namespace {
 
 using jet::Fault;
-using jet::JetFile;
 using jet::Wanted;
 using jet::WantedColumn;
+using test::Rows;
 using Json = nlohmann::json;
-using Rows = std::vector<std::vector<DbValue>>;
-
-constexpr std::array<WantedColumn, 7> kList{{{"ID", Wanted::Counter},
-                                             {"FileName", Wanted::Text},
-                                             {"FilePath", Wanted::Text},
-                                             {"Alias", Wanted::Text},
-                                             {"Pos", Wanted::Integer},
-                                             {"NPlaylist", Wanted::Integer},
-                                             {"IDSched", Wanted::Integer}}};
-constexpr std::array<WantedColumn, 4> kHead{{{"ID", Wanted::Counter},
-                                             {"NScheduler", Wanted::Integer},
-                                             {"Descript", Wanted::Text},
-                                             {"StartTime", Wanted::Time}}};
 
 std::string Sample(const std::string& file) {
   return PathMap::FromHost(test::CampioneJet(file).string()).Value();
@@ -70,29 +56,17 @@ Rows RowsOf(const Json& table, std::span<const WantedColumn> columns) {
   return rows;
 }
 
-jet::Trouble ReadAll(JetFile& file, const char* table, std::span<const WantedColumn> columns,
-                     Rows& rows) {
-  return file.Read(table, columns, [&](const std::vector<DbValue>& row) {
-    rows.push_back(row);
-    return true;
-  });
-}
-
 class SoundSample : public testing::TestWithParam<std::string> {};
 
 TEST_P(SoundSample, HoldsWhatAnotherReaderFinds) {
   const PathMap paths;
   HostFileSystem files(paths);
-  JetFile file;
-  ASSERT_EQ(file.Open(files, Sample(GetParam() + ".mdb")).What, Fault::None);
+  const auto read = test::LeggiTutto(files, Sample(GetParam() + ".mdb"));
+  ASSERT_EQ(read.Guasto.What, Fault::None);
   std::ifstream stream(test::CampioneJet(GetParam() + ".json"));
   const Json told = Json::parse(stream);
-  Rows list;
-  Rows head;
-  EXPECT_EQ(ReadAll(file, "List", kList, list).What, Fault::None);
-  EXPECT_EQ(ReadAll(file, "HEAD", kHead, head).What, Fault::None);
-  EXPECT_EQ(list, RowsOf(told["tables"]["List"], kList));
-  EXPECT_EQ(head, RowsOf(told["tables"]["HEAD"], kHead));
+  EXPECT_EQ(read.Lista, RowsOf(told["tables"]["List"], test::kList));
+  EXPECT_EQ(read.Testa, RowsOf(told["tables"]["HEAD"], test::kHead));
 }
 
 INSTANTIATE_TEST_SUITE_P(Jet, SoundSample, testing::ValuesIn(Samples(true)),
@@ -103,12 +77,7 @@ class UnsoundSample : public testing::TestWithParam<std::string> {};
 TEST_P(UnsoundSample, IsRefused) {
   const PathMap paths;
   HostFileSystem files(paths);
-  JetFile file;
-  jet::Trouble trouble = file.Open(files, Sample(GetParam() + ".mdb"));
-  Rows rows;
-  if (!trouble) trouble = ReadAll(file, "List", kList, rows);
-  if (!trouble) trouble = ReadAll(file, "HEAD", kHead, rows);
-  EXPECT_TRUE(trouble);
+  EXPECT_TRUE(test::LeggiTutto(files, Sample(GetParam() + ".mdb")).Guasto);
 }
 
 INSTANTIATE_TEST_SUITE_P(Jet, UnsoundSample, testing::ValuesIn(Samples(false)),
