@@ -62,7 +62,7 @@ _kvr5card() {
   if [[ -z $verb ]]; then
     _kvr5card_words "$word" --program --lang --json --yes --no --help --version \
       mp3 new projects show config inputs save playlists schedule report cards record readback \
-      erase verify
+      erase verify takeover
     return
   fi
   if [[ $word == -* && $n == 0 ]]; then
@@ -70,10 +70,11 @@ _kvr5card() {
     [[ $verb == new ]] && _kvr5card_words "$word" --mode
     [[ $verb == save ]] && _kvr5card_words "$word" --copy-inputs
     [[ $verb == readback ]] && _kvr5card_words "$word" --name
+    [[ $verb == takeover ]] && _kvr5card_words "$word" --dry-run
     return
   fi
   case $verb:$n in
-    show:0 | config:0 | inputs:0 | save:0 | playlists:0 | schedule:0 | report:0 | record:0 | verify:0)
+    show:0 | config:0 | inputs:0 | save:0 | playlists:0 | schedule:0 | report:0 | record:0 | verify:0 | takeover:0)
       _kvr5card_offer "$word" < <("$command" "${program[@]}" projects 2>/dev/null)
       ;;
     config:1) _kvr5card_words "$word" get set ;;
@@ -90,7 +91,7 @@ _kvr5card() {
       mapfile -t -O ${#COMPREPLY[@]} COMPREPLY < <(compgen -d -- "$word")
       ;;
     readback:*) _kvr5card_words "$word" --name ;;
-    projects:* | cards:* | erase:* | verify:* | show:* | playlists:* | schedule:* | report:*) ;;
+    projects:* | cards:* | erase:* | verify:* | takeover:* | show:* | playlists:* | schedule:* | report:*) ;;
     *) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
   esac
 }

@@ -1,6 +1,7 @@
 #include "platform/FileOps.h"
 
 #include <algorithm>
+#include <array>
 
 #include "platform/Fold.h"
 #include "platform/TempName.h"
@@ -138,6 +139,24 @@ Error CopyOneFile(FileSystem& files, std::string_view from, std::string_view to)
     if (!error) Ignora(target.SetModified(info.Value().Modified));
     return error;
   });
+}
+
+bool HoldTheSame(FileSystem& files, std::string_view a, std::string_view b) {
+  const auto first = files.Open(a, OpenMode::Read);
+  const auto second = files.Open(b, OpenMode::Read);
+  if (!first || !second) return false;
+  std::array<char, 65536> here{};
+  std::array<char, 65536> there{};
+  for (;;) {
+    const auto length = first.Value()->Read(here);
+    const auto other = second.Value()->Read(there);
+    if (!length || !other || length.Value() != other.Value()) return false;
+    if (length.Value() == 0) return true;
+    if (!std::equal(here.begin(), here.begin() + static_cast<std::ptrdiff_t>(length.Value()),
+                    there.begin())) {
+      return false;
+    }
+  }
 }
 
 Result<std::string> ReadWhole(FileSystem& files, std::string_view path) {

@@ -97,6 +97,8 @@ class FileSystem {
   virtual std::string BehindLink(std::string_view path) const { return std::string(path); }
   /// Makes one folder; 75 when the name is taken, 76 when its parent isn't there.
   virtual Error CreateFolder(std::string_view path) = 0;
+  /// Deletes an empty folder; 76 when it isn't there, 75 when it holds something or is no folder.
+  virtual Error DeleteFolder(std::string_view /*path*/) { return Error(errors::PathFileAccess); }
   /// Renames; 58 when `to` exists, 53 when `from` doesn't.
   virtual Error Rename(std::string_view from, std::string_view to) = 0;
   /// Puts `from` in the place of `to` in one step, also where `to` is read-only; `to` keeps its

@@ -45,6 +45,7 @@ class HostFileSystem : public FileSystem {
   Error DeleteUnheld(std::string_view path) override;
   std::string BehindLink(std::string_view path) const override;
   Error CreateFolder(std::string_view path) override;
+  Error DeleteFolder(std::string_view path) override;
   Error Rename(std::string_view from, std::string_view to) override;
   Error Replace(std::string_view from, std::string_view to) override;
   std::shared_ptr<void> HoldNames() override;

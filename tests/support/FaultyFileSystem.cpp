@@ -213,6 +213,11 @@ Error FaultyFileSystem::DeleteUnheld(std::string_view path) {
   return inner_.DeleteUnheld(path);
 }
 
+Error FaultyFileSystem::DeleteFolder(std::string_view path) {
+  if (Error error = Touch("DeleteFolder", path, Kind::Change)) return error;
+  return inner_.DeleteFolder(path);
+}
+
 Error FaultyFileSystem::CreateFolder(std::string_view path) {
   if (Error error = Touch("CreateFolder", path, Kind::Change)) return error;
   return inner_.CreateFolder(path);

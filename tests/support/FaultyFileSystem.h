@@ -48,6 +48,8 @@ class FaultyFileSystem : public FileSystem {
   Error DeleteUnheld(std::string_view path) override;
   std::string BehindLink(std::string_view path) const override { return inner_.BehindLink(path); }
   Error CreateFolder(std::string_view path) override;
+  Error DeleteFolder(std::string_view path) override;
+  std::shared_ptr<void> HoldNames() override { return inner_.HoldNames(); }
   Error Rename(std::string_view from, std::string_view to) override;
   Error Replace(std::string_view from, std::string_view to) override;
   Result<std::size_t> CopyRange(File& from, File& to, std::size_t size) override;

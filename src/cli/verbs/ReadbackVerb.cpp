@@ -10,6 +10,7 @@
 #include "projects/ApriProgetto.h"
 #include "projects/CaricaDaFlash.h"
 #include "projects/NuovoProgetto.h"
+#include "projects/Subentro.h"
 
 namespace kvr5::cli {
 namespace {
@@ -83,6 +84,7 @@ int StatusOf(FineLettura end) {
 int Open(Session& session, const std::string& folder) {
   auto& context = session.Context();
   if (ApriProgetto(context, folder) != EsitoApertura::Aperto) return kMissing;
+  SubentraEDillo(context);
   TabellaIngressi inputs(context);
   inputs.ApriSeCiSono();
   RientroDaScheda(context, inputs);

@@ -69,6 +69,10 @@ constexpr std::array kVerbs{
         "changes nothing. Findings: missing, different, stray, entry (a list names a file that is\n"
         "not there), refused (the player would not take it), unchecked (it could not be read).",
         true, RunVerify},
+    Verb{"takeover", "PROJECT [--dry-run]",
+         "Takes over the databases of a project of earlier years, which the Jet engine made; the\n"
+         "originals go into its folder Originals. --dry-run only tells what would be done.",
+         true, RunTakeover},
 };
 
 }  // namespace

@@ -41,6 +41,10 @@ void Connection::DontFlush() {
   if (IsOpen()) database_->DontFlush();
 }
 
+void Connection::BuildNew() {
+  if (IsOpen()) database_->BuildNew();
+}
+
 sqlite3* Connection::Handle() const {
   return database_ ? database_->Handle() : nullptr;
 }

@@ -46,6 +46,10 @@ class Connection {
   /// crash, and whose changes shouldn't wait for a slow disk. Lasts until it is closed.
   void DontFlush();
 
+  /// For a new file that counts only once it is whole: no journal beside it, nothing flushed. Lasts
+  /// until it is closed; the file is to be flushed then.
+  void BuildNew();
+
   /// The SQLite handle, for the tests; null when closed.
   sqlite3* Handle() const;
   /// The open file, for Recordset and Transaction; null when closed.

@@ -16,6 +16,7 @@
 #include "core/screens/Testo.h"
 #include "platform/FileOps.h"
 #include "projects/ApriProgetto.h"
+#include "projects/Subentro.h"
 #include "projects/CaricaDaFlash.h"
 
 namespace kvr5 {
@@ -267,6 +268,7 @@ bool frmCaricaProgetto::Apre() {
   // The row leads nowhere any more: no busy pointer stays on the list that is still there to use.
   if (outcome == EsitoApertura::NessunaCartella) C().Messaggi.ImpostaPuntatore(Puntatore::Normale);
   if (outcome != EsitoApertura::Aperto) return false;
+  SubentraEDillo(C());
   ambiente_.Schermi.ApriConfigurazione(ModoScelto);
   C().Messaggi.ImpostaPuntatore(Puntatore::Normale);
   return true;

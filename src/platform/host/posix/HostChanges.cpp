@@ -156,6 +156,15 @@ Error HostFileSystem::DeleteUnheld(std::string_view path) {
   return Hold(descriptor) ? Delete(path) : Error(errors::PermissionDenied);
 }
 
+Error HostFileSystem::DeleteFolder(std::string_view path) {
+  const ChangesNames change;
+  const Result<Place> found = Find(path);
+  if (!found) return found.Err();
+  const Place& place = found.Value();
+  if (!place.Found()) return Error(errors::PathNotFound);
+  return ::rmdir(place.Path.c_str()) == 0 ? Error() : Error(errors::PathFileAccess);
+}
+
 Error HostFileSystem::CreateFolder(std::string_view path) {
   const ChangesNames change;
   const Result<Place> found = Find(path);

@@ -1,0 +1,82 @@
+#include "projects/ParoleSubentro.h"
+
+#include "core/Lingua.h"
+#include "core/Parole.h"
+#include "core/ParoleCopia.h"
+
+namespace kvr5 {
+namespace {
+
+/// A text by its key, and what stands in where the language has none.
+struct Words {
+  const char* Key;
+  const char* Fallback;
+};
+
+Words WordsOf(jet::Fault fault) {
+  switch (fault) {
+    case jet::Fault::Jet3:
+      return {"0130325", "made by a program that is too old (Access 97)"};
+    case jet::Fault::Newer:
+      return {"0130326", "made by a newer version of the database program"};
+    case jet::Fault::NoTable:
+    case jet::Fault::NoColumn:
+      return {"0130327", "no project database (%1 is missing)"};
+    case jet::Fault::Unreadable:
+      return {"0130328", "it can't be read on this disk"};
+    default:
+      return {"0130329", "the file is damaged"};
+  }
+}
+
+std::string TextOf(Contesto& contesto, const Words& words) {
+  return TestoLinguaO(contesto, words.Key, words.Fallback);
+}
+
+std::string Counted(Contesto& contesto, const DatabaseSubentrato& database) {
+  const std::string files = std::to_string(database.File);
+  if (database.Segmenti == 0) {
+    return ConValori(TestoLinguaO(contesto, "0130323", "%1 files"), {files});
+  }
+  return ConValori(TestoLinguaO(contesto, "0130324", "%1 files in %2 lists or segments"),
+                   {files, std::to_string(database.Segmenti)});
+}
+
+}  // namespace
+
+std::string SubentroInParole(Contesto& contesto, const DatabaseSubentrato& database) {
+  const std::string name = database.Nome + ": ";
+  if (database.Guasto) {
+    return name + ConValori(TextOf(contesto, WordsOf(database.Guasto.What)),
+                            {SuUnaRiga(database.Guasto.Where)});
+  }
+  return name + (database.Causa ? database.Causa.Description() : Counted(contesto, database));
+}
+
+Messaggio BoxSubentro(Contesto& contesto, const EsitoSubentro& esito) {
+  std::string lines;
+  for (const DatabaseSubentrato& each : esito.Database) {
+    lines += "\r\n" + SubentroInParole(contesto, each);
+  }
+  if (esito.Fine == FineSubentro::Compiuto) {
+    const std::string where = PercorsoPerPersone(contesto, esito.Originali);
+    lines +=
+        "\r\n" + ConValori(TestoLinguaO(contesto, "0130331", "The originals are in %1"), {where});
+    return {TestoLinguaO(contesto, "0130319", "Project taken over"),
+            TestoLinguaO(contesto, "0130320", "Its lists were taken over:") + lines,
+            Icona::Informazione, Pulsanti::Ok, Risposta::Ok};
+  }
+  const Words words = esito.Cambiato ? Words{"0130330", "Not all lists were taken over:"}
+                                     : Words{"0130322", "Nothing was changed:"};
+  return {TestoLinguaO(contesto, "0130321", "Project not taken over"),
+          TextOf(contesto, words) + lines, Icona::Avviso, Pulsanti::Ok, Risposta::Ok};
+}
+
+void SubentraEDillo(Contesto& contesto) {
+  const EsitoSubentro outcome = SubentraNeiDatabase(contesto);
+  if (outcome.Fine != FineSubentro::Nulla) {
+    contesto.Finestre.MostraMessaggio(BoxSubentro(contesto, outcome));
+  }
+}
+
+}  // namespace kvr5

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "core/Contesto.h"
+#include "platform/jet/JetFile.h"
+
+namespace kvr5 {
+
+/// A database of a project that is a file of the Jet engine, and what came of it.
+struct DatabaseSubentrato {
+  std::string Nome;          ///< "playlist.mdb"
+  std::size_t File = 0;      ///< rows of List
+  std::size_t Segmenti = 0;  ///< rows of HEAD: named playlists, or segments
+  jet::Trouble Guasto{};     ///< why it can't be read
+  Error Causa{};             ///< why the new one couldn't be written
+
+  bool Riuscito() const { return !Guasto && !Causa; }
+};
+
+/// How a taking over ended.
+enum class FineSubentro {
+  Nulla,     ///< no database of the project is of the Jet engine
+  Compiuto,  ///< all of them were taken over; or, where nothing was to be written, could be
+  Fallito,   ///< one of them couldn't, and nothing of the project was changed
+};
+
+struct EsitoSubentro {
+  FineSubentro Fine = FineSubentro::Nulla;
+  std::vector<DatabaseSubentrato> Database{};
+  bool Cambiato = false;    ///< a new database is in its place; after a failure not all of them
+  std::string Originali{};  ///< the folder with the originals, system form
+};
+
+/// Takes over the databases of the open project that the Jet engine made, as all projects and cards
+/// of earlier years have them. Each is read whole, written as a new database, compared row by row
+/// with what was read, and only when all are well is the original copied into the folder
+/// "Originals" of the project and the new one put in its place, in one step: whenever the power
+/// goes, each database is the original or the finished new one, and the next opening goes on.
+///
+/// Numbers go on after the highest; Null stays Null; paths stay as they are. `prova`: nothing is
+/// written to the project.
+EsitoSubentro SubentraNeiDatabase(Contesto& contesto, bool prova = false);
+
+/// Takes over and tells what was done, or why not, by a box; says nothing where nothing was to be
+/// done.
+void SubentraEDillo(Contesto& contesto);
+
+}  // namespace kvr5

@@ -1,0 +1,136 @@
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <fstream>
+
+#include "cli/Verbi.h"
+#include "platform/db/Recordset.h"
+#include "support/CampioniJet.h"
+
+namespace kvr5 {
+namespace {
+
+namespace fs = std::filesystem;
+using nlohmann::json;
+using test::CampioneJet;
+
+class TakeoverVerb : public test::Verbi {
+ protected:
+  void SetUp() override { New(); }
+  void Put(const std::string& sample, const std::string& database) const {
+    fs::copy_file(CampioneJet(sample + ".mdb"), Project() + "/" + database,
+                  fs::copy_options::overwrite_existing);
+  }
+  std::string Bytes(const std::string& file) const {
+    return k.Cartella.Read("program/Projects/Hall/" + file);
+  }
+  static std::string Sample(const std::string& sample) {
+    std::ifstream stream(CampioneJet(sample + ".mdb"), std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+  }
+  std::int64_t Inputs() {
+    Connection connection(k.Disco);
+    Recordset rows;
+    EXPECT_FALSE(connection.Open(k.Percorso("program/Projects/Hall/inputcfg.mdb")));
+    EXPECT_FALSE(rows.Open(connection, "SELECT * FROM [List]"));
+    return rows.RecordCount();
+  }
+};
+
+TEST_F(TakeoverVerb, TakesTheDatabasesOverAndSaysWhereTheOriginalsAre) {
+  Put("a_inputs", "inputcfg.mdb");
+  const auto run = k.Esegui({"takeover", "Hall"});
+  EXPECT_EQ(run.Stato, 0) << run.Errori;
+  EXPECT_EQ(run.Uscita, "inputcfg.mdb: 12 files\n");
+  EXPECT_NE(run.Errori.find(Project() + "/Originals"), std::string::npos) << run.Errori;
+  EXPECT_TRUE(Bytes("Originals/inputcfg.mdb") == Sample("a_inputs"));
+  EXPECT_EQ(k.Esegui({"takeover", "Hall"}).Uscita, "");
+}
+
+TEST_F(TakeoverVerb, ProgramsGetAnObjectForEachDatabase) {
+  Put("a_inputs", "inputcfg.mdb");
+  Put("d_schedule", "scheduler.mdb");
+  const auto run = k.EseguiJson({"takeover", "Hall"});
+  EXPECT_EQ(run.Stato, 0);
+  EXPECT_EQ(run.Oggetti(), (std::vector<json>{{{"database", "inputcfg.mdb"},
+                                               {"state", "taken"},
+                                               {"files", 12},
+                                               {"segments", 0},
+                                               {"why", nullptr}},
+                                              {{"database", "scheduler.mdb"},
+                                               {"state", "taken"},
+                                               {"files", 72},
+                                               {"segments", 24},
+                                               {"why", nullptr}}}));
+}
+
+TEST_F(TakeoverVerb, ADryRunOnlyTells) {
+  Put("a_inputs", "inputcfg.mdb");
+  const auto before = k.Nomi("program");
+  const auto run = k.Esegui({"takeover", "--dry-run", "Hall"});
+  EXPECT_EQ(run.Stato, 0);
+  EXPECT_EQ(run.Uscita, "inputcfg.mdb: 12 files\n");
+  EXPECT_EQ(k.Nomi("program"), before);
+  EXPECT_TRUE(Bytes("inputcfg.mdb") == Sample("a_inputs"));
+}
+
+TEST_F(TakeoverVerb, OneThatCannotBeReadIsToldAndNothingIsChanged) {
+  Put("a_inputs", "inputcfg.mdb");
+  Put("x_jet3_flag", "playlist.mdb");
+  const auto before = k.Nomi("program");
+  const auto run = k.EseguiJson({"takeover", "Hall"});
+  EXPECT_EQ(run.Stato, 1);
+  ASSERT_EQ(run.Oggetti().size(), 2U);
+  EXPECT_EQ(run.Oggetti()[0]["state"], "kept");
+  EXPECT_EQ(run.Oggetti()[1]["state"], "refused");
+  EXPECT_EQ(k.Nomi("program"), before);
+  EXPECT_TRUE(Bytes("inputcfg.mdb") == Sample("a_inputs"));
+}
+
+TEST_F(TakeoverVerb, AProjectOfOursHasNothingToBeTakenOver) {
+  const auto run = k.Esegui({"takeover", "Hall"});
+  EXPECT_EQ(run.Stato, 0);
+  EXPECT_EQ(run.Uscita, "");
+  EXPECT_NE(run.Errori.find("nothing is to be taken over"), std::string::npos) << run.Errori;
+}
+
+TEST_F(TakeoverVerb, TakesOneProject) {
+  EXPECT_EQ(k.Esegui({"takeover"}).Stato, 2);
+  EXPECT_EQ(k.Esegui({"takeover", "Hall", "Shop"}).Stato, 2);
+  EXPECT_EQ(k.Esegui({"takeover", "--now", "Hall"}).Stato, 2);
+  EXPECT_EQ(k.Esegui({"takeover", "Nowhere"}).Stato, 3);
+}
+
+TEST_F(TakeoverVerb, KilledAtAnyMomentItLeavesTheOriginalOrTheNewDatabase) {
+  using Clock = std::chrono::steady_clock;
+  Put("a_inputs", "inputcfg.mdb");
+  const auto start = Clock::now();
+  ASSERT_EQ(k.Esegui({"takeover", "Hall"}).Stato, 0);
+  const auto whole = Clock::now() - start;
+  constexpr int kMoments = 40;
+  int originals = 0;
+  for (int moment = 0; moment <= kMoments; ++moment) {
+    SCOPED_TRACE(moment);
+    Put("a_inputs", "inputcfg.mdb");
+    fs::remove_all(Project() + "/Originals");
+    const auto end = Clock::now() + whole * moment / kMoments;
+    const pid_t child = fork();
+    if (child == 0) _exit(k.Lavoro({"takeover", "Hall"}, k.Host("out"))());
+    while (Clock::now() < end) {
+    }
+    kill(child, SIGKILL);
+    waitpid(child, nullptr, 0);
+    if (Bytes("inputcfg.mdb") == Sample("a_inputs")) {
+      ++originals;
+      EXPECT_EQ(k.Esegui({"takeover", "Hall"}).Stato, 0) << "it goes on the next time";
+    }
+    EXPECT_EQ(Inputs(), 12);
+    EXPECT_TRUE(Bytes("Originals/inputcfg.mdb") == Sample("a_inputs"));
+  }
+  EXPECT_GT(originals, 0);
+}
+
+}  // namespace
+}  // namespace kvr5
