@@ -62,7 +62,7 @@ _kvr5card() {
   if [[ -z $verb ]]; then
     _kvr5card_words "$word" --program --lang --json --yes --no --help --version \
       mp3 new projects show config inputs save playlists schedule report cards record readback \
-      erase verify takeover
+      erase verify takeover relocate
     return
   fi
   if [[ $word == -* && $n == 0 ]]; then
@@ -74,7 +74,8 @@ _kvr5card() {
     return
   fi
   case $verb:$n in
-    show:0 | config:0 | inputs:0 | save:0 | playlists:0 | schedule:0 | report:0 | record:0 | verify:0 | takeover:0)
+    show:0 | config:0 | inputs:0 | save:0 | playlists:0 | schedule:0 | report:0 | record:0 | verify:0 | takeover:0 | \
+      relocate:0)
       _kvr5card_offer "$word" < <("$command" "${program[@]}" projects 2>/dev/null)
       ;;
     config:1) _kvr5card_words "$word" get set ;;
@@ -91,7 +92,8 @@ _kvr5card() {
       mapfile -t -O ${#COMPREPLY[@]} COMPREPLY < <(compgen -d -- "$word")
       ;;
     readback:*) _kvr5card_words "$word" --name ;;
-    projects:* | cards:* | erase:* | verify:* | takeover:* | show:* | playlists:* | schedule:* | report:*) ;;
+    relocate:1) mapfile -t COMPREPLY < <(compgen -d -- "$word") ;;
+    projects:* | cards:* | erase:* | verify:* | takeover:* | relocate:* | show:* | playlists:* | schedule:* | report:*) ;;
     *) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
   esac
 }

@@ -37,6 +37,7 @@ int RunCards(Session& session, const std::vector<std::string>& arguments);
 int RunRecord(Session& session, const std::vector<std::string>& arguments);
 int RunReadback(Session& session, const std::vector<std::string>& arguments);
 int RunErase(Session& session, const std::vector<std::string>& arguments);
+int RunRelocate(Session& session, const std::vector<std::string>& arguments);
 int RunTakeover(Session& session, const std::vector<std::string>& arguments);
 int RunVerify(Session& session, const std::vector<std::string>& arguments);
 

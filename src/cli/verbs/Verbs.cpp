@@ -73,6 +73,11 @@ constexpr std::array kVerbs{
          "Takes over the databases of a project of earlier years, which the Jet engine made; the\n"
          "originals go into its folder Originals. --dry-run only tells what would be done.",
          true, RunTakeover},
+    Verb{"relocate", "PROJECT FOLDER",
+         "Looks in a folder and all below it, by name, for the files of a project that are "
+         "missing,\n"
+         "and has the project play them from there. 0 when all were found.",
+         true, RunRelocate},
 };
 
 }  // namespace

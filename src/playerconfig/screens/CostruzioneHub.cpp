@@ -143,6 +143,9 @@ void frmPlayerConfig::Collega() {
     CambiaCodice([this, input, on] { codice_->Spunta(input, on); });
   };
   fraIngressiLogici->SuVaiAlFile = [this] { VaiAlFile(); };
+  for (Coppia* find : {Assegnazioni->picTrova, Pannello->picTrovaBrani}) {
+    connect(find, &QAbstractButton::clicked, this, [this] { TrovaMancanti(); });
+  }
   Assegnazioni->SuScelta = [this](std::int64_t code) {
     CambiaCodice([this, code] { codice_->Scegli(code); }, code != codice_->Codice());
   };
@@ -232,6 +235,11 @@ void frmPlayerConfig::RiempiAltro() {
   if (!layout_.picPlaylist && has("playlist.mdb")) {
     connect(menu.addAction(text("0130152")), &QAction::triggered, this, [this] { ApriPlaylist(); });
   }
+  QAction* find = menu.addAction(text("0130154"));
+  connect(find, &QAction::triggered, this, [this] { TrovaMancanti(); });
+  connect(&menu, &QMenu::aboutToShow, find, [this, find] {
+    find->setVisible(conto_.Cifre().Completo && conto_.Cifre().Mancanti > 0);
+  });
   connect(menu.addAction(text("0130156")), &QAction::triggered, this,
           [this] { Seriali->cmdCopiaFileManuale->click(); });
   QAction* eject = menu.addAction(text("0130158"));

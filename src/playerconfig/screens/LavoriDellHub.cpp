@@ -4,6 +4,7 @@
 #include "playerconfig/Salvataggio.h"
 #include "playerconfig/screens/frmPlayerConfig.h"
 #include "projects/CartellaProgetto.h"
+#include "projects/ParoleRitrovo.h"
 #include "reports/ReportProgetto.h"
 
 namespace kvr5 {
@@ -48,6 +49,10 @@ void frmPlayerConfig::Registra() {
     setEnabled(true);
   });
   Scheda->MostraStato(servizi_.FattiDellaScheda());
+}
+
+void frmPlayerConfig::TrovaMancanti() {
+  Lavora([this] { RitrovaEDillo(C(), servizi_.Progresso()); });
 }
 
 void frmPlayerConfig::Svuota() {

@@ -12,6 +12,7 @@
 #include "core/screens/Pagina.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
+#include "playerconfig/screens/PannelloModo.h"
 #include "playerconfig/screens/VociAssegnati.h"
 
 namespace kvr5 {
@@ -28,7 +29,10 @@ ListaAssegnati::ListaAssegnati(Contesto& contesto, QWidget* padre)
   lblCifre = NuovaEtichetta("lblCifre", {}, -1, this);
   Veste(*lblCifre, Carattere::Suggerimento, Ruolo::Attenuato);
   lblCifre->setWordWrap(true);
-  Corpo()->addWidget(lblCifre);
+  picTrova = NuovoTrova("picTrova", "lblTrova", this);
+  auto* figures = Riga({lblCifre, picTrova});
+  figures->setStretch(0, 1);
+  Corpo()->addLayout(figures);
   // What is highlighted is what is ticked, however the user came there.
   connect(lstAssegnati, &QListWidget::itemSelectionChanged, this, [this] {
     const auto chosen = lstAssegnati->selectedItems();
@@ -81,6 +85,7 @@ bool ListaAssegnati::Mostra(const ElencoAssegnati& elenco) {
   voci_->Misura(*lstAssegnati);
   lblCifre->setText(elenco.Righe.empty() ? Qs(TestoLingua(contesto_, "0130127"))
                                          : Qs(CifreAssegnati(contesto_, elenco)));
+  picTrova->setVisible(elenco.Mancanti > 0);
   lstAssegnati->doItemsLayout();
   lstAssegnati->verticalScrollBar()->setValue(top);
   return true;
@@ -111,6 +116,7 @@ void ListaAssegnati::Svuota(const char* chiave) {
   const QSignalBlocker quiet(lstAssegnati);
   lstAssegnati->clear();
   lblCifre->setText(Qs(TestoLingua(contesto_, chiave)));
+  picTrova->hide();
   Veste(*lblCifre, Carattere::Suggerimento, Ruolo::Avviso);
 }
 

@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 
+#include "core/screens/Coppia.h"
 #include "core/screens/Riquadro.h"
 #include "playerconfig/Assegnati.h"
 
@@ -19,6 +20,7 @@ class ListaAssegnati : public Riquadro {
 
   QListWidget* lstAssegnati;
   QLabel* lblCifre;
+  Coppia* picTrova;  ///< looks for the files that are missing; there only where some are
 
   /// False when these rows stand there already.
   bool Mostra(const ElencoAssegnati& elenco);

@@ -49,6 +49,13 @@ QString PictureOf(std::int16_t playerType) {
 
 }  // namespace
 
+Coppia* NuovoTrova(const char* nome, const char* etichetta, QWidget* padre) {
+  auto* button = new Coppia(nome, etichetta, QStringLiteral("Find"), "cerca", -1, padre);
+  button->ImpostaGenere(Coppia::Genere::Quieto);
+  button->hide();
+  return button;
+}
+
 PannelloModo::PannelloModo(QWidget* padre) : Riquadro("fraPannello", {}, -1, padre) {
   picPanel = new Disegno("picPanel", this);
   lblModoPanelBig = TestoLungo("lblModoPanelBig", QStringLiteral("Modalità"), this);
@@ -64,7 +71,9 @@ PannelloModo::PannelloModo(QWidget* padre) : Riquadro("fraPannello", {}, -1, pad
   Corpo()->addLayout(drawing, 4);
   Corpo()->addWidget(lblModoPanelBig);
   Corpo()->addWidget(lblSommario);
+  picTrovaBrani = NuovoTrova("picTrovaBrani", "lblTrovaBrani", this);
   Corpo()->addWidget(lblMancanti, 0, Qt::AlignHCenter);
+  Corpo()->addWidget(picTrovaBrani, 0, Qt::AlignHCenter);
   Corpo()->addStretch();
 }
 
@@ -82,6 +91,7 @@ void PannelloModo::Mostra(Contesto& contesto, const CifreProgetto& cifre, bool p
   const QString warning = Qs(AvvisoConto(contesto, cifre));
   lblMancanti->setText(warning);
   lblMancanti->setVisible(!warning.isEmpty());
+  picTrovaBrani->setVisible(cifre.Completo && cifre.Mancanti > 0);
 }
 
 }  // namespace kvr5

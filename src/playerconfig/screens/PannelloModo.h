@@ -7,6 +7,9 @@
 
 namespace kvr5 {
 
+/// The button that looks for missing files, hidden.
+Coppia* NuovoTrova(const char* nome, const char* etichetta, QWidget* padre);
+
 /// The field of a project that isn't on inputs: the drawing of its player, its mode, what its lists
 /// hold, and the button that leads to them.
 class PannelloModo : public Riquadro {
@@ -17,6 +20,7 @@ class PannelloModo : public Riquadro {
   QLabel* lblModoPanelBig;
   QLabel* lblSommario;
   EtichettaAvviso* lblMancanti;
+  Coppia* picTrovaBrani;  ///< looks for the files that are missing; there only where some are
 
   /// The drawing of a model, 1 to 4.
   void ImpostaModello(std::int16_t tipo);

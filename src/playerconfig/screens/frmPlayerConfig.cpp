@@ -103,6 +103,10 @@ void frmPlayerConfig::Localizza() {
   Opzioni->Localizza();
   fraIngressiLogici->Localizza();
   Assegnazioni->Localizza();
+  for (Coppia* find : {Assegnazioni->picTrova, Pannello->picTrovaBrani}) {
+    find->ImpostaScritta(SenzaMnemonico(Qs(TestoLingua(C(), "0130134"))));
+    find->setToolTip(Qs(TestoLingua(C(), "0130339")));
+  }
   fraFileName->Localizza();
   Scheda->Localizza();
   Barra->Localizza();

@@ -149,6 +149,7 @@ class frmPlayerConfig : public Form {
   void Registra();
   /// Deletes the card's files.
   void Svuota();
+  void TrovaMancanti();
   void Verifica();
   /// Leaves the card to the user: the hub hides until the bar that takes its place is closed.
   void CopiaManuale();

@@ -80,7 +80,6 @@ INSTANTIATE_TEST_SUITE_P(
 /// Texts that are there before the screen that asks for them.
 Keys WaitingKeys() {
   return {
-      "0130134", "0130154",  // finding missing files
       "0130155",             // giving copies their names back
       "0130196",             // what a recording leaves there
   };

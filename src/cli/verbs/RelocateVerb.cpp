@@ -1,0 +1,58 @@
+#include "cli/Interrupt.h"
+#include "cli/verbs/Verb.h"
+#include "core/ParoleCopia.h"
+#include "platform/FileOps.h"
+#include "projects/ParoleRitrovo.h"
+
+namespace kvr5::cli {
+namespace {
+
+class WithInterrupt : public OsservatoreRitrovo {
+ public:
+  bool Avanza(const std::string& /*cartella*/) override { return !Interrupt::Pressed(); }
+};
+
+std::string_view StateOf(const RigaRitrovata& row) {
+  return !row.Ora.empty() ? "found" : row.Dubbia ? "several" : "missing";
+}
+
+void Report(Session& session, const RigaRitrovata& row) {
+  const std::string_view state = StateOf(row);
+  const std::string place =
+      PercorsoPerPersone(session.Context(), (row.Ora.empty() ? row.Prima : row.Ora) + row.Nome);
+  if (session.Out().IsJson()) {
+    session.Out().Object({{"database", row.Database},
+                          {"ID", row.Id},
+                          {"file", row.Nome},
+                          {"state", state},
+                          {"path", row.Ora.empty() ? Json() : Json(place)}});
+  } else {
+    session.Out().Line(std::string(state) + ": " + place);
+  }
+}
+
+}  // namespace
+
+int RunRelocate(Session& session, const std::vector<std::string>& arguments) {
+  if (arguments.size() != 2) return kUsage;
+  if (const int status = session.OpenProject(arguments[0]); status != kDone) return status;
+  auto& context = session.Context();
+  const auto folder = context.Files.SystemPath(arguments[1]);
+  if (!folder || !FolderExists(context.Files, folder.Value())) {
+    session.Out().Say(arguments[1] + ": there is no such folder");
+    return kRefused;
+  }
+  const Interrupt cancel;
+  WithInterrupt observer;
+  const EsitoRitrovo outcome = RitrovaFile(context, folder.Value(), observer);
+  if (outcome.Annullato) {
+    session.Out().Say("cancelled; nothing was changed");
+    return kRefused;
+  }
+  for (const RigaRitrovata& row : outcome.Righe) Report(session, row);
+  if (outcome.Causa) session.Out().Say(outcome.Causa.Description());
+  const bool whole = !outcome.Causa && outcome.Trovati() == outcome.Righe.size();
+  return whole ? kDone : kRefused;
+}
+
+}  // namespace kvr5::cli

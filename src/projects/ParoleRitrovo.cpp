@@ -1,0 +1,83 @@
+#include "projects/ParoleRitrovo.h"
+
+#include <algorithm>
+#include <set>
+
+#include "core/Lingua.h"
+#include "core/Parole.h"
+#include "platform/FileOps.h"
+#include "platform/Fold.h"
+
+namespace kvr5 {
+namespace {
+
+/// The progress window's cancel ends the search.
+class WithCancel : public OsservatoreRitrovo {
+ public:
+  explicit WithCancel(Contesto& context) : context_(context) {}
+  bool Avanza(const std::string& /*cartella*/) override {
+    context_.Messaggi.LasciaCorrere();
+    return !context_.Stato.AnnullatoDaUtente;
+  }
+
+ private:
+  Contesto& context_;
+};
+
+/// The names of rows that were not found, each once, "a.mp3, b.mp3, ...".
+std::string NamesOf(const EsitoRitrovo& outcome, bool doubtful) {
+  constexpr std::size_t kNamed = 10;
+  std::set<std::string> told;
+  std::string names;
+  for (const RigaRitrovata& row : outcome.Righe) {
+    if (!row.Ora.empty() || row.Dubbia != doubtful || !told.insert(FoldCase(row.Nome)).second)
+      continue;
+    if (told.size() > kNamed) return names + ", ...";
+    names += (names.empty() ? "" : ", ") + SuUnaRiga(row.Nome);
+  }
+  return names;
+}
+
+std::string WordsOf(Contesto& context, const EsitoRitrovo& outcome) {
+  const auto text = [&](const char* key, const char* words) {
+    return TestoLinguaO(context, key, words);
+  };
+  if (outcome.Annullato) return text("0130335", "The search was stopped; nothing was changed.");
+  std::string words =
+      ConValori(text("0130336", "Found: %1 of %2"),
+                {std::to_string(outcome.Trovati()), std::to_string(outcome.Righe.size())});
+  const std::string doubtful = NamesOf(outcome, true);
+  const std::string missing = NamesOf(outcome, false);
+  if (!doubtful.empty()) {
+    words += "\r\n" + ConValori(text("0130337", "In several folders: %1"), {doubtful});
+  }
+  if (!missing.empty()) words += "\r\n" + ConValori(text("0130338", "Not found: %1"), {missing});
+  if (outcome.Causa) words += "\r\n" + outcome.Causa.Description();
+  return words;
+}
+
+}  // namespace
+
+Messaggio BoxRitrovo(Contesto& contesto, const EsitoRitrovo& esito) {
+  const bool whole = !esito.Annullato && !esito.Causa && esito.Trovati() == esito.Righe.size();
+  return {TestoLinguaO(contesto, "0130334", "Missing files"), WordsOf(contesto, esito),
+          whole ? Icona::Informazione : Icona::Avviso, Pulsanti::Ok, Risposta::Ok};
+}
+
+void RitrovaEDillo(Contesto& contesto, FinestraProgresso& progresso) {
+  const std::string folder = contesto.Finestre.SfogliaCartella(
+      TestoLinguaO(contesto, "0130332", "Look in this folder, and all below it"), {});
+  contesto.Messaggi.LasciaCorrere();
+  if (folder.empty() || !FolderExists(contesto.Files, folder)) return;
+  contesto.Stato.AnnullatoDaUtente = false;
+  contesto.Messaggi.ImpostaPuntatore(Puntatore::Attesa);
+  progresso.Operazione(TestoLinguaO(contesto, "0130333", "Looking for missing files"));
+  progresso.Mostra();
+  WithCancel observer(contesto);
+  const EsitoRitrovo outcome = RitrovaFile(contesto, folder, observer);
+  progresso.Scarica();
+  contesto.Messaggi.ImpostaPuntatore(Puntatore::Normale);
+  contesto.Finestre.MostraMessaggio(BoxRitrovo(contesto, outcome));
+}
+
+}  // namespace kvr5

@@ -1,0 +1,176 @@
+#include "projects/RitrovaFile.h"
+
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <map>
+#include <unordered_map>
+
+#include "core/Aiuti.h"
+#include "platform/FileOps.h"
+#include "platform/Fold.h"
+#include "platform/Path.h"
+#include "platform/db/Walk.h"
+#include "projects/CartellaProgetto.h"
+#include "projects/SommarioProgetto.h"
+
+namespace kvr5 {
+namespace {
+
+constexpr std::array kDatabases{"inputcfg.mdb", "playlist.mdb", "scheduler.mdb"};
+constexpr const char* kRows = "SELECT * FROM [List]";
+
+/// How many folders two paths have in common, from their ends upwards.
+std::size_t Likeness(std::string_view a, std::string_view b) {
+  std::size_t same = 0;
+  const auto bare = [](std::string_view path) {
+    while (path.ends_with('\\')) path.remove_suffix(1);
+    return path;
+  };
+  for (a = bare(a), b = bare(b); !a.empty() && !b.empty(); ++same) {
+    if (!EqualFold(LastName(a), LastName(b))) break;
+    const auto up = [&](std::string_view path) {
+      const std::string_view name = LastName(path);
+      return bare(path.substr(0, path.size() - name.size()));
+    };
+    a = up(a);
+    b = up(b);
+  }
+  return same;
+}
+
+/// One search; each method is one of its steps.
+class Search {
+ public:
+  Search(Contesto& context, OsservatoreRitrovo& observer)
+      : context_(context), observer_(observer) {}
+
+  EsitoRitrovo Run(const std::string& folder);
+
+ private:
+  void Gather(const char* database);
+  bool Look(const std::string& folder);
+  void Choose(RigaRitrovata& row) const;
+  void Write(const char* database);
+
+  Contesto& context_;
+  OsservatoreRitrovo& observer_;
+  EsitoRitrovo outcome_;
+  /// By name without regard to case: the folders that hold a file that is looked for.
+  std::unordered_map<std::string, std::vector<std::string>> places_;
+};
+
+EsitoRitrovo Search::Run(const std::string& folder) {
+  for (const char* database : kDatabases) Gather(database);
+  if (outcome_.Righe.empty()) return outcome_;
+  if (!Look(AggiungiBarra(folder))) {
+    outcome_.Annullato = true;
+    return outcome_;
+  }
+  for (RigaRitrovata& row : outcome_.Righe) Choose(row);
+  for (const char* database : kDatabases) Write(database);
+  return outcome_;
+}
+
+void Search::Gather(const char* database) {
+  const std::string path = FileDelProgetto(context_, database);
+  if (!FileExists(context_.Files, path)) return;
+  Connection connection(context_.Files);
+  Recordset rows;
+  Error error = connection.Open(path);
+  if (!error) error = rows.Open(connection, kRows);
+  if (!error) {
+    error = WalkRows(rows, [&] {
+      const RigaProgetto row{.Lista = database,
+                             .Alias = rows.Text("Alias"),
+                             .FilePath = rows.Text("FilePath"),
+                             .FileName = rows.Text("FileName")};
+      const auto id = rows.Get("ID");
+      if (!id || row.FileName.empty() || GrandezzaFile(context_, row)) return true;
+      outcome_.Righe.push_back({.Database = database,
+                                .Id = std::get<std::int64_t>(id.Value()),
+                                .Nome = row.FileName,
+                                .Prima = row.FilePath});
+      places_[FoldCase(row.FileName)];
+      return true;
+    });
+  }
+  if (error) outcome_.Causa = error;
+}
+
+/// False when it was cancelled. A folder that can't be listed is passed over.
+bool Search::Look(const std::string& folder) {
+  if (!observer_.Avanza(folder)) return false;
+  const auto entries = context_.Files.List(folder);
+  if (!entries) return true;
+  for (const FileInfo& entry : entries.Value()) {
+    if (entry.Unusable != NameFault::None) continue;
+    if (entry.IsFolder) {
+      if (!entry.IsLink && !Look(folder + entry.Name + "\\")) return false;
+      continue;
+    }
+    const auto wanted = places_.find(FoldCase(entry.Name));
+    if (wanted != places_.end()) wanted->second.push_back(folder);
+  }
+  return true;
+}
+
+void Search::Choose(RigaRitrovata& row) const {
+  const auto& folders = places_.at(FoldCase(row.Nome));
+  std::map<std::size_t, std::vector<const std::string*>, std::greater<>> byLikeness;
+  for (const std::string& each : folders) byLikeness[Likeness(each, row.Prima)].push_back(&each);
+  if (byLikeness.empty()) return;
+  const auto& nearest = byLikeness.begin()->second;
+  const std::string& first = *nearest.front();
+  row.Dubbia = !std::ranges::all_of(nearest, [&](const std::string* each) {
+    return each == nearest.front() ||
+           HoldTheSame(context_.Files, first + row.Nome, *each + row.Nome);
+  });
+  if (!row.Dubbia) row.Ora = first;
+}
+
+void Search::Write(const char* database) {
+  std::unordered_map<std::int64_t, const RigaRitrovata*> found;
+  for (const RigaRitrovata& row : outcome_.Righe) {
+    if (row.Database == database && !row.Ora.empty()) found.emplace(row.Id, &row);
+  }
+  if (found.empty()) return;
+  Connection connection(context_.Files);
+  Recordset rows;
+  Error error = connection.Open(FileDelProgetto(context_, database));
+  if (!error) error = rows.Open(connection, kRows);
+  Transaction all(connection);
+  Error failed;
+  if (!error) {
+    error = WalkRows(rows, [&] {
+      const auto id = rows.Get("ID");
+      const auto row = id ? found.find(std::get<std::int64_t>(id.Value())) : found.end();
+      if (row == found.end()) return true;
+      failed = rows.Set("FilePath", row->second->Ora);
+      if (!failed) failed = rows.Update();
+      return !failed;
+    });
+  }
+  const Error ended = all.End();
+  for (const Error& each : {error, failed, ended}) {
+    if (each) outcome_.Causa = each;
+  }
+  if (!error && !failed && !ended) return;
+  for (RigaRitrovata& row : outcome_.Righe) {
+    if (row.Database == database) row.Ora.clear();
+  }
+}
+
+}  // namespace
+
+std::size_t EsitoRitrovo::Trovati() const {
+  return static_cast<std::size_t>(
+      std::ranges::count_if(Righe, [](const RigaRitrovata& row) { return !row.Ora.empty(); }));
+}
+
+EsitoRitrovo RitrovaFile(Contesto& contesto, const std::string& cartella,
+                         OsservatoreRitrovo& osservatore) {
+  return Search(contesto, osservatore).Run(cartella);
+}
+
+}  // namespace kvr5
