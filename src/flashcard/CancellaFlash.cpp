@@ -23,13 +23,18 @@ std::string AsChosen(const Contesto& context, const std::string& card) {
   return card.size() == kRoot ? card : PercorsoPerPersone(context, card);
 }
 
+/// A failure as it is, but for 53: that number says that nothing was to be deleted.
+Error Unlike53(const Error& error) {
+  return error.Number() == errors::FileNotFound ? Error(errors::DeviceUnavailable) : error;
+}
+
 /// All plain files of the card's root but those that are read-only.
 Error DeletePlainFiles(FileSystem& files, const std::string& card) {
   bool found = false;
   for (const FileInfo& file : ListMatching(files, card + "*.*")) {
     if (file.ReadOnly) continue;
     found = true;
-    if (Error error = files.Delete(card + file.Name)) return error;
+    if (Error error = files.Delete(card + file.Name)) return Unlike53(error);
   }
   return found ? Error() : Error(errors::FileNotFound);
 }
@@ -38,7 +43,7 @@ Error DeletePlainFiles(FileSystem& files, const std::string& card) {
 /// have it back.
 Error Empty(FileSystem& files, const std::string& card) {
   Error error = DeletePlainFiles(files, card);
-  const Error flushed = files.SyncVolume(card);
+  const Error flushed = Unlike53(files.SyncVolume(card));
   return error ? error : flushed;
 }
 

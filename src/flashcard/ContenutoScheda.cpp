@@ -111,7 +111,7 @@ void Contents::AddRow(Passata pass, const RigaRaccolta& row) {
   Add({row.Alias.empty() ? std::string(LastName(row.FileMancante)) : row.Alias,
        {},
        rule,
-       row.FileMancante,
+       row.Perche == Mancanza::Nome ? row.Percorso : row.FileMancante,
        row.Perche});
 }
 

@@ -43,7 +43,7 @@ RigaRaccolta RaccogliRiga(Contesto& contesto, Passata passata, const Recordset& 
   // Every file sits in the card's root: a name that leads elsewhere is no alias. And the bar
   // divides the lists.
   if (!readable || alias.find_first_of("\\|") != std::string::npos) {
-    return {Fine::Manca, {}, {}, missing, Mancanza::Nome};
+    return {Fine::Manca, {}, {}, missing, tested, Mancanza::Nome};
   }
   const std::string target = AggiungiBarra(scheda) + alias;
   const std::string copy = FileDelProgetto(contesto, alias);
@@ -54,7 +54,7 @@ RigaRaccolta RaccogliRiga(Contesto& contesto, Passata passata, const Recordset& 
   }
   const std::string source = folder + name;
   const auto [end, why] = TakeSource(contesto, passata, source, tested, target, lista);
-  return {end, alias, source, end == Fine::Manca ? missing : std::string(), why};
+  return {end, alias, source, end == Fine::Manca ? missing : std::string(), tested, why};
 }
 
 EsitoPassata RaccogliMp3(Contesto& contesto, Passata passata, Recordset& righe, ListaCopia& lista,

@@ -38,6 +38,7 @@ struct RigaRaccolta {
   std::string Alias{};         ///< the name on the card; "" where the row's is no plain name
   std::string Sorgente{};      ///< the file that is copied
   std::string FileMancante{};  ///< as the message names it
+  std::string Percorso{};      ///< and with its folder
   Mancanza Perche = Mancanza::Nessuna;
 };
 

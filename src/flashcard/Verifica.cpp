@@ -39,6 +39,7 @@ class Verification {
   bool CardWentAway();
   Riscontro Missing(const FileDiScheda& file) const;
   Riscontro Unreadable(const FileDiScheda& file) const;
+  Mancanza SourceFault(const std::string& source) const;
   bool GoesOn() const { return !outcome_.Annullata && !outcome_.Sparita; }
   bool Compare(const FileDiScheda& file, const FileInfo& onCard);
   bool PlayerTakes(const FileDiScheda& file, const std::string& path);
@@ -46,6 +47,7 @@ class Verification {
   void CheckList(const FileInfo& list);
   void CheckEntry(const std::string& name);
   void FindStrays();
+  bool MayBeRows(const FileInfo& file) const;
 
   /// The card's file of a name; null where it holds none.
   const FileInfo* OnCard(std::string_view name) const {
@@ -77,13 +79,10 @@ class Verification {
 
 EsitoVerifica Verification::Run() {
   // What is still on its way to the card would be read from memory.
-  const bool present = observer_.Presente();
-  if (present) Ignora(context_.Files.SyncVolume(card_));
+  if (!observer_.Presente()) return {.SenzaScheda = true};
+  Ignora(context_.Files.SyncVolume(card_));
+  if (!ListCard()) return {.SenzaScheda = true};
   expected_ = ContenutoDellaScheda(context_);
-  if (!present || !ListCard()) {
-    outcome_.SenzaScheda = true;
-    return outcome_;
-  }
   CountBytes();
   CheckAll();
   if (GoesOn()) CheckLists();
@@ -151,16 +150,26 @@ bool Verification::CardWentAway() {
 /// A file that the card lacks; where a recording wouldn't find it either, with what it would miss.
 Riscontro Verification::Missing(const FileDiScheda& file) const {
   if (file.Sorgente.empty()) return {Difetto::Mancante, file.Nome, file.Cercato, file.Perche};
-  if (FileExists(context_.Files, file.Sorgente)) return {Difetto::Mancante, file.Nome};
-  return {Difetto::Mancante, file.Nome, file.Sorgente, Mancanza::Assente};
+  const Mancanza why = SourceFault(file.Sorgente);
+  if (why == Mancanza::Nessuna) return {Difetto::Mancante, file.Nome};
+  return {Difetto::Mancante, file.Nome, file.Sorgente, why};
 }
 
 /// A file that can't be compared, since the project's own can't be had.
 Riscontro Verification::Unreadable(const FileDiScheda& file) const {
   if (file.Sorgente.empty()) return {Difetto::NonLetto, file.Nome, file.Cercato, file.Perche};
-  const bool there = FileExists(context_.Files, file.Sorgente);
+  const Mancanza why = SourceFault(file.Sorgente);
   return {Difetto::NonLetto, file.Nome, file.Sorgente,
-          there ? Mancanza::Illeggibile : Mancanza::Assente};
+          why == Mancanza::Nessuna ? Mancanza::Illeggibile : why};
+}
+
+/// Why a recording couldn't copy a file of the project; Nessuna where it could.
+Mancanza Verification::SourceFault(const std::string& source) const {
+  if (context_.Files.Open(source, OpenMode::Read)) return Mancanza::Nessuna;
+  const Error error = context_.Files.Info(source).Err();
+  const bool gone =
+      error.Number() == errors::FileNotFound || error.Number() == errors::PathNotFound;
+  return gone ? Mancanza::Assente : Mancanza::Illeggibile;
 }
 
 /// False where the card's file can't be read.
@@ -234,13 +243,18 @@ void Verification::CheckEntry(const std::string& name) {
 
 void Verification::FindStrays() {
   for (const auto& [name, file] : onCard_) {
-    if (!taken_.contains(&file)) Find({Difetto::Estraneo, file.Name});
+    if (!taken_.contains(&file) && !MayBeRows(file)) Find({Difetto::Estraneo, file.Name});
   }
+}
+
+/// Where a database can't be read to its end, nobody knows which tracks are its own.
+bool Verification::MayBeRows(const FileInfo& file) const {
+  return !expected_.NonLetti.empty() && MatchesWildcard(file.Name, "*.mp3");
 }
 
 void Verification::Find(Riscontro finding) {
   const bool unchecked = finding.Tipo == Difetto::NonLetto;
-  unread_ = unread_ || unchecked;
+  unread_ = unread_ || (unchecked && finding.Perche == Mancanza::Nessuna);
   if (unchecked && !uncheckedTold_.insert(FoldCase(finding.File)).second) return;
   outcome_.Riscontri.push_back(std::move(finding));
   observer_.Trovato(outcome_.Riscontri.back());

@@ -146,11 +146,11 @@ TEST_F(VerificaRimedi, ADatabaseThatIsLockedOrDamagedIsToldAsThat) {
   const Riscontro found = Only(Difetto::NonLetto, "playlist.mdb");
   ExpectReason(found, Mancanza::Database, FileDelProgetto(b.C, "playlist.mdb"));
   ExpectRemedy(found,
-               "This database of the project can't be read: close other programs that use it, "
-               "then verify again. " +
+               "This database of the project can't be read: close other programs that use it; "
+               "if it stays so, it is damaged. " +
                    path,
                "Questo database del progetto non si legge: chiudere gli altri programmi che lo "
-               "usano, poi verificare di nuovo. " +
+               "usano; se resta così, è danneggiato. " +
                    path);
   for (const char* where : {"card/playlist.mdb", "program/Projects/Hall/playlist.mdb"}) {
     b.Cartella.Write(where, std::string(8192, '\0'));

@@ -161,8 +161,8 @@ TEST_F(VerificaGiri, ALockedDatabaseIsUncheckedAndFreeAgainNothingIsFound) {
     const std::string path = b.Cartella.Host() / InProject("playlist.mdb");
     ASSERT_EQ(sqlite3_open(path.c_str(), &other), SQLITE_OK);
     ASSERT_EQ(sqlite3_exec(other, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
-    const Names found = Verify();
-    EXPECT_EQ(std::ranges::count(found, "unchecked playlist.mdb"), 1);
+    // Its tracks are not told as strays, to be deleted: nobody knows which are its own.
+    EXPECT_EQ(Verify(), Names{"unchecked playlist.mdb"});
     sqlite3_close(other);
   }
   EXPECT_EQ(Verify(), Names{});

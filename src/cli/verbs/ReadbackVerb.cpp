@@ -3,7 +3,6 @@
 #include "cli/CardGiven.h"
 #include "cli/Interrupt.h"
 #include "cli/verbs/Verb.h"
-#include "core/Parole.h"
 #include "core/ParoleCopia.h"
 #include "platform/FileOps.h"
 #include "playerconfig/RientroDaScheda.h"
@@ -118,16 +117,16 @@ int RunReadback(Session& session, const std::vector<std::string>& arguments) {
   const EsitoLettura outcome = CaricaDaFlash(context, card, screen, progress);
   session.Line().Clear();
   if (outcome.Fine == FineLettura::SchedaVuota) {
-    session.Out().Say(parsed->Card + ": no file is on the card any more; the folder stays empty");
+    session.Out().Say(
+        OfCard(parsed->Card, "no file is on the card any more; the folder stays empty"));
   }
   if (const int status = StatusOf(outcome.Fine); status != kDone) return status;
-  const bool whole = !session.Copy().TakeFailure() && outcome.Lasciati.empty();
-  for (const std::string& name : outcome.Lasciati) {
-    session.Out().Say(SuUnaRiga(name) + ": not copied, since no card can hold a file of this name");
-  }
+  const bool copied = !session.Copy().TakeFailure();
+  AvvisaLasciati(context, outcome);
   const int status = Open(session, outcome.Cartella);
   if (status == kDone) Report(session, outcome.Cartella);
-  return whole ? status : kRefused;  // what it lacks, it lacks for that
+  if (!copied) return kRefused;  // what opening lacked, it lacked for that
+  return status == kDone && !outcome.Lasciati.empty() ? kRefused : status;
 }
 
 }  // namespace kvr5::cli

@@ -170,8 +170,8 @@ TEST_F(HubLayout, MoreLeadsToWhatAHiddenButtonWouldAndToTheFolder) {
   }
   const bool playlists = Trova<QWidget>("picPlaylist").isVisible();
   ASSERT_TRUE(playlists);
-  EXPECT_EQ(entries, (std::vector<std::string>{"Schedule…", "Copy by hand…", "Eject card",
-                                               "Open project folder"}));
+  EXPECT_EQ(entries, (std::vector<std::string>{"Schedule…", "Find missing files…", "Copy by hand…",
+                                               "Eject card", "Open project folder"}));
   hub->Barra->menuAltro.actions().back()->trigger();
   EXPECT_EQ(b.Documenti.Aperti, std::vector{b.C.Stato.CartellaProgetto});
 }
