@@ -59,7 +59,7 @@ Words RemedyOf(Mancanza why) {
     case Mancanza::Illeggibile:
       return {"0130315", "The project's own file can't be read. %1"};
     case Mancanza::Database:
-      return {"0130316", "This database can't be read: close other programs. %1"};
+      return {"0130316", "This database is in use, or damaged. %1"};
     case Mancanza::Assente:
     case Mancanza::Nessuna:
       break;

@@ -21,7 +21,10 @@ Taken TakeSource(Contesto& context, Passata pass, const std::string& source,
                  const std::string& tested, const std::string& target, ListaCopia& list) {
   const bool input = pass == Passata::Ingressi;
   if (source.find('|') != std::string::npos) return {Fine::Manca, Mancanza::Nome};
-  if (!input && !FileExists(context.Files, tested)) return {Fine::Manca, Mancanza::Assente};
+  if (!input && !FileExists(context.Files, tested)) {
+    const Mancanza why = PercheManca(context.Files, tested);
+    return {Fine::Manca, why == Mancanza::Nessuna ? Mancanza::Illeggibile : why};
+  }
   if (list.Contiene(source)) {
     return input ? Taken{Fine::Manca, Mancanza::Comune} : Taken{Fine::GiaPresente};
   }
@@ -30,6 +33,16 @@ Taken TakeSource(Contesto& context, Passata pass, const std::string& source,
 }
 
 }  // namespace
+
+Mancanza PercheManca(FileSystem& files, const std::string& percorso) {
+  if (files.Open(percorso, OpenMode::Read)) return Mancanza::Nessuna;
+  const auto info = files.Info(percorso);
+  if (info) return info.Value().IsFolder ? Mancanza::Assente : Mancanza::Illeggibile;
+  const int number = info.Err().Number();
+  const bool there = number == errors::PathFileAccess || number == errors::PermissionDenied ||
+                     number == errors::DeviceIo;
+  return there ? Mancanza::Illeggibile : Mancanza::Assente;
+}
 
 RigaRaccolta RaccogliRiga(Contesto& contesto, Passata passata, const Recordset& righe,
                           ListaCopia& lista, std::string_view scheda) {

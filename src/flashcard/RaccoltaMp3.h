@@ -26,6 +26,10 @@ enum class Mancanza {
   Database,     ///< it is a database that can't be read to its end
 };
 
+/// Why a recording couldn't read a file: Illeggibile where it is known to be there, else Assente;
+/// Nessuna where it can be opened.
+Mancanza PercheManca(FileSystem& files, const std::string& percorso);
+
 /// What a pass makes of one row.
 struct RigaRaccolta {
   enum class Fine {

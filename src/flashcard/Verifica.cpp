@@ -39,7 +39,6 @@ class Verification {
   bool CardWentAway();
   Riscontro Missing(const FileDiScheda& file) const;
   Riscontro Unreadable(const FileDiScheda& file) const;
-  Mancanza SourceFault(const std::string& source) const;
   bool GoesOn() const { return !outcome_.Annullata && !outcome_.Sparita; }
   bool Compare(const FileDiScheda& file, const FileInfo& onCard);
   bool PlayerTakes(const FileDiScheda& file, const std::string& path);
@@ -81,8 +80,8 @@ EsitoVerifica Verification::Run() {
   // What is still on its way to the card would be read from memory.
   if (!observer_.Presente()) return {.SenzaScheda = true};
   Ignora(context_.Files.SyncVolume(card_));
-  if (!ListCard()) return {.SenzaScheda = true};
   expected_ = ContenutoDellaScheda(context_);
+  if (!ListCard()) return {.SenzaScheda = true};
   CountBytes();
   CheckAll();
   if (GoesOn()) CheckLists();
@@ -150,7 +149,7 @@ bool Verification::CardWentAway() {
 /// A file that the card lacks; where a recording wouldn't find it either, with what it would miss.
 Riscontro Verification::Missing(const FileDiScheda& file) const {
   if (file.Sorgente.empty()) return {Difetto::Mancante, file.Nome, file.Cercato, file.Perche};
-  const Mancanza why = SourceFault(file.Sorgente);
+  const Mancanza why = PercheManca(context_.Files, file.Sorgente);
   if (why == Mancanza::Nessuna) return {Difetto::Mancante, file.Nome};
   return {Difetto::Mancante, file.Nome, file.Sorgente, why};
 }
@@ -158,18 +157,9 @@ Riscontro Verification::Missing(const FileDiScheda& file) const {
 /// A file that can't be compared, since the project's own can't be had.
 Riscontro Verification::Unreadable(const FileDiScheda& file) const {
   if (file.Sorgente.empty()) return {Difetto::NonLetto, file.Nome, file.Cercato, file.Perche};
-  const Mancanza why = SourceFault(file.Sorgente);
+  const Mancanza why = PercheManca(context_.Files, file.Sorgente);
   return {Difetto::NonLetto, file.Nome, file.Sorgente,
           why == Mancanza::Nessuna ? Mancanza::Illeggibile : why};
-}
-
-/// Why a recording couldn't copy a file of the project; Nessuna where it could.
-Mancanza Verification::SourceFault(const std::string& source) const {
-  if (context_.Files.Open(source, OpenMode::Read)) return Mancanza::Nessuna;
-  const Error error = context_.Files.Info(source).Err();
-  const bool gone =
-      error.Number() == errors::FileNotFound || error.Number() == errors::PathNotFound;
-  return gone ? Mancanza::Assente : Mancanza::Illeggibile;
 }
 
 /// False where the card's file can't be read.

@@ -128,7 +128,18 @@ TEST_F(CardTrouble, AReadbackThatLeftFilesOutSaysSoAndPrintsTheFolderWithStatus1
   const auto program = k.EseguiJson({"readback", k.Host("card")});
   EXPECT_EQ(program.Stato, 1);
   EXPECT_EQ(program.Oggetti(), Objects{(json{{"project", Project()}})});
-  EXPECT_EQ(program.Box().size(), 1U) << program.Errori;
+  ASSERT_EQ(program.Box().size(), 1U) << program.Errori;
+  EXPECT_EQ(program.Box()[0]["title"], "Not all of the card was copied");
+}
+
+TEST_F(CardTrouble, WhatOpeningLacksIsStatus3AlsoWhereFilesWereLeftOut) {
+  FreeTheName();
+  k.Cartella.Write("card/Aux.mp3", "x");
+  fs::remove(k.Host("card/Config.txt"));
+  const auto run = k.EseguiJson({"readback", k.Host("card")});
+  EXPECT_EQ(run.Stato, 3);
+  EXPECT_EQ(run.Uscita, "");
+  EXPECT_EQ(run.Box().size(), 2U) << run.Errori;
 }
 
 TEST_F(CardTrouble, ACopyThatFailedIsStatus1AlsoWhereAFileOfTheProjectIsMissingForIt) {

@@ -240,11 +240,15 @@ TEST_F(Svuotamento, TheFirstFailureEndsItAndWhatWasDeletedBeforeIsGone) {
 }
 
 TEST_F(Svuotamento, AFileThatGoesAwayMeanwhileIsNotAnEmptyCard) {
-  for (const char* name : {"a.mp3", "b.mp3"}) Put(name);
-  bench.Guasto->FailOperation(b.Percorso("card/b.mp3"), 0, errors::DeviceIo);
-  EXPECT_EQ(Erase(), FineSvuotamento::Fallita);
-  ExpectOutcome(kFailed);
-  EXPECT_EQ(bench.Guasto->FailedOperation(), "Delete");
+  for (const int error : {errors::DeviceIo, errors::FileNotFound}) {
+    SCOPED_TRACE(error);
+    for (const char* name : {"a.mp3", "b.mp3"}) Put(name);
+    bench.Guasto->FailOperation(b.Percorso("card/b.mp3"), 0, error);
+    EXPECT_EQ(Erase(), FineSvuotamento::Fallita);
+    ExpectOutcome(kFailed);
+    EXPECT_EQ(bench.Guasto->FailedOperation(), "Delete");
+    bench.Guasto->Repair();
+  }
 }
 
 TEST_F(Svuotamento, AnErrorOfBeforeOrAmidTheEventsIsNoFailure) {

@@ -85,6 +85,28 @@ TEST_F(VerificaRimedi, ANameOrPathThatNoCardAndNoListCanHoldIsToldAsThat) {
                    Host("music/e.mp3"));
 }
 
+TEST_F(VerificaRimedi, OfAnInputWithSuchAFolderTheFolderIsTold) {
+  Recorded(kInputs);
+  b.Cartella.Write("mu|sic/g.mp3", "x");
+  b.AggiungiRiga("inputcfg.mdb", 0, 9, "g.mp3", b.Percorso("mu|sic") + "\\", "9.mp3");
+  Verify();
+  ExpectReason(Only(Difetto::Mancante, "9.mp3"), Mancanza::Nome, b.Percorso("mu|sic") + "\\g.mp3");
+}
+
+TEST_F(VerificaRimedi, WhatIsOnNoDriveHereOrIsAFolderIsToBeLookedFor) {
+  Recorded(kInputs);
+  fs::create_directories(b.Cartella.Host() / "music/9.mp3");
+  for (const std::string& folder :
+       {std::string("\\\\server\\share\\"), std::string("Q:\\Music\\"), Music()}) {
+    SCOPED_TRACE(folder);
+    EXPECT_EQ(PercheManca(b.C.Files, folder + "9.mp3"), Mancanza::Assente);
+  }
+  b.Cartella.Write("music/there.mp3", "x");
+  EXPECT_EQ(PercheManca(b.C.Files, Music() + "there.mp3"), Mancanza::Nessuna);
+  bench.Guasto->FailOperation(Music() + "there.mp3", 0, errors::PermissionDenied);
+  EXPECT_EQ(PercheManca(b.C.Files, Music() + "there.mp3"), Mancanza::Illeggibile);
+}
+
 TEST_F(VerificaRimedi, ASourceThatIsGoneIsToldWithItsPath) {
   const std::string english =
       "The project's own file can't be had: look for it first, then record. ";

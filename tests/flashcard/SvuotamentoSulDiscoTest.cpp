@@ -68,6 +68,15 @@ TEST_F(SvuotamentoSulDisco, DeletesThatDidNotReachTheDeviceAreAFailure) {
   EXPECT_EQ(b.C.Errore.Last().Number(), errors::DeviceIo);
 }
 
+TEST_F(SvuotamentoSulDisco, AFolderThatIsGoneAtTheFlushIsNoEmptyCard) {
+  disk->SyncFailure = errors::FileNotFound;
+  FineSvuotamento end{};
+  EXPECT_EQ(Erase(end),
+            "The card wasn't erased. Check that it is in and its lock is open, then repeat.");
+  EXPECT_EQ(end, FineSvuotamento::Fallita);
+  EXPECT_EQ(b.C.Errore.Last().Number(), errors::DeviceUnavailable);
+}
+
 TEST_F(SvuotamentoSulDisco, WhereADeleteFailsThoseBeforeItAreStillSynced) {
   disk->Protect(b.Percorso("card/b.mp3"));
   FineSvuotamento end{};

@@ -121,5 +121,12 @@ TEST_F(VerificaSparita, TheHostIsAskedOncePerFileThatCannotBeReadAndNotForThoseA
                                  "of many files takes long";
 }
 
+TEST_F(VerificaSparita, ForFilesThatTheProjectLacksTheHostIsNotAskedAgain) {
+  Recorded(kBoth);
+  std::filesystem::remove_all(b.Cartella.Host() / "music");
+  EXPECT_FALSE(Look().empty());
+  EXPECT_EQ(watcher.Asked, 1);
+}
+
 }  // namespace
 }  // namespace kvr5

@@ -134,12 +134,5 @@ TEST(JetDamage, ARowMoreOrLessThanTheDefinitionSaysIsRefused) {
   }
 }
 
-TEST(JetDamage, AHoleOfTwoGigabytesIsReadWithoutReadingIt) {
-  // Cut by the size of a page, its middle missing: what belongs to the tables is at its start.
-  std::string content = Content("a_inputs");
-  content.resize(content.size() + 64 * kPage, '\0');
-  EXPECT_FALSE(Read(content).Guasto);
-}
-
 }  // namespace
 }  // namespace kvr5
