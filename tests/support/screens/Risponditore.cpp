@@ -17,8 +17,9 @@ constexpr int kPatience = 3000;  // milliseconds
 /// The screens over the hub that Esc leaves without saving anything.
 bool IsLeftByEsc(const QWidget& window) {
   static const std::set<QString> kNames{
-      QStringLiteral("frmSalva"), QStringLiteral("frmTempiFade"), QStringLiteral("frmPanelExtra"),
-      QStringLiteral("frmConfig485"), QStringLiteral("frmVerifica")};
+      QStringLiteral("frmSalva"),      QStringLiteral("frmTempiFade"),
+      QStringLiteral("frmPanelExtra"), QStringLiteral("frmConfig485"),
+      QStringLiteral("frmVerifica"),   QStringLiteral("QFileDialog")};
   return kNames.contains(window.objectName());
 }
 
