@@ -7,6 +7,7 @@
 #include "platform/FileOps.h"
 #include "platform/Path.h"
 #include "platform/TempName.h"
+#include "platform/db/Database.h"
 #include "platform/db/TableRows.h"
 #include "projects/CartellaProgetto.h"
 
@@ -155,6 +156,7 @@ bool TakingOver::CopyTable(jet::JetFile& original, Connection& connection, const
 bool TakingOver::Compare(jet::JetFile& original, Connection& connection, const char* table,
                          std::span<const WantedColumn> columns, DatabaseSubentrato& database) {
   TableRows target(connection, table, NamesOf(columns));
+  const ReadScope one(*connection.Base());
   std::int64_t rows = 0;
   bool same = true;
   database.Guasto = original.Read(table, columns, [&](const std::vector<DbValue>& row) {
