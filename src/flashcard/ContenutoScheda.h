@@ -7,13 +7,13 @@
 
 #include "core/Contesto.h"
 #include "flashcard/RaccoltaMp3.h"
+#include "projects/CartellaProgetto.h"
 
 namespace kvr5 {
 
 /// The project's own files that a recording copies, in the order of its stages.
 namespace contenuto_scheda {
-inline constexpr std::array<const char*, 3> kDatabase{"inputcfg.mdb", "playlist.mdb",
-                                                      "scheduler.mdb"};
+inline constexpr const auto& kDatabase = kDatabaseProgetto;
 inline constexpr std::array<const char*, 2> kConfigurazione{"Config.txt", "Config.cfg"};
 inline constexpr const char* kListe = "*.m3u";
 /// The lists for use on the computer; where playlists have names they stay in the project.

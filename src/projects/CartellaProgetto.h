@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -8,6 +9,10 @@
 #include "core/Contesto.h"
 
 namespace kvr5 {
+
+/// The databases that a project may have, in the order of a recording.
+inline constexpr std::array<const char*, 3> kDatabaseProgetto{"inputcfg.mdb", "playlist.mdb",
+                                                              "scheduler.mdb"};
 
 /// True when a project of this kind has no inputcfg.mdb, so that its absence is no fault: model 2
 /// with configuration 3 and more, models 3 and 4 in mode 2 and more.

@@ -13,7 +13,7 @@ namespace kvr5 {
 
 ContoProgetto::Firma ContoProgetto::FirmaOra() const {
   Firma now;
-  for (const char* name : {"inputcfg.mdb", "playlist.mdb", "scheduler.mdb"}) {
+  for (const char* name : kDatabaseProgetto) {
     const auto file = contesto_.Files.Info(FileDelProgetto(contesto_, name));
     now.emplace_back(file ? file.Value().Size : 0, file ? file.Value().Modified : 0);
   }

@@ -1,7 +1,6 @@
 #include "projects/RitrovaFile.h"
 
 #include <algorithm>
-#include <array>
 #include <functional>
 #include <map>
 #include <unordered_map>
@@ -17,7 +16,6 @@
 namespace kvr5 {
 namespace {
 
-constexpr std::array kDatabases{"inputcfg.mdb", "playlist.mdb", "scheduler.mdb"};
 constexpr const char* kRows = "SELECT * FROM [List]";
 
 /// How many folders two paths have in common, from their ends upwards.
@@ -48,7 +46,7 @@ class Search {
   EsitoRitrovo Run(const std::string& folder);
 
  private:
-  void Gather(const char* database);
+  void Gather();
   bool Look(const std::string& folder);
   void Choose(RigaRitrovata& row) const;
   void Write(const char* database);
@@ -61,41 +59,28 @@ class Search {
 };
 
 EsitoRitrovo Search::Run(const std::string& folder) {
-  for (const char* database : kDatabases) Gather(database);
+  Gather();
   if (outcome_.Righe.empty()) return outcome_;
   if (!Look(AggiungiBarra(folder))) {
     outcome_.Annullato = true;
     return outcome_;
   }
   for (RigaRitrovata& row : outcome_.Righe) Choose(row);
-  for (const char* database : kDatabases) Write(database);
+  for (const char* database : kDatabaseProgetto) Write(database);
   return outcome_;
 }
 
-void Search::Gather(const char* database) {
-  const std::string path = FileDelProgetto(context_, database);
-  if (!FileExists(context_.Files, path)) return;
-  Connection connection(context_.Files);
-  Recordset rows;
-  Error error = connection.Open(path);
-  if (!error) error = rows.Open(connection, kRows);
-  if (!error) {
-    error = WalkRows(rows, [&] {
-      const RigaProgetto row{.Lista = database,
-                             .Alias = rows.Text("Alias"),
-                             .FilePath = rows.Text("FilePath"),
-                             .FileName = rows.Text("FileName")};
-      const auto id = rows.Get("ID");
-      if (!id || row.FileName.empty() || GrandezzaFile(context_, row)) return true;
-      outcome_.Righe.push_back({.Database = database,
-                                .Id = std::get<std::int64_t>(id.Value()),
-                                .Nome = row.FileName,
-                                .Prima = row.FilePath});
+void Search::Gather() {
+  const SommarioProgetto summary = LeggiSommario(context_);
+  for (const auto* list : {&summary.Ingressi, &summary.Brani, &summary.Spot}) {
+    for (const RigaProgetto& row : *list) {
+      if (!row.Mancante || row.FileName.empty()) continue;
+      outcome_.Righe.push_back(
+          {.Database = row.Lista, .Id = row.Id, .Nome = row.FileName, .Prima = row.FilePath});
       places_[FoldCase(row.FileName)];
-      return true;
-    });
+    }
   }
-  if (error) outcome_.Causa = error;
+  if (!summary.Guasti.empty()) outcome_.Causa = Error(errors::CannotOpen, summary.Guasti.back());
 }
 
 /// False when it was cancelled. A folder that can't be listed is passed over.

@@ -24,6 +24,7 @@ RigaProgetto ReadRow(const std::string& database, const Recordset& rows) {
           rows.Text("Alias"),
           rows.Text("FilePath"),
           rows.Text("FileName"),
+          rows.Number("ID"),
           false};
 }
 

@@ -21,6 +21,7 @@ struct RigaProgetto {
   std::string Alias;  ///< "" until assigned
   std::string FilePath;
   std::string FileName;
+  std::int64_t Id = 0;
   bool Mancante = false;  ///< neither the source nor the alias copy in the project exists
 };
 

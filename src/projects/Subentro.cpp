@@ -17,7 +17,6 @@ namespace {
 using jet::Wanted;
 using jet::WantedColumn;
 
-constexpr std::array kDatabases{"inputcfg.mdb", "playlist.mdb", "scheduler.mdb"};
 constexpr const char* kOriginals = "Originals";
 
 constexpr std::array<WantedColumn, 7> kList{{{"ID", Wanted::Counter},
@@ -86,7 +85,7 @@ EsitoSubentro TakingOver::Run() {
 
 void TakingOver::Gather() {
   outcome_.Originali = AggiungiBarra(context_.Stato.CartellaProgetto) + kOriginals;
-  for (const char* name : kDatabases) {
+  for (const char* name : kDatabaseProgetto) {
     const std::string path = files_.BehindLink(FileDelProgetto(context_, name));
     if (!FileExists(files_, path) || !jet::HasSignature(files_, path)) continue;
     works_.push_back({.Path = path, .New = JoinPath(FolderOf(path), NewTempName())});

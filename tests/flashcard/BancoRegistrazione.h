@@ -7,29 +7,9 @@
 
 #include "flashcard/Registrazione.h"
 #include "support/Banco.h"
+#include "support/SceltaDaProva.h"
 
 namespace kvr5::test {
-
-/// The card dialog of a test: gives a card, or is left.
-class SceltaFinta : public SelezioneFlash {
- public:
-  explicit SceltaFinta(StatoApplicazione& state) : state_(state) {}
-  void Scegli() override {
-    ++Times;
-    state_.SelezioneFlashAnnullata = Cancelled;
-    if (!Card.empty()) state_.PercorsoMemoryCard = Card;
-  }
-
-  bool Presente() const override { return !Gone; }
-
-  int Times = 0;
-  bool Gone = false;
-  bool Cancelled = false;
-  std::string Card;
-
- private:
-  StatoApplicazione& state_;
-};
 
 /// A project named Hall, three files of music and an empty card.
 class Recording : public testing::Test {
@@ -53,6 +33,14 @@ class Recording : public testing::Test {
   }
   std::vector<std::string> Card() const { return b.Nomi("card"); }
   std::string OnCard(const std::string& name) const { return b.Cartella.Read("card/" + name); }
+  /// The box of a card that can't be written.
+  void ExpectUnwritable() {
+    ExpectBox(
+        "Recording not started",
+        "Nothing was copied: this card isn't there or can't be written. Open its lock or put it "
+        "back in, then repeat.",
+        0);
+  }
   void ExpectBox(const std::string& title, const std::string& text, std::uint32_t colour) {
     const auto box = b.Finestre.Prossimo();
     EXPECT_TRUE(box.SiNo);
@@ -67,7 +55,7 @@ class Recording : public testing::Test {
   StatoApplicazione& s = b.C.Stato;
   TabellaIngressi inputs{b.C};
   FinestraProgresso progress{b.C};
-  SceltaFinta choice{b.C.Stato};
+  SceltaDaProva choice{b.C.Stato};
   EsitoRegistrazione outcome;  ///< of the last Record
 };
 

@@ -104,11 +104,7 @@ TEST_F(Recording, ACardThatIsNotThereIsToldBeforeAnythingElse) {
   for (const auto& card : {b.Percorso("gone") + "\\", std::string("X:\\")}) {
     s.PercorsoMemoryCard = card;
     EXPECT_EQ(Record(), FineRegistrazione::NonScrivibile);
-    ExpectBox(
-        "Recording not started",
-        "Nothing was copied: this card isn't there or can't be written. Open its lock or put it "
-        "back in, then repeat.",
-        0);
+    ExpectUnwritable();
     EXPECT_FALSE(progress.Caricata());
   }
 }
@@ -318,11 +314,11 @@ TEST_F(Recording, ACardThatIsChosenMeanwhileIsTheNextOnes) {
 
 TEST_F(Recording, ACardThatTheHostHasNoMoreGetsNothingThoughItsFolderIsThere) {
   Project(4, 1);
-  choice.Gone = true;
+  choice.Gone = [] { return true; };
   EXPECT_EQ(Record(), FineRegistrazione::NonScrivibile);
   EXPECT_EQ(b.Finestre.Prossimo().Titolo, "Recording not started");
   EXPECT_TRUE(Card().empty());
-  choice.Gone = false;
+  choice.Gone = [] { return false; };
   EXPECT_EQ(Record(), FineRegistrazione::Compiuta);
   EXPECT_TRUE(b.Cartella.Exists("card/Config.txt"));
 }

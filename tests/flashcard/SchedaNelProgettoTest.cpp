@@ -35,11 +35,7 @@ TEST_F(RecordingOntoItself, IsToldAsNotWritableAndChangesNothingHoweverTheFolder
     SCOPED_TRACE(card);
     s.PercorsoMemoryCard = card;
     EXPECT_EQ(Record(), FineRegistrazione::NonScrivibile);
-    ExpectBox(
-        "Recording not started",
-        "Nothing was copied: this card isn't there or can't be written. Open its lock or put it "
-        "back in, then repeat.",
-        0);
+    ExpectUnwritable();
     EXPECT_EQ(b.C.Errore.Last().Number(), errors::PathFileAccess);
     EXPECT_EQ(outcome.File, 0U);
     EXPECT_FALSE(progress.Caricata());

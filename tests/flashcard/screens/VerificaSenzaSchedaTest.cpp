@@ -3,9 +3,8 @@
 #include <filesystem>
 
 #include "core/screens/Testo.h"
-#include "flashcard/screens/frmVerifica.h"
+#include "flashcard/screens/ProvaVerifica.h"
 #include "support/screens/Frattempo.h"
-#include "support/screens/ProvaForm.h"
 
 // The window of a verification whose card the host has no more, and where its keyboard is.
 
@@ -15,23 +14,15 @@ namespace {
 using namespace test;
 namespace fs = std::filesystem;
 
-class VerificaSenzaScheda : public ProvaForm<frmVerifica, Boxes::Veri> {
+class VerificaSenzaScheda : public ProvaVerifica {
  protected:
   void SetUp() override {
-    b.CreaProgetto("Hall", 4, 1);
-    b.ScriviMp3("music/a.mp3", 1, 40);
-    b.AggiungiRiga("inputcfg.mdb", 1, 5, "a.mp3", b.Percorso("music") + "\\", "5.mp3");
-    for (const char* name : {"inputcfg.mdb", "Config.txt", "Config.cfg"}) {
-      fs::copy(Host(std::string("program/Projects/Hall/") + name), Host("card") / name);
-    }
-    fs::copy(Host("music/a.mp3"), Host("card/5.mp3"));
-    b.C.Stato.PercorsoMemoryCard = b.Percorso("card") + "\\";
+    ProvaVerifica::SetUp();
     forma->SchedaPresente = [this] {
       ++asked;
       return !gone;
     };
   }
-  fs::path Host(const std::string& name) const { return b.Cartella.Host() / name; }
   /// A picture of the report that takes many pieces to compare and no room on the disk.
   void AddLarge() const {
     for (const char* folder : {"card", "program/Projects/Hall"}) {

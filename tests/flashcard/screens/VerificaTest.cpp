@@ -7,9 +7,8 @@
 
 #include "core/Lingua.h"
 #include "core/screens/Testo.h"
-#include "flashcard/screens/frmVerifica.h"
+#include "flashcard/screens/ProvaVerifica.h"
 #include "support/screens/Frattempo.h"
-#include "support/screens/ProvaForm.h"
 
 // The window that compares the card with the open project.
 
@@ -23,20 +22,8 @@ using Rows = std::vector<std::string>;
 constexpr std::uintmax_t kLarge = 64U << 20U;     // bytes that take many pieces to compare
 constexpr std::uintmax_t kVeryLarge = 1U << 30U;  // and that take longer than a look at the state
 
-class VerificaDellaScheda : public ProvaForm<frmVerifica, Boxes::Veri> {
+class VerificaDellaScheda : public ProvaVerifica {
  protected:
-  void SetUp() override {
-    b.CreaProgetto("Hall", 4, 1);
-    b.ScriviMp3("music/a.mp3", 1, 40);
-    b.AggiungiRiga("inputcfg.mdb", 1, 5, "a.mp3", b.Percorso("music") + "\\", "5.mp3");
-    for (const char* name : {"inputcfg.mdb", "Config.txt", "Config.cfg"}) {
-      fs::copy(Host(std::string("program/Projects/Hall/") + name), Host("card") / name);
-    }
-    fs::copy(Host("music/a.mp3"), Host("card/5.mp3"));
-    b.C.Stato.PercorsoMemoryCard = b.Percorso("card") + "\\";
-  }
-  fs::path Host(const std::string& name) const { return b.Cartella.Host() / name; }
-
   /// A picture of the report; it takes no room on the disk.
   void AddLarge(std::uintmax_t size = kLarge) const {
     for (const char* folder : {"card", "program/Projects/Hall"}) {
