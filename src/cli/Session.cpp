@@ -8,6 +8,8 @@
 #include "core/Lingua.h"
 #include "platform/FileOps.h"
 #include "projects/ApriProgetto.h"
+#include "projects/CartellaProgetto.h"
+#include "projects/Subentro.h"
 
 namespace kvr5::cli {
 namespace {
@@ -83,6 +85,21 @@ bool Session::Start() {
 }
 
 int Session::OpenProject(const std::string& project) {
+  const int status = OpenAsItIs(project);
+  if (status != kDone) return status;
+  std::string names;
+  for (const std::string& name : DatabaseDaSubentrare(*context_)) {
+    if (!jet::HasSignature(files_, FileDelProgetto(*context_, name))) continue;  // merely damaged
+    names += (names.empty() ? "" : ", ") + name;
+  }
+  if (!names.empty()) {
+    output_.Say(project + ": not read, as of an earlier program: " + names +
+                "; \"kvr5card takeover\" takes over what that made");
+  }
+  return kDone;
+}
+
+int Session::OpenAsItIs(const std::string& project) {
   auto& context = *context_;
   const bool isFolder = project.find_first_of("/\\:") != std::string::npos;
   const auto folder = files_.SystemPath(

@@ -39,8 +39,11 @@ class Session {
   /// Reads language, options and projects folder, as every start of the program does. False when
   /// the language that was asked for isn't there (told).
   bool Start();
-  /// Opens a project by name or folder. 0, or the status to end with (told).
+  /// Opens a project by name or folder. 0, or the status to end with (told). Databases that were
+  /// not taken over yet are told, as no verb reads them; it goes on as with any unreadable one.
   int OpenProject(const std::string& project);
+  /// The same without a word of them, for the taking over itself.
+  int OpenAsItIs(const std::string& project);
   /// Whether a file of the open project can be read (told if not); a missing one counts as
   /// readable, as its routines have their own words for that.
   bool CanRead(std::string_view name);

@@ -34,6 +34,7 @@ void ContoProgetto::Comincia(bool daCapo) {
   letta_.reset();
   if (latest->second + kSettled < std::int64_t{std::time(nullptr)}) letta_ = std::move(now);
   cifre_.Mancanti = 0;
+  cifre_.MancantiIngressi = 0;
   cifre_.Byte = 0;
   prossima_ = 0;
   visti_.clear();
@@ -83,6 +84,7 @@ void ContoProgetto::Guarda(const RigaProgetto& riga) {
   const auto size = GrandezzaFile(contesto_, riga);
   if (!size) {
     ++cifre_.Mancanti;
+    if (riga.Lista == kDatabaseProgetto.front()) ++cifre_.MancantiIngressi;
   } else if (visti_.insert(FoldCase(AggiungiBarra(riga.FilePath) + riga.FileName)).second) {
     cifre_.Byte += *size;
   }

@@ -19,10 +19,11 @@ struct CifreProgetto {
   std::size_t Brani = 0;
   std::size_t Segmenti = 0;
   std::size_t Spot = 0;
-  std::size_t Mancanti = 0;  ///< rows whose file can't be found
-  std::uint64_t Byte = 0;    ///< of the files that were found, each source once
-  bool Completo = false;     ///< every file was looked for
-  std::string Illeggibile;   ///< a database whose rows aren't all counted, "" for none
+  std::size_t Mancanti = 0;          ///< rows whose file can't be found
+  std::size_t MancantiIngressi = 0;  ///< those of them that are of inputs
+  std::uint64_t Byte = 0;            ///< of the files that were found, each source once
+  bool Completo = false;             ///< every file was looked for
+  std::string Illeggibile;           ///< a database whose rows aren't all counted, "" for none
   bool operator==(const CifreProgetto&) const = default;
 };
 

@@ -1,5 +1,7 @@
 #include "projects/ParoleSubentro.h"
 
+#include <algorithm>
+
 #include "core/Lingua.h"
 #include "core/Parole.h"
 #include "core/ParoleCopia.h"
@@ -12,6 +14,28 @@ struct Words {
   const char* Key;
   const char* Fallback;
 };
+
+/// The title and the first line of a box.
+struct Heading {
+  Words Title;
+  Words First;
+};
+
+constexpr Heading kTaken{{"0130319", "Project taken over"},
+                         {"0130320", "Its lists were taken over:"}};
+constexpr Heading kHalfTaken{{"0130321", "Project not taken over"},
+                             {"0130330", "Not all lists were taken over:"}};
+constexpr Heading kNotTaken{{"0130321", "Project not taken over"},
+                            {"0130322", "Nothing was changed:"}};
+constexpr Heading kUnreadable{{"0130340", "Lists can't be read"},
+                              {"0130341", "Nothing was changed:"}};
+
+Heading HeadingOf(const EsitoSubentro& outcome) {
+  if (outcome.Fine == FineSubentro::Compiuto) return kTaken;
+  if (outcome.Cambiato) return kHalfTaken;
+  const bool old = std::ranges::any_of(outcome.Database, &DatabaseSubentrato::DiJet);
+  return old ? kNotTaken : kUnreadable;
+}
 
 Words WordsOf(jet::Fault fault) {
   switch (fault) {
@@ -55,28 +79,26 @@ std::string SubentroInParole(Contesto& contesto, const DatabaseSubentrato& datab
 
 Messaggio BoxSubentro(Contesto& contesto, const EsitoSubentro& esito) {
   std::string lines;
+  const bool done = esito.Fine == FineSubentro::Compiuto;
   for (const DatabaseSubentrato& each : esito.Database) {
-    lines += "\r\n" + SubentroInParole(contesto, each);
+    if (done || !each.Riuscito()) lines += "\r\n" + SubentroInParole(contesto, each);
   }
-  if (esito.Fine == FineSubentro::Compiuto) {
+  const Heading heading = HeadingOf(esito);
+  if (done) {
     const std::string where = PercorsoPerPersone(contesto, esito.Originali);
     lines +=
         "\r\n" + ConValori(TestoLinguaO(contesto, "0130331", "The originals are in %1"), {where});
-    return {TestoLinguaO(contesto, "0130319", "Project taken over"),
-            TestoLinguaO(contesto, "0130320", "Its lists were taken over:") + lines,
-            Icona::Informazione, Pulsanti::Ok, Risposta::Ok};
   }
-  const Words words = esito.Cambiato ? Words{"0130330", "Not all lists were taken over:"}
-                                     : Words{"0130322", "Nothing was changed:"};
-  return {TestoLinguaO(contesto, "0130321", "Project not taken over"),
-          TextOf(contesto, words) + lines, Icona::Avviso, Pulsanti::Ok, Risposta::Ok};
+  return {TextOf(contesto, heading.Title), TextOf(contesto, heading.First) + lines,
+          done ? Icona::Informazione : Icona::Avviso, Pulsanti::Ok, Risposta::Ok};
 }
 
-void SubentraEDillo(Contesto& contesto) {
+FineSubentro SubentraEDillo(Contesto& contesto) {
   const EsitoSubentro outcome = SubentraNeiDatabase(contesto);
   if (outcome.Fine != FineSubentro::Nulla) {
     contesto.Finestre.MostraMessaggio(BoxSubentro(contesto, outcome));
   }
+  return outcome.Fine;
 }
 
 }  // namespace kvr5

@@ -18,23 +18,24 @@ namespace {
 
 constexpr const char* kRows = "SELECT * FROM [List]";
 
-/// How many folders two paths have in common, from their ends upwards.
-std::size_t Likeness(std::string_view a, std::string_view b) {
-  std::size_t same = 0;
-  const auto bare = [](std::string_view path) {
-    while (path.ends_with('\\')) path.remove_suffix(1);
-    return path;
-  };
-  for (a = bare(a), b = bare(b); !a.empty() && !b.empty(); ++same) {
-    if (!EqualFold(LastName(a), LastName(b))) break;
-    const auto up = [&](std::string_view path) {
-      const std::string_view name = LastName(path);
-      return bare(path.substr(0, path.size() - name.size()));
-    };
-    a = up(a);
-    b = up(b);
+/// The folders of a path from its end upwards, whichever bar divides them.
+std::vector<std::string_view> FoldersOf(std::string_view path) {
+  constexpr std::string_view kBars = "\\/";
+  std::vector<std::string_view> folders;
+  while (!path.empty()) {
+    const std::size_t bar = path.find_last_of(kBars);
+    const std::size_t begin = bar == std::string_view::npos ? 0 : bar + 1;
+    if (begin < path.size()) folders.push_back(path.substr(begin));
+    path = path.substr(0, begin == 0 ? 0 : bar);
   }
-  return same;
+  return folders;
+}
+
+/// How many folders two paths have in common, from their ends upwards.
+std::size_t Likeness(std::string_view a, const std::vector<std::string_view>& b) {
+  const auto folders = FoldersOf(a);
+  return static_cast<std::size_t>(std::ranges::mismatch(folders, b, EqualFold).in1 -
+                                  folders.begin());
 }
 
 /// One search; each method is one of its steps.
@@ -89,7 +90,9 @@ bool Search::Look(const std::string& folder) {
   const auto entries = context_.Files.List(folder);
   if (!entries) return true;
   for (const FileInfo& entry : entries.Value()) {
-    if (entry.Unusable != NameFault::None) continue;
+    // What a copy of a folder leaves out, and a desktop's folder of deleted files.
+    if (entry.Unusable != NameFault::None || entry.Hidden || entry.System) continue;
+    if (EqualFold(entry.Name, "$RECYCLE.BIN")) continue;
     if (entry.IsFolder) {
       if (!entry.IsLink && !Look(folder + entry.Name + "\\")) return false;
       continue;
@@ -102,8 +105,11 @@ bool Search::Look(const std::string& folder) {
 
 void Search::Choose(RigaRitrovata& row) const {
   const auto& folders = places_.at(FoldCase(row.Nome));
+  std::vector<std::string_view> before = FoldersOf(row.Prima);
+  // Some rows name the file itself in place of its folder.
+  if (!before.empty() && EqualFold(before.front(), row.Nome)) before.erase(before.begin());
   std::map<std::size_t, std::vector<const std::string*>, std::greater<>> byLikeness;
-  for (const std::string& each : folders) byLikeness[Likeness(each, row.Prima)].push_back(&each);
+  for (const std::string& each : folders) byLikeness[Likeness(each, before)].push_back(&each);
   if (byLikeness.empty()) return;
   const auto& nearest = byLikeness.begin()->second;
   const std::string& first = *nearest.front();

@@ -14,8 +14,8 @@ struct RigaRitrovata {
   std::string Database;  ///< "playlist.mdb"
   std::int64_t Id = 0;
   std::string Nome;
-  std::string Prima;  ///< the folder that the row names, as it is stored
-  std::string Ora{};  ///< the folder where the file was found, with its closing bar; "" for none
+  std::string Prima{};  ///< the folder that the row names, as it is stored
+  std::string Ora{};    ///< the folder where the file was found, with its closing bar; "" for none
   bool Dubbia =
       false;  ///< several files of this name lie there, and none is nearer than the others
 };

@@ -40,6 +40,12 @@ TEST_F(RelocateVerb, ProgramsGetAnObjectForEachRow) {
                                                {"path", nullptr}}}));
 }
 
+TEST_F(RelocateVerb, PathsAreWholeWhateverTheRowNames) {
+  k.AggiungiRiga("playlist.mdb", 1, 2, "b.mp3", "\\\\server\\share", "");
+  EXPECT_EQ(k.Esegui({"relocate", "Hall", k.Host("new")}).Uscita,
+            "found: " + k.Host("new/Jazz/a.mp3") + "\nmissing: //server/share/b.mp3\n");
+}
+
 TEST_F(RelocateVerb, TakesAProjectAndAFolder) {
   EXPECT_EQ(k.Esegui({"relocate", "Hall"}).Stato, 2);
   EXPECT_EQ(k.Esegui({"relocate", "Hall", k.Host("nowhere")}).Stato, 1);

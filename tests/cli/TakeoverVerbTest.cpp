@@ -2,6 +2,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <fstream>
 
@@ -96,6 +97,22 @@ TEST_F(TakeoverVerb, AProjectOfOursHasNothingToBeTakenOver) {
   EXPECT_NE(run.Errori.find("nothing is to be taken over"), std::string::npos) << run.Errori;
 }
 
+TEST_F(TakeoverVerb, OtherVerbsTellOfDatabasesThatWereNotTakenOverAndChangeNothing) {
+  Put("a_inputs", "inputcfg.mdb");
+  for (const char* verb : {"show", "save", "report"}) {
+    const auto run = k.Esegui({verb, "Hall"});
+    EXPECT_NE(run.Errori.find("not read, as of an earlier program: inputcfg.mdb"),
+              std::string::npos)
+        << verb << run.Errori;
+    EXPECT_NE(run.Errori.find("kvr5card takeover"), std::string::npos) << run.Errori;
+  }
+  const auto listed = k.EseguiJson({"inputs", "Hall", "list"});
+  EXPECT_NE(listed.Stato, 0);
+  EXPECT_TRUE(Bytes("inputcfg.mdb") == Sample("a_inputs"));
+  ASSERT_EQ(k.Esegui({"takeover", "Hall"}).Stato, 0);
+  EXPECT_EQ(k.Esegui({"show", "Hall"}).Errori.find("earlier program"), std::string::npos);
+}
+
 TEST_F(TakeoverVerb, TakesOneProject) {
   EXPECT_EQ(k.Esegui({"takeover"}).Stato, 2);
   EXPECT_EQ(k.Esegui({"takeover", "Hall", "Shop"}).Stato, 2);
@@ -103,16 +120,39 @@ TEST_F(TakeoverVerb, TakesOneProject) {
   EXPECT_EQ(k.Esegui({"takeover", "Nowhere"}).Stato, 3);
 }
 
-TEST_F(TakeoverVerb, KilledAtAnyMomentItLeavesTheOriginalOrTheNewDatabase) {
+TEST_F(TakeoverVerb, ADatabaseThatIsNobodysIsRefused) {
+  Put("x_random", "playlist.mdb");
+  const auto run = k.Esegui({"takeover", "Hall"});
+  EXPECT_EQ(run.Stato, 1);
+  EXPECT_EQ(run.Uscita, "playlist.mdb: it is damaged; take it from a backup copy\n");
+  EXPECT_TRUE(Bytes("playlist.mdb") == Sample("x_random"));
+}
+
+TEST_F(TakeoverVerb, ACardWhoseDatabaseCannotBeTakenOverIsReadBackWithStatus1) {
+  k.Cartella.Write("card/Config.txt", Bytes("Config.txt"));
+  k.Cartella.Write("card/Config.cfg", Bytes("Config.cfg"));
+  k.Cartella.Write("card/inputcfg.mdb", Sample("a_inputs"));
+  EXPECT_EQ(k.Esegui({"readback", k.Host("card"), "--name", "Sound"}).Stato, 0);
+  k.Cartella.Write("card/inputcfg.mdb", Sample("x_trunc_half"));
+  const auto run = k.Esegui({"readback", k.Host("card"), "--name", "Broken"});
+  EXPECT_EQ(run.Stato, 1);
+  EXPECT_EQ(run.Uscita, Project("Broken") + "\n");
+  EXPECT_NE(run.Errori.find("inputcfg.mdb: it is damaged"), std::string::npos) << run.Errori;
+}
+
+/// A taking over that a signal meets at moments from its beginning to its end.
+class TakeoverStopped : public TakeoverVerb {
+ protected:
   using Clock = std::chrono::steady_clock;
-  Put("a_inputs", "inputcfg.mdb");
-  const auto start = Clock::now();
-  ASSERT_EQ(k.Esegui({"takeover", "Hall"}).Stato, 0);
-  const auto whole = Clock::now() - start;
-  constexpr int kMoments = 40;
-  int originals = 0;
-  for (int moment = 0; moment <= kMoments; ++moment) {
-    SCOPED_TRACE(moment);
+
+  void SetUp() override {
+    TakeoverVerb::SetUp();
+    Put("a_inputs", "inputcfg.mdb");
+    const auto start = Clock::now();
+    ASSERT_EQ(k.Esegui({"takeover", "Hall"}).Stato, 0);
+    whole = Clock::now() - start;
+  }
+  void Stop(int signal, int moment) {
     Put("a_inputs", "inputcfg.mdb");
     fs::remove_all(Project() + "/Originals");
     const auto end = Clock::now() + whole * moment / kMoments;
@@ -120,14 +160,48 @@ TEST_F(TakeoverVerb, KilledAtAnyMomentItLeavesTheOriginalOrTheNewDatabase) {
     if (child == 0) _exit(k.Lavoro({"takeover", "Hall"}, k.Host("out"))());
     while (Clock::now() < end) {
     }
-    kill(child, SIGKILL);
+    kill(child, signal);
     waitpid(child, nullptr, 0);
-    if (Bytes("inputcfg.mdb") == Sample("a_inputs")) {
+  }
+  bool IsOriginal() const { return Bytes("inputcfg.mdb") == Sample("a_inputs"); }
+  bool HasLeftovers() const {
+    const auto isLeft = [](const std::string& name) { return name.find('~') != std::string::npos; };
+    const auto names = k.Nomi("program/Projects/Hall");
+    return std::ranges::any_of(names, isLeft);
+  }
+
+  static constexpr int kMoments = 40;
+  Clock::duration whole{};
+};
+
+TEST_F(TakeoverStopped, KilledAtAnyMomentItLeavesTheOriginalOrTheNewDatabaseAndGoesOnTheNextTime) {
+  int originals = 0;
+  for (int moment = 0; moment <= kMoments; ++moment) {
+    SCOPED_TRACE(moment);
+    Stop(SIGKILL, moment);
+    if (IsOriginal()) {
       ++originals;
-      EXPECT_EQ(k.Esegui({"takeover", "Hall"}).Stato, 0) << "it goes on the next time";
+      EXPECT_EQ(k.Esegui({"takeover", "Hall"}).Stato, 0);
     }
     EXPECT_EQ(Inputs(), 12);
     EXPECT_TRUE(Bytes("Originals/inputcfg.mdb") == Sample("a_inputs"));
+    EXPECT_FALSE(HasLeftovers());
+  }
+  EXPECT_GT(originals, 0);
+}
+
+TEST_F(TakeoverStopped, ByCtrlCItLeavesNothingLyingAbout) {
+  int originals = 0;
+  for (int moment = 0; moment <= kMoments; ++moment) {
+    SCOPED_TRACE(moment);
+    Stop(SIGINT, moment);
+    EXPECT_FALSE(HasLeftovers());
+    if (IsOriginal()) {
+      ++originals;
+      EXPECT_FALSE(k.Cartella.Exists("program/Projects/Hall/Originals"));
+    } else {
+      EXPECT_EQ(Inputs(), 12);
+    }
   }
   EXPECT_GT(originals, 0);
 }

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 
@@ -99,6 +100,25 @@ TEST_F(Ritrovo, SeveralWithTheSameBytesAreOne) {
   Row("a.mp3", "D:\\Old\\");
   EXPECT_EQ(Find().Trovati(), 1U);
   EXPECT_EQ(Paths(), Names{Music("/One")});
+}
+
+TEST_F(Ritrovo, ARowThatNamesTheFileItselfInPlaceOfItsFolderCountsByItsFolders) {
+  b.Cartella.Write("music/Jazz/a.mp3", "jazz");
+  b.Cartella.Write("music/Rock/a.mp3", "rock");
+  Row("a.mp3", "D:\\Music\\Rock\\A.mp3");
+  Row("a.mp3", "/home/anna/Jazz/a.mp3");
+  EXPECT_EQ(Find().Trovati(), 2U);
+  EXPECT_EQ(Paths(), (Names{Music("/Rock"), Music("/Jazz")}));
+}
+
+TEST_F(Ritrovo, WhatWasDeletedOrIsHiddenOrNoFileIsNotFound) {
+  b.Cartella.Write("music/.Trash-1000/files/a.mp3", "x");
+  b.Cartella.Write("music/$Recycle.Bin/S-1/a.mp3", "x");
+  b.Cartella.Write("music/Jazz/.b.mp3", "x");
+  fs::create_directories(b.Cartella.Host() / "music/Jazz/c.mp3");
+  ASSERT_EQ(mkfifo((b.Cartella.Host() / "music/Jazz/d.mp3").c_str(), 0600), 0);
+  for (const char* name : {"a.mp3", ".b.mp3", "c.mp3", "d.mp3"}) Row(name, "D:\\Old\\");
+  EXPECT_EQ(Find().Trovati(), 0U);
 }
 
 TEST_F(Ritrovo, ACancelWritesNothing) {

@@ -1,68 +1,19 @@
 // The databases of a project that the Jet engine made become ours.
-#include <gtest/gtest.h>
-
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
-#include <memory>
 
-#include "platform/db/Recordset.h"
-#include "platform/db/Walk.h"
-#include "projects/CartellaProgetto.h"
-#include "projects/Subentro.h"
-#include "support/Banco.h"
-#include "support/CampioniJet.h"
-#include "support/FaultyFileSystem.h"
+#include "projects/BancoSubentro.h"
 
 namespace kvr5 {
 namespace {
 
 namespace fs = std::filesystem;
 using jet::Fault;
-using Names = std::vector<std::string>;
 
-class Subentro : public testing::Test {
- protected:
-  void SetUp() override { b.CreaProgetto("Hall", 4, 1); }
-
-  /// A sample as a database of the project.
-  void Put(const std::string& sample, const std::string& database) {
-    fs::copy_file(test::CampioneJet(sample + ".mdb"), b.Cartella.Host() / Project(database),
-                  fs::copy_options::overwrite_existing);
-  }
-  static std::string Project(const std::string& file) { return "program/Projects/Hall/" + file; }
-  bool IsSame(const std::string& file, const std::string& sample) const {
-    std::ifstream stream(test::CampioneJet(sample + ".mdb"), std::ios::binary);
-    return b.Cartella.Read(file) == std::string(std::istreambuf_iterator<char>(stream), {});
-  }
-  /// All texts of a column of a database of ours.
-  Names Column(const std::string& database, const std::string& statement, const char* column) {
-    Names texts;
-    Connection connection(b.C.Files);
-    EXPECT_FALSE(connection.Open(FileDelProgetto(b.C, database)));
-    Recordset rows;
-    EXPECT_FALSE(rows.Open(connection, statement));
-    EXPECT_FALSE(WalkRows(rows, [&] {
-      texts.push_back(rows.Text(column));
-      return true;
-    }));
-    return texts;
-  }
-  void ExpectNothingChanged(const Names& before) {
-    EXPECT_EQ(b.Nomi("program/Projects/Hall"), before);
-    EXPECT_FALSE(b.Cartella.Exists(Project("Originals")));
-  }
-
-  std::unique_ptr<test::FaultyFileSystem> faults;
-  test::Banco b{[this](FileSystem& inner) -> FileSystem& {
-    faults = std::make_unique<test::FaultyFileSystem>(inner);
-    return *faults;
-  }};
-};
+class Subentro : public test::BancoSubentro {};
 
 TEST_F(Subentro, AProjectOfOursIsLeftAlone) {
   const std::string before = b.Cartella.Read(Project("inputcfg.mdb"));
-  const Names names = b.Nomi("program/Projects/Hall");
+  const Names names = Nomi();
   EXPECT_EQ(SubentraNeiDatabase(b.C).Fine, FineSubentro::Nulla);
   EXPECT_TRUE(b.Cartella.Read(Project("inputcfg.mdb")) == before);
   ExpectNothingChanged(names);
@@ -111,7 +62,7 @@ TEST_F(Subentro, StartTimesAreTimesOfDay) {
 TEST_F(Subentro, OneThatCannotBeReadLeavesAllAsTheyWere) {
   Put("a_inputs", "inputcfg.mdb");
   Put("x_trunc_half", "playlist.mdb");
-  const Names names = b.Nomi("program/Projects/Hall");
+  const Names names = Nomi();
   const EsitoSubentro outcome = SubentraNeiDatabase(b.C);
   EXPECT_EQ(outcome.Fine, FineSubentro::Fallito);
   EXPECT_EQ(outcome.Database[1].Guasto.What, Fault::Damaged);
@@ -122,8 +73,8 @@ TEST_F(Subentro, OneThatCannotBeReadLeavesAllAsTheyWere) {
 
 TEST_F(Subentro, ADryRunWritesNothing) {
   Put("d_schedule", "scheduler.mdb");
-  const Names names = b.Nomi("program/Projects/Hall");
-  const EsitoSubentro outcome = SubentraNeiDatabase(b.C, true);
+  const Names names = Nomi();
+  const EsitoSubentro outcome = SubentraNeiDatabase(b.C, {.Prova = true});
   EXPECT_EQ(outcome.Fine, FineSubentro::Compiuto);
   EXPECT_EQ(outcome.Database[0].File, 72U);
   EXPECT_EQ(outcome.Database[0].Segmenti, 24U);

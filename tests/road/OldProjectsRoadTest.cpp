@@ -1,6 +1,6 @@
-#include "platform/db/Walk.h"
+#include "projects/CartellaProgetto.h"
 #include "road/StradaDeiGeneri.h"
-#include "support/ScriviJet.h"
+#include "support/ProgettoVecchio.h"
 
 // Each kind of project as an earlier program left it, from another computer: taken over, its files
 // found again, edited, recorded.
@@ -9,51 +9,16 @@ namespace kvr5 {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::IsEmpty;
-using Rows = std::vector<std::vector<DbValue>>;
-
-constexpr const char* kElsewhere = "C:\\Musica\\Negozio\\";
-constexpr std::array kDatabases{"inputcfg.mdb", "playlist.mdb", "scheduler.mdb"};
 
 class OldProjectsRoad : public test::StradaDeiGeneri {
  protected:
-  Rows RowsOf(const std::string& path, const std::string& table, const Names& columns) {
-    Rows rows;
-    Connection connection(k.Disco);
-    EXPECT_FALSE(connection.Open(k.Percorso(path)));
-    Recordset all;
-    EXPECT_FALSE(all.Open(connection, "SELECT * FROM [" + table + "] ORDER BY [ID]"));
-    EXPECT_FALSE(WalkRows(all, [&] {
-      auto& row = rows.emplace_back();
-      for (const std::string& column : columns) row.push_back(all.Get(column).Value());
-      return true;
-    }));
-    return rows;
-  }
-  Rows List(const std::string& path) {
-    return RowsOf(path, "List",
-                  {"ID", "FileName", "FilePath", "Alias", "Pos", "NPlaylist", "IDSched"});
-  }
-  Rows Head(const std::string& path) {
-    return RowsOf(path, "HEAD", {"ID", "NScheduler", "Descript", "StartTime"});
-  }
-  /// "HH:MM:SS" as a part of a day.
-  static DbValue Days(const DbValue& time) {
-    const auto* text = std::get_if<std::string>(&time);
-    if (text == nullptr) return {};
-    const auto part = [text](std::size_t at) { return std::stoi(text->substr(at, 2)); };
-    return (part(0) * 3600 + part(3) * 60 + part(6)) / 86'400.0;
-  }
+  test::RigheDb List(const std::string& path) { return test::RigheList(k.Disco, k.Percorso(path)); }
+  test::RigheDb Head(const std::string& path) { return test::RigheHead(k.Disco, k.Percorso(path)); }
   /// The project Hall as the earlier program has it, in a folder Old.
   void MakeOld() {
     fs::copy(k.Host("program/Projects/Hall"), k.Host(Old("")), fs::copy_options::recursive);
-    for (const char* database : kDatabases) {
-      if (!k.Cartella.Exists(Old(database))) continue;
-      Rows list = List(Old(database));
-      Rows head = Head(Old(database));
-      for (auto& row : list) row[2] = kElsewhere;
-      for (auto& row : head) row[3] = Days(row[3]);
-      k.Cartella.Write(Old(database), test::FileJet(list, head));
+    for (const char* database : kDatabaseProgetto) {
+      test::RendiVecchio(k.Disco, k.Cartella, Old(database));
     }
   }
   static std::string Old(const std::string& file) { return "program/Projects/Old/" + file; }
@@ -69,7 +34,7 @@ TEST_P(OldProjectsRoad, IsTakenOverFoundAgainEditedAndRecorded) {
   for (const auto& each : taken.Oggetti()) EXPECT_EQ(each["state"], "taken") << each;
   Run(1, {"record", "Old", k.Host("second")});  // nothing of the other computer's is here
   Run(0, {"relocate", "Old", k.Host("music")});
-  for (const char* database : kDatabases) {
+  for (const char* database : kDatabaseProgetto) {
     if (!k.Cartella.Exists(Old(database))) continue;
     EXPECT_EQ(List(Old(database)), List(Hall(database))) << database;
     EXPECT_EQ(Head(Old(database)), Head(Hall(database))) << database;

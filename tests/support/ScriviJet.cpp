@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <bit>
-#include <cstdint>
 #include <string_view>
 
 #include "platform/Utf16.h"
@@ -12,9 +11,11 @@
 namespace kvr5::test {
 namespace {
 
-using Row = std::vector<DbValue>;
-
 constexpr std::size_t kPage = jet::kPageSize;
+constexpr std::size_t kHead = 14;  // of a data page
+constexpr std::uint32_t kCatalogue = 2;
+constexpr unsigned kDeleted = 0x8000;
+constexpr unsigned kMoved = 0x4000;
 constexpr std::uint8_t kInt16 = 3;
 constexpr std::uint8_t kInt32 = 4;
 constexpr std::uint8_t kDate = 8;
@@ -29,13 +30,10 @@ void Add(std::string& bytes, std::uint64_t value, std::size_t size) {
   Put(bytes, bytes.size() - size, value, size);
 }
 
-struct Field {
-  const char* Name;
-  std::uint8_t Kind;
-};
-
-std::size_t SizeOf(std::uint8_t kind) {
-  return kind == kInt16 ? 2 : kind == kInt32 ? 4 : 8;
+/// Bytes of a fixed column of a type; 0 for one that has no fixed place.
+std::size_t SizeOf(std::uint8_t type) {
+  constexpr std::size_t kSizes[] = {0, 0, 1, 2, 4, 8, 4, 8, 8, 0, 0, 0, 0, 0, 0, 16};
+  return kSizes[type];
 }
 
 /// Text as the engine stores it: one byte a character where all are below 256.
@@ -55,17 +53,22 @@ std::uint64_t Number(const DbValue& value) {
   return whole == nullptr ? 0 : static_cast<std::uint64_t>(*whole);
 }
 
-std::string Encoded(const Row& row, const std::vector<Field>& fields) {
+std::string Encoded(const std::vector<DbValue>& row, const std::vector<CampoJet>& fields) {
+  const std::size_t columns = row.empty() ? 0 : std::size_t{fields[row.size() - 1].Numero} + 1;
   std::string bytes;
-  std::string mask((fields.size() + 7) / 8, '\0');
+  std::string mask((columns + 7) / 8, '\0');
   std::vector<std::size_t> places;
-  Add(bytes, fields.size(), 2);
-  for (std::size_t i = 0; i < fields.size(); ++i) {
-    if (!IsNull(row[i])) mask[i / 8] = static_cast<char>(mask[i / 8] | 1 << i % 8);
-    if (fields[i].Kind != kText) Add(bytes, Number(row[i]), SizeOf(fields[i].Kind));
+  Add(bytes, columns, 2);
+  for (std::size_t i = 0; i < row.size(); ++i) {
+    char& bits = mask[fields[i].Numero / 8U];
+    if (!IsNull(row[i])) bits = static_cast<char>(bits | 1 << fields[i].Numero % 8);
+    const std::size_t size = SizeOf(fields[i].Tipo);
+    for (std::size_t put = 0; put < size; put += 8) {
+      Add(bytes, put == 0 ? Number(row[i]) : 0, std::min<std::size_t>(size - put, 8));
+    }
   }
-  for (std::size_t i = 0; i < fields.size(); ++i) {
-    if (fields[i].Kind != kText) continue;
+  for (std::size_t i = 0; i < row.size(); ++i) {
+    if (SizeOf(fields[i].Tipo) != 0) continue;
     places.push_back(bytes.size());
     if (const auto* text = std::get_if<std::string>(&row[i])) bytes += Stored(*text);
   }
@@ -75,148 +78,187 @@ std::string Encoded(const Row& row, const std::vector<Field>& fields) {
   return bytes + mask;
 }
 
-/// A file that grows page by page.
-class Builder {
- public:
-  Builder() : pages_(3, std::string(kPage, '\0')) {
-    constexpr std::uint32_t kMask = 0x6B39DAC7;
-    constexpr std::string_view kHead("\0\1\0\0Standard Jet DB\0\1", 21);
-    pages_[0].replace(0, kHead.size(), kHead);
-    std::vector<unsigned char> masked(128, 0);
-    jet::Rc4(kMask, masked);
-    std::ranges::copy(masked, pages_[0].begin() + 0x18);
-    pages_[1] = DataPage(0);
-  }
+std::string DataPage(std::uint32_t owner) {
+  std::string page(kPage, '\0');
+  Put(page, 0, 0x0101, 2);
+  Put(page, 4, owner, 4);
+  return page;
+}
 
-  std::uint32_t NewPage() {
-    pages_.emplace_back(kPage, '\0');
-    return static_cast<std::uint32_t>(pages_.size() - 1);
+/// A definition as one piece, with places for the map of its pages.
+std::string DefinitionOf(char kind, const std::vector<CampoJet>& fields, std::size_t rows,
+                         std::uint32_t map) {
+  const auto isPiece = [](const CampoJet& each) { return SizeOf(each.Tipo) == 0; };
+  std::string content(63, '\0');
+  Put(content, 0, 0x0102, 2);
+  Put(content, 16, rows, 4);
+  content[40] = kind;
+  Put(content, 41, std::size_t{fields.back().Numero} + 1, 2);
+  Put(content, 43, static_cast<std::size_t>(std::ranges::count_if(fields, isPiece)), 2);
+  Put(content, 45, fields.size(), 2);
+  Put(content, 55, map, 4);
+  Put(content, 59, map, 4);
+  std::size_t offset = 0;
+  std::size_t piece = 0;
+  for (const CampoJet& field : fields) {
+    const std::size_t size = SizeOf(field.Tipo);
+    std::string column(25, '\0');
+    Put(column, 0, field.Tipo, 1);
+    Put(column, 5, field.Numero, 2);
+    Put(column, 7, size == 0 ? piece++ : 0, 2);
+    Put(column, 15, size == 0 ? 0x102 : 3, 2);
+    Put(column, 21, size == 0 ? 0 : offset, 2);
+    Put(column, 23, size == 0 ? 510 : size, 2);
+    offset += size;
+    content += column;
   }
-
-  /// Writes a table whose definition is on a page.
-  void Table(std::uint32_t page, char kind, const std::vector<Field>& fields,
-             const std::vector<Row>& rows) {
-    std::vector<std::uint32_t> owned;
-    std::size_t free = 0;
-    std::uint16_t slots = 0;
-    for (const Row& row : rows) {
-      const std::string bytes = Encoded(row, fields);
-      if (owned.empty() || free < bytes.size() + 2) {
-        owned.push_back(NewPage());
-        pages_[owned.back()] = DataPage(page);
-        free = kPage - 14;
-        slots = 0;
-      }
-      std::string& target = pages_[owned.back()];
-      const std::size_t at = 14 + free + std::size_t{2} * slots - bytes.size();
-      target.replace(at, bytes.size(), bytes);
-      Put(target, 14 + std::size_t{2} * slots++, at, 2);
-      Put(target, 12, slots, 2);
-      free -= bytes.size() + 2;
-      Put(target, 2, free, 2);
-    }
-    Define(page, kind, fields, rows.size(), MapOf(owned));
+  for (const CampoJet& field : fields) {
+    const std::string name = utf16::FromUtf8(field.Nome);
+    Add(content, name.size(), 2);
+    content += name;
   }
-
-  std::string Take() const {
-    std::string file;
-    file.reserve(pages_.size() * kPage);
-    for (const std::string& page : pages_) file += page;
-    return file;
-  }
-
- private:
-  static std::string DataPage(std::uint32_t owner) {
-    std::string page(kPage, '\0');
-    Put(page, 0, 0x0101, 2);
-    Put(page, 4, owner, 4);
-    return page;
-  }
-
-  /// A map of pages of the second kind, which reaches any page; where it is, page << 8 | slot.
-  std::uint32_t MapOf(const std::vector<std::uint32_t>& owned) {
-    constexpr std::size_t kCovered = (kPage - 4) * 8;
-    std::string row(1, '\1');
-    for (std::uint32_t first = 0; first < pages_.size() + 2; first += kCovered) {
-      const std::uint32_t map = NewPage();
-      Put(pages_[map], 0, 0x0105, 2);
-      for (const std::uint32_t page : owned) {
-        if (page < first || page >= first + kCovered) continue;
-        char& bits = pages_[map][4 + (page - first) / 8];
-        bits = static_cast<char>(bits | 1 << (page - first) % 8);
-      }
-      Add(row, map, 4);
-    }
-    const std::uint32_t page = NewPage();
-    pages_[page] = DataPage(0);
-    Put(pages_[page], 12, 1, 2);
-    Put(pages_[page], 14, kPage - row.size(), 2);
-    pages_[page].replace(kPage - row.size(), row.size(), row);
-    return page << 8U;
-  }
-
-  void Define(std::uint32_t page, char kind, const std::vector<Field>& fields, std::size_t rows,
-              std::uint32_t map) {
-    const auto pieces = static_cast<std::size_t>(std::ranges::count(fields, kText, &Field::Kind));
-    std::string content(63, '\0');
-    Put(content, 0, 0x0102, 2);
-    Put(content, 16, rows, 4);
-    content[40] = kind;
-    Put(content, 41, fields.size(), 2);
-    Put(content, 43, pieces, 2);
-    Put(content, 45, fields.size(), 2);
-    Put(content, 55, map, 4);
-    Put(content, 59, map, 4);
-    std::size_t offset = 0;
-    std::size_t piece = 0;
-    for (std::size_t i = 0; i < fields.size(); ++i) {
-      const bool text = fields[i].Kind == kText;
-      std::string column(25, '\0');
-      Put(column, 0, fields[i].Kind, 1);
-      Put(column, 5, i, 2);
-      Put(column, 7, text ? piece++ : 0, 2);
-      Put(column, 15, text ? 0x102 : 3, 2);
-      Put(column, 21, text ? 0 : offset, 2);
-      Put(column, 23, text ? 510 : SizeOf(fields[i].Kind), 2);
-      if (!text) offset += SizeOf(fields[i].Kind);
-      content += column;
-    }
-    for (const Field& field : fields) {
-      const std::string name = utf16::FromUtf8(field.Name);
-      Add(content, name.size(), 2);
-      content += name;
-    }
-    Put(content, 8, content.size(), 4);
-    pages_[page].replace(0, content.size(), content);
-  }
-
-  std::vector<std::string> pages_;
-};
+  Put(content, 8, content.size(), 4);
+  return content;
+}
 
 }  // namespace
 
-std::string FileJet(const std::vector<std::vector<DbValue>>& lista,
-                    const std::vector<std::vector<DbValue>>& testa) {
-  constexpr std::uint32_t kCatalogue = 2;
-  Builder file;
-  const std::uint32_t list = file.NewPage();
-  const std::uint32_t head = file.NewPage();
-  const DbValue table(std::int64_t{1});
-  file.Table(kCatalogue, 'S', {{"Id", kInt32}, {"Name", kText}, {"Type", kInt16}},
-             {{std::int64_t{list}, "List", table}, {std::int64_t{head}, "HEAD", table}});
-  file.Table(list, 'N',
-             {{"ID", kInt32},
-              {"FileName", kText},
-              {"FilePath", kText},
-              {"Alias", kText},
-              {"Pos", kInt16},
-              {"NPlaylist", kInt16},
-              {"IDSched", kInt32}},
-             lista);
-  file.Table(head, 'N',
-             {{"ID", kInt32}, {"NScheduler", kInt16}, {"Descript", kText}, {"StartTime", kDate}},
-             testa);
-  return file.Take();
+ScrittoreJet::ScrittoreJet() : pages_(3, std::string(kPage, '\0')) {
+  constexpr std::uint32_t kMask = 0x6B39DAC7;
+  constexpr std::string_view kSignature("\0\1\0\0Standard Jet DB\0\1", 21);
+  pages_[0].replace(0, kSignature.size(), kSignature);
+  std::vector<unsigned char> masked(128, 0);
+  jet::Rc4(kMask, masked);
+  std::ranges::copy(masked, pages_[0].begin() + 0x18);
+  pages_[1] = DataPage(0);
+}
+
+std::uint32_t ScrittoreJet::NewPage() {
+  pages_.emplace_back(kPage, '\0');
+  return static_cast<std::uint32_t>(pages_.size() - 1);
+}
+
+void ScrittoreJet::Tabella(const std::string& nome, const std::vector<CampoJet>& campi,
+                           const RigheJet& righe, const DisposizioneJet& disposizione) {
+  last_ = NewPage();
+  Voce(nome);
+  Table(last_, 'N', campi, righe, disposizione);
+}
+
+std::string ScrittoreJet::Prendi() {
+  RigheJet rows;
+  for (const Entry& each : catalogue_) {
+    rows.push_back({std::int64_t{each.Page}, each.Name, std::int64_t{1}});
+  }
+  Table(kCatalogue, 'S', {{"Id", kInt32, 0}, {"Name", kText, 1}, {"Type", kInt16, 2}}, rows,
+        layout_);
+  std::string file;
+  file.reserve(pages_.size() * kPage);
+  for (const std::string& page : pages_) file += page;
+  return file;
+}
+
+/// Where the bytes lie now, page << 8 | slot.
+std::uint32_t ScrittoreJet::Lay(Data& data, const std::string& bytes, unsigned flags) {
+  constexpr std::uint16_t kMostSlots = 255;
+  if (data.Pages.empty() || data.Free < bytes.size() + 2 || data.Slots == kMostSlots) {
+    data.Pages.push_back(NewPage());
+    pages_[data.Pages.back()] = DataPage(data.Owner);
+    data.Free = kPage - kHead;
+    data.Slots = 0;
+  }
+  std::string& page = pages_[data.Pages.back()];
+  const std::size_t at = kHead + data.Free + std::size_t{2} * data.Slots - bytes.size();
+  page.replace(at, bytes.size(), bytes);
+  Put(page, kHead + std::size_t{2} * data.Slots, at | flags, 2);
+  data.Free -= bytes.size() + 2;
+  Put(page, 2, data.Free, 2);
+  Put(page, 12, ++data.Slots, 2);
+  return data.Pages.back() << 8U | (data.Slots - 1U);
+}
+
+void ScrittoreJet::LayRow(Data& data, const std::string& bytes, const DisposizioneJet& layout) {
+  if (layout.Spostamenti == 0) {
+    Lay(data, bytes, 0);
+    return;
+  }
+  std::uint32_t place = Lay(data, bytes, kDeleted);
+  for (int i = 1; i <= layout.Spostamenti; ++i) {
+    std::string pointer;
+    Add(pointer, place, 4);
+    place = Lay(data, pointer, i == layout.Spostamenti ? kMoved : kMoved | kDeleted);
+  }
+}
+
+void ScrittoreJet::Table(std::uint32_t page, char kind, const std::vector<CampoJet>& fields,
+                         const RigheJet& rows, const DisposizioneJet& layout) {
+  Data data{.Owner = page};
+  if (layout.Ventaglio) {
+    std::string pointer;
+    Add(pointer, Lay(data, Encoded(rows.front(), fields), kDeleted), 4);
+    for (std::size_t i = 0; i < rows.size(); ++i) Lay(data, pointer, kMoved);
+  } else {
+    for (const auto& row : rows) LayRow(data, Encoded(row, fields), layout);
+  }
+  Define(page, DefinitionOf(kind, fields, rows.size(), MapOf(data.Pages)));
+}
+
+/// A map of pages of the second kind, which reaches any page; where it is, page << 8 | slot.
+std::uint32_t ScrittoreJet::MapOf(const std::vector<std::uint32_t>& owned) {
+  constexpr std::size_t kCovered = (kPage - 4) * 8;
+  std::string row(1, '\1');
+  for (std::uint32_t first = 0; first < pages_.size() + 2; first += kCovered) {
+    const std::uint32_t map = NewPage();
+    Put(pages_[map], 0, 0x0105, 2);
+    for (const std::uint32_t page : owned) {
+      if (page < first || page >= first + kCovered) continue;
+      char& bits = pages_[map][4 + (page - first) / 8];
+      bits = static_cast<char>(bits | 1 << (page - first) % 8);
+    }
+    Add(row, map, 4);
+  }
+  const std::uint32_t page = NewPage();
+  pages_[page] = DataPage(0);
+  Put(pages_[page], 12, 1, 2);
+  Put(pages_[page], kHead, kPage - row.size(), 2);
+  pages_[page].replace(kPage - row.size(), row.size(), row);
+  return page << 8U;
+}
+
+/// Writes a definition, over as many pages as it takes.
+void ScrittoreJet::Define(std::uint32_t page, const std::string& content) {
+  constexpr std::size_t kGoesOn = 8;
+  std::string rest = content.substr(std::min(kPage, content.size()));
+  pages_[page].replace(0, content.size() - rest.size(), content, 0, content.size() - rest.size());
+  while (!rest.empty()) {
+    const std::uint32_t next = NewPage();
+    Put(pages_[page], 4, next, 4);
+    Put(pages_[next], 0, 0x0102, 2);
+    const std::size_t length = std::min(kPage - kGoesOn, rest.size());
+    pages_[next].replace(kGoesOn, length, rest, 0, length);
+    rest.erase(0, length);
+    page = next;
+  }
+}
+
+std::vector<CampoJet> CampiList() {
+  return {{"ID", kInt32, 0},  {"FileName", kText, 1},   {"FilePath", kText, 2}, {"Alias", kText, 3},
+          {"Pos", kInt16, 4}, {"NPlaylist", kInt16, 5}, {"IDSched", kInt32, 6}};
+}
+
+std::vector<CampoJet> CampiHead() {
+  return {{"ID", kInt32, 0},
+          {"NScheduler", kInt16, 1},
+          {"Descript", kText, 2},
+          {"StartTime", kDate, 3}};
+}
+
+std::string FileJet(const RigheJet& lista, const RigheJet& testa,
+                    const DisposizioneJet& disposizione) {
+  ScrittoreJet file;
+  file.Tabella("List", CampiList(), lista, disposizione);
+  file.Tabella("HEAD", CampiHead(), testa);
+  return file.Prendi();
 }
 
 }  // namespace kvr5::test

@@ -10,6 +10,8 @@
 #include "flashcard/screens/frmCopiaManuale.h"
 #include "flashcard/screens/frmProgress.h"
 #include "flashcard/screens/frmVerifica.h"
+#include "projects/ParoleRitrovo.h"
+#include "projects/ParoleSubentro.h"
 #include "projects/screens/frmRichiestaNomeForm.h"
 
 namespace shots {
@@ -125,6 +127,28 @@ void TakeNames(Photographer& camera, kvr5::Ambiente& ambiente) {
   camera.Take("frmRichiestaNomeForm", QStringLiteral("frmRichiestaNomeForm-warning"));
 }
 
+/// What is told of projects of earlier years, and of a search for missing files.
+void TakeOldProjects(Photographer& camera) {
+  const auto show = [&camera](const kvr5::Messaggio& box, const char* name) {
+    camera.TakeModal("RiquadroMessaggio", QString::fromUtf8(name),
+                     [&] { camera.C().Finestre.MostraMessaggio(box); });
+  };
+  kvr5::EsitoSubentro taken{
+      .Fine = kvr5::FineSubentro::Compiuto,
+      .Database = {{.Nome = "inputcfg.mdb", .DiJet = true, .File = 12},
+                   {.Nome = "playlist.mdb", .DiJet = true, .File = 240, .Segmenti = 7}},
+      .Originali = camera.C().Stato.CartellaProgetti + "\\Museum-Hall-2\\Originals"};
+  show(kvr5::BoxSubentro(camera.C(), taken), "message-takeover");
+  taken.Fine = kvr5::FineSubentro::Fallito;
+  taken.Database[1].Guasto = {kvr5::jet::Fault::Jet3};
+  show(kvr5::BoxSubentro(camera.C(), taken), "message-takeover-refused");
+  kvr5::EsitoRitrovo found;
+  found.Righe = {{.Database = "playlist.mdb", .Nome = "welcome.mp3", .Ora = "C:\\Music\\"},
+                 {.Database = "playlist.mdb", .Nome = "goodbye.mp3"},
+                 {.Database = "playlist.mdb", .Nome = "gong.mp3", .Dubbia = true}};
+  show(kvr5::BoxRitrovo(camera.C(), found), "message-found");
+}
+
 void TakeSave(Photographer& camera, kvr5::Ambiente& ambiente) {
   kvr5::frmSalva save(ambiente);
   save.Mostra();
@@ -141,6 +165,7 @@ void TakeBoxes(Photographer& camera) {
   TakeCards(camera);
   TakeVerification(camera, ambiente);
   TakeQuestions(camera);
+  TakeOldProjects(camera);
   TakeWork(camera, ambiente);
   TakeCopy(camera);
   TakeNames(camera, ambiente);

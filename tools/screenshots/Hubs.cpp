@@ -2,6 +2,8 @@
 #include <QElapsedTimer>
 
 #include "Photographer.h"
+#include "platform/db/Connection.h"
+#include "projects/CartellaProgetto.h"
 
 namespace shots {
 namespace {
@@ -70,6 +72,24 @@ void TakeStates(Photographer& camera) {
   camera.C().Stato.PercorsoMemoryCard.clear();
 }
 
+/// Playlists of another computer, whose files are to be found again.
+void TakeMissing(Photographer& camera) {
+  camera.Project("Shop-of-old", 4, 5);
+  kvr5::Connection tracks(camera.C().Files);
+  kvr5::Ignora(tracks.Open(kvr5::FileDelProgetto(camera.C(), "playlist.mdb")));
+  for (const char* name : {"welcome.mp3", "gong.mp3", "door.mp3"}) {
+    kvr5::Ignora(tracks.Execute(std::string("INSERT INTO [LIST] ([Pos],[FileName],[FilePath],"
+                                            "[NPlaylist]) VALUES(1,'") +
+                                name + "','D:\\Musica\\',1)"));
+  }
+  tracks.Close();
+  camera.Program().ApriConfigurazione(1);
+  const kvr5::frmPlayerConfig& hub = Hub();
+  WaitFor([&hub] { return hub.Pannello->picTrovaBrani->isVisible(); });
+  camera.Take(kHub, QStringLiteral("frmPlayerConfig-missing"));
+  camera.Program().DimenticaConfigurazione();
+}
+
 }  // namespace
 
 void TakeHubs(Photographer& camera) {
@@ -87,6 +107,7 @@ void TakeHubs(Photographer& camera) {
     camera.Program().DimenticaConfigurazione();
   }
   TakeStates(camera);
+  TakeMissing(camera);
 }
 
 }  // namespace shots

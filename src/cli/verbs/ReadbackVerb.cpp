@@ -83,11 +83,11 @@ int StatusOf(FineLettura end) {
 int Open(Session& session, const std::string& folder) {
   auto& context = session.Context();
   if (ApriProgetto(context, folder) != EsitoApertura::Aperto) return kMissing;
-  SubentraEDillo(context);
+  const FineSubentro takeover = SubentraEDillo(context);
   TabellaIngressi inputs(context);
   inputs.ApriSeCiSono();
   RientroDaScheda(context, inputs);
-  return kDone;
+  return takeover == FineSubentro::Fallito ? kRefused : kDone;
 }
 
 void Report(Session& session, const std::string& folder) {
@@ -124,7 +124,7 @@ int RunReadback(Session& session, const std::vector<std::string>& arguments) {
   const bool copied = !session.Copy().TakeFailure();
   AvvisaLasciati(context, outcome);
   const int status = Open(session, outcome.Cartella);
-  if (status == kDone) Report(session, outcome.Cartella);
+  if (status != kMissing) Report(session, outcome.Cartella);
   if (!copied) return kRefused;  // what opening lacked, it lacked for that
   return status == kDone && !outcome.Lasciati.empty() ? kRefused : status;
 }

@@ -1,5 +1,6 @@
 #include "cli/Interrupt.h"
 #include "cli/verbs/Verb.h"
+#include "core/Aiuti.h"
 #include "core/ParoleCopia.h"
 #include "platform/FileOps.h"
 #include "projects/ParoleRitrovo.h"
@@ -18,8 +19,8 @@ std::string_view StateOf(const RigaRitrovata& row) {
 
 void Report(Session& session, const RigaRitrovata& row) {
   const std::string_view state = StateOf(row);
-  const std::string place =
-      PercorsoPerPersone(session.Context(), (row.Ora.empty() ? row.Prima : row.Ora) + row.Nome);
+  const std::string& folder = row.Ora.empty() ? row.Prima : row.Ora;
+  const std::string place = PercorsoPerPersone(session.Context(), AggiungiBarra(folder) + row.Nome);
   if (session.Out().IsJson()) {
     session.Out().Object({{"database", row.Database},
                           {"ID", row.Id},

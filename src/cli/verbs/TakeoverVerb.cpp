@@ -1,5 +1,6 @@
 #include <optional>
 
+#include "cli/Interrupt.h"
 #include "cli/verbs/Verb.h"
 #include "core/ParoleCopia.h"
 #include "projects/ParoleSubentro.h"
@@ -57,14 +58,21 @@ void Report(Session& session, const EsitoSubentro& outcome) {
 int RunTakeover(Session& session, const std::vector<std::string>& arguments) {
   const auto parsed = Parse(arguments);
   if (!parsed) return kUsage;
-  if (const int status = session.OpenProject(parsed->Project); status != kDone) return status;
-  const EsitoSubentro outcome = SubentraNeiDatabase(session.Context(), parsed->DryRun);
+  if (const int status = session.OpenAsItIs(parsed->Project); status != kDone) return status;
+  const Interrupt cancel;
+  const EsitoSubentro outcome =
+      SubentraNeiDatabase(session.Context(), {parsed->DryRun, [] { return Interrupt::Pressed(); }});
+  if (outcome.Fine == FineSubentro::Annullato) {
+    session.Out().Say("cancelled; nothing was changed");
+    return kRefused;
+  }
   Report(session, outcome);
   if (outcome.Fine == FineSubentro::Nulla) {
     session.Out().Say(parsed->Project + ": nothing is to be taken over");
   } else if (outcome.Fine == FineSubentro::Compiuto && !parsed->DryRun) {
-    session.Out().Say("the originals are in " +
-                      PercorsoPerPersone(session.Context(), outcome.Originali));
+    session.Out().Box(
+        "info", "kvr5card",
+        "the originals are in " + PercorsoPerPersone(session.Context(), outcome.Originali), "ok");
   }
   return outcome.Fine == FineSubentro::Fallito ? kRefused : kDone;
 }

@@ -53,6 +53,7 @@ class JetFile::Reading {
 
   /// False for a row that contradicts itself.
   bool Take(std::span<const unsigned char> row, const TakeRow& take, bool& goOn) {
+    if (rows_ == definition_.Rows) return false;
     if (!ReadRow(row, columns_, hasPieces_, values_) || !NoteCounters(values_)) return false;
     ++rows_;
     goOn = take(values_);
@@ -69,7 +70,7 @@ class JetFile::Reading {
   bool NoteCounters(const std::vector<DbValue>& values) {
     for (std::size_t i = 0; i < values.size(); ++i) {
       if (wanted_[i].Kind != Wanted::Counter) continue;
-      if (IsNull(values[i]) || rows_ >= definition_.Rows) return false;
+      if (IsNull(values[i])) return false;
       counters_.push_back(static_cast<std::int32_t>(std::get<std::int64_t>(values[i])));
     }
     return true;
@@ -129,8 +130,8 @@ Trouble JetFile::Walk(const Definition& definition, std::span<const WantedColumn
   if (const Fault fault = ReadUsageMap(pages_, definition.Owned, owned); fault != Fault::None) {
     return {fault, name};
   }
+  Slots slots(pages_, definition.Page);
   for (const std::uint32_t number : owned) {
-    Slots slots(pages_, definition.Page);
     bool goOn = true;
     if (!slots.Open(number)) return {Broken(), name};
     while (const auto row = slots.Next()) {

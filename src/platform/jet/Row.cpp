@@ -13,14 +13,16 @@ namespace kvr5::jet {
 namespace {
 
 /// The time of day of a date in days since 1899-12-30, whose day doesn't count; before that day the
-/// fraction counts forward none the less. False where it is no date.
+/// fraction counts forward none the less. To the nearest second of the same day. False where it is
+/// no date.
 bool TimeOf(double days, DbValue& value) {
   constexpr double kSeconds = 86'400;
+  constexpr long kLastSecond = 86'399;
   constexpr double kFarthest = 3'000'000;  // beyond the year 9999
   if (!std::isfinite(days) || std::abs(days) > kFarthest) return false;
   double whole = 0;
   const double part = std::abs(std::modf(days, &whole));
-  const auto second = static_cast<unsigned>(std::lround(part * kSeconds)) % 86'400U;
+  const auto second = static_cast<unsigned>(std::min(std::lround(part * kSeconds), kLastSecond));
   std::array<char, 9> text{};
   std::snprintf(text.data(), text.size(), "%02u:%02u:%02u", second / 3600, second / 60 % 60,
                 second % 60);

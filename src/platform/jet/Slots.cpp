@@ -13,7 +13,6 @@ constexpr std::size_t kFirst = 14;
 constexpr unsigned kDeleted = 0x8000;
 constexpr unsigned kMoved = 0x4000;
 constexpr unsigned kPlace = 0x1FFF;
-constexpr int kMostMoves = 16;  // a longer way leads round
 
 std::size_t AfterSlots(Page page) {
   return kFirst + std::size_t{2} * Bytes(page).U16(kCount);
@@ -35,19 +34,20 @@ std::optional<Place> PlaceOf(Page page, std::size_t slot) {
 
 bool Slots::Open(std::uint32_t page) {
   const auto content = Load(page);
-  spoilt_ = !content;
   count_ = next_ = 0;
-  if (!content) return false;
+  spoilt_ = pages_.Unreadable();
+  if (!content) return !spoilt_;
   std::ranges::copy(*content, page_.begin());
   count_ = Bytes(page_).U16(kCount);
-  return true;
+  spoilt_ = AfterSlots(page_) > kPageSize;
+  return !spoilt_;
 }
 
-/// A data page of the table; nothing where it is another, or has more slots than room.
+/// A data page of the table; nothing where it is another. (The engine leaves pages that a table
+/// gave away in its map.)
 std::optional<Page> Slots::Load(std::uint32_t number) const {
   const Page page = pages_.At(number);
   if (page.empty() || page[0] != kDataPage || Bytes(page).U32(kOwner) != definition_) return {};
-  if (AfterSlots(page) > kPageSize) return {};
   return page;
 }
 
@@ -70,9 +70,10 @@ std::optional<std::span<const unsigned char>> Slots::Next() {
   return {};
 }
 
-/// The row that a pointer leads to, by way of as many others as it has moved.
+/// The row that a pointer leads to, by way of as many others as it has moved; nothing where that is
+/// a circle, or another row's.
 std::optional<std::span<const unsigned char>> Slots::Follow(std::uint32_t pointer) {
-  for (int moves = 0; moves < kMostMoves; ++moves) {
+  while (reached_.insert(pointer).second) {
     const auto content = Load(pointer >> 8U);
     const std::size_t slot = pointer & 0xFFU;
     if (!content) return {};

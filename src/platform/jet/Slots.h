@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <unordered_set>
 
 #include "platform/jet/Pages.h"
 
@@ -20,8 +21,9 @@ struct Place {
 /// The place of a slot of a data page; nothing where the page has no such slot, or no room for it.
 std::optional<Place> PlaceOf(Page page, std::size_t slot);
 
-/// The rows of one data page that aren't deleted, with those of them that have moved to another
-/// page.
+/// The rows of a table's data pages that aren't deleted, one page after another, with those of them
+/// that have moved to another page. No row is reached twice, so that what a file gives is never
+/// more than what it holds.
 ///
 /// (At 4 the page of the table's definition, at 12 the number of slots, from 14 on one u16 a slot:
 /// the row's place in the low 13 bits; 0x8000 deleted, or moved to here; 0x4000 moved from here:
@@ -31,7 +33,8 @@ class Slots {
  public:
   Slots(Pages& pages, std::uint32_t definition) : pages_(pages), definition_(definition) {}
 
-  /// False where the page isn't one of the table, or contradicts itself.
+  /// Goes to a page; one that holds no rows of the table has none. False where it contradicts
+  /// itself or can't be read.
   bool Open(std::uint32_t page);
   /// The next row, good until the next call; nothing at the end, or where the page is spoilt.
   std::optional<std::span<const unsigned char>> Next();
@@ -48,6 +51,7 @@ class Slots {
   std::uint16_t count_ = 0;
   std::uint16_t next_ = 0;
   bool spoilt_ = false;
+  std::unordered_set<std::uint32_t> reached_;  ///< where rows have moved to
 };
 
 }  // namespace kvr5::jet

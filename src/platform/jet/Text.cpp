@@ -23,20 +23,16 @@ std::optional<std::string> Expand(std::span<const unsigned char> content) {
   return plain;
 }
 
-/// False where a half of a pair stands alone.
-bool IsWellFormed(std::string_view text) {
-  while (!text.empty()) {
-    const utf8::Step step = utf8::Next(text);
-    if (!step.Valid) return false;
-    text.remove_prefix(step.Length);
-  }
-  return true;
-}
-
 std::optional<std::string> Checked(std::string_view plain) {
   if (plain.size() % 2 != 0) return {};
-  std::string text = utf16::ToUtf8(plain);
-  if (!IsWellFormed(text)) return {};
+  const std::string carried = utf16::ToUtf8(plain);
+  std::string text;
+  text.reserve(carried.size());
+  for (std::string_view rest = carried; !rest.empty();) {
+    const utf8::Step step = utf8::Next(rest);
+    utf8::Append(text, step.Valid ? step.Value : U'\uFFFD');
+    rest.remove_prefix(step.Length);
+  }
   return text;
 }
 

@@ -12,6 +12,7 @@
 #include "core/screens/Pagina.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
+#include "playerconfig/ParoleConto.h"
 #include "playerconfig/screens/PannelloModo.h"
 #include "playerconfig/screens/VociAssegnati.h"
 
@@ -33,6 +34,11 @@ ListaAssegnati::ListaAssegnati(Contesto& contesto, QWidget* padre)
   auto* figures = Riga({lblCifre, picTrova});
   figures->setStretch(0, 1);
   Corpo()->addLayout(figures);
+  lblBraniMancanti = NuovaEtichetta("lblBraniMancanti", {}, -1, this);
+  Veste(*lblBraniMancanti, Carattere::Suggerimento, Ruolo::Avviso);
+  lblBraniMancanti->setWordWrap(true);
+  lblBraniMancanti->hide();
+  Corpo()->addWidget(lblBraniMancanti);
   // What is highlighted is what is ticked, however the user came there.
   connect(lstAssegnati, &QListWidget::itemSelectionChanged, this, [this] {
     const auto chosen = lstAssegnati->selectedItems();
@@ -85,7 +91,7 @@ bool ListaAssegnati::Mostra(const ElencoAssegnati& elenco) {
   voci_->Misura(*lstAssegnati);
   lblCifre->setText(elenco.Righe.empty() ? Qs(TestoLingua(contesto_, "0130127"))
                                          : Qs(CifreAssegnati(contesto_, elenco)));
-  picTrova->setVisible(elenco.Mancanti > 0);
+  OffriTrova();
   lstAssegnati->doItemsLayout();
   lstAssegnati->verticalScrollBar()->setValue(top);
   return true;
@@ -116,8 +122,20 @@ void ListaAssegnati::Svuota(const char* chiave) {
   const QSignalBlocker quiet(lstAssegnati);
   lstAssegnati->clear();
   lblCifre->setText(Qs(TestoLingua(contesto_, chiave)));
-  picTrova->hide();
+  OffriTrova();
   Veste(*lblCifre, Carattere::Suggerimento, Ruolo::Avviso);
+}
+
+void ListaAssegnati::MostraBraniMancanti(std::size_t quanti) {
+  braniMancanti_ = quanti;
+  lblBraniMancanti->setText(Qs(ConValori(TestoLinguaO(contesto_, "0130342", "Playlists: %1"),
+                                         {ParoleMancanti(contesto_, quanti)})));
+  lblBraniMancanti->setVisible(quanti > 0);
+  OffriTrova();
+}
+
+void ListaAssegnati::OffriTrova() {
+  picTrova->setVisible(braniMancanti_ > 0 || (mostrato_ && mostrato_->Mancanti > 0));
 }
 
 void ListaAssegnati::Localizza() {

@@ -20,7 +20,8 @@ class ListaAssegnati : public Riquadro {
 
   QListWidget* lstAssegnati;
   QLabel* lblCifre;
-  Coppia* picTrova;  ///< looks for the files that are missing; there only where some are
+  Coppia* picTrova;          ///< looks for the files that are missing; there only where some are
+  QLabel* lblBraniMancanti;  ///< how many the playlists miss, which have no place of their own here
 
   /// False when these rows stand there already.
   bool Mostra(const ElencoAssegnati& elenco);
@@ -28,6 +29,8 @@ class ListaAssegnati : public Riquadro {
   void MostraSenzaTabella();
   /// Where the table is there and can't be read now.
   void MostraIlleggibile();
+  /// How many files of the project's other lists are missing.
+  void MostraBraniMancanti(std::size_t quanti);
   /// Selects the row of the combination that is ticked; none where it has no row.
   void Evidenzia(std::int64_t codice, bool inVista = true);
   void Localizza();
@@ -36,6 +39,7 @@ class ListaAssegnati : public Riquadro {
 
  private:
   void Svuota(const char* chiave);
+  void OffriTrova();
   void Scegli(const QListWidgetItem& voce);
   void AggiungiRiga(const ParoleAssegnato& parole, const Assegnato& riga);
 
@@ -43,6 +47,7 @@ class ListaAssegnati : public Riquadro {
   std::optional<ElencoAssegnati> mostrato_;
   VociAssegnati* voci_;
   std::int64_t evidenziato_ = 0;
+  std::size_t braniMancanti_ = 0;
 };
 
 }  // namespace kvr5

@@ -369,6 +369,9 @@ void frmPlayerConfig::Conta() {
   if (!first && !conto_.Passo(kFilesSeen)) conta_.stop();
   const CifreProgetto& figures = conto_.Cifre();
   if (figures.Completo || first) Pannello->Mostra(C(), figures, layout_.picPalinsesto);
+  if (figures.Completo) {
+    Assegnazioni->MostraBraniMancanti(figures.Mancanti - figures.MancantiIngressi);
+  }
   // What can't be read is no reason to say that less room is needed.
   if (figures.Completo && figures.Illeggibile.empty()) Scheda->ImpostaBisogno(figures.Byte);
 }

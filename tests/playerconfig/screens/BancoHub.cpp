@@ -94,11 +94,4 @@ Pilota<frmSiNo> RispondiSoloOk(Vede vede) {
   });
 }
 
-Pilota<QFileDialog> RispondiCartella(const std::string& cartella) {
-  return Pilota<QFileDialog>([cartella](QFileDialog& browser) {
-    browser.setDirectory(QString::fromStdString(cartella));
-    static_cast<QDialog&>(browser).accept();
-  });
-}
-
 }  // namespace kvr5::test

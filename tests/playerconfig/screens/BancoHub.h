@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QFileDialog>
 #include <QPointer>
 #include <functional>
 #include <optional>
@@ -120,7 +119,5 @@ Pilota<RiquadroMessaggio> RispondiMessaggio(const char* pulsante, Vede vede = {}
 Pilota<RiquadroMessaggio> RispondiMessaggioConTasto(Qt::Key tasto);
 /// Presses the only button of the next notice.
 Pilota<frmSiNo> RispondiSoloOk(Vede vede = {});
-/// Chooses a folder of the host in the next folder browser.
-Pilota<QFileDialog> RispondiCartella(const std::string& cartella);
 
 }  // namespace kvr5::test

@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include "playerconfig/screens/BancoHub.h"
+#include "support/screens/Scelte.h"
 
 // The hub looks for the files that are missing, where the user says.
 
@@ -56,6 +57,18 @@ TEST_F(FindMissing, OfListsIsOfferedBelowTheWarning) {
   Find("picTrovaBrani", (b.Cartella.Host() / "music").string(),
        "Missing files that were found: 1 of 2\nNot found there: lost.mp3");
   EXPECT_TRUE(QTest::qWaitFor([&] { return Testo("lblMancanti").starts_with("1"); }));
+}
+
+TEST_F(FindMissing, OfPlaylistsBesideInputsIsOfferedBelowTheAssignments) {
+  Progetto(2, 0);
+  b.ScriviMp3("music/gone.mp3", 1);
+  b.AggiungiRiga("playlist.mdb", 1, 1, "gone.mp3", "D:\\Old\\", "");
+  Apri();
+  WaitFor("picTrova", true);
+  EXPECT_EQ(Testo("lblBraniMancanti"), "Playlists: 1 missing");
+  Find("picTrova", (b.Cartella.Host() / "music").string(), "Missing files that were found: 1 of 1");
+  WaitFor("picTrova", false);
+  EXPECT_FALSE(SiVede("lblBraniMancanti"));
 }
 
 TEST_F(FindMissing, IsNotOfferedWhereNothingIsMissing) {

@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include "playerconfig/screens/BancoHub.h"
+#include "support/screens/Scelte.h"
 
 // The load of the hub: by which way a project came, and what is damaged or missing in it.
 

@@ -1,7 +1,7 @@
 #include <QComboBox>
 #include <algorithm>
 
-#include "road/screens/StradaScheda.h"
+#include "road/screens/StradaDeiModelli.h"
 #include "support/screens/Risponditore.h"
 #include "support/screens/Scelte.h"
 
@@ -13,52 +13,9 @@ namespace {
 
 namespace fs = std::filesystem;
 using test::Clicca;
-using test::Foto;
-using test::Passi;
 
-/// A model and mode, and what its project is filled with.
-struct Kind {
-  const char* Name;
-  std::int16_t Type, Mode, Config;
-  bool Inputs = false;
-  enum Editor { None, Playlists, Names, Schedule } Edit = None;
-};
-
-void PrintTo(const Kind& kind, std::ostream* out) {
-  *out << kind.Name;
-}
-
-Passi Tracks(Kind::Editor editor) {
-  if (editor == Kind::Names) return {"new L'alba", "add a/welcome.mp3", "add b/song.mp3"};
-  if (editor == Kind::Schedule) {
-    return {"segment add", "time 20 30", "spot add 1 a/welcome.mp3", "spot add 2 a/L'été.mp3"};
-  }
-  return {"add a/welcome.mp3", "add b/song.mp3", "add a/L'été.mp3"};
-}
-
-class ReadbackRoad : public test::StradaScheda, public testing::WithParamInterface<Kind> {
+class ReadbackRoad : public test::StradaDeiModelli {
  protected:
-  /// Makes the project Bar with its files, opens it, and records it to the card E.
-  void RecordFirst() {
-    const Kind& kind = GetParam();
-    b.CreaProgetto("Bar", kind.Type, kind.Mode, kind.Config);
-    if (kind.Inputs) {
-      for (const auto& [code, file] : kInputs) {
-        b.AggiungiRiga("inputcfg.mdb", 1, code, file, b.Percorso("music/b") + "\\",
-                       std::to_string(code) + ".mp3");
-      }
-    }
-    ApriPrimo();
-    if (kind.Edit == Kind::Schedule) Palinsesto(Tracks(kind.Edit), false);
-    if (kind.Edit == Kind::Playlists || kind.Edit == Kind::Names) {
-      Sessione(Tracks(kind.Edit), false);
-    }
-    ScegliScheda('E');
-    Registra();
-    EXPECT_EQ(Verifica(), "");
-    first = Byte("card");
-    ASSERT_TRUE(first.contains("Config.cfg"));
-  }
   /// What the copy's folder has to hold: the card's files, where the inputs' own have their names.
   std::vector<std::string> Expected() const {
     std::vector<std::string> names;
@@ -127,9 +84,6 @@ class ReadbackRoad : public test::StradaScheda, public testing::WithParamInterfa
     Clicca(*hub.fraFileName->cmdOkFileMp3);
   }
   void DropSources() { fs::rename(Host("music"), Host("away")); }
-
-  const std::map<int, std::string> kInputs{{1, "2.mp3"}, {5, "Caffè.mp3"}};
-  Foto first;  ///< the card of the first recording
 };
 
 TEST_P(ReadbackRoad, UnchangedItMakesTheSameCardOnceMoreAndChangedAVerifiedOne) {
@@ -166,22 +120,8 @@ TEST_P(ReadbackRoad, WhatTheCardHeldComesBackAfterItsSourcesAreGone) {
   EXPECT_EQ(Verifica(), "");
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Models, ReadbackRoad,
-    testing::Values(Kind{"Veskadro", 1, 0, 0, true},
-                    Kind{"ZubWithInputsAndPlaylists", 2, 0, 0, true, Kind::Playlists},
-                    Kind{"ZubWithPlaylists", 2, 0, 3, false, Kind::Playlists},
-                    Kind{"OstrelOnInputs", 3, 1, 0, true},
-                    Kind{"OstrelWithASchedule", 3, 2, 0, false, Kind::Schedule},
-                    Kind{"OstrelWithAnotherSchedule", 3, 3, 0, false, Kind::Schedule},
-                    Kind{"OstrelWithOneList", 3, 4, 0, false, Kind::Playlists},
-                    Kind{"OstrelWithNames", 3, 9, 0, false, Kind::Names},
-                    Kind{"Kvr5OnInputs", 4, 1, 0, true},
-                    Kind{"Kvr5WithASchedule", 4, 2, 0, false, Kind::Schedule},
-                    Kind{"Kvr5ByInput", 4, 5, 0, false, Kind::Playlists},
-                    Kind{"Kvr5ByDay", 4, 6, 0, false, Kind::Playlists},
-                    Kind{"Kvr5ByCombination", 4, 7, 0, false, Kind::Playlists}),
-    [](const auto& each) { return std::string(each.param.Name); });
+INSTANTIATE_TEST_SUITE_P(Models, ReadbackRoad, testing::ValuesIn(test::kModelli),
+                         [](const auto& each) { return std::string(each.param.Name); });
 
 }  // namespace
 }  // namespace kvr5

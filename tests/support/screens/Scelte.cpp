@@ -19,4 +19,11 @@ void ScegliVoce(QComboBox& elenco, const std::string& voce) {
   }
 }
 
+Pilota<QFileDialog> RispondiCartella(const std::string& cartella) {
+  return Pilota<QFileDialog>([cartella](QFileDialog& browser) {
+    browser.setDirectory(QString::fromStdString(cartella));
+    static_cast<QDialog&>(browser).accept();
+  });
+}
+
 }  // namespace kvr5::test
