@@ -99,7 +99,7 @@ Error ConversioneJet::Compare(Connection& connection, const char* table, Columns
     same = target.Holds(row);
     return same && GoOn();
   });
-  if (const Error error = Outcome(trouble)) return error;
+  if (Error error = Outcome(trouble)) return error;
   return same && target.Count() == rows ? Error() : Error(errors::DeviceIo);
 }
 

@@ -13,11 +13,13 @@
 namespace kvr5 {
 namespace {
 
+using namespace std::string_view_literals;
+
 constexpr const char* kOriginals = "Originals";
 
 /// Whether a file begins as ours do. One that can't be read doesn't.
 bool IsOurs(FileSystem& files, const std::string& path) {
-  constexpr std::string_view kMark("SQLite format 3", 16);
+  constexpr std::string_view kMark = "SQLite format 3\0"sv;
   std::array<char, kMark.size()> head{};
   const auto file = files.Open(path, OpenMode::Read);
   if (!file) return false;
@@ -164,7 +166,7 @@ Error TakingOver::PutInPlace(Work& work) {
   }
   // A journal there belongs to a database of ours that once lay here: it would undo the new one.
   for (const char* side : {"-journal", "-wal", "-shm"}) {
-    const Error error = files_.Delete(work.Path + side);
+    Error error = files_.Delete(work.Path + side);
     if (error && error.Number() != errors::FileNotFound) return error;
   }
   return files_.Replace(work.New, work.Path);

@@ -1,13 +1,12 @@
 // The reader of Jet 4 files on made-up bytes: no crash, no hang, and never more memory than ten
 // times the file.
-#include <malloc.h>
+#include <sanitizer/allocator_interface.h>
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <new>
 #include <string_view>
 
 #include "platform/jet/Tabelle.h"
@@ -18,29 +17,21 @@ namespace {
 std::size_t g_held = 0;
 std::size_t g_peak = 0;
 
-void* Allocate(std::size_t size) {
-  void* memory = std::malloc(size == 0 ? 1 : size);
-  if (memory == nullptr) std::abort();
-  g_held += malloc_usable_size(memory);
+void Allocated(const volatile void* /*memory*/, std::size_t size) {
+  g_held += size;
   g_peak = std::max(g_peak, g_held);
-  return memory;
 }
 
-void Release(void* memory) {
-  if (memory != nullptr) g_held -= malloc_usable_size(memory);
-  std::free(memory);
+void Freed(const volatile void* memory) {
+  const std::size_t size = __sanitizer_get_allocated_size(memory);
+  g_held -= std::min(g_held, size);  // what was there before the first look is freed too
 }
 
 }  // namespace
 
-void* operator new(std::size_t size) {
-  return Allocate(size);
-}
-void operator delete(void* memory) noexcept {
-  Release(memory);
-}
-void operator delete(void* memory, std::size_t /*size*/) noexcept {
-  Release(memory);
+extern "C" int LLVMFuzzerInitialize(int* /*count*/, char*** /*words*/) {
+  if (__sanitizer_install_malloc_and_free_hooks(Allocated, Freed) == 0) std::abort();
+  return 0;
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -17,7 +17,7 @@ constexpr std::size_t kColumnSize = 25;
 
 /// All pages of a definition one after another; empty where one of them isn't of a definition.
 std::vector<unsigned char> Gather(Pages& pages, std::uint32_t number) {
-  constexpr std::size_t kHead = 8;
+  constexpr std::ptrdiff_t kHead = 8;
   const std::size_t most = std::min<std::size_t>(kMostPages, pages.Count());
   std::vector<unsigned char> content;
   for (std::size_t many = 0; number != 0; ++many) {

@@ -9,9 +9,11 @@
 namespace kvr5::jet {
 namespace {
 
+using namespace std::string_view_literals;
+
 constexpr std::size_t kName = 4;
-constexpr std::string_view kJet{"Standard Jet DB", 16};
-constexpr std::string_view kSuccessor{"Standard ACE DB", 16};
+constexpr std::string_view kJet = "Standard Jet DB\0"sv;
+constexpr std::string_view kSuccessor = "Standard ACE DB\0"sv;
 constexpr std::size_t kVersion = 0x14;
 constexpr std::size_t kMasked = 0x18;
 constexpr std::size_t kMaskLength = 128;
