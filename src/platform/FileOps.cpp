@@ -145,6 +145,9 @@ bool HoldTheSame(FileSystem& files, std::string_view a, std::string_view b) {
   const auto first = files.Open(a, OpenMode::Read);
   const auto second = files.Open(b, OpenMode::Read);
   if (!first || !second) return false;
+  const auto size = first.Value()->Size();
+  const auto otherSize = second.Value()->Size();
+  if (!size || !otherSize || size.Value() != otherSize.Value()) return false;
   std::array<char, 65536> here{};
   std::array<char, 65536> there{};
   for (;;) {

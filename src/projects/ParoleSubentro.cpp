@@ -32,7 +32,7 @@ constexpr Heading kUnreadable{{"0130340", "Lists can't be read"},
 
 Heading HeadingOf(const EsitoSubentro& outcome) {
   if (outcome.Fine == FineSubentro::Compiuto) return kTaken;
-  if (outcome.Cambiato) return kHalfTaken;
+  if (outcome.Cambiato()) return kHalfTaken;
   const bool old = std::ranges::any_of(outcome.Database, &DatabaseSubentrato::DiJet);
   return old ? kNotTaken : kUnreadable;
 }
@@ -66,6 +66,15 @@ std::string Counted(Contesto& contesto, const DatabaseSubentrato& database) {
                    {files, std::to_string(database.Segmenti)});
 }
 
+/// The names of the databases that are in their place, "inputcfg.mdb, playlist.mdb".
+std::string Taken(const EsitoSubentro& outcome) {
+  std::string names;
+  for (const DatabaseSubentrato& each : outcome.Database) {
+    if (each.Preso) names += (names.empty() ? "" : ", ") + each.Nome;
+  }
+  return names;
+}
+
 }  // namespace
 
 std::string SubentroInParole(Contesto& contesto, const DatabaseSubentrato& database) {
@@ -83,8 +92,15 @@ Messaggio BoxSubentro(Contesto& contesto, const EsitoSubentro& esito) {
   for (const DatabaseSubentrato& each : esito.Database) {
     if (done || !each.Riuscito()) lines += "\r\n" + SubentroInParole(contesto, each);
   }
+  if (esito.SenzaModello) {
+    lines += "\r\n" + ConValori(TestoLinguaO(contesto, "0130343", "%1 is missing"), {"source.mdb"});
+  }
   const Heading heading = HeadingOf(esito);
-  if (done) {
+  if (!done && esito.Cambiato()) {
+    lines +=
+        "\r\n" + ConValori(TestoLinguaO(contesto, "0130344", "Taken over: %1"), {Taken(esito)});
+  }
+  if (esito.Cambiato()) {
     const std::string where = PercorsoPerPersone(contesto, esito.Originali);
     lines +=
         "\r\n" + ConValori(TestoLinguaO(contesto, "0130331", "The originals are in %1"), {where});

@@ -4,6 +4,8 @@
 #include <functional>
 #include <map>
 #include <unordered_map>
+#include <unordered_set>
+#include <utility>
 
 #include "core/Aiuti.h"
 #include "platform/FileOps.h"
@@ -49,7 +51,8 @@ class Search {
  private:
   void Gather();
   bool Look(const std::string& folder);
-  void Choose(RigaRitrovata& row) const;
+  bool Choose(RigaRitrovata& row);
+  bool AreTheSame(const std::string& a, const std::string& b);
   void Write(const char* database);
 
   Contesto& context_;
@@ -57,16 +60,20 @@ class Search {
   EsitoRitrovo outcome_;
   /// By name without regard to case: the folders that hold a file that is looked for.
   std::unordered_map<std::string, std::vector<std::string>> places_;
+  std::map<std::pair<std::string, std::string>, bool> compared_;  ///< files, by their paths
 };
 
 EsitoRitrovo Search::Run(const std::string& folder) {
   Gather();
   if (outcome_.Righe.empty()) return outcome_;
-  if (!Look(AggiungiBarra(folder))) {
+  const bool chosen =
+      Look(AggiungiBarra(folder)) &&
+      std::ranges::all_of(outcome_.Righe, [this](auto& row) { return Choose(row); });
+  if (!chosen || !observer_.Avanza(folder)) {
+    for (RigaRitrovata& row : outcome_.Righe) row.Ora.clear();
     outcome_.Annullato = true;
     return outcome_;
   }
-  for (RigaRitrovata& row : outcome_.Righe) Choose(row);
   for (const char* database : kDatabaseProgetto) Write(database);
   return outcome_;
 }
@@ -103,21 +110,30 @@ bool Search::Look(const std::string& folder) {
   return true;
 }
 
-void Search::Choose(RigaRitrovata& row) const {
+bool Search::AreTheSame(const std::string& a, const std::string& b) {
+  const auto [known, isNew] = compared_.try_emplace({a, b}, false);
+  if (isNew) known->second = HoldTheSame(context_.Files, a, b);
+  return known->second;
+}
+
+/// False when it was cancelled.
+bool Search::Choose(RigaRitrovata& row) {
   const auto& folders = places_.at(FoldCase(row.Nome));
   std::vector<std::string_view> before = FoldersOf(row.Prima);
   // Some rows name the file itself in place of its folder.
   if (!before.empty() && EqualFold(before.front(), row.Nome)) before.erase(before.begin());
   std::map<std::size_t, std::vector<const std::string*>, std::greater<>> byLikeness;
   for (const std::string& each : folders) byLikeness[Likeness(each, before)].push_back(&each);
-  if (byLikeness.empty()) return;
+  if (byLikeness.empty()) return true;
   const auto& nearest = byLikeness.begin()->second;
   const std::string& first = *nearest.front();
-  row.Dubbia = !std::ranges::all_of(nearest, [&](const std::string* each) {
-    return each == nearest.front() ||
-           HoldTheSame(context_.Files, first + row.Nome, *each + row.Nome);
-  });
+  for (const std::string* each : nearest) {
+    if (each == nearest.front()) continue;
+    if (!observer_.Avanza(*each)) return false;
+    row.Dubbia = row.Dubbia || !AreTheSame(first + row.Nome, *each + row.Nome);
+  }
   if (!row.Dubbia) row.Ora = first;
+  return true;
 }
 
 void Search::Write(const char* database) {
@@ -132,6 +148,7 @@ void Search::Write(const char* database) {
   if (!error) error = rows.Open(connection, kRows);
   Transaction all(connection);
   Error failed;
+  std::unordered_set<std::int64_t> written;
   if (!error) {
     error = WalkRows(rows, [&] {
       const auto id = rows.Get("ID");
@@ -139,6 +156,7 @@ void Search::Write(const char* database) {
       if (row == found.end()) return true;
       failed = rows.Set("FilePath", row->second->Ora);
       if (!failed) failed = rows.Update();
+      if (!failed) written.insert(row->first);
       return !failed;
     });
   }
@@ -146,9 +164,9 @@ void Search::Write(const char* database) {
   for (const Error& each : {error, failed, ended}) {
     if (each) outcome_.Causa = each;
   }
-  if (!error && !failed && !ended) return;
+  if (ended) written.clear();
   for (RigaRitrovata& row : outcome_.Righe) {
-    if (row.Database == database) row.Ora.clear();
+    if (row.Database == database && !written.contains(row.Id)) row.Ora.clear();
   }
 }
 

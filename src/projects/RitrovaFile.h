@@ -33,7 +33,8 @@ struct EsitoRitrovo {
 class OsservatoreRitrovo {
  public:
   virtual ~OsservatoreRitrovo() = default;
-  /// Before each folder; lets events run. False cancels.
+  /// Before each folder that is listed, and each of a file that is compared; lets events run. False
+  /// cancels.
   virtual bool Avanza(const std::string& cartella) = 0;
 };
 

@@ -1,6 +1,8 @@
 #include "projects/Subentro.h"
 
+#include <algorithm>
 #include <array>
+#include <memory>
 #include <string_view>
 
 #include "core/Aiuti.h"
@@ -37,9 +39,10 @@ class TakingOver {
 
  private:
   struct Work {
-    std::string Name;      ///< of the database, in the disk's spelling
-    std::string Path;      ///< of the original, behind a link
-    std::string New;       ///< of the new one, under a passing name
+    std::string Name;  ///< of the database, in the disk's spelling
+    std::string Path;  ///< of the original, behind a link
+    std::string New;   ///< of the new one, under a passing name
+    std::unique_ptr<ConversioneJet> Conversion;
     std::string Backup{};  ///< of the original's copy
     bool BackupIsNew = false;
     std::uint64_t Size = 0;  ///< of the original as it was read
@@ -47,8 +50,8 @@ class TakingOver {
   };
 
   void Gather();
-  void Sweep();
-  bool Convert(const Work& work, DatabaseSubentrato& database);
+  bool ReadAll();
+  bool WriteAll();
   bool KeepOriginals();
   Error KeepOriginal(Work& work);
   bool PutInPlace();
@@ -67,13 +70,11 @@ class TakingOver {
 EsitoSubentro TakingOver::Run() {
   Gather();
   if (works_.empty()) return {};
-  if (!options_.Prova) Sweep();
-  bool whole = true;
-  for (std::size_t i = 0; i < works_.size(); ++i) {
-    whole = Convert(works_[i], outcome_.Database[i]) && whole;
+  bool whole = ReadAll();
+  if (whole && !options_.Prova) {
+    whole = WriteAll() && KeepOriginals() && PutInPlace();
+    Undo();
   }
-  if (whole && !options_.Prova) whole = KeepOriginals() && PutInPlace();
-  Undo();
   outcome_.Fine = cancelled_ ? FineSubentro::Annullato
                   : whole    ? FineSubentro::Compiuto
                              : FineSubentro::Fallito;
@@ -85,7 +86,10 @@ void TakingOver::Gather() {
   for (const std::string& name : DatabaseDaSubentrare(context_)) {
     const std::string own = FileDelProgetto(context_, name);
     const std::string path = files_.BehindLink(own);
-    Work work{.Name = name, .Path = path, .New = JoinPath(FolderOf(path), NewTempName())};
+    Work work{.Name = name,
+              .Path = path,
+              .New = JoinPath(FolderOf(path), NewTempName()),
+              .Conversion = std::make_unique<ConversioneJet>(files_, path, options_.Annulla)};
     if (const auto info = files_.Info(own)) {
       work.Name = info.Value().Name;
       work.Size = info.Value().Size;
@@ -96,22 +100,30 @@ void TakingOver::Gather() {
   }
 }
 
-/// Takes away what an earlier taking over left that was cut off.
-void TakingOver::Sweep() {
-  SweepLeftovers(files_, outcome_.Originali);
-  for (const Work& work : works_) SweepLeftovers(files_, FolderOf(work.Path));
+bool TakingOver::ReadAll() {
+  bool whole = true;
+  for (std::size_t i = 0; i < works_.size() && !cancelled_; ++i) {
+    DatabaseSubentrato& database = outcome_.Database[i];
+    database.Guasto = works_[i].Conversion->Leggi(database.File, database.Segmenti);
+    whole = whole && database.Riuscito();
+    cancelled_ = works_[i].Conversion->Annullata();
+  }
+  return whole && !cancelled_;
 }
 
-/// Writes the new database of one original; false with the reason.
-bool TakingOver::Convert(const Work& work, DatabaseSubentrato& database) {
-  ConversioneJet conversion(files_, work.Path, options_.Annulla);
-  database.Guasto = conversion.Leggi(database.File, database.Segmenti);
-  if (database.Riuscito() && !options_.Prova && !conversion.Annullata()) {
-    const std::string empty = AggiungiBarra(context_.CartellaProgramma) + "source.mdb";
-    database.Causa = conversion.Scrivi(empty, work.New);
+/// Writes the new databases, once what an earlier taking over left that was cut off is away.
+bool TakingOver::WriteAll() {
+  const std::string model = AggiungiBarra(context_.CartellaProgramma) + "source.mdb";
+  outcome_.SenzaModello = !FileExists(files_, model);
+  if (outcome_.SenzaModello) return false;
+  SweepLeftovers(files_, context_.Stato.CartellaProgetto);
+  SweepLeftovers(files_, outcome_.Originali);
+  for (std::size_t i = 0; i < works_.size() && !cancelled_; ++i) {
+    outcome_.Database[i].Causa = works_[i].Conversion->Scrivi(model, works_[i].New);
+    cancelled_ = works_[i].Conversion->Annullata();
+    if (outcome_.Database[i].Causa) return false;
   }
-  cancelled_ = cancelled_ || conversion.Annullata();
-  return database.Riuscito() && !cancelled_;
+  return !cancelled_;
 }
 
 bool TakingOver::KeepOriginals() {
@@ -151,7 +163,7 @@ bool TakingOver::PutInPlace() {
     outcome_.Database[i].Causa = PutInPlace(works_[i]);
     if (outcome_.Database[i].Causa) return false;
     works_[i].New.clear();
-    outcome_.Cambiato = true;
+    outcome_.Database[i].Preso = true;
   }
   Ignora(files_.SyncVolume(context_.Stato.CartellaProgetto));
   return true;
@@ -174,7 +186,7 @@ Error TakingOver::PutInPlace(Work& work) {
 
 /// Takes away what a failure has left lying about.
 void TakingOver::Undo() {
-  bool kept = outcome_.Cambiato;
+  bool kept = outcome_.Cambiato();
   for (const Work& work : works_) {
     if (!work.New.empty()) Ignora(files_.Delete(work.New));
     const bool away = !work.New.empty() && work.BackupIsNew;
@@ -185,6 +197,10 @@ void TakingOver::Undo() {
 }
 
 }  // namespace
+
+bool EsitoSubentro::Cambiato() const {
+  return std::ranges::any_of(Database, &DatabaseSubentrato::Preso);
+}
 
 std::vector<std::string> DatabaseDaSubentrare(Contesto& contesto) {
   std::vector<std::string> names;

@@ -18,6 +18,7 @@ struct DatabaseSubentrato {
   std::size_t Segmenti = 0;  ///< rows of HEAD: named playlists, or segments
   jet::Trouble Guasto{};     ///< why it can't be read
   Error Causa{};             ///< why the new one couldn't be written
+  bool Preso = false;        ///< the new one is in its place
 
   bool Riuscito() const { return !Guasto && !Causa; }
 };
@@ -33,8 +34,12 @@ enum class FineSubentro {
 struct EsitoSubentro {
   FineSubentro Fine = FineSubentro::Nulla;
   std::vector<DatabaseSubentrato> Database{};
-  bool Cambiato = false;    ///< a new database is in its place; after a failure not all of them
   std::string Originali{};  ///< the folder with the originals, system form
+  bool SenzaModello =
+      false;  ///< the program's source.mdb, of which each new one is a copy, is gone
+
+  /// Whether a new database is in its place; after a failure not all of them.
+  bool Cambiato() const;
 };
 
 struct OpzioniSubentro {

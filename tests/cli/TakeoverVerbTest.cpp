@@ -128,6 +128,35 @@ TEST_F(TakeoverVerb, ADatabaseThatIsNobodysIsRefused) {
   EXPECT_TRUE(Bytes("playlist.mdb") == Sample("x_random"));
 }
 
+TEST_F(TakeoverVerb, NoVerbPlaysAJournalThatWasLeftBesideItIntoAnOldDatabase) {
+  k.CreaProgetto("Clock", 4, 1);
+  for (int i = 1; i < 200; ++i) k.AggiungiRiga("inputcfg.mdb", 0, i, "a.mp3", "D:\\", "");
+  k.InterrompiModifica("inputcfg.mdb");
+  const std::string database = "program/Projects/Clock/inputcfg.mdb";
+  ASSERT_TRUE(k.Cartella.Exists(database + "-journal"));
+  k.Cartella.Write(database, Sample("a_inputs"));
+  k.Cartella.Write("program/Projects/Clock/playlist.mdb", Sample("x_trunc_half"));
+  for (const std::vector<std::string>& verb : {std::vector<std::string>{"takeover", "Clock"},
+                                               {"show", "Clock"},
+                                               {"inputs", "Clock", "list"},
+                                               {"--yes", "save", "Clock"},
+                                               {"relocate", "Clock", k.Host("card")},
+                                               {"record", "Clock", k.Host("card")},
+                                               {"verify", "Clock", k.Host("card")}}) {
+    k.Esegui(verb);
+    EXPECT_TRUE(k.Cartella.Read(database) == Sample("a_inputs")) << verb[0] << verb[1];
+  }
+}
+
+TEST_F(TakeoverVerb, WithoutTheEmptyDatabaseOfTheProgramTheStatusIs3) {
+  Put("a_inputs", "inputcfg.mdb");
+  fs::remove(k.Host("program/source.mdb"));
+  const auto run = k.Esegui({"takeover", "Hall"});
+  EXPECT_EQ(run.Stato, 3);
+  EXPECT_NE(run.Errori.find("source.mdb is missing"), std::string::npos) << run.Errori;
+  EXPECT_EQ(k.Esegui({"takeover", "Hall", "--dry-run"}).Stato, 0);
+}
+
 TEST_F(TakeoverVerb, ACardWhoseDatabaseCannotBeTakenOverIsReadBackWithStatus1) {
   k.Cartella.Write("card/Config.txt", Bytes("Config.txt"));
   k.Cartella.Write("card/Config.cfg", Bytes("Config.cfg"));

@@ -198,6 +198,35 @@ TEST_F(SubentroDintorni, ACancelAtAnyMomentChangesNothing) {
   EXPECT_EQ(Rows("inputcfg.mdb"), 12U);
 }
 
+TEST_F(SubentroDintorni, WhereTheSecondExchangeFailsTheFirstIsToldAsTakenAndWhereItsOriginalIs) {
+  PutInputs();
+  Put("d_schedule", "scheduler.mdb");
+  fs::create_directory(Host("scheduler.mdb-journal"));
+  EXPECT_EQ(SubentraEDillo(b.C), FineSubentro::Fallito);
+  EXPECT_EQ(Rows("inputcfg.mdb"), 12U);
+  EXPECT_TRUE(IsSame(Project("Originals/inputcfg.mdb"), "a_inputs"));
+  EXPECT_TRUE(IsSame(Project("scheduler.mdb"), "d_schedule"));
+  EXPECT_EQ(b.Finestre.Prossimo().Testo,
+            "Not all lists were taken over. Open the project again when this is mended:\r\n"
+            "scheduler.mdb: Path/File access error\r\n"
+            "Taken over: inputcfg.mdb\r\n"
+            "The originals, as they were, are in " +
+                Host("Originals").string());
+}
+
+TEST_F(SubentroDintorni, WithoutTheEmptyDatabaseOfTheProgramItSaysSo) {
+  PutInputs();
+  fs::remove(b.Cartella.Host() / "program/source.mdb");
+  const Names names = Nomi();
+  EXPECT_EQ(SubentraEDillo(b.C), FineSubentro::Fallito);
+  ExpectNothingChanged(names);
+  EXPECT_EQ(b.Finestre.Prossimo().Testo,
+            "This project was made by an earlier program. Its lists can't be taken over, and "
+            "nothing of it was changed:\r\n"
+            "The program's file source.mdb is missing. Install the program again.");
+  EXPECT_EQ(SubentraNeiDatabase(b.C, {.Prova = true}).Fine, FineSubentro::Compiuto);
+}
+
 TEST_F(SubentroDintorni, AfterTheFirstOfTwoTheNextOneGoesOnWithTheOther) {
   PutInputs();
   Put("d_schedule", "scheduler.mdb");

@@ -113,7 +113,7 @@ TEST_F(Subentro, EachOperationThatFailsLeavesTheOriginalOrTheNewDatabase) {
       if (outcome.Fine == FineSubentro::Compiuto) {
         const auto is = [&](const DatabaseSubentrato& each) { return each.Nome == database; };
         EXPECT_EQ(original, std::ranges::none_of(outcome.Database, is)) << "not seen, not touched";
-      } else if (!outcome.Cambiato) {
+      } else if (!outcome.Cambiato()) {
         EXPECT_TRUE(original);
         EXPECT_FALSE(b.Cartella.Exists(Project("Originals/") + database));
       }

@@ -177,6 +177,25 @@ std::uint32_t ScrittoreJet::Lay(Data& data, const std::string& bytes, unsigned f
   return data.Pages.back() << 8U | (data.Slots - 1U);
 }
 
+/// One row in every second slot of a page; those between end at the page's end, so that each of the
+/// others has it whole.
+void ScrittoreJet::LayOver(Data& data, const std::string& bytes, std::size_t rows) {
+  const std::uint32_t hidden = NewPage();
+  std::string& page = pages_[hidden];
+  page = DataPage(data.Owner);
+  const std::size_t at = kPage - bytes.size();
+  page.replace(at, bytes.size(), bytes);
+  for (std::size_t slot = 0; slot < 2 * rows; ++slot) {
+    Put(page, kHead + 2 * slot, (slot % 2 == 0 ? kPage : at) | kDeleted, 2);
+  }
+  Put(page, 12, 2 * rows, 2);
+  for (std::size_t row = 0; row < rows; ++row) {
+    std::string pointer;
+    Add(pointer, hidden << 8U | (2 * row + 1), 4);
+    Lay(data, pointer, kMoved);
+  }
+}
+
 void ScrittoreJet::LayRow(Data& data, const std::string& bytes, const DisposizioneJet& layout) {
   if (layout.Spostamenti == 0) {
     Lay(data, bytes, 0);
@@ -193,7 +212,9 @@ void ScrittoreJet::LayRow(Data& data, const std::string& bytes, const Disposizio
 void ScrittoreJet::Table(std::uint32_t page, char kind, const std::vector<CampoJet>& fields,
                          const RigheJet& rows, const DisposizioneJet& layout) {
   Data data{.Owner = page};
-  if (layout.Ventaglio) {
+  if (layout.Sovrapposte) {
+    LayOver(data, Encoded(rows.front(), fields), rows.size());
+  } else if (layout.Ventaglio) {
     std::string pointer;
     Add(pointer, Lay(data, Encoded(rows.front(), fields), kDeleted), 4);
     for (std::size_t i = 0; i < rows.size(); ++i) Lay(data, pointer, kMoved);

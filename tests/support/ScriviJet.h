@@ -23,6 +23,8 @@ std::vector<CampoJet> CampiHead();
 struct DisposizioneJet {
   int Spostamenti = 0;     ///< each row has moved so many times
   bool Ventaglio = false;  ///< all slots lead to the first row, as in no sound file
+  /// The same by way of a page that no map names, each slot of which has the row; up to 127 rows.
+  bool Sovrapposte = false;
 };
 
 using RigheJet = std::vector<std::vector<DbValue>>;
@@ -59,6 +61,7 @@ class ScrittoreJet {
 
   std::uint32_t NewPage();
   std::uint32_t Lay(Data& data, const std::string& bytes, unsigned flags);
+  void LayOver(Data& data, const std::string& bytes, std::size_t rows);
   void LayRow(Data& data, const std::string& bytes, const DisposizioneJet& layout);
   void Table(std::uint32_t page, char kind, const std::vector<CampoJet>& fields,
              const RigheJet& rows, const DisposizioneJet& layout);

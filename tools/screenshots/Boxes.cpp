@@ -135,7 +135,7 @@ void TakeOldProjects(Photographer& camera) {
   };
   kvr5::EsitoSubentro taken{
       .Fine = kvr5::FineSubentro::Compiuto,
-      .Database = {{.Nome = "inputcfg.mdb", .DiJet = true, .File = 12},
+      .Database = {{.Nome = "inputcfg.mdb", .DiJet = true, .File = 12, .Preso = true},
                    {.Nome = "playlist.mdb", .DiJet = true, .File = 240, .Segmenti = 7}},
       .Originali = camera.C().Stato.CartellaProgetti + "\\Museum-Hall-2\\Originals"};
   show(kvr5::BoxSubentro(camera.C(), taken), "message-takeover");

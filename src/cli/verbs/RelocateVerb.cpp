@@ -8,9 +8,19 @@
 namespace kvr5::cli {
 namespace {
 
+/// Shows where the search is, and has Ctrl-C end it.
 class WithInterrupt : public OsservatoreRitrovo {
  public:
-  bool Avanza(const std::string& /*cartella*/) override { return !Interrupt::Pressed(); }
+  explicit WithInterrupt(Session& session) : session_(session) {}
+  bool Avanza(const std::string& cartella) override {
+    if (session_.Line().IsActive()) {
+      session_.Line().Show(PercorsoPerPersone(session_.Context(), cartella));
+    }
+    return !Interrupt::Pressed();
+  }
+
+ private:
+  Session& session_;
 };
 
 std::string_view StateOf(const RigaRitrovata& row) {
@@ -44,8 +54,9 @@ int RunRelocate(Session& session, const std::vector<std::string>& arguments) {
     return kRefused;
   }
   const Interrupt cancel;
-  WithInterrupt observer;
+  WithInterrupt observer(session);
   const EsitoRitrovo outcome = RitrovaFile(context, folder.Value(), observer);
+  session.Line().Clear();
   if (outcome.Annullato) {
     session.Out().Say("cancelled; nothing was changed");
     return kRefused;

@@ -34,6 +34,7 @@ std::optional<TakeoverArguments> Parse(const std::vector<std::string>& arguments
 /// way.
 std::string_view StateOf(const DatabaseSubentrato& database, const EsitoSubentro& outcome) {
   if (!database.Riuscito()) return "refused";
+  if (database.Preso) return "taken";
   return outcome.Fine == FineSubentro::Compiuto ? "taken" : "kept";
 }
 
@@ -69,10 +70,14 @@ int RunTakeover(Session& session, const std::vector<std::string>& arguments) {
   Report(session, outcome);
   if (outcome.Fine == FineSubentro::Nulla) {
     session.Out().Say(parsed->Project + ": nothing is to be taken over");
-  } else if (outcome.Fine == FineSubentro::Compiuto && !parsed->DryRun) {
+  } else if (outcome.Cambiato()) {
     session.Out().Box(
         "info", "kvr5card",
         "the originals are in " + PercorsoPerPersone(session.Context(), outcome.Originali), "ok");
+  }
+  if (outcome.SenzaModello) {
+    session.Out().Say("the program's file source.mdb is missing");
+    return kMissing;
   }
   return outcome.Fine == FineSubentro::Fallito ? kRefused : kDone;
 }

@@ -2,12 +2,16 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <array>
 #include <filesystem>
+#include <fstream>
+#include <span>
 #include <string_view>
 
 #include "platform/db/Collation.h"
 #include "platform/db/SuperJournal.h"
+#include "platform/jet/Pages.h"
 
 namespace kvr5 {
 namespace {
@@ -28,6 +32,17 @@ constexpr std::array kTables{
     TableColumns{"List", {"ID", "FileName", "FilePath", "Alias", "Pos", "NPlaylist", "IDSched"}},
     TableColumns{"HEAD", {"ID", "NScheduler", "Descript", "StartTime"}},
 };
+
+/// Whether a file is the Jet engine's. SQLite would refuse it, but first play a journal that a
+/// database of ours has left beside it into it.
+bool IsOfJet(const std::filesystem::path& path) {
+  std::array<char, jet::kSignatureSize> head{};
+  std::ifstream file(path, std::ios::binary);
+  file.read(head.data(), head.size());
+  std::array<unsigned char, jet::kSignatureSize> bytes{};
+  std::ranges::copy(head, bytes.begin());
+  return jet::HasSignature(std::span(bytes).first(static_cast<std::size_t>(file.gcount())));
+}
 
 /// A row changes nothing of the file beyond itself: no triggers, views or foreign functions.
 bool Harden(sqlite3* handle) {
@@ -55,7 +70,7 @@ Result<std::shared_ptr<Database>> Database::Open(const std::string& hostPath) {
   if (!std::filesystem::is_regular_file(path, ignored)) return Error(errors::CannotOpen);
   // The journal lies beside the file itself, not beside a link to it.
   const std::filesystem::path real = std::filesystem::canonical(path, ignored);
-  if (ignored || JournalNamesAFile(real)) return Error(errors::CannotOpen);
+  if (ignored || JournalNamesAFile(real) || IsOfJet(real)) return Error(errors::CannotOpen);
   const std::shared_ptr<Database> database(new Database());
   const int outcome = sqlite3_open_v2(hostPath.c_str(), &database->handle_,
                                       SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);

@@ -88,36 +88,42 @@ class JetFile::Reading {
 
 Trouble JetFile::Open(FileSystem& files, std::string_view path) {
   constexpr std::uint32_t kCatalogue = 2;
+  if (const Fault fault = pages_.Open(files, path); fault != Fault::None) return {fault};
+  const Fault fault = ReadDefinition(pages_, kCatalogue, catalogue_);
+  if (fault != Fault::None) return {fault};
+  std::size_t found = 0;
+  std::uint32_t page = 0;
+  Trouble trouble = Look({}, found, page);
+  if (trouble.What == Fault::NoColumn) trouble.What = Fault::Damaged;
+  return trouble;
+}
+
+Trouble JetFile::Look(std::string_view table, std::size_t& found, std::uint32_t& page) {
   static constexpr std::int64_t kTable = 1;
   static constexpr std::uint32_t kPageOfId = 0xFFFFFF;
   constexpr std::array<WantedColumn, 3> kColumns{
       {{"Id", Wanted::Integer}, {"Name", Wanted::Text}, {"Type", Wanted::Integer}}};
-  tables_.clear();
-  if (const Fault fault = pages_.Open(files, path); fault != Fault::None) return {fault};
-  Definition catalogue;
-  const Fault fault = ReadDefinition(pages_, kCatalogue, catalogue);
-  if (fault != Fault::None) return {fault};
-  Trouble trouble = Walk(catalogue, kColumns, {}, [this](const std::vector<DbValue>& row) {
+  found = 0;
+  return Walk(catalogue_, kColumns, {}, [&](const std::vector<DbValue>& row) {
     const auto* id = std::get_if<std::int64_t>(&row[0]);
     const auto* name = std::get_if<std::string>(&row[1]);
-    if (id != nullptr && name != nullptr && row[2] == DbValue(kTable)) {
-      tables_.push_back({*name, static_cast<std::uint32_t>(*id) & kPageOfId});
+    if (id != nullptr && name != nullptr && row[2] == DbValue(kTable) && EqualFold(*name, table)) {
+      ++found;
+      page = static_cast<std::uint32_t>(*id) & kPageOfId;
     }
     return true;
   });
-  if (trouble.What == Fault::NoColumn) trouble.What = Fault::Damaged;
-  return trouble;
 }
 
 Trouble JetFile::Read(std::string_view table, std::span<const WantedColumn> columns,
                       const TakeRow& take) {
   const std::string name(table);
-  const auto isNamed = [&](const Entry& each) { return EqualFold(each.Name, table); };
-  const auto found = std::ranges::find_if(tables_, isNamed);
-  if (found == tables_.end()) return {Fault::NoTable, name};
-  if (std::ranges::count_if(tables_, isNamed) > 1) return {Fault::Damaged, name};
+  std::size_t found = 0;
+  std::uint32_t page = 0;
+  if (Trouble trouble = Look(table, found, page)) return trouble;
+  if (found != 1) return {found == 0 ? Fault::NoTable : Fault::Damaged, name};
   Definition definition;
-  const Fault fault = ReadDefinition(pages_, found->Page, definition);
+  const Fault fault = ReadDefinition(pages_, page, definition);
   if (fault != Fault::None) return {fault, name};
   return Walk(definition, columns, name, take);
 }

@@ -41,10 +41,10 @@ using TakeRow = std::function<bool(const std::vector<DbValue>& row)>;
 
 /// A database file of the Jet 4 engine, for reading. Nothing in it is trusted: each place is looked
 /// at before it is used, no loop of pages or rows is followed twice, and what is kept in memory is
-/// four bytes for a page and four for a row.
+/// a few bytes for a page and for a row.
 class JetFile {
  public:
-  /// Opens a file and reads its catalogue (the table that page 2 defines).
+  /// Opens a file and reads its catalogue (the table that page 2 defines) to its end.
   Trouble Open(FileSystem& files, std::string_view path);
 
   /// Hands over the rows of a table as they lie in the file. A table is trusted when the columns
@@ -61,13 +61,11 @@ class JetFile {
   Trouble Walk(const Definition& definition, std::span<const WantedColumn> columns,
                const std::string& name, const TakeRow& take);
 
-  struct Entry {
-    std::string Name;
-    std::uint32_t Page;
-  };
+  /// Looks through the catalogue; how many tables have this name, and the page of the last.
+  Trouble Look(std::string_view table, std::size_t& found, std::uint32_t& page);
 
   Pages pages_;
-  std::vector<Entry> tables_;
+  Definition catalogue_;
 };
 
 }  // namespace kvr5::jet

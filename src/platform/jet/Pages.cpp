@@ -32,13 +32,16 @@ bool IsNamed(std::span<const unsigned char> head, std::string_view name) {
 
 }  // namespace
 
+bool HasSignature(std::span<const unsigned char> head) {
+  return IsNamed(head, kJet) || IsNamed(head, kSuccessor);
+}
+
 bool HasSignature(FileSystem& files, std::string_view path) {
-  std::array<unsigned char, kVersion> head{};
+  std::array<unsigned char, kSignatureSize> head{};
   const auto file = files.Open(path, OpenMode::Read);
   if (!file) return false;
   const auto length = file.Value()->ReadAt(0, {Chars(head), head.size()});
-  return length && length.Value() == head.size() &&
-         (IsNamed(head, kJet) || IsNamed(head, kSuccessor));
+  return length && HasSignature(std::span(head).first(length.Value()));
 }
 
 Fault Pages::Open(FileSystem& files, std::string_view path) {

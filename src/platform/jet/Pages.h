@@ -47,7 +47,13 @@ class Pages {
   bool unreadable_ = false;
 };
 
-/// Whether a file says that the Jet engine, of whatever version, or its successor made it.
+/// How much of a file HasSignature looks at.
+inline constexpr std::size_t kSignatureSize = 20;
+
+/// Whether a file that begins so says that the Jet engine, of whatever version, or its successor
+/// made it.
+bool HasSignature(std::span<const unsigned char> head);
+/// The same of a file; one that can't be read has none.
 bool HasSignature(FileSystem& files, std::string_view path);
 
 }  // namespace kvr5::jet

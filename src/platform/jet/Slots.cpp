@@ -20,6 +20,18 @@ std::size_t AfterSlots(Page page) {
 
 }  // namespace
 
+bool RowsAreApart(Page page) {
+  const std::size_t least = AfterSlots(page);
+  Bytes bytes(page);
+  std::size_t end = kPageSize;
+  for (std::size_t at = kFirst; at < std::min(least, kPageSize); at += 2) {
+    const std::size_t begin = bytes.U16(at) & kPlace;
+    if (begin > end) return false;
+    end = begin;
+  }
+  return least <= end;
+}
+
 std::optional<Place> PlaceOf(Page page, std::size_t slot) {
   Bytes bytes(page);
   const std::size_t slots = bytes.U16(kCount);
@@ -39,7 +51,7 @@ bool Slots::Open(std::uint32_t page) {
   if (!content) return !spoilt_;
   std::ranges::copy(*content, page_.begin());
   count_ = Bytes(page_).U16(kCount);
-  spoilt_ = AfterSlots(page_) > kPageSize;
+  spoilt_ = !RowsAreApart(page_);
   return !spoilt_;
 }
 
@@ -76,7 +88,7 @@ std::optional<std::span<const unsigned char>> Slots::Follow(std::uint32_t pointe
   while (reached_.insert(pointer).second) {
     const auto content = Load(pointer >> 8U);
     const std::size_t slot = pointer & 0xFFU;
-    if (!content) return {};
+    if (!content || !RowsAreApart(*content)) return {};
     std::ranges::copy(*content, moved_.begin());
     const auto place = PlaceOf(moved_, slot);
     if (!place || !place->Deleted) return {};  // nobody moved to here

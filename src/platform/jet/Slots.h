@@ -18,6 +18,10 @@ struct Place {
   std::size_t End = 0;
 };
 
+/// Whether a data page's slots fit in it, and its rows lie one before the other, as they do in all
+/// pages of the engine: so no two of them share a byte.
+bool RowsAreApart(Page page);
+
 /// The place of a slot of a data page; nothing where the page has no such slot, or no room for it.
 std::optional<Place> PlaceOf(Page page, std::size_t slot);
 

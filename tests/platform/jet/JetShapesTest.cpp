@@ -81,16 +81,29 @@ TEST(JetShapes, RowsThatMovedAgainAndAgainAreRead) {
   }
 }
 
+/// A file whose catalogue has many rows more.
+std::string WithCatalogue(int rows, const DisposizioneJet& layout) {
+  ScrittoreJet file;
+  file.Tabella("List", CampiList(), Tracks(3));
+  for (int i = 0; i < rows; ++i) file.Voce(std::string(250, 'n'));
+  file.Catalogo(layout);
+  return file.Prendi();
+}
+
 TEST(JetShapes, SlotsThatAllLeadToOneRowAreDamageAfterIt) {
   constexpr DisposizioneJet kFan{.Ventaglio = true};
   const auto list = Read(test::FileJet(Tracks(2'000), {}, kFan));
   EXPECT_EQ(list.Guasto.What, Fault::Damaged);
   EXPECT_EQ(list.Lista.size(), 1U);
-  ScrittoreJet file;
-  file.Tabella("List", CampiList(), Tracks(3));
-  for (int i = 0; i < 2'000; ++i) file.Voce(std::string(250, 'n'));
-  file.Catalogo(kFan);
-  EXPECT_EQ(Read(file.Prendi()).Guasto.What, Fault::Damaged);
+  EXPECT_EQ(Read(WithCatalogue(2'000, kFan)).Guasto.What, Fault::Damaged);
+}
+
+TEST(JetShapes, RowsThatShareTheirBytesAreDamageBeforeTheFirst) {
+  constexpr DisposizioneJet kOver{.Sovrapposte = true};
+  const auto list = Read(test::FileJet(Tracks(100), {}, kOver));
+  EXPECT_EQ(list.Guasto.What, Fault::Damaged);
+  EXPECT_TRUE(list.Lista.empty());
+  EXPECT_EQ(Read(WithCatalogue(100, kOver)).Guasto.What, Fault::Damaged);
 }
 
 TEST(JetShapes, PagesOfOthersInATablesMapHoldNoneOfItsRows) {
