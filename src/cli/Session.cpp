@@ -93,8 +93,8 @@ int Session::OpenProject(const std::string& project) {
     names += (names.empty() ? "" : ", ") + name;
   }
   if (!names.empty()) {
-    output_.Say(project + ": not read, as of an earlier program: " + names +
-                "; \"kvr5card takeover\" takes over what that made");
+    output_.Say(names + ": made by an earlier program, and not read; run kvr5card takeover " +
+                project);
   }
   return kDone;
 }

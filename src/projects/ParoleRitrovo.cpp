@@ -24,16 +24,19 @@ class WithCancel : public OsservatoreRitrovo {
   Contesto& context_;
 };
 
-/// The names of rows that were not found, each once, "a.mp3, b.mp3, ...".
-std::string NamesOf(const EsitoRitrovo& outcome, bool doubtful) {
-  constexpr std::size_t kNamed = 10;
+/// The names of rows that were not found, each once and on a line of its own, "and 7 more" last.
+std::string NamesOf(Contesto& context, const EsitoRitrovo& outcome, bool doubtful) {
+  constexpr std::size_t kNamed = 8;
   std::set<std::string> told;
   std::string names;
   for (const RigaRitrovata& row : outcome.Righe) {
-    if (!row.Ora.empty() || row.Dubbia != doubtful || !told.insert(FoldCase(row.Nome)).second)
-      continue;
-    if (told.size() > kNamed) return names + ", ...";
-    names += (names.empty() ? "" : ", ") + SuUnaRiga(row.Nome);
+    if (!row.Ora.empty() || row.Dubbia != doubtful) continue;
+    if (!told.insert(FoldCase(row.Nome)).second || told.size() > kNamed) continue;
+    names += "\r\n" + SuUnaRiga(row.Nome);
+  }
+  if (told.size() > kNamed) {
+    names += "\r\n" + ConValori(TestoLinguaO(context, "0130323", "and %1 more"),
+                                {std::to_string(told.size() - kNamed)});
   }
   return names;
 }
@@ -46,12 +49,10 @@ std::string WordsOf(Contesto& context, const EsitoRitrovo& outcome) {
   std::string words =
       ConValori(text("0130336", "Found: %1 of %2"),
                 {std::to_string(outcome.Trovati()), std::to_string(outcome.Righe.size())});
-  const std::string doubtful = NamesOf(outcome, true);
-  const std::string missing = NamesOf(outcome, false);
-  if (!doubtful.empty()) {
-    words += "\r\n" + ConValori(text("0130337", "In several folders: %1"), {doubtful});
-  }
-  if (!missing.empty()) words += "\r\n" + ConValori(text("0130338", "Not found: %1"), {missing});
+  const std::string doubtful = NamesOf(context, outcome, true);
+  const std::string missing = NamesOf(context, outcome, false);
+  if (!doubtful.empty()) words += "\r\n" + text("0130337", "In several folders:") + doubtful;
+  if (!missing.empty()) words += "\r\n" + text("0130338", "Not found:") + missing;
   if (outcome.Causa) words += "\r\n" + outcome.Causa.Description();
   return words;
 }

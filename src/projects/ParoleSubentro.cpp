@@ -57,13 +57,21 @@ std::string TextOf(Contesto& contesto, const Words& words) {
   return TestoLinguaO(contesto, words.Key, words.Fallback);
 }
 
+/// "12 files", "7 lists, 35 tracks", "24 segments, 72 spots", by what the database is for.
 std::string Counted(Contesto& contesto, const DatabaseSubentrato& database) {
-  const std::string files = std::to_string(database.File);
-  if (database.Segmenti == 0) {
-    return ConValori(TestoLinguaO(contesto, "0130323", "%1 files"), {files});
+  const auto count = [&](std::size_t many, const ParolaContata& word) {
+    return Contati(contesto, many, word);
+  };
+  if (database.Nome == "scheduler.mdb") {
+    return count(database.Segmenti, {"0040071", "segment", "0040072", "segments"}) + ", " +
+           count(database.File, {"0040073", "spot", "0040074", "spots"});
   }
-  return ConValori(TestoLinguaO(contesto, "0130324", "%1 files in %2 lists or segments"),
-                   {files, std::to_string(database.Segmenti)});
+  if (database.Nome == "inputcfg.mdb") {
+    return count(database.File, {"0040060", "file", "0040061", "files"});
+  }
+  const std::string tracks = count(database.File, {"0040069", "track", "0040070", "tracks"});
+  if (database.Segmenti == 0) return tracks;
+  return count(database.Segmenti, {"0040067", "list", "0040068", "lists"}) + ", " + tracks;
 }
 
 /// The names of the databases that are in their place, "inputcfg.mdb, playlist.mdb".

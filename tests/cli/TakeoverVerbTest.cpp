@@ -101,10 +101,10 @@ TEST_F(TakeoverVerb, OtherVerbsTellOfDatabasesThatWereNotTakenOverAndChangeNothi
   Put("a_inputs", "inputcfg.mdb");
   for (const char* verb : {"show", "save", "report"}) {
     const auto run = k.Esegui({verb, "Hall"});
-    EXPECT_NE(run.Errori.find("not read, as of an earlier program: inputcfg.mdb"),
+    EXPECT_NE(run.Errori.find("inputcfg.mdb: made by an earlier program, and not read"),
               std::string::npos)
         << verb << run.Errori;
-    EXPECT_NE(run.Errori.find("kvr5card takeover"), std::string::npos) << run.Errori;
+    EXPECT_NE(run.Errori.find("run kvr5card takeover Hall"), std::string::npos) << run.Errori;
   }
   const auto listed = k.EseguiJson({"inputs", "Hall", "list"});
   EXPECT_NE(listed.Stato, 0);

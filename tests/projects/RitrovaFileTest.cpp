@@ -190,7 +190,7 @@ TEST_F(Ritrovo, ItTellsHowManyWereFoundAndWhichWereNot) {
   b.Finestre.ScegliCartella(b.Percorso("music"));
   RitrovaEDillo(b.C, progress);
   const auto box = b.Finestre.Prossimo();
-  EXPECT_EQ(box.Testo, "Missing files that were found: 1 of 3\r\nNot found there: b.mp3");
+  EXPECT_EQ(box.Testo, "Missing files that were found: 1 of 3\r\nNot found there; look in another folder:\r\nb.mp3");
   EXPECT_EQ(b.Messaggi.Ora, Puntatore::Normale);
   EXPECT_FALSE(progress.Caricata());
 }

@@ -135,7 +135,7 @@ void ListaAssegnati::MostraBraniMancanti(std::size_t quanti) {
 }
 
 void ListaAssegnati::OffriTrova() {
-  picTrova->setVisible(braniMancanti_ > 0 || (mostrato_ && mostrato_->Mancanti > 0));
+  kvr5::OffriTrova(*picTrova, braniMancanti_ > 0 || (mostrato_ && mostrato_->Mancanti > 0));
 }
 
 void ListaAssegnati::Localizza() {

@@ -56,6 +56,11 @@ Coppia* NuovoTrova(const char* nome, const char* etichetta, QWidget* padre) {
   return button;
 }
 
+void OffriTrova(Coppia& trova, bool offre) {
+  if (!offre && trova.window()->focusWidget() == &trova) trova.clearFocus();
+  trova.setVisible(offre);
+}
+
 PannelloModo::PannelloModo(QWidget* padre) : Riquadro("fraPannello", {}, -1, padre) {
   picPanel = new Disegno("picPanel", this);
   lblModoPanelBig = TestoLungo("lblModoPanelBig", QStringLiteral("Modalità"), this);
@@ -91,7 +96,7 @@ void PannelloModo::Mostra(Contesto& contesto, const CifreProgetto& cifre, bool p
   const QString warning = Qs(AvvisoConto(contesto, cifre));
   lblMancanti->setText(warning);
   lblMancanti->setVisible(!warning.isEmpty());
-  picTrovaBrani->setVisible(cifre.Completo && cifre.Mancanti > 0);
+  OffriTrova(*picTrovaBrani, cifre.Completo && cifre.Mancanti > 0);
 }
 
 }  // namespace kvr5

@@ -9,6 +9,8 @@ namespace kvr5 {
 
 /// The button that looks for missing files, hidden.
 Coppia* NuovoTrova(const char* nome, const char* etichetta, QWidget* padre);
+/// Shows or hides it; the keyboard doesn't go on to what happens to stand next.
+void OffriTrova(Coppia& trova, bool offre);
 
 /// The field of a project that isn't on inputs: the drawing of its player, its mode, what its lists
 /// hold, and the button that leads to them.

@@ -55,7 +55,7 @@ TEST_F(FindMissing, OfListsIsOfferedBelowTheWarning) {
   Apri();
   WaitFor("picTrovaBrani", true);
   Find("picTrovaBrani", (b.Cartella.Host() / "music").string(),
-       "Missing files that were found: 1 of 2\nNot found there: lost.mp3");
+       "Missing files that were found: 1 of 2\nNot found there; look in another folder:\nlost.mp3");
   EXPECT_TRUE(QTest::qWaitFor([&] { return Testo("lblMancanti").starts_with("1"); }));
 }
 
@@ -69,6 +69,18 @@ TEST_F(FindMissing, OfPlaylistsBesideInputsIsOfferedBelowTheAssignments) {
   Find("picTrova", (b.Cartella.Host() / "music").string(), "Missing files that were found: 1 of 1");
   WaitFor("picTrova", false);
   EXPECT_FALSE(SiVede("lblBraniMancanti"));
+}
+
+TEST_F(FindMissing, TheKeyboardDoesNotGoOnToAnotherButtonOnceAllAreFound) {
+  Progetto(4, 5);
+  b.ScriviMp3("music/gone.mp3", 1);
+  b.AggiungiRiga("playlist.mdb", 1, 1, "gone.mp3", "D:\\Old\\", "");
+  Apri();
+  WaitFor("picTrovaBrani", true);
+  Find("picTrovaBrani", (b.Cartella.Host() / "music").string(),
+       "Missing files that were found: 1 of 1");
+  WaitFor("picTrovaBrani", false);
+  EXPECT_EQ(hub->focusWidget(), nullptr);
 }
 
 TEST_F(FindMissing, IsNotOfferedWhereNothingIsMissing) {

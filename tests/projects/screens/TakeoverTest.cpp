@@ -36,7 +36,7 @@ TEST_F(TakeoverOnOpening, ACardIsTakenOverOnceItIsRead) {
   {
     const auto box = Box("Project taken over",
                          "This project was made by an earlier program. Its lists were taken over:\n"
-                         "playlist.mdb: 35 files, 7 lists or segments\n"
+                         "playlist.mdb: 7 lists, 35 tracks\n"
                          "The originals, as they were, are in " +
                              (b.Cartella.Host() / "program/Projects/Hall/Originals").string());
     Leggi();
