@@ -141,6 +141,10 @@ Error CopyOneFile(FileSystem& files, std::string_view from, std::string_view to)
   });
 }
 
+bool IsHeld(FileSystem& files, std::string_view path) {
+  return files.Hold(path).Err().Number() == errors::PermissionDenied;
+}
+
 bool HoldTheSame(FileSystem& files, std::string_view a, std::string_view b) {
   const auto first = files.Open(a, OpenMode::Read);
   const auto second = files.Open(b, OpenMode::Read);

@@ -38,6 +38,9 @@ Error DeleteMatching(FileSystem& files, std::string_view pattern);
 /// is whole or absent. 75 where that one is read-only or a folder; onto itself nothing is done.
 Error CopyOneFile(FileSystem& files, std::string_view from, std::string_view to);
 
+/// Whether another program, or another part of this one, holds a file (FileSystem::Hold).
+bool IsHeld(FileSystem& files, std::string_view path);
+
 /// Whether two files hold the same bytes; false where one of them can't be read.
 bool HoldTheSame(FileSystem& files, std::string_view a, std::string_view b);
 

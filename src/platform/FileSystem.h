@@ -92,6 +92,11 @@ class FileSystem {
   virtual Error Delete(std::string_view path) = 0;
   /// Deletes a file unless a program that made it (OpenMode::New) still has it open: 70 then.
   virtual Error DeleteUnheld(std::string_view path) { return Delete(path); }
+  /// Marks a file as in use by this program for as long as what is returned lives: 70 where another
+  /// holds it. A volume that knows no such marks has it held by everyone.
+  virtual Result<std::shared_ptr<void>> Hold(std::string_view /*path*/) {
+    return std::shared_ptr<void>();
+  }
   /// Where a link at `path` leads to, so that what it names can be replaced and the link stays;
   /// `path` itself where there is none.
   virtual std::string BehindLink(std::string_view path) const { return std::string(path); }

@@ -43,6 +43,7 @@ class HostFileSystem : public FileSystem {
   Result<std::unique_ptr<File>> Open(std::string_view path, OpenMode mode) override;
   Error Delete(std::string_view path) override;
   Error DeleteUnheld(std::string_view path) override;
+  Result<std::shared_ptr<void>> Hold(std::string_view path) override;
   std::string BehindLink(std::string_view path) const override;
   Error CreateFolder(std::string_view path) override;
   Error DeleteFolder(std::string_view path) override;

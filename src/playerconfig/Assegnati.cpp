@@ -27,7 +27,7 @@ class Collecting {
     const std::string alias = row.Alias.value_or("");
     const std::string path = AggiungiBarra(folder) + name;
     const bool copied = !alias.empty() && project_.Contiene(alias);
-    const bool missing = !copied && (name.empty() || !FileExists(context_.Files, path));
+    const bool missing = !copied && (name.empty() || !FileExists(context_.Files, folder + name));
     const std::int64_t code = row.Pos.value_or(0);
     list_.Righe.push_back({code, NomeIngressi(code), name, path, missing, false, OfTheLink(code)});
     if (missing) ++list_.Mancanti;

@@ -40,7 +40,7 @@ bool ContoBrani::Passo(std::size_t file) {
 FattiBrano ContoBrani::Guarda(const RigaProgetto& riga) {
   const auto size = GrandezzaFile(contesto_, riga);
   if (!size) return {true, 0, 0};
-  std::string path = AggiungiBarra(riga.FilePath) + riga.FileName;
+  std::string path = riga.FilePath + riga.FileName;
   if (!FileExists(contesto_.Files, path)) path = FileDelProgetto(contesto_, riga.Alias);
   const InfoMp3 info = lettore_.LeggiInfoMp3(path);
   return {false, *size, info.Valid ? info.Duration : 0};

@@ -21,10 +21,13 @@ CopiaDiLavoro::~CopiaDiLavoro() {
 
 void CopiaDiLavoro::Apri() {
   connessione_.Close();
+  presa_.reset();
+  if (AltriAlLavoro()) return;
   nostra_ = true;
   Elimina(temporaneo_);
   if (!FileExists(contesto_.Files, vero_) || !Ripristina()) return;
   CopiaFileShell(contesto_, vero_, temporaneo_);
+  if (auto held = contesto_.Files.Hold(temporaneo_)) presa_ = std::move(held.Value());
   contesto_.Errore.Record(connessione_.Open(temporaneo_));
   connessione_
       .DontFlush();  // a copy that a crash left is thrown away; what a save copies is flushed
@@ -32,7 +35,7 @@ void CopiaDiLavoro::Apri() {
 
 void CopiaDiLavoro::Salva() {
   connessione_.Close();
-  if (!FileExists(contesto_.Files, temporaneo_)) return;
+  if (!nostra_ || !FileExists(contesto_.Files, temporaneo_)) return;
   Elimina(vero_);
   // The old one has gone: a cancel now would leave none.
   CopiaFileShell(contesto_, temporaneo_, vero_, AnnulloCopia::Nulla);
@@ -42,6 +45,15 @@ void CopiaDiLavoro::Lascia() {
   connessione_.Close();
   // Another editor may have made its own in the meantime.
   if (std::exchange(nostra_, false)) Elimina(temporaneo_);
+  presa_.reset();
+}
+
+bool CopiaDiLavoro::AltriAlLavoro() {
+  if (!IsHeld(contesto_.Files, temporaneo_)) return false;
+  const Error held(errors::PermissionDenied);
+  contesto_.Errore.Record(held);
+  contesto_.FinestraCopia.Failed({vero_, true, held});
+  return true;
 }
 
 bool CopiaDiLavoro::Ripristina() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -21,7 +22,8 @@ class CopiaDiLavoro {
   CopiaDiLavoro& operator=(const CopiaDiLavoro&) = delete;
 
   /// Throws away what a crash left, copies the real database and opens the copy. A real one that is
-  /// missing leaves the connection closed.
+  /// missing leaves the connection closed; so does a copy on which another program works, which is
+  /// told.
   void Apri();
   /// The connection on the copy; its recordsets are the editor's.
   Connection& Connessione() { return connessione_; }
@@ -35,13 +37,16 @@ class CopiaDiLavoro {
  private:
   /// Puts the real database back where its journal tells to; false where it can't be (told).
   bool Ripristina();
+  /// Whether another program works on a copy of its own.
+  bool AltriAlLavoro();
   void Elimina(const std::string& database);
 
   Contesto& contesto_;
   std::string vero_;  ///< full paths
   std::string temporaneo_;
   Connection connessione_;
-  bool nostra_ = false;  ///< the copy in the folder is this one's
+  bool nostra_ = false;          ///< the copy in the folder is this one's
+  std::shared_ptr<void> presa_;  ///< keeps other programs off it
 };
 
 }  // namespace kvr5

@@ -56,7 +56,8 @@ std::vector<std::string> SommarioProgetto::FileMancanti() const {
 }
 
 std::optional<std::uint64_t> GrandezzaFile(const Contesto& contesto, const RigaProgetto& riga) {
-  const auto source = SizeOf(contesto.Files, AggiungiBarra(riga.FilePath) + riga.FileName);
+  // Joined as a recording joins them: a folder without its closing bar leads nowhere.
+  const auto source = SizeOf(contesto.Files, riga.FilePath + riga.FileName);
   if (source || riga.Alias.empty()) return source;
   return SizeOf(contesto.Files, FileDelProgetto(contesto, riga.Alias));
 }

@@ -177,9 +177,14 @@ Error TakingOver::PutInPlace(Work& work) {
     return Error(errors::PermissionDenied);
   }
   // A journal there belongs to a database of ours that once lay here: it would undo the new one.
+  bool swept = false;
   for (const char* side : {"-journal", "-wal", "-shm"}) {
     Error error = files_.Delete(work.Path + side);
     if (error && error.Number() != errors::FileNotFound) return error;
+    swept = swept || !error;
+  }
+  if (swept) {  // it has to be off the device first
+    if (Error error = files_.SyncVolume(FolderOf(work.Path))) return error;
   }
   return files_.Replace(work.New, work.Path);
 }

@@ -42,8 +42,10 @@ TEST_F(RelocateVerb, ProgramsGetAnObjectForEachRow) {
 
 TEST_F(RelocateVerb, PathsAreWholeWhateverTheRowNames) {
   k.AggiungiRiga("playlist.mdb", 1, 2, "b.mp3", "\\\\server\\share", "");
+  k.AggiungiRiga("playlist.mdb", 1, 3, "c.mp3", "\\\\server\\share\\C.mp3", "");
   EXPECT_EQ(k.Esegui({"relocate", "Hall", k.Host("new")}).Uscita,
-            "found: " + k.Host("new/Jazz/a.mp3") + "\nmissing: //server/share/b.mp3\n");
+            "found: " + k.Host("new/Jazz/a.mp3") +
+                "\nmissing: //server/share/b.mp3\nmissing: //server/share/C.mp3\n");
 }
 
 TEST_F(RelocateVerb, TakesAProjectAndAFolder) {

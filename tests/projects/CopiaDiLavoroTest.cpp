@@ -195,6 +195,29 @@ TEST_P(WorkingCopy, ThatWasLeftDoesNotTakeTheNextOneAlong) {
   EXPECT_EQ(Rows(next.Connessione()), 1);
 }
 
+TEST_P(WorkingCopy, OnWhichAnotherProgramWorksStaysItsOwn) {
+  CopiaDiLavoro first(b.C, GetParam().Real, GetParam().Temp);
+  first.Apri();
+  EXPECT_FALSE(first.Connessione().Execute("DELETE * FROM [List]"));
+  {
+    CopiaDiLavoro second(b.C, GetParam().Real, GetParam().Temp);
+    second.Apri();
+    EXPECT_FALSE(second.Connessione().IsOpen());
+    ASSERT_EQ(b.Copia.Guasti.size(), 1U);
+    EXPECT_EQ(b.Copia.Guasti[0].Cause.Number(), errors::PermissionDenied);
+    second.Salva();
+    EXPECT_TRUE(b.Cartella.Read(Real()) == before) << "it has nothing to save";
+  }
+  first.Salva();
+  first.Lascia();
+  Connection real(b.Disco);
+  ASSERT_FALSE(real.Open(b.Percorso(Real())));
+  EXPECT_EQ(Rows(real), 0) << "what the first one did is kept";
+  CopiaDiLavoro third(b.C, GetParam().Real, GetParam().Temp);
+  third.Apri();
+  EXPECT_TRUE(third.Connessione().IsOpen());
+}
+
 TEST_P(WorkingCopy, OfADatabaseThatIsMissingStaysClosed) {
   std::filesystem::remove(b.Cartella.Host() / Real());
   CopiaDiLavoro copy(b.C, GetParam().Real, GetParam().Temp);

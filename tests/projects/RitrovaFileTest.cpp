@@ -112,6 +112,13 @@ TEST_F(Ritrovo, ARowThatNamesTheFileItselfInPlaceOfItsFolderCountsByItsFolders) 
   EXPECT_EQ(Paths(), (Names{Music("/Rock"), Music("/Jazz")}));
 }
 
+TEST_F(Ritrovo, AFolderWithoutItsClosingBarLeadsNowhereUntilTheFileIsFound) {
+  b.Cartella.Write("music/Jazz/a.mp3", "x");
+  Row("a.mp3", b.Percorso("music/Jazz"));
+  EXPECT_EQ(Find().Trovati(), 1U);
+  EXPECT_EQ(Paths(), Names{Music("/Jazz")});
+}
+
 TEST_F(Ritrovo, WhatWasDeletedOrIsHiddenOrNoFileIsNotFound) {
   b.Cartella.Write("music/.Trash-1000/files/a.mp3", "x");
   b.Cartella.Write("music/$Recycle.Bin/S-1/a.mp3", "x");
@@ -190,7 +197,9 @@ TEST_F(Ritrovo, ItTellsHowManyWereFoundAndWhichWereNot) {
   b.Finestre.ScegliCartella(b.Percorso("music"));
   RitrovaEDillo(b.C, progress);
   const auto box = b.Finestre.Prossimo();
-  EXPECT_EQ(box.Testo, "Missing files that were found: 1 of 3\r\nNot found there; look in another folder:\r\nb.mp3");
+  EXPECT_EQ(
+      box.Testo,
+      "Missing files that were found: 1 of 3\r\nNot found there; look in another folder:\r\nb.mp3");
   EXPECT_EQ(b.Messaggi.Ora, Puntatore::Normale);
   EXPECT_FALSE(progress.Caricata());
 }

@@ -46,6 +46,7 @@ class FaultyFileSystem : public FileSystem {
   Result<std::unique_ptr<File>> Open(std::string_view path, OpenMode mode) override;
   Error Delete(std::string_view path) override;
   Error DeleteUnheld(std::string_view path) override;
+  Result<std::shared_ptr<void>> Hold(std::string_view path) override { return inner_.Hold(path); }
   std::string BehindLink(std::string_view path) const override { return inner_.BehindLink(path); }
   Error CreateFolder(std::string_view path) override;
   Error DeleteFolder(std::string_view path) override;

@@ -3,6 +3,8 @@
 #include "core/Aiuti.h"
 #include "core/ParoleCopia.h"
 #include "platform/FileOps.h"
+#include "platform/Fold.h"
+#include "platform/Path.h"
 #include "projects/ParoleRitrovo.h"
 
 namespace kvr5::cli {
@@ -30,7 +32,10 @@ std::string_view StateOf(const RigaRitrovata& row) {
 void Report(Session& session, const RigaRitrovata& row) {
   const std::string_view state = StateOf(row);
   const std::string& folder = row.Ora.empty() ? row.Prima : row.Ora;
-  const std::string place = PercorsoPerPersone(session.Context(), AggiungiBarra(folder) + row.Nome);
+  // Some rows name the file itself in place of its folder.
+  const bool whole = EqualFold(LastName(folder), row.Nome);
+  const std::string place =
+      PercorsoPerPersone(session.Context(), whole ? folder : AggiungiBarra(folder) + row.Nome);
   if (session.Out().IsJson()) {
     session.Out().Object({{"database", row.Database},
                           {"ID", row.Id},

@@ -1,9 +1,7 @@
 #include "platform/jet/Row.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <cstdio>
 #include <string>
 
 #include "platform/jet/Bytes.h"
@@ -22,11 +20,14 @@ bool TimeOf(double days, DbValue& value) {
   if (!std::isfinite(days) || std::abs(days) > kFarthest) return false;
   double whole = 0;
   const double part = std::abs(std::modf(days, &whole));
-  const auto second = static_cast<unsigned>(std::min(std::lround(part * kSeconds), kLastSecond));
-  std::array<char, 9> text{};
-  std::snprintf(text.data(), text.size(), "%02u:%02u:%02u", second / 3600, second / 60 % 60,
-                second % 60);
-  value = std::string(text.data());
+  const auto second =
+      static_cast<unsigned>(std::clamp(std::lround(part * kSeconds), 0L, kLastSecond));
+  std::string text;
+  for (const unsigned number : {second / 3600, second / 60 % 60, second % 60}) {
+    if (!text.empty()) text += ':';
+    text += {static_cast<char>('0' + number / 10), static_cast<char>('0' + number % 10)};
+  }
+  value = std::move(text);
   return true;
 }
 

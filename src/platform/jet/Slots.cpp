@@ -13,6 +13,7 @@ constexpr std::size_t kFirst = 14;
 constexpr unsigned kDeleted = 0x8000;
 constexpr unsigned kMoved = 0x4000;
 constexpr unsigned kPlace = 0x1FFF;
+constexpr int kMostMoves = 64;  // the engine itself leaves one
 
 std::size_t AfterSlots(Page page) {
   return kFirst + std::size_t{2} * Bytes(page).U16(kCount);
@@ -83,9 +84,9 @@ std::optional<std::span<const unsigned char>> Slots::Next() {
 }
 
 /// The row that a pointer leads to, by way of as many others as it has moved; nothing where that is
-/// a circle, or another row's.
+/// a circle, another row's, or a longer way than any row goes.
 std::optional<std::span<const unsigned char>> Slots::Follow(std::uint32_t pointer) {
-  while (reached_.insert(pointer).second) {
+  for (int moves = 0; moves < kMostMoves && reached_.insert(pointer).second; ++moves) {
     const auto content = Load(pointer >> 8U);
     const std::size_t slot = pointer & 0xFFU;
     if (!content || !RowsAreApart(*content)) return {};

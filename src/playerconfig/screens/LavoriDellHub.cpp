@@ -126,7 +126,9 @@ void frmPlayerConfig::ApriEditor(const char* copia, void (Navigazione::*apri)(Sc
   guardia_.stop();
   conto_.Interrompi();  // the editor copies the database
   const std::string stale = FileDelProgetto(C(), copia);
-  if (FileExists(C().Files, stale)) C().Errore.Record(C().Files.Delete(stale));
+  if (FileExists(C().Files, stale) && !IsHeld(C().Files, stale)) {
+    C().Errore.Record(C().Files.Delete(stale));
+  }
   (ambiente_.Schermi.*apri)(Schermata::Configurazione);
   Nascondi();
   guardia_.stop();  // a box of the editor's load may have brought the hub to the front

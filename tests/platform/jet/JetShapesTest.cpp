@@ -81,6 +81,10 @@ TEST(JetShapes, RowsThatMovedAgainAndAgainAreRead) {
   }
 }
 
+TEST(JetShapes, ARowThatMovedMoreOftenThanAnyDoesIsDamage) {
+  EXPECT_EQ(Read(test::FileJet(Tracks(2), {}, {.Spostamenti = 100})).Guasto.What, Fault::Damaged);
+}
+
 /// A file whose catalogue has many rows more.
 std::string WithCatalogue(int rows, const DisposizioneJet& layout) {
   ScrittoreJet file;

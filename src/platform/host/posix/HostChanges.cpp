@@ -27,7 +27,7 @@ bool OwnerCanWrite(const struct stat& status) {
 
 /// Marks an open file as in use by this program, until it is closed in whatever way; false when
 /// another one holds it, or where the volume knows no such marks.
-bool Hold(int descriptor) {
+bool Mark(int descriptor) {
   return ::flock(descriptor, LOCK_EX | LOCK_NB) == 0;
 }
 
@@ -42,7 +42,7 @@ Result<std::unique_ptr<File>> OpenPlain(const std::string& hostPath, int flags, 
   struct stat status {};
   if (::fstat(descriptor, &status) != 0) return FromErrno(errno);
   if (!S_ISREG(status.st_mode)) return Error(errors::PathFileAccess);
-  if ((flags & O_EXCL) != 0) static_cast<void>(Hold(descriptor));
+  if ((flags & O_EXCL) != 0) static_cast<void>(Mark(descriptor));
   return file;
 }
 
@@ -153,7 +153,18 @@ Error HostFileSystem::DeleteUnheld(std::string_view path) {
   const int descriptor = ::open(found.Value().Path.c_str(), kFlags);
   if (descriptor < 0) return Failure(path, errno);
   const PosixFile file(descriptor);
-  return Hold(descriptor) ? Delete(path) : Error(errors::PermissionDenied);
+  return Mark(descriptor) ? Delete(path) : Error(errors::PermissionDenied);
+}
+
+Result<std::shared_ptr<void>> HostFileSystem::Hold(std::string_view path) {
+  const Result<Place> found = Find(path);
+  if (!found) return found.Err();
+  constexpr int kFlags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+  const int descriptor = ::open(found.Value().Path.c_str(), kFlags);
+  if (descriptor < 0) return Failure(path, errno);
+  auto file = std::make_shared<PosixFile>(descriptor);
+  if (!Mark(descriptor) && errno == EWOULDBLOCK) return Error(errors::PermissionDenied);
+  return std::shared_ptr<void>(std::move(file));
 }
 
 Error HostFileSystem::DeleteFolder(std::string_view path) {
