@@ -14,7 +14,7 @@
 namespace kvr5 {
 
 std::string ContoBrani::Chiave(const RigaProgetto& riga) {
-  return FoldCase(AggiungiBarra(riga.FilePath) + riga.FileName + "|" + riga.Alias);
+  return FoldCase(riga.FilePath + riga.FileName + "|" + riga.Alias);
 }
 
 void ContoBrani::Imposta(std::vector<RigaProgetto> righe) {
@@ -68,7 +68,7 @@ std::string ContoBrani::Parole() const {
   for (const RigaProgetto& each : righe_) {
     const FattiBrano& facts = *Fatti(each);
     seconds += facts.Secondi;
-    const std::string file = AggiungiBarra(each.FilePath) + each.FileName;
+    const std::string file = each.FilePath + each.FileName;
     if (seen.insert(FoldCase(file)).second) bytes += facts.Byte;
   }
   std::string words = DurataInParole(seconds) + ", " + QuantitaInParole(bytes, contesto_.Luogo);

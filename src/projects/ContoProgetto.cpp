@@ -5,7 +5,6 @@
 #include <iterator>
 #include <set>
 
-#include "core/Aiuti.h"
 #include "platform/Fold.h"
 #include "projects/CartellaProgetto.h"
 
@@ -85,7 +84,7 @@ void ContoProgetto::Guarda(const RigaProgetto& riga) {
   if (!size) {
     ++cifre_.Mancanti;
     if (riga.Lista == kDatabaseProgetto.front()) ++cifre_.MancantiIngressi;
-  } else if (visti_.insert(FoldCase(AggiungiBarra(riga.FilePath) + riga.FileName)).second) {
+  } else if (visti_.insert(FoldCase(riga.FilePath + riga.FileName)).second) {
     cifre_.Byte += *size;
   }
 }

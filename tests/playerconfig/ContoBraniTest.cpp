@@ -49,6 +49,13 @@ TEST_F(ListFigures, CountAFileOnceWhereOnlyOneOfItsTracksHasItsNameOnTheCard) {
       << "the second was added after the save";
 }
 
+TEST_F(ListFigures, DoNotTakeAFolderWithoutItsBarForTheOneWithIt) {
+  b.ScriviMp3("music/a.mp3", 1, kMinute);
+  RigaProgetto astray = Track("a.mp3");
+  astray.FilePath.pop_back();
+  EXPECT_EQ(All({Track("a.mp3"), astray}), "1:00, 938 KB, 1 missing");
+}
+
 TEST_F(ListFigures, AreSilentUntilAllIsKnown) {
   for (const char* name : {"music/a.mp3", "music/b.mp3", "music/c.mp3"}) b.ScriviMp3(name);
   const std::vector tracks{Track("a.mp3"), Track("b.mp3"), Track("c.mp3")};
