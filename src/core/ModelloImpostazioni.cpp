@@ -54,6 +54,10 @@ void ModelloImpostazioni::CaricaLingue() {
   if (!lingue_.empty()) scelta_ = 0;
   const std::string stored = Setting(contesto_, "Config", "LanguageFile");
   if (stored.empty()) {
+    // The first one is what a save stores then: it mustn't be another than is being read.
+    const auto used = std::ranges::find_if(
+        lingue_, [name = InUso()](const auto& l) { return EqualFold(l, name); });
+    if (used != lingue_.end()) std::rotate(lingue_.begin(), used, used + 1);
     ImpostaModificato(true);
     return;
   }
@@ -67,10 +71,13 @@ std::string ModelloImpostazioni::CartellaPerPersone() const {
   return cartella_.empty() ? std::string() : PercorsoPerPersone(contesto_, cartella_);
 }
 
+std::string ModelloImpostazioni::InUso() const {
+  return TogliEstensione(EstraiNomeFile(contesto_.Stato.FileLingua));
+}
+
 std::string ModelloImpostazioni::AltraInUso() const {
   if (!scelta_ || !FileExists(contesto_.Files, contesto_.Stato.FileLingua)) return {};
-  const std::string used = TogliEstensione(EstraiNomeFile(contesto_.Stato.FileLingua));
-  return EqualFold(used, lingue_.at(*scelta_)) ? std::string() : used;
+  return EqualFold(InUso(), lingue_.at(*scelta_)) ? std::string() : InUso();
 }
 
 bool ModelloImpostazioni::CartellaTroppoLunga() const {

@@ -26,7 +26,8 @@ class ModelloImpostazioni {
   const std::string& Cartella() const { return cartella_; }
   /// txtProjectDir and its tool tip, in the host's form.
   std::string CartellaPerPersone() const;
-  /// The items of cmbLanguage: the language files without their extension.
+  /// The items of cmbLanguage: the language files without their extension, by name; where none is
+  /// stored yet the one in use comes first.
   const std::vector<std::string>& Lingue() const { return lingue_; }
   /// The selected item; nothing where there is no language file.
   std::optional<std::size_t> LinguaScelta() const { return scelta_; }
@@ -60,6 +61,7 @@ class ModelloImpostazioni {
     if (visibile_) ImpostaModificato(true);
   }
   void CaricaLingue();
+  std::string InUso() const;
   void DiciEsito();
 
   Contesto& contesto_;

@@ -75,7 +75,10 @@ TEST_F(Completion, OffersVerbsAndOptions) {
 TEST_F(Completion, OffersValues) {
   EXPECT_EQ(Offered({"new", "Hall", "--mode", ""}), (Words{"1", "2", "5", "6", "7"}));
   EXPECT_EQ(Offered({"new", "Hall", "--mode", "=", "5"}), Words{"5"});
-  EXPECT_EQ(Offered({"--lang", ""}), (Words{"English", "Italiano"}));
+  EXPECT_EQ(Offered({"--lang", ""}), (Words{"Deutsch", "English", "Espa\xC3\xB1ol",
+                                            "Fran\xC3\xA7"
+                                            "ais",
+                                            "Italiano"}));
   EXPECT_EQ(Offered({"--program", "=", k.Host("program"), "--lang", "It"}), Words{"Italiano"});
   EXPECT_EQ(Offered({"config", "it's", "get", "lo"}), Words{"LOUT"});
   EXPECT_TRUE(Offered({"config", "none", "get", "lo"}).empty());

@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "core/Aiuto.h"
 #include "support/Banco.h"
 #include "support/EsecutoreFinto.h"
+#include "support/Lingue.h"
 
 namespace kvr5 {
 namespace {
@@ -26,6 +29,16 @@ TEST_F(Help, OpensTheDocumentThatTheLanguageNames) {
   Language("[HelpFiles]\r\n001=Guide.pdf\r\n");
   ApriAiuto(b.C, host);
   EXPECT_EQ(host.Aperti, std::vector{HelpFolder() + "Guide.pdf"});
+}
+
+TEST_F(Help, OfEachLanguageOpensADocumentThatIsThere) {
+  for (const auto& file : test::FileDiLingua()) {
+    b.C.Stato.FileLingua = b.Percorso("program") + "\\Language\\" + file;
+    ApriAiuto(b.C, host);
+    const std::string name = file.substr(0, file.rfind('.')) + ".htm";
+    EXPECT_EQ(host.Aperti.back(), HelpFolder() + name);
+    EXPECT_TRUE(std::filesystem::exists(std::string(KVR5_STAGED_PROGRAM) + "/Help/" + name));
+  }
 }
 
 TEST_F(Help, OpensTheFolderWhereTheLanguageNamesNone) {

@@ -15,6 +15,8 @@ constexpr const char* kWords =
     "[Strings]\r\n0090005=choose\r\n0090008=leave?\r\n0090009=saved\r\n0090010=settings\r\n"
     "0090011=not saved\r\n0090012=it failed\r\n0090015=no folder\r\n";
 
+constexpr std::size_t kItaliano = 4;  // the last of the five languages, by name
+
 class SettingsForm : public testing::Test {
  protected:
   void SetUp() override {
@@ -54,8 +56,11 @@ TEST_F(SettingsForm, ShowWhatTheFileHolds) {
   b.C.Stato.CartellaProgetti = "C:\\elsewhere";
   Open(projects, "Italiano.lan", "1");
   EXPECT_EQ(m.Cartella(), projects) << "not what the program goes by at present";
-  EXPECT_EQ(m.Lingue(), (std::vector<std::string>{"English", "Italiano"}));
-  EXPECT_EQ(m.LinguaScelta(), 1U);
+  EXPECT_EQ(m.Lingue(), (std::vector<std::string>{"Deutsch", "English", "Espa\xC3\xB1ol",
+                                                  "Fran\xC3\xA7"
+                                                  "ais",
+                                                  "Italiano"}));
+  EXPECT_EQ(m.LinguaScelta(), kItaliano);
   EXPECT_TRUE(m.PlayerEsterno());
   EXPECT_FALSE(m.Modificato());
 }
@@ -93,7 +98,7 @@ TEST_F(SettingsForm, ALanguageThatIsNotThereLeavesTheFirstItem) {
 
 TEST_F(SettingsForm, ALanguageIsFoundWithoutRegardToCase) {
   Open(projects, "ITALIANO.LAN");
-  EXPECT_EQ(m.LinguaScelta(), 1U);
+  EXPECT_EQ(m.LinguaScelta(), kItaliano);
 }
 
 TEST_F(SettingsForm, AFolderWithoutLanguagesGivesAnEmptyListAndStoresNone) {
@@ -113,7 +118,7 @@ TEST_F(SettingsForm, ChangesWhileTheFormIsNotVisibleAreNotMarked) {
   Open(projects);
   m.Carica();
   m.ScegliPlayer(true);
-  m.ScegliLingua(1);
+  m.ScegliLingua(kItaliano);
   m.CambiaCartella("C:\\");
   EXPECT_FALSE(m.Modificato());
 }
@@ -135,7 +140,7 @@ TEST_F(SettingsForm, EachChangeOfTheVisibleFormIsMarked) {
 TEST_F(SettingsForm, ALanguagePastTheListIsPassedOver) {
   Open(projects);
   m.ScegliLingua(7);
-  EXPECT_EQ(m.LinguaScelta(), 0U);
+  EXPECT_EQ(m.LinguaScelta(), 1U);
   EXPECT_FALSE(m.Modificato());
 }
 
@@ -164,7 +169,7 @@ TEST_F(SettingsForm, AreStoredWithTheFoldersBackslash) {
   Open(projects);
   m.CambiaCartella("  " + b.Percorso("card") + " ");
   m.ScegliPlayer(true);
-  m.ScegliLingua(1);
+  m.ScegliLingua(kItaliano);
   m.Salva();
   ExpectBox("settings", "saved");
   EXPECT_EQ(m.Cartella(), b.Percorso("card"));
@@ -198,7 +203,7 @@ TEST_F(SettingsForm, AFolderThatIsNotThereStoresNothing) {
 
 TEST_F(SettingsForm, TheBoxOfASaveStandsBeforeTheLanguageIsWritten) {
   Open(projects);
-  m.ScegliLingua(1);
+  m.ScegliLingua(kItaliano);
   b.Finestre.SuBox = [&](const BoxVisto&) {
     EXPECT_EQ(Stored("Config", "LanguageFile"), "English.lan");
   };

@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <set>
 #include <sstream>
 #include <vector>
@@ -11,27 +9,30 @@
 #include "platform/CodePage.h"
 #include "platform/IniFile.h"
 #include "playerconfig/Parametri.h"
+#include "support/Lingue.h"
+
+// What holds of every language file as it is shipped.
 
 namespace kvr5 {
 namespace {
 
 using Keys = std::set<std::string>;
 
-std::string LanguageFile(const std::string& name) {
-  std::ifstream in(std::string(KVR5_STAGED_PROGRAM) + "/Language/" + name, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+class Languages : public testing::TestWithParam<std::string> {};
+
+INSTANTIATE_TEST_SUITE_P(All, Languages, testing::ValuesIn(test::FileDiLingua()),
+                         test::NomeDiProva);
+
+TEST(Languages, AreFive) {
+  EXPECT_EQ(test::FileDiLingua(),
+            (std::vector<std::string>{"Deutsch.lan", "English.lan", "Espa\xC3\xB1ol.lan",
+                                      "Fran\xC3\xA7"
+                                      "ais.lan",
+                                      "Italiano.lan"}));
 }
 
-class Languages : public testing::TestWithParam<const char*> {};
-
-INSTANTIATE_TEST_SUITE_P(All, Languages, testing::Values("English.lan", "Italiano.lan"),
-                         [](const auto& each) {
-                           const std::string name = each.param;
-                           return name.substr(0, name.find('.'));
-                         });
-
 TEST_P(Languages, HoldEveryKeyThatTheProgramAsksFor) {
-  const std::string file = LanguageFile(GetParam());
+  const std::string file = test::LinguaSpedita(GetParam());
   const CodePage page(1252);
   Keys keys = test::LiteralKeys();
   for (const auto& key : ChiaviDelleVoci()) keys.insert(key);
@@ -44,44 +45,72 @@ TEST_P(Languages, HoldEveryKeyThatTheProgramAsksFor) {
 }
 
 TEST_P(Languages, AreTextFilesOfTheSystem) {
-  const std::string file = LanguageFile(GetParam());
-  std::istringstream stream(file);
+  std::istringstream stream(test::LinguaSpedita(GetParam()));
   for (std::string line; std::getline(stream, line);) {
     EXPECT_TRUE(line.ends_with('\r')) << line;
-    EXPECT_EQ(line.find("\xC3"), std::string::npos) << "UTF-8 in " << line;
+    EXPECT_EQ(line.find('\xC3'), std::string::npos) << "UTF-8 in " << line;
   }
 }
 
-TEST(Languages, HoldTheSameKeys) {
-  const auto keys = [](const std::string& file) {
-    Keys found;
-    std::istringstream stream(file);
-    for (std::string line; std::getline(stream, line);)
-      found.insert(line.substr(0, line.find('=')));
-    return found;
-  };
-  EXPECT_EQ(keys(LanguageFile("English.lan")), keys(LanguageFile("Italiano.lan")));
+/// The keys of a language file in the order of its lines, sections with them.
+std::vector<std::string> KeysInOrder(const std::string& language) {
+  std::vector<std::string> keys;
+  std::istringstream stream(test::LinguaSpedita(language));
+  for (std::string line; std::getline(stream, line);)
+    keys.push_back(line.substr(0, line.find('=')));
+  return keys;
 }
 
-/// The documents that key 001 of section [HelpFiles] of a language file names.
-std::vector<std::string> HelpDocuments(const std::string& file) {
-  std::vector<std::string> documents;
-  bool inside = false;
-  std::istringstream stream(file);
-  for (std::string line; std::getline(stream, line);) {
-    if (line.ends_with('\r')) line.pop_back();
-    if (line.starts_with('[')) inside = line == "[HelpFiles]";
-    const auto sign = line.find('=');
-    if (inside && line.substr(0, sign) == "001") documents.push_back(line.substr(sign + 1));
+TEST_P(Languages, HoldTheSameKeysInOneOrder) {
+  EXPECT_EQ(KeysInOrder(GetParam()), KeysInOrder("English.lan"));
+}
+
+/// The places of a text that the program fills, such as %1, each as often as it stands there.
+std::multiset<char> Places(const std::string& text) {
+  std::multiset<char> places;
+  for (auto at = text.find('%'); at != std::string::npos; at = text.find('%', at + 1)) {
+    if (at + 1 < text.size() && std::isdigit(static_cast<unsigned char>(text[at + 1])) != 0) {
+      places.insert(text[at + 1]);
+    }
   }
-  return documents;
+  return places;
+}
+
+TEST_P(Languages, HaveThePlacesThatTheProgramFills) {
+  const auto english = test::VociDiLingua("English.lan", "Strings");
+  for (const auto& [key, text] : test::VociDiLingua(GetParam(), "Strings")) {
+    EXPECT_EQ(Places(text), Places(english.at(key))) << key << ": " << text;
+  }
+}
+
+TEST_P(Languages, KeepTheBlanksBetweenPiecesThatAreJoined) {
+  const auto english = test::VociDiLingua("English.lan", "Strings");
+  for (const auto& [key, text] : test::VociDiLingua(GetParam(), "Strings")) {
+    ASSERT_FALSE(text.empty()) << key;
+    EXPECT_EQ(text.starts_with(' '), english.at(key).starts_with(' ')) << key;
+    EXPECT_EQ(text.ends_with(' '), english.at(key).ends_with(' ')) << key;
+  }
+}
+
+TEST_P(Languages, HaveNoTextLongerThanTheProgramReads) {
+  const CodePage page(1252);
+  for (const auto& [key, text] : test::VociDiLingua(GetParam(), "Strings")) {
+    EXPECT_LE(page.Encode(text).size(), 253U) << key;
+  }
+}
+
+TEST_P(Languages, NeverShout) {
+  for (const auto& [key, text] : test::VociDiLingua(GetParam(), "Strings")) {
+    EXPECT_EQ(text.find('!'), std::string::npos) << key << ": " << text;
+  }
 }
 
 TEST_P(Languages, NameHelpDocumentsThatAreThere) {
-  const std::filesystem::path help = std::filesystem::path(KVR5_SOURCE_TREE) / "data/Help";
-  const auto documents = HelpDocuments(LanguageFile(GetParam()));
+  const auto documents = test::VociDiLingua(GetParam(), "HelpFiles");
   EXPECT_EQ(documents.size(), 1U);
-  for (const auto& document : documents) {
+  const std::filesystem::path help = std::filesystem::path(KVR5_STAGED_PROGRAM) / "Help";
+  for (const auto& [key, document] : documents) {
+    EXPECT_EQ(key, "001");
     EXPECT_TRUE(std::filesystem::is_regular_file(help / document)) << "\"" << document << "\"";
   }
 }

@@ -60,9 +60,11 @@ void PaneMp3::Costruisci() {
   Veste(*lblPercorso, Carattere::Suggerimento, Ruolo::Attenuato);
   auto* words = new QVBoxLayout();
   words->setSpacing(0);
-  lblVuota = NuovaEtichetta("lblVuota", {}, -1, this);
+  lblVuota = new EtichettaElisa("lblVuota", this);
   Veste(*lblVuota, Carattere::Suggerimento, Ruolo::Attenuato);
-  words->addLayout(Riga({lblMp3_Dir, lblVuota, nullptr}));
+  auto* caption = Riga({lblMp3_Dir});
+  caption->addWidget(lblVuota, 1);
+  words->addLayout(caption);
   words->addWidget(lblPercorso);
   auto* top = new QHBoxLayout();
   top->addWidget(picDisk);

@@ -60,6 +60,7 @@ TEST_F(Configura, WithoutAStoredLanguageTheChoiceCanBeStoredAtOnce) {
   SalvaBene();
   EXPECT_EQ(Valore("Config", "LanguageFile"),
             forma->cmbLanguage->itemText(0).toStdString() + ".lan");
+  EXPECT_EQ(Valore("Config", "LanguageFile"), "English.lan") << "the one that is being read";
 }
 
 TEST_F(Configura, ALanguageThatIsNotThereLeavesTheFirstItemShown) {
@@ -98,7 +99,8 @@ TEST_F(Configura, AClickOnEitherOptionMarksAChangeAlsoOnTheOneThatIsOn) {
 TEST_F(Configura, ALanguageChosenByKeyIsMarkedAndStored) {
   frmConfig& form = Apri();
   form.cmbLanguage->setFocus();
-  Tasto(form, form.cmbLanguage->currentIndex() == 0 ? Qt::Key_Down : Qt::Key_Up);
+  ASSERT_EQ(form.cmbLanguage->currentText(), "English");
+  Tasto(form, Qt::Key_End);
   EXPECT_EQ(form.cmbLanguage->currentText(), "Italiano");
   EXPECT_TRUE(Modificato());
   SalvaBene();
@@ -313,13 +315,13 @@ TEST_F(Configura, TheLanguageInUseIsNamedWhereAnotherOneIsShown) {
   Scrivi("[Path]\r\nProjectsDir=" + b.Percorso("program\\Projects") + "\r\n[Config]\r\n");
   b.C.Stato.FileLingua = b.Percorso("program/Language/Italiano.lan");
   frmConfig& form = Apri();
-  ASSERT_EQ(form.cmbLanguage->currentText(), "English") << "the first of the folder";
-  EXPECT_EQ(form.lblNota->text(), "Lingua in uso ora: Italiano");
-  EXPECT_EQ(form.cmbLanguage->accessibleDescription(), form.lblNota->text());
+  ASSERT_EQ(form.cmbLanguage->currentText(), "Italiano") << "it comes first";
+  EXPECT_EQ(form.lblNota->text(), "");
   form.cmbLanguage->setFocus();
   Tasto(form, Qt::Key_Down);
-  ASSERT_EQ(form.cmbLanguage->currentText(), "Italiano");
-  EXPECT_EQ(form.lblNota->text(), "");
+  ASSERT_EQ(form.cmbLanguage->currentText(), "Deutsch") << "then the others, by name";
+  EXPECT_EQ(form.lblNota->text(), "Lingua in uso ora: Italiano");
+  EXPECT_EQ(form.cmbLanguage->accessibleDescription(), form.lblNota->text());
 }
 
 TEST_F(Configura, AFolderThatTheSettingsCannotKeepIsWarnedOf) {

@@ -1,15 +1,14 @@
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <map>
 #include <set>
-#include <sstream>
 
 #include "core/Aiuti.h"
 #include "core/screens/LocalizzaForm.h"
 #include "house/SourceTree.h"
 #include "playerconfig/Parametri.h"
 #include "road/screens/GiroSchermi.h"
+#include "support/Lingue.h"
 
 // The texts of the language files and the screens that ask for them by numbers.
 
@@ -19,20 +18,8 @@ namespace {
 using Keys = std::set<std::string>;
 using Texts = std::map<std::string, std::string>;
 
-/// The texts of a language file as it is shipped, each in its bytes of Windows-1252.
 Texts TextsOf(const std::string& language) {
-  std::ifstream in(std::string(KVR5_STAGED_PROGRAM) + "/Language/" + language, std::ios::binary);
-  Texts texts;
-  bool inside = false;
-  for (std::string line; std::getline(in, line);) {
-    if (line.ends_with('\r')) line.pop_back();
-    if (line.starts_with('[')) inside = line == "[Strings]";
-    const auto equals = line.find('=');
-    if (inside && equals != std::string::npos) {
-      texts[line.substr(0, equals)] = line.substr(equals + 1);
-    }
-  }
-  return texts;
+  return test::VociDiLingua(language, "Strings");
 }
 
 /// The keys that a form of this number asks for: its own caption and each control's.
@@ -59,29 +46,23 @@ Keys KeysOfForms(const std::string& language) {
   return keys;
 }
 
-class Words : public testing::TestWithParam<const char*> {};
-
-TEST_P(Words, OfEveryControlStandInTheLanguageFile) {
-  const Texts texts = TextsOf(GetParam());
-  const Keys keys = KeysOfForms(GetParam());
+TEST(Words, OfEveryControlStandInTheLanguageFiles) {
+  const Keys keys = KeysOfForms("English.lan");
   EXPECT_GT(keys.size(), 70U);
-  for (const auto& key : keys) {
-    ASSERT_TRUE(texts.contains(key)) << key;
-    EXPECT_FALSE(texts.at(key).empty()) << key;
-    EXPECT_LE(texts.at(key).size(), 253U) << key;
+  for (const auto& language : test::FileDiLingua()) {
+    const Texts texts = TextsOf(language);
+    for (const auto& key : keys) {
+      ASSERT_TRUE(texts.contains(key)) << language << ": " << key;
+      EXPECT_FALSE(texts.at(key).empty()) << language << ": " << key;
+    }
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Languages, Words, testing::Values("English.lan", "Italiano.lan"), [](const auto& each) {
-      return std::string(each.param).substr(0, std::string(each.param).find('.'));
-    });
 
 /// Texts that are there before the screen that asks for them.
 Keys WaitingKeys() {
   return {
-      "0130155",             // giving copies their names back
-      "0130196",             // what a recording leaves there
+      "0130155",  // giving copies their names back
+      "0130196",  // what a recording leaves there
   };
 }
 
@@ -91,13 +72,10 @@ TEST(Words, ThatNobodyAsksForAreNotShipped) {
   asked.merge(KeysOfForms("English.lan"));
   for (const auto& key : ChiaviDelleVoci()) asked.insert(key);
   const Keys waiting = WaitingKeys();
-  for (const char* language : {"English.lan", "Italiano.lan"}) {
-    for (const auto& [key, text] : TextsOf(language)) {
-      EXPECT_TRUE(asked.contains(key) || waiting.contains(key)) << language << ": " << key;
-      EXPECT_LE(text.size(), 253U) << language << ": " << key;
-    }
-  }
   const Texts texts = TextsOf("English.lan");
+  for (const auto& [key, text] : texts) {
+    EXPECT_TRUE(asked.contains(key) || waiting.contains(key)) << key;
+  }
   for (const auto& key : waiting) {
     EXPECT_FALSE(asked.contains(key)) << key << " is asked for by now: it needs no exception";
     EXPECT_TRUE(texts.contains(key)) << key << " is gone: it needs no exception";
