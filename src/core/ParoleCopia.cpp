@@ -21,11 +21,11 @@ Words WordsFor(const CopyFailure& failure) {
     case errors::DeviceUnavailable:
     case errors::DiskNotReady:
     case errors::DeviceIo:
-      return {"0130004", "The card or disk no longer answers. Put it back in, then repeat."};
+      return {"0130004", "The card or disk no longer answers. Connect it again, then repeat."};
     case errors::FileNotFound:
     case errors::PathNotFound:
       if (!failure.Source) {
-        return {"0130004", "The card or disk no longer answers. Put it back in, then repeat."};
+        return {"0130004", "The card or disk no longer answers. Connect it again, then repeat."};
       }
       return {"0130006", "This file isn't where it was. Look for it, then repeat."};
     case errors::PermissionDenied:

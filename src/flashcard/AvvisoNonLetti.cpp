@@ -13,8 +13,8 @@ void AvvisaNonLetti(Contesto& contesto, const EsitoRegistrazione& esito) {
   for (const auto& name : esito.NonLetti) names += (names.empty() ? "" : ", ") + name;
   contesto.Finestre.MostraMessaggio(
       {TestoLinguaO(contesto, "0130254", "Not everything is on the card"),
-       ConValori(TestoLinguaO(contesto, "0130255", "%1 couldn't be read."), {names}), Icona::Avviso,
-       Pulsanti::Ok, Risposta::Ok});
+       ConValori(TestoLinguaO(contesto, "0130255", "These could not be read: %1."), {names}),
+       Icona::Avviso, Pulsanti::Ok, Risposta::Ok});
 }
 
 }  // namespace kvr5

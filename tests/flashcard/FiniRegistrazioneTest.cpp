@@ -334,7 +334,8 @@ TEST_F(Recording, WhatItCouldNotReadIsNamedWhereItEndedWell) {
   AvvisaNonLetti(b.C, {FineRegistrazione::Compiuta, 3, 100, unread});
   const auto& box = b.Finestre.Prossimo();
   EXPECT_EQ(box.Titolo, "Not everything is on the card");
-  EXPECT_TRUE(box.Testo.starts_with("inputcfg.mdb, playlist.mdb couldn't be read")) << box.Testo;
+  EXPECT_TRUE(box.Testo.starts_with("These could not be read: inputcfg.mdb, playlist.mdb. "))
+      << box.Testo;
   EXPECT_TRUE(b.Finestre.Silenzio());
 }
 

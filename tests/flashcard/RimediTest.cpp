@@ -109,8 +109,9 @@ TEST_F(VerificaRimedi, WhatIsOnNoDriveHereOrIsAFolderIsToBeLookedFor) {
 
 TEST_F(VerificaRimedi, ASourceThatIsGoneIsToldWithItsPath) {
   const std::string english =
-      "The project's own file can't be had: look for it first, then record. ";
-  const std::string italian = "Manca il file del progetto: prima cercarlo, poi registrare. ";
+      "This file of the project is missing on the computer: look for it first, then record. ";
+  const std::string italian =
+      "Sul computer manca questo file del progetto: prima cercarlo, poi registrare. ";
   for (const Modello& model : {kInputs, kPlaylists, kSchedule}) {
     SCOPED_TRACE(model.Mode);
     EmptyCard();
@@ -146,11 +147,11 @@ TEST_F(VerificaRimedi, ASourceThatIsThereButCannotBeOpenedOrReadIsToldAsThat) {
   const Riscontro found = Only(Difetto::NonLetto, "5.mp3");
   ExpectReason(found, Mancanza::Illeggibile, Music() + "a.mp3");
   ExpectRemedy(found,
-               "The project's own file is there, but can't be read: look whether you may open "
-               "it. " +
+               "This file of the project can't be read on the computer: look whether you may "
+               "open it. " +
                    Host("music/a.mp3"),
-               "Il file del progetto c'è ma non si legge: verificare se si ha il diritto di "
-               "aprirlo. " +
+               "Sul computer questo file del progetto non si legge: verificare se si ha il diritto "
+               "di aprirlo. " +
                    Host("music/a.mp3"));
   bench.Guasto->FailReadsAfter(b.Percorso("music/b.mp3"), 100, errors::DeviceIo);
   Verify();

@@ -35,13 +35,6 @@ std::vector<std::string> Includes(const std::string& text, char open, char close
   return names;
 }
 
-bool IsKey(std::string text) {
-  if (text.ends_with(' ')) text.pop_back();
-  const bool digits =
-      std::all_of(text.begin(), text.end(), [](char each) { return each >= '0' && each <= '9'; });
-  return digits && (text.size() == 7 || text == "70008" || text == "50014");
-}
-
 }  // namespace
 
 std::vector<SourceFile> SourceFiles() {
@@ -83,6 +76,13 @@ std::vector<std::string> Literals(const std::string& text) {
     literals.push_back(literal);
   }
   return literals;
+}
+
+bool IsKey(std::string text) {
+  if (text.ends_with(' ')) text.pop_back();
+  const bool digits =
+      std::all_of(text.begin(), text.end(), [](char each) { return each >= '0' && each <= '9'; });
+  return digits && (text.size() == 7 || text == "70008" || text == "50014");
 }
 
 std::set<std::string> LiteralKeys() {

@@ -22,6 +22,8 @@ std::vector<std::string> QuotedIncludes(const std::string& text);
 std::vector<std::string> AngleIncludes(const std::string& text);
 /// The texts in double quotes of a file, escapes as they stand.
 std::vector<std::string> Literals(const std::string& text);
+/// Whether a literal is the key of a text of the language files.
+bool IsKey(std::string text);
 /// The keys of texts of the language files that stand as literals in the sources.
 std::set<std::string> LiteralKeys();
 

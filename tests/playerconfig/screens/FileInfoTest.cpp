@@ -188,8 +188,8 @@ TEST_F(FileInfo, TheReasonOfARefusalIsItsToolTip) {
   EXPECT_EQ(reason(), "48,000 Hz; the player takes 22,050 to 44,100 Hz");
   ScegliFile("b.mp3");
   EXPECT_EQ(reason(),
-            "The tag at the start of this file hides its first frame. Save the file without tags, "
-            "then choose it again.");
+            "The tag (title, picture) at the start of this file hides its first frame. Save the "
+            "file without tags, then choose it again.");
   ScegliFile("good.mp3");
   EXPECT_FALSE(Refused());
   EXPECT_EQ(reason(), "");

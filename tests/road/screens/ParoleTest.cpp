@@ -1,85 +1,47 @@
 #include <gtest/gtest.h>
 
-#include <map>
-#include <set>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 
-#include "core/Aiuti.h"
-#include "core/screens/LocalizzaForm.h"
-#include "house/SourceTree.h"
-#include "playerconfig/Parametri.h"
-#include "road/screens/GiroSchermi.h"
+#include "road/screens/TabellaTesti.h"
 #include "support/Lingue.h"
 
-// The texts of the language files and the screens that ask for them by numbers.
+// The texts of the language files and the screens and sources that ask for them.
 
 namespace kvr5 {
 namespace {
 
-using Keys = std::set<std::string>;
-using Texts = std::map<std::string, std::string>;
-
-Texts TextsOf(const std::string& language) {
-  return test::VociDiLingua(language, "Strings");
+TEST(Words, OfEveryFormAreCounted) {
+  std::string numbers;
+  for (const auto& [number, name] : test::NumeriDelleForm()) numbers += number + " ";
+  EXPECT_EQ(numbers, "002 003 004 005 006 007 008 009 011 012 014 015 016 017 019 ");
 }
 
-/// The keys that a form of this number asks for: its own caption and each control's.
-void AddKeysOf(const QWidget& form, std::int16_t number, Keys& keys) {
-  constexpr std::int16_t kWizard = 16;
-  if (number != kWizard) keys.insert(ChiaveTitolo(number));  // that has the program's name
-  for (const QWidget* control : form.findChildren<QWidget*>()) {
-    const std::string key = ChiaveScritta(number, *control);
-    if (!key.empty()) keys.insert(key);
-  }
-}
-
-/// The keys that all forms ask for by their number and the tags of their controls.
-Keys KeysOfForms(const std::string& language) {
-  Keys keys;
-  std::set<int> numbers;
-  test::GiroSchermi(language).Percorri([&](const test::SchermoVisto& screen) {
-    const QVariant number = screen.Finestra.property(kNumero);
-    if (!number.isValid()) return;
-    numbers.insert(number.toInt());
-    AddKeysOf(screen.Finestra, static_cast<std::int16_t>(number.toInt()), keys);
-  });
-  EXPECT_EQ(numbers, (std::set{2, 3, 4, 5, 6, 7, 8, 9, 11, 12, 14, 15, 16, 17, 19}));
-  return keys;
-}
-
-TEST(Words, OfEveryControlStandInTheLanguageFiles) {
-  const Keys keys = KeysOfForms("English.lan");
-  EXPECT_GT(keys.size(), 70U);
+TEST(Words, ThatAreAskedForStandInEveryLanguageFile) {
+  EXPECT_GT(test::TestiInUso().size(), 600U);
   for (const auto& language : test::FileDiLingua()) {
-    const Texts texts = TextsOf(language);
-    for (const auto& key : keys) {
-      ASSERT_TRUE(texts.contains(key)) << language << ": " << key;
+    const auto texts = test::VociDiLingua(language, "Strings");
+    for (const auto& [key, places] : test::TestiInUso()) {
+      ASSERT_TRUE(texts.contains(key)) << language << ": " << key << " of " << *places.begin();
       EXPECT_FALSE(texts.at(key).empty()) << language << ": " << key;
     }
   }
 }
 
-/// Texts that are there before the screen that asks for them.
-Keys WaitingKeys() {
-  return {
-      "0130155",  // giving copies their names back
-      "0130196",  // what a recording leaves there
-  };
+TEST(Words, ThatNobodyAsksForAreNotShipped) {
+  for (const auto& [key, text] : test::VociDiLingua("English.lan", "Strings")) {
+    EXPECT_TRUE(test::TestiInUso().contains(key)) << key;
+  }
 }
 
-TEST(Words, ThatNobodyAsksForAreNotShipped) {
-  Keys asked;
-  for (const auto& key : test::LiteralKeys()) asked.emplace(Rifila(key));  // one ends in a blank
-  asked.merge(KeysOfForms("English.lan"));
-  for (const auto& key : ChiaviDelleVoci()) asked.insert(key);
-  const Keys waiting = WaitingKeys();
-  const Texts texts = TextsOf("English.lan");
-  for (const auto& [key, text] : texts) {
-    EXPECT_TRUE(asked.contains(key) || waiting.contains(key)) << key;
-  }
-  for (const auto& key : waiting) {
-    EXPECT_FALSE(asked.contains(key)) << key << " is asked for by now: it needs no exception";
-    EXPECT_TRUE(texts.contains(key)) << key << " is gone: it needs no exception";
-  }
+TEST(Words, AreToldOfInTheDocumentation) {
+  const std::filesystem::path page = std::filesystem::path(KVR5_SOURCE_TREE) / "docs/texts.md";
+  if (std::getenv("KVR5_WRITE_TEXTS") != nullptr) std::ofstream(page) << test::TabellaTesti();
+  std::ifstream in(page, std::ios::binary);
+  const std::string written{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+  EXPECT_TRUE(written == test::TabellaTesti()) << "run script/texts, it writes docs/texts.md anew";
 }
 
 }  // namespace
