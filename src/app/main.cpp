@@ -2,6 +2,7 @@
 #include <cstdlib>
 
 #include "app/Programma.h"
+#include "core/screens/Mnemonici.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
 
@@ -27,6 +28,7 @@ int main(int argc, char** argv) {
   // The end is that of the last loaded form; a box may well be the only window for a moment.
   QApplication::setQuitOnLastWindowClosed(false);
   kvr5::ApplicaTema(application);
+  kvr5::InstallaMnemonici(application);
   FineDelProcesso process;
   kvr5::Programma program(kvr5::Std(QCoreApplication::applicationDirPath()), process);
   return program.Avvia(CommandLine()) ? QApplication::exec() : EXIT_FAILURE;

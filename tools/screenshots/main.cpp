@@ -9,6 +9,7 @@
 
 #include "Photographer.h"
 #include "core/Impostazioni.h"
+#include "core/screens/Mnemonici.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
 
@@ -73,6 +74,7 @@ int main(int argc, char** argv) {
   const QStringList words = QApplication::arguments();
   if (words.size() != 5) return EXIT_FAILURE;
   kvr5::ApplicaTema(application, words[3] == QStringLiteral("dark"));
+  kvr5::InstallaMnemonici(application);
   QDir().mkpath(words[4]);
   NoEnd process;
   kvr5::Programma program(kvr5::Std(words[1]), process);

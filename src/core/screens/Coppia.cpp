@@ -39,7 +39,9 @@ Coppia::Coppia(const char* nomePic, const char* nomeLbl, const QString& scritta,
 }
 
 void Coppia::ImpostaScritta(const QString& testo) {
-  setText(SenzaMnemonico(testo));
+  if (text() != SenzaMnemonico(testo)) mnemonico_ = {};  // a letter of another text
+  setText(SenzaMnemonico(testo));                        // takes the letter's key away
+  ImpostaMnemonico(mnemonico_);
   setAccessibleName(testo);
   if (etichetta_ != nullptr) {
     etichetta_->setText(testo);
@@ -69,6 +71,19 @@ void Coppia::ImpostaGenere(Genere genere) {
 
 void Coppia::ImpostaIcona(const char* icona) {
   icona_ = QLatin1String(icona);
+  update();
+}
+
+void Coppia::ImpostaMnemonico(QChar lettera) {
+  mnemonico_ = lettera;
+  setShortcut(lettera.isNull() ? QKeySequence()
+                               : QKeySequence(Qt::ALT | Qt::Key(lettera.unicode())));
+  if (sottolineato_) update();
+}
+
+void Coppia::MostraMnemonico(bool mostra) {
+  if (sottolineato_ == mostra) return;
+  sottolineato_ = mostra;
   update();
 }
 
@@ -125,6 +140,20 @@ void Coppia::Colora() {
   etichetta_->setPalette(palette);
 }
 
+/// A line below the letter, where the label draws its text: in one line, from its left or centred.
+void Coppia::Sottolinea(QPainter& painter) const {
+  const QString text = etichetta_->text();
+  const qsizetype at = text.toUpper().indexOf(mnemonico_);
+  const QFontMetrics metrics = etichetta_->fontMetrics();
+  const QRect room = etichetta_->geometry();
+  const QRect written = metrics.boundingRect(room, static_cast<int>(etichetta_->alignment()), text);
+  if (at < 0 || written.width() > room.width()) return;
+  constexpr int kBelow = 2;
+  const int left = written.left() + metrics.horizontalAdvance(text.left(at));
+  const int width = metrics.horizontalAdvance(text.at(at));
+  painter.fillRect(left, written.top() + metrics.ascent() + kBelow, width, 1, ColoreTesto());
+}
+
 void Coppia::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
@@ -136,6 +165,7 @@ void Coppia::paintEvent(QPaintEvent* /*event*/) {
   const bool alone = etichetta_ == nullptr || etichetta_->isHidden();
   DipingiIcona(painter, PostoIcona(alone), icona_,
                card ? Tema::Corrente().Primario : ColoreTesto());
+  if (sottolineato_ && !mnemonico_.isNull() && !alone) Sottolinea(painter);
 }
 
 void Coppia::resizeEvent(QResizeEvent* event) {

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 
 class QLabel;
+class QPainter;
 
 namespace kvr5 {
 
@@ -30,6 +31,11 @@ class Coppia : public QAbstractButton {
   void ImpostaScritta(const QString& testo);
   void ImpostaGenere(Genere genere);
   void ImpostaIcona(const char* icona);
+  /// The letter of the label that presses the button together with Alt; null for none.
+  void ImpostaMnemonico(QChar lettera);
+  QChar Mnemonico() const { return mnemonico_; }
+  /// Whether the letter is underlined.
+  void MostraMnemonico(bool mostra);
   Genere GenereOra() const { return genere_; }
 
   QSize sizeHint() const override;
@@ -48,10 +54,13 @@ class Coppia : public QAbstractButton {
   QColor ColoreTesto() const;
   int LatoIcona() const;
   QRect PostoIcona(bool sola) const;
+  void Sottolinea(QPainter& painter) const;
 
   QLabel* etichetta_ = nullptr;
   QString icona_;
   Genere genere_ = Genere::Normale;
+  QChar mnemonico_;
+  bool sottolineato_ = false;
 };
 
 }  // namespace kvr5

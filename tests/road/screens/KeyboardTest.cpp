@@ -11,6 +11,8 @@
 #include <string>
 #include <vector>
 
+#include "core/screens/Coppia.h"
+#include "core/screens/Mnemonici.h"
 #include "road/screens/GiroSchermi.h"
 #include "support/Lingue.h"
 #include "support/screens/Mano.h"
@@ -25,7 +27,7 @@ using Stops = std::vector<QWidget*>;
 
 /// What a walk found at fault, by the check that found it.
 struct Findings {
-  std::vector<std::string> Nameless, Astray, Scattered;
+  std::vector<std::string> Nameless, Astray, Scattered, Keyless;
 };
 
 /// Whether Tab stops at a control.
@@ -148,6 +150,22 @@ void FindScattered(const SchermoVisto& screen, std::vector<std::string>& found) 
   }
 }
 
+/// Buttons with words but without a letter for Alt, and letters that two have.
+void FindKeyless(const SchermoVisto& screen, std::vector<std::string>& found) {
+  std::map<QChar, std::string> taken;
+  for (const auto* each : screen.Finestra.findChildren<QAbstractButton*>()) {
+    const auto* button = dynamic_cast<const Coppia*>(each);
+    if (button == nullptr || button->Etichetta() == nullptr || !button->isVisible()) continue;
+    const std::string name = button->objectName().toStdString();
+    const QChar letter = button->Mnemonico();
+    const bool own = !letter.isNull() && button->text().toUpper().contains(letter);
+    if (!own)
+      found.push_back(screen.Nome + ": " + name + " \"" + button->text().toStdString() + "\"");
+    const auto [other, first] = taken.emplace(letter, name);
+    if (own && !first) found.push_back(screen.Nome + ": " + name + " and " + other->second);
+  }
+}
+
 /// One walk in a language does for all that is asked of it.
 const Findings& FoundIn(const std::string& language) {
   static std::map<std::string, Findings> walked;
@@ -156,6 +174,8 @@ const Findings& FoundIn(const std::string& language) {
   test::GiroSchermi(language).Percorri([&found](const SchermoVisto& screen) {
     FindNameless(screen, found.Nameless);
     FindScattered(screen, found.Scattered);
+    AssegnaMnemonici(screen.Finestra);
+    FindKeyless(screen, found.Keyless);
     FindAstray(screen, found.Astray);
   });
   return found;
@@ -169,6 +189,10 @@ TEST_P(Keyboard, WhatItReachesHasAName) {
 
 TEST_P(Keyboard, TabGoesThroughEachWindowAsOneReadsIt) {
   EXPECT_THAT(FoundIn(GetParam()).Astray, testing::IsEmpty());
+}
+
+TEST_P(Keyboard, PressesEachButtonByALetterOfItsOwn) {
+  EXPECT_THAT(FoundIn(GetParam()).Keyless, testing::IsEmpty());
 }
 
 TEST_P(Keyboard, OfSomeOptionsTabStopsAtTheChosenOne) {

@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <cstdio>
 
+#include "core/screens/Mnemonici.h"
 #include "core/screens/Tema.h"
 
 namespace {
@@ -46,6 +47,7 @@ int main(int argc, char** argv) {
   const QTemporaryDir settings;
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
   kvr5::ApplicaTema(application, false);
+  kvr5::InstallaMnemonici(application);
   testing::UnitTest::GetInstance()->listeners().Append(new LoopAfresh);
   return RUN_ALL_TESTS();
 }

@@ -1,0 +1,110 @@
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <QLabel>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include "core/screens/Coppia.h"
+#include "core/screens/Mnemonici.h"
+#include "support/screens/Mano.h"
+
+// The letters that press the buttons together with Alt.
+
+namespace kvr5 {
+namespace {
+
+class Letters : public testing::Test {
+ protected:
+  Letters() { new QVBoxLayout(&window); }
+
+  Coppia* Button(const QString& words) {
+    auto* button = new Coppia("pic", "lbl", words, "salva", -1, &window);
+    window.layout()->addWidget(button);
+    QObject::connect(button, &QAbstractButton::clicked, &window,
+                     [this, words] { pressed += words; });
+    return button;
+  }
+  void Show() {
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(test::Pronta(window));
+  }
+  /// The letters of all buttons in the order in which they were made, "-" for none.
+  QString Given() const {
+    QString letters;
+    for (auto* each : window.findChildren<QAbstractButton*>()) {
+      const QChar letter = dynamic_cast<Coppia*>(each)->Mnemonico();
+      letters += letter.isNull() ? QLatin1Char('-') : letter;
+    }
+    return letters;
+  }
+
+  QWidget window;
+  QString pressed;
+};
+
+TEST_F(Letters, AreTheFirstOnesOfTheWordsWhereTheyAreFree) {
+  Button(QStringLiteral("Save"));
+  Button(QStringLiteral("Record card"));
+  Button(QStringLiteral("Report"));
+  Button(QStringLiteral("Erase card"));
+  Show();
+  EXPECT_EQ(Given(), "SREC") << "Report has no other first letter, so it takes its second one, and "
+                                "Erase card its second word's";
+}
+
+TEST_F(Letters, MoveOnForAButtonThatHasNoOther) {
+  Button(QStringLiteral("OK"));
+  Button(QStringLiteral("O"));
+  Button(QStringLiteral("O"));
+  Show();
+  EXPECT_EQ(Given(), "KO-");
+}
+
+TEST_F(Letters, AreNoneWithAnAccent) {
+  Button(QStringLiteral("\u00C9ffacer"));
+  Show();
+  EXPECT_EQ(Given(), "F");
+}
+
+TEST_F(Letters, PressTheirButtonWithAlt) {
+  Button(QStringLiteral("Save"));
+  Button(QStringLiteral("Cancel"));
+  Show();
+  QTest::keyClick(&window, Qt::Key_C, Qt::AltModifier);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !pressed.isEmpty(); }));
+  EXPECT_EQ(pressed, "Cancel");
+}
+
+TEST_F(Letters, DoNothingForAButtonThatIsDisabled) {
+  Button(QStringLiteral("Save"))->setEnabled(false);
+  Button(QStringLiteral("Cancel"));
+  Show();
+  QTest::keyClick(&window, Qt::Key_S, Qt::AltModifier);
+  QTest::keyClick(&window, Qt::Key_C, Qt::AltModifier);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !pressed.isEmpty(); }));
+  EXPECT_EQ(pressed, "Cancel");
+}
+
+TEST_F(Letters, FollowWordsThatChange) {
+  Coppia* button = Button(QStringLiteral("Play"));
+  Show();
+  button->ImpostaScritta(QStringLiteral("Stop"));
+  EXPECT_EQ(Given(), "-");
+  QTest::keyPress(&window, Qt::Key_Alt);
+  EXPECT_EQ(Given(), "S");
+}
+
+TEST_F(Letters, AreUnderlinedWhileAltIsHeld) {
+  Coppia* button = Button(QStringLiteral("Save"));
+  Show();
+  const QImage plain = button->grab().toImage();
+  QTest::keyPress(&window, Qt::Key_Alt);
+  EXPECT_NE(button->grab().toImage(), plain);
+  QTest::keyRelease(&window, Qt::Key_Alt);
+  EXPECT_EQ(button->grab().toImage(), plain);
+}
+
+}  // namespace
+}  // namespace kvr5
