@@ -27,9 +27,10 @@ std::string ParoleRifiuto(Contesto& contesto, RifiutoMp3 motivo, const InfoMp3& 
     case RifiutoMp3::NessunFlusso:
       return TestoLinguaO(contesto, "0130040", "No MPEG audio was found at the file's beginning");
     case RifiutoMp3::TagNascondeFrame:
-      return TestoLinguaO(contesto, "0130041",
-                          "The tag at the start of this file hides its first frame. Save the file "
-                          "without tags, then choose it again.");
+      return TestoLinguaO(
+          contesto, "0130041",
+          "The tag at the start of this file hides where its sound begins. Save the file "
+          "without tags, then choose it again.");
     case RifiutoMp3::NonLayer3:
       return ConValori(TestoLinguaO(contesto, "0130042", "Layer %1; the player takes Layer 3"),
                        {std::to_string(info.Layer)});

@@ -64,7 +64,7 @@ TEST_F(RefusalWords, SayThatThereIsNoAudio) {
 TEST_F(RefusalWords, OfATagThatHidesTheFrameTellTheCure) {
   info = {};
   search = {100, 5000};
-  EXPECT_NE(Words().find("hides its first frame"), std::string::npos);
+  EXPECT_NE(Words().find("hides where its sound begins"), std::string::npos);
   EXPECT_NE(Words().find("Save the file without tags"), std::string::npos);
 }
 

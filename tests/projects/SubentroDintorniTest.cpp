@@ -62,7 +62,7 @@ TEST_F(SubentroDintorni, AFileWithoutAnyMarkIsToldAsDamagedAndNotAsAnEarlierProg
   const auto box = b.Finestre.Prossimo();
   EXPECT_EQ(box.Titolo, "Lists can't be read");
   EXPECT_EQ(box.Testo,
-            "Lists of this project can't be read, and nothing of it was changed:\r\n"
+            "Nothing of this project was changed, because these lists can't be read:\r\n"
             "inputcfg.mdb: it is damaged; take it from a backup copy");
 }
 
@@ -221,8 +221,8 @@ TEST_F(SubentroDintorni, WithoutTheEmptyDatabaseOfTheProgramItSaysSo) {
   EXPECT_EQ(SubentraEDillo(b.C), FineSubentro::Fallito);
   ExpectNothingChanged(names);
   EXPECT_EQ(b.Finestre.Prossimo().Testo,
-            "This project was made by an earlier program. Its lists can't be taken over, and "
-            "nothing of it was changed:\r\n"
+            "This project was made by an earlier program. Nothing of it was changed, because "
+            "these lists can't be taken over:\r\n"
             "The program's file source.mdb is missing. Install the program again.");
   EXPECT_EQ(SubentraNeiDatabase(b.C, {.Prova = true}).Fine, FineSubentro::Compiuto);
 }

@@ -42,6 +42,8 @@ void TakePlaylists(Photographer& camera);
 void TakeSchedules(Photographer& camera);
 /// Waits for what a screen does by itself.
 void WaitFor(const std::function<bool()>& done);
+/// What the help shows, as a user would have it: projects in good order.
+void TakeGuide(Photographer& camera);
 /// The boxes and the windows that stand before others.
 void TakeBoxes(Photographer& camera);
 

@@ -1,6 +1,6 @@
-// Makes a picture of every screen: screenshots FOLDER-OF-THE-PROGRAM LANGUAGE light|dark
-// OUT-FOLDER. The program's folder is a copy that may be written to; nothing is shown on a display
-// (QT_QPA_PLATFORM=offscreen).
+// Makes a picture of every screen, or with the last word those of the help alone: screenshots
+// FOLDER-OF-THE-PROGRAM LANGUAGE light|dark OUT-FOLDER [guide]. The program's folder is a copy that
+// may be written to; nothing is shown on a display (QT_QPA_PLATFORM=offscreen).
 
 #include <QApplication>
 #include <QDir>
@@ -61,7 +61,7 @@ void TakeSettings(Photographer& camera) {
   Find<kvr5::frmConfig>()->optInternal->click();
   camera.Take("frmConfig", QStringLiteral("frmConfig-changed"));
   auto* languages = Find<kvr5::frmConfig>()->cmbLanguage;
-  languages->setCurrentIndex(1 - languages->currentIndex());
+  languages->setCurrentIndex((languages->currentIndex() + 1) % languages->count());
   emit languages->activated(languages->currentIndex());
   camera.Take("frmConfig", QStringLiteral("frmConfig-note"));
 }
@@ -72,7 +72,8 @@ int main(int argc, char** argv) {
   qInstallMessageHandler(Print);
   QApplication application(argc, argv);
   const QStringList words = QApplication::arguments();
-  if (words.size() != 5) return EXIT_FAILURE;
+  const bool guide = words.size() == 6 && words[5] == QStringLiteral("guide");
+  if (words.size() != 5 && !guide) return EXIT_FAILURE;
   kvr5::ApplicaTema(application, words[3] == QStringLiteral("dark"));
   kvr5::InstallaMnemonici(application);
   QDir().mkpath(words[4]);
@@ -83,6 +84,10 @@ int main(int argc, char** argv) {
   kvr5::ScriviParametroIni(context, kvr5::FileImpostazioni(context), "Config", "LanguageFile",
                            kvr5::Std(words[2]) + ".lan");
   program.Avvia({});
+  if (guide) {
+    TakeGuide(camera);
+    return EXIT_SUCCESS;
+  }
   camera.Take("frmSplash", QStringLiteral("frmSplash"));
   program.Mostra(kvr5::Schermata::Menu);
   camera.Take("frmMain", QStringLiteral("frmMain"));

@@ -37,9 +37,13 @@ Livelli::Livelli(Contesto& contesto, QWidget* padre)
   grid->setVerticalSpacing(4);
   for (int i = 0; i < 4; ++i) {
     const Cursore& each = cursori_.at(static_cast<std::size_t>(i));
+    QLabel*& name = nomi_.at(static_cast<std::size_t>(i));
+    name = NuovaEtichetta(each.Chiave, {}, -1, this);
+    Veste(*name, Carattere::Suggerimento, Ruolo::Attenuato);
     grid->addWidget(pictures.at(static_cast<std::size_t>(i)), 0, i, Qt::AlignHCenter);
-    grid->addWidget(each.Slider, 1, i, Qt::AlignHCenter);
-    grid->addWidget(each.Valore, 2, i, Qt::AlignHCenter);
+    grid->addWidget(name, 1, i, Qt::AlignHCenter);
+    grid->addWidget(each.Slider, 2, i, Qt::AlignHCenter);
+    grid->addWidget(each.Valore, 3, i, Qt::AlignHCenter);
     grid->setColumnStretch(i, 1);
     connect(each.Slider, &QSlider::valueChanged, this, [this, each] {
       each.Aggiorna();
@@ -86,6 +90,7 @@ void Livelli::Localizza() {
     const QString name = Qs(TestoLingua(contesto_, kNames[i]));
     cursori_[i].Slider->setAccessibleName(name);
     cursori_[i].Slider->setToolTip(name);
+    nomi_[i]->setText(name);
   }
   picVolume->setToolTip(sliVolume->toolTip());
   picLoudness->setToolTip(sliLoudness->toolTip());

@@ -44,6 +44,7 @@ class Livelli : public Riquadro {
 
   Contesto& contesto_;
   std::array<Cursore, 4> cursori_;
+  std::array<QLabel*, 4> nomi_{};  ///< below the pictures
 };
 
 }  // namespace kvr5

@@ -187,9 +187,10 @@ TEST_F(FileInfo, TheReasonOfARefusalIsItsToolTip) {
   ScegliFile("a.mp3");
   EXPECT_EQ(reason(), "48,000 Hz; the player takes 22,050 to 44,100 Hz");
   ScegliFile("b.mp3");
-  EXPECT_EQ(reason(),
-            "The tag (title, picture) at the start of this file hides its first frame. Save the "
-            "file without tags, then choose it again.");
+  EXPECT_EQ(
+      reason(),
+      "The tag (title, picture) at the start of this file hides where its sound begins. Save the "
+      "file without tags, then choose it again.");
   ScegliFile("good.mp3");
   EXPECT_FALSE(Refused());
   EXPECT_EQ(reason(), "");

@@ -53,8 +53,8 @@ TEST_F(TakeoverOnOpening, ADamagedDatabaseIsToldAndTheProjectOpensAllTheSame) {
   {
     const auto box =
         Box("Project not taken over",
-            "This project was made by an earlier program. Its lists can't be taken over, and "
-            "nothing of it was changed:\n"
+            "This project was made by an earlier program. Nothing of it was changed, because "
+            "these lists can't be taken over:\n"
             "playlist.mdb: it is damaged; take it from a backup copy");
     Leggi();
   }
