@@ -219,4 +219,17 @@ strange_home() {
   whole
 }
 
+# The shell offers the languages of the user's folder, before there is one those of the package.
+completion() {
+  install 1 Language/English.lan
+  script=$(dirname "$template")/../docs/completion/kvr5card.bash
+  offered() {
+    PATH="$work/usr/bin:$PATH" bash -c "source '$script'; command=kvr5card; _kvr5card_languages ''" | tr '\n' ' '
+  }
+  is "$(offered)" "English "
+  kvr5card >/dev/null
+  echo >"$folder/Language/Mine.lan"
+  is "$(offered)" "English Mine "
+}
+
 "$2"
