@@ -15,10 +15,16 @@ _kvr5card_words() {
   _kvr5card_offer "$start" < <(printf '%s\n' "$@")
 }
 
-# The names of the languages beside the program.
+# The names of the languages beside the program. An installed command starts the user's copy of it,
+# which the first start makes.
 _kvr5card_languages() {
   local folder=$1 file
   [[ -n $folder ]] || folder=$(dirname -- "$(readlink -f -- "$(type -P -- "$command")")")
+  if [[ -z $1 && ! -d $folder/Language ]]; then
+    file=${folder%/bin}/lib/kvr5software
+    folder=${XDG_DATA_HOME:-$HOME/.local/share}/KVR5Software
+    [[ -d $folder/Language ]] || folder=$file
+  fi
   for file in "$folder"/Language/*.lan; do
     [[ -e $file ]] || continue
     file=${file##*/}
