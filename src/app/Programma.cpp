@@ -184,6 +184,7 @@ void Programma::AvviaTempoSplash() {
 bool Programma::RegistraProgetto(TabellaIngressi& ingressi) {
   SceltaDalDialogo choice(*this);
   const auto end = RegistraProgettoSuFlash(contesto_, ingressi, progresso_, choice);
+  registrataIntera_ = end.Intera();
   AvvisaNonLetti(contesto_, end);
   return end.Fine == FineRegistrazione::Annullata;
 }

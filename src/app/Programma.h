@@ -71,6 +71,7 @@ class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
   void AvviaTempoSplash() override;
 
   bool RegistraProgetto(TabellaIngressi& ingressi) override;
+  bool RegistrataIntera() const override { return registrataIntera_; }
   bool ChiediScheda() override;
   void SvuotaScheda() override;
   void VerificaScheda() override;
@@ -105,6 +106,7 @@ class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
   Drives drives_;
   DriveDelComputer driveDelComputer_{drives_, files_};
   ProgressoQt progresso_;
+  bool registrataIntera_ = false;
 
   FormPredefinita<frmSplash> splash_{[this] { return new frmSplash(ambiente_); }};
   FormPredefinita<frmMain> menu_{[this] { return new frmMain(ambiente_); }};

@@ -242,8 +242,12 @@ bool Recording::CardWentAway() {
 }
 
 void Recording::Copy(const std::string& from, const std::string& to) {
-  if (CardWentAway()) return;
+  if (CardWentAway()) {
+    outcome_.CopieRiuscite = false;
+    return;
+  }
   const CopyOutcome copied = CopiaFileShell(context_, from, to);
+  if (copied.Result != 0) outcome_.CopieRiuscite = false;
   outcome_.File += copied.FilesCopied;
   outcome_.Byte += copied.BytesCopied;
 }

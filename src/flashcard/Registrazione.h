@@ -29,6 +29,12 @@ struct EsitoRegistrazione {
   /// The project's databases that are there but can't be read: their passes were skipped in
   /// silence, as if they were missing.
   std::vector<std::string> NonLetti{};
+  bool CopieRiuscite = true;  ///< one that failed was told by the copy window
+
+  /// Whether everything of the project is on the card.
+  bool Intera() const {
+    return Fine == FineRegistrazione::Compiuta && NonLetti.empty() && CopieRiuscite;
+  }
 };
 
 /// Turns the project's folder, as it stands on the disk, into the card's contents: a write test,

@@ -74,6 +74,17 @@ TEST_F(Recording, AMissingInputFileIsToldByTheCopyAndTheRunGoesOn) {
   EXPECT_EQ(Record(), FineRegistrazione::Compiuta);
   ASSERT_EQ(b.Copia.Guasti.size(), 1U);
   EXPECT_TRUE(b.Finestre.Silenzio());
+  EXPECT_FALSE(outcome.Intera());
+}
+
+TEST_F(Recording, IsWholeWhereEveryCopyWentWellAndEveryListWasRead) {
+  Project(4, 1);
+  inputs.Apri();
+  inputs.Assegna(1, "a.mp3", Music());
+  EXPECT_EQ(Record(), FineRegistrazione::Compiuta);
+  EXPECT_TRUE(outcome.Intera());
+  outcome.NonLetti = {"playlist.mdb"};
+  EXPECT_FALSE(outcome.Intera());
 }
 
 TEST_F(Recording, WithoutACardTheDialogIsAskedAndALeftOneStopsInSilence) {

@@ -44,7 +44,9 @@ void frmPlayerConfig::Lavora(const std::function<void()>& lavoro) {
 
 void frmPlayerConfig::Registra() {
   Lavora([this] {
-    if (!servizi_.RegistraProgetto(ingressi_)) return;
+    const bool cancelled = servizi_.RegistraProgetto(ingressi_);
+    if (servizi_.RegistrataIntera()) Scheda->SegnaRegistrata();
+    if (!cancelled) return;
     show();
     setEnabled(true);
   });
@@ -56,6 +58,7 @@ void frmPlayerConfig::TrovaMancanti() {
 }
 
 void frmPlayerConfig::Svuota() {
+  Scheda->DimenticaRegistrata();
   Lavora([this] { servizi_.SvuotaScheda(); });
   Scheda->MostraStato(servizi_.FattiDellaScheda());
 }

@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <ctime>
 
 #include "core/Lingua.h"
 #include "core/Parole.h"
@@ -76,10 +77,12 @@ void RigaScheda::Mostra(const QString& percorso, const std::optional<Drive>& fat
 void RigaScheda::MostraStato(const std::optional<Drive>& fatti) {
   const std::string& root = contesto_.Stato.PercorsoMemoryCard;
   const CardState state = StateOf(root, fatti);
-  std::string words = TestoLingua(contesto_, state.Key);
+  const bool there = fatti && fatti->HasMedium;
+  if (registrata_ && (!there || registrata_->Radice != root)) registrata_.reset();
+  std::string words = ParoleDelloStato(state.Key);
   // A card that was chosen before this project was opened isn't in the label: it is named here.
   if (!root.empty() && !Std(lblPathMemoryCard->text()).ends_with(root)) words = root + " " + words;
-  if (fatti && fatti->HasMedium) {
+  if (there) {
     words += ", " + (fatti->Label.empty() ? "" : SuUnaRiga(fatti->Label) + ", ") +
              QuantitaInParole(fatti->Size, contesto_.Luogo) + ", " +
              ConValori(TestoLinguaO(contesto_, "0130022", "%1 free"),
@@ -92,6 +95,20 @@ void RigaScheda::MostraStato(const std::optional<Drive>& fatti) {
   segno_->setPixmap(DisegnoDi(QLatin1String(state.Icon), {kSign, kSign},
                               lblStato->palette().color(QPalette::WindowText),
                               devicePixelRatioF()));
+}
+
+std::string RigaScheda::ParoleDelloStato(const char* chiave) const {
+  std::string words = TestoLingua(contesto_, chiave);
+  if (!registrata_) return words;
+  return words + ", " +
+         ConValori(TestoLinguaO(contesto_, "0130345", "recorded %1"),
+                   {QuandoInParole(contesto_, registrata_->Quando)});
+}
+
+void RigaScheda::SegnaRegistrata() {
+  std::tm now = contesto_.Ora.Adesso();
+  now.tm_isdst = -1;
+  registrata_ = {contesto_.Stato.PercorsoMemoryCard, std::mktime(&now)};
 }
 
 void RigaScheda::ImpostaBisogno(std::uint64_t byte) {

@@ -26,6 +26,10 @@ class RigaScheda : public QWidget {
   /// The path as the form shows it, and what the host tells of the card now.
   void Mostra(const QString& percorso, const std::optional<Drive>& fatti);
   void MostraStato(const std::optional<Drive>& fatti);
+  /// The chosen card was recorded whole just now: its state tells so until another one is chosen or
+  /// it goes away.
+  void SegnaRegistrata();
+  void DimenticaRegistrata() { registrata_.reset(); }
   /// The bytes that the project takes, for the gauge; 0: none is shown.
   void ImpostaBisogno(std::uint64_t byte);
   void Localizza();
@@ -38,9 +42,15 @@ class RigaScheda : public QWidget {
  private:
   Contesto& contesto_;
   void MostraSpazio();
+  std::string ParoleDelloStato(const char* chiave) const;
 
   QLabel* segno_;
+  struct Registrata {
+    std::string Radice;
+    std::int64_t Quando = 0;  ///< in seconds since 1970-01-01 UTC
+  };
   std::optional<Drive> fatti_;
+  std::optional<Registrata> registrata_;
   std::uint64_t bisogno_ = 0;
 };
 

@@ -15,6 +15,8 @@ class ServiziHub {
   /// Records the open project onto the card; `ingressi` is closed and reopened on the way. True
   /// when the user cancelled it, which was told.
   virtual bool RegistraProgetto(TabellaIngressi& ingressi) = 0;
+  /// Whether the last recording put all of its project on the card.
+  virtual bool RegistrataIntera() const = 0;
   /// Asks for the card where none is chosen; false to give the work up.
   virtual bool ChiediScheda() = 0;
   /// Deletes the files of the chosen card, after its questions.

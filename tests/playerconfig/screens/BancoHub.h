@@ -28,6 +28,7 @@ class ServiziFinti : public ServiziHub {
     if (SuRegistra) SuRegistra();
     return Annullata;
   }
+  bool RegistrataIntera() const override { return Intera; }
   bool ChiediScheda() override {
     ++Richieste;
     return HaScheda;
@@ -41,6 +42,7 @@ class ServiziFinti : public ServiziHub {
   std::optional<Drive> FattiDellaScheda() override { return Scheda; }
 
   int Registrazioni = 0;
+  bool Intera = false;
   int Richieste = 0;  ///< how often a card was asked for
   bool HaScheda = true;
   int Svuotamenti = 0;

@@ -73,6 +73,37 @@ TEST_F(CardLine, FollowsTheCardWhileItIsTakenOutAndPutBack) {
       [this] { return Testo("lblStatoScheda") == "E:\\ ready, SHOP, 1.9 GB, 1.4 GB free"; }));
 }
 
+TEST_F(CardLine, TellsThatACardWasRecordedWholeUntilAnotherIsChosenOrItIsGone) {
+  servizi.Scheda = Card();
+  Open("E:\\");
+  Clic("picRecordFlash");
+  EXPECT_EQ(Testo("lblStatoScheda"), "E:\\ ready, SHOP, 1.9 GB, 1.4 GB free") << "not whole";
+  servizi.Intera = true;
+  const std::string sign = "ready, recorded today ";
+  const auto told = [&] { return Testo("lblStatoScheda").find(sign) != std::string::npos; };
+  const auto record = [&] {
+    Clic("picRecordFlash");
+    EXPECT_TRUE(told()) << Testo("lblStatoScheda");
+  };
+  record();
+  EXPECT_TRUE(Testo("lblStatoScheda").ends_with(", SHOP, 1.9 GB, 1.4 GB free"));
+  b.C.Stato.PercorsoMemoryCard = "F:\\";
+  hub->AggiornaPercorsoMemoryCard();
+  EXPECT_FALSE(told()) << "another card";
+  b.C.Stato.PercorsoMemoryCard = "E:\\";
+  hub->AggiornaPercorsoMemoryCard();
+  EXPECT_FALSE(told()) << "it was forgotten";
+  record();
+  servizi.Scheda.reset();
+  hub->AggiornaPercorsoMemoryCard();
+  servizi.Scheda = Card();
+  hub->AggiornaPercorsoMemoryCard();
+  EXPECT_FALSE(told()) << "it was taken out: may be another one";
+  record();
+  Clic("picCancellaFlash");
+  EXPECT_FALSE(told()) << "erased";
+}
+
 TEST_F(CardLine, ADoubleClickEnterAndTheButtonLetACardBeChosen) {
   Open("");
   QTest::mouseDClick(&Trova<QWidget>("lblPathMemoryCard"), Qt::LeftButton);

@@ -26,6 +26,7 @@ class ServiziDelGiro : public ServiziHub {
  public:
   explicit ServiziDelGiro(Contesto& contesto) : avanzamento_(contesto) {}
   bool RegistraProgetto(TabellaIngressi& /*ingressi*/) override { return false; }
+  bool RegistrataIntera() const override { return false; }
   bool ChiediScheda() override { return false; }
   void SvuotaScheda() override {}
   void VerificaScheda() override {}
