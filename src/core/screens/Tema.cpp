@@ -14,6 +14,10 @@ const Tema* g_corrente = &Tema::Chiaro();
 
 }  // namespace
 
+QColor FondoMorsettiera(const Tema& tema) {
+  return tema.Scuro ? QColor(0xBC, 0xC5, 0xCA) : QColor(0xE9, 0xED, 0xEF);
+}
+
 QPalette PaletteDi(const Tema& tema) {
   QPalette palette;
   palette.setColor(QPalette::Window, tema.Finestra);

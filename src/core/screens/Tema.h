@@ -26,6 +26,10 @@ struct Tema {
   static const Tema& Corrente();
 };
 
+/// The ground of a strip of terminals. It is light in both themes, since the names on it have fixed
+/// colours: black, and #0040A2 where they are ticked.
+QColor FondoMorsettiera(const Tema& tema);
+
 /// The palette of the toolkit's controls in these colours. Link and LinkVisited are what is ticked
 /// and the mark on it, BrightText is the ring of the focus.
 QPalette PaletteDi(const Tema& tema);

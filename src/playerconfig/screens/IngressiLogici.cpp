@@ -20,12 +20,7 @@
 #include "core/screens/Testo.h"
 
 namespace kvr5 {
-namespace {
-
-/// The colour of the terminal strip in both themes: the names on it have fixed colours.
-const QColor kStrip(0xE9, 0xED, 0xEF);
-
-}  // namespace
+namespace {}  // namespace
 
 IngressiLogici::IngressiLogici(Contesto& contesto, QWidget* padre)
     : Riquadro("fraIngressiLogici", QStringLiteral("Logic Inputs tag"), 15, padre),
@@ -37,7 +32,7 @@ IngressiLogici::IngressiLogici(Contesto& contesto, QWidget* padre)
 QWidget* IngressiLogici::CostruisciMorsettiera() {
   auto* strip = new QWidget(this);
   QPalette palette = PaletteDi(Tema::Chiaro());
-  palette.setColor(QPalette::Window, kStrip);
+  palette.setColor(QPalette::Window, FondoMorsettiera(Tema::Corrente()));
   strip->setPalette(palette);
   strip->setAutoFillBackground(true);
   auto* grid = new QGridLayout(strip);

@@ -74,6 +74,12 @@ TEST_P(Palette, ItsWordsCanBeReadOnFillings) {
                  kText);
 }
 
+TEST_P(Palette, TheNamesOfTerminalsCanBeRead) {
+  const QColor strip = FondoMorsettiera(tema);
+  ExpectContrast({{"name", Qt::black, strip}, {"ticked", QColor(0x00, 0x40, 0xA2), strip}}, kText);
+  ExpectContrast({{"focus", Tema::Chiaro().Fuoco, strip}}, kSign);
+}
+
 TEST_P(Palette, ItsLinesAndRingsCanBeSeen) {
   for (const QColor& ground : {tema.Finestra, tema.Superficie, tema.Incavo}) {
     SCOPED_TRACE(ground.name().toStdString());
