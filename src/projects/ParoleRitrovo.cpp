@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <set>
 
+#include "core/CartellaMp3.h"
+#include "core/Impostazioni.h"
 #include "core/Lingua.h"
 #include "core/Parole.h"
 #include "platform/FileOps.h"
@@ -57,6 +59,13 @@ std::string WordsOf(Contesto& context, const EsitoRitrovo& outcome) {
   return words;
 }
 
+/// The folder that music was taken from last; "" where no settings are to be read, which a read
+/// would make, and say so.
+std::string WhereMusicWas(Contesto& contesto) {
+  if (!FileExists(contesto.Files, FileImpostazioni(contesto))) return {};
+  return CartellaIniziale(contesto, 0);
+}
+
 }  // namespace
 
 Messaggio BoxRitrovo(Contesto& contesto, const EsitoRitrovo& esito) {
@@ -67,7 +76,8 @@ Messaggio BoxRitrovo(Contesto& contesto, const EsitoRitrovo& esito) {
 
 void RitrovaEDillo(Contesto& contesto, FinestraProgresso& progresso) {
   const std::string folder = contesto.Finestre.SfogliaCartella(
-      TestoLinguaO(contesto, "0130332", "Look in this folder, and all below it"), {});
+      TestoLinguaO(contesto, "0130332", "Look in this folder, and all below it"),
+      WhereMusicWas(contesto));
   contesto.Messaggi.LasciaCorrere();
   if (folder.empty() || !FolderExists(contesto.Files, folder)) return;
   contesto.Stato.AnnullatoDaUtente = false;

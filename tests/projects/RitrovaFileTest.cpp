@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "core/CartellaMp3.h"
 #include "projects/ParoleRitrovo.h"
 #include "projects/RitrovaFile.h"
 #include "support/ProgressoVisto.h"
@@ -176,6 +177,17 @@ TEST_F(Ritrovo, EachDatabaseOfTheProjectIsLookedAt) {
   ASSERT_EQ(outcome.Righe.size(), 1U);
   EXPECT_EQ(outcome.Righe[0].Database, "scheduler.mdb");
   EXPECT_EQ(outcome.Trovati(), 1U);
+}
+
+TEST_F(Ritrovo, TheFolderIsLookedForWhereMusicWasTakenFromLast) {
+  b.Cartella.Write("program/KVR5Software.ini", "[Config]\r\n");
+  b.Cartella.Write("music/a.mp3", "x");
+  TieniCartella(b.C, b.Percorso("music"));
+  test::ProgressoVisto progress(b.C);
+  b.Finestre.ScegliCartella("");
+  RitrovaEDillo(b.C, progress);
+  ASSERT_EQ(b.Finestre.Sfogliate.size(), 1U);
+  EXPECT_TRUE(b.Finestre.Sfogliate[0].Inizio.starts_with(b.Percorso("music")));
 }
 
 TEST_F(Ritrovo, NoFolderChosenChangesNothingAndSaysNothing) {

@@ -36,15 +36,17 @@ QHeaderView* ColonneDi(const QFileDialog& box) {
   return details == nullptr ? nullptr : details->header();
 }
 
-/// Gives the dates, which it cuts by itself, the room that they need; the columns as they were.
-QByteArray AllargaDate(const QFileDialog& box) {
+/// Gives sizes, kinds and dates, which it cuts by itself, the room that they need; the columns as
+/// they were.
+QByteArray AllargaColonne(const QFileDialog& box) {
   QHeaderView* columns = ColonneDi(box);
   if (columns == nullptr) return {};
   constexpr int kName = 0;
-  constexpr int kDate = 3;
   QByteArray before = columns->saveState();
   columns->setSectionResizeMode(kName, QHeaderView::Stretch);
-  columns->setSectionResizeMode(kDate, QHeaderView::ResizeToContents);
+  for (int column = kName + 1; column < columns->count(); ++column) {
+    columns->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+  }
   return before;
 }
 
@@ -96,7 +98,7 @@ std::string FinestreQt::Scegli(QFileDialog& box) {
   box.resize(860, 540);                  // its columns have room
   box.setOption(QFileDialog::ReadOnly);  // something is chosen, nothing renamed or deleted
   QByteArray columns;
-  QTimer::singleShot(0, &box, [&] { columns = AllargaDate(box); });
+  QTimer::singleShot(0, &box, [&] { columns = AllargaColonne(box); });
   MettiDavanti(box, FinestraSotto());
   const bool chosen = box.exec() == QDialog::Accepted;
   // It keeps its columns for all programs of the user, which are to find them as they were.
