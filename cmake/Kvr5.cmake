@@ -43,6 +43,13 @@ endif()
 # all that they use none the less; the release build, which does without, keeps them honest.
 option(KVR5_PRECOMPILE "Read common headers once a build, not once a source" OFF)
 
+# Unity builds: what sources include takes most of the time to compile them, and is read once for
+# several of them. They see each other's unnamed namespaces then, so a name stands in one source of a
+# target only. The release build, which does without, shows that each includes what it uses.
+option(KVR5_TOGETHER "Compile sources of a target several at a time" OFF)
+set(CMAKE_UNITY_BUILD ${KVR5_TOGETHER})
+set(CMAKE_UNITY_BUILD_BATCH_SIZE 8 CACHE STRING "How many at a time; 0: all of a target")
+
 # Of the sanitized builds only what is tested is worth optimising: the tests themselves take twice the
 # time to compile then. And of a test the lines do for a debugger.
 function(kvr5_compile_quickly target kind)
@@ -114,7 +121,7 @@ function(kvr5_add_test name)
   add_executable(test_${name} ${sources})
   target_include_directories(test_${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
   target_link_libraries(test_${name} PRIVATE
-    ${ARG_LINK} kvr5_test_support GTest::gtest GTest::gmock kvr5_options)
+    ${ARG_LINK} kvr5_test_support kvr5_test_main GTest::gtest GTest::gmock kvr5_options)
   target_compile_definitions(test_${name} PRIVATE
     KVR5_TEST_DATA="${CMAKE_CURRENT_SOURCE_DIR}/data")
   kvr5_take_headers(test_${name} ${ARG_HEADERS})

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -88,6 +89,9 @@ std::optional<std::vector<std::string>> WordsOf(std::string_view line);
 
 /// Whether a word is a whole number, of whatever size; a sign may stand before it.
 bool IsWholeNumber(std::string_view word);
+
+/// The highest number that a command takes where nothing else limits it.
+inline constexpr std::uint32_t kHighestNumber = 2147483647;
 
 /// A whole number of digits alone, at most `highest`.
 std::optional<std::uint32_t> NumberOf(std::string_view word, std::uint32_t highest);

@@ -22,6 +22,12 @@ std::tm InOraLocale(std::int64_t secondi) {
   return epoch;
 }
 
+std::string FormattaMomento(const std::tm& momento, const char* forma) {
+  std::string text(32, '\0');
+  text.resize(std::strftime(text.data(), text.size(), forma, &momento));
+  return text;
+}
+
 std::tm OrologioDiSistema::Adesso() const {
   return InOraLocale(static_cast<std::int64_t>(std::time(nullptr)));
 }

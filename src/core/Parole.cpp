@@ -18,12 +18,6 @@ std::chrono::sys_days DayOf(const std::tm& time) {
   return std::chrono::sys_days(date);
 }
 
-std::string Format(const std::tm& time, const char* picture) {
-  std::string text(32, '\0');
-  text.resize(std::strftime(text.data(), text.size(), picture, &time));
-  return text;
-}
-
 /// True for what breaks a line or turns its direction: controls, separators, bidirectional marks.
 bool SteersLine(char32_t c) {
   return c < 0x20 || (c >= 0x7F && c < 0xA0) || (c >= 0x2028 && c <= 0x202E) ||
@@ -82,9 +76,10 @@ std::string QuantitaInParole(std::uint64_t byte, const Locale& locale) {
 std::string QuandoInParole(Contesto& contesto, std::int64_t secondi) {
   const std::tm then = InOraLocale(secondi);
   const auto days = (DayOf(contesto.Ora.Adesso()) - DayOf(then)).count();
-  if (days == 0) return TestoLinguaO(contesto, "0130020", "today") + Format(then, " %H:%M");
-  if (days == 1) return TestoLinguaO(contesto, "0130021", "yesterday") + Format(then, " %H:%M");
-  return Format(then, "%Y-%m-%d");
+  const std::string time = FormattaMomento(then, " %H:%M");
+  if (days == 0) return TestoLinguaO(contesto, "0130020", "today") + time;
+  if (days == 1) return TestoLinguaO(contesto, "0130021", "yesterday") + time;
+  return FormattaMomento(then, "%Y-%m-%d");
 }
 
 std::string Contati(Contesto& contesto, std::size_t quanti, const ParolaContata& parola) {

@@ -9,12 +9,6 @@
 namespace kvr5 {
 namespace {
 
-std::string Format(const std::tm& time, const char* picture) {
-  std::string text(32, '\0');
-  text.resize(std::strftime(text.data(), text.size(), picture, &time));
-  return text;
-}
-
 std::string LogFolder(const Contesto& contesto) {
   return AggiungiBarra(contesto.CartellaProgramma) + "Logs";
 }
@@ -25,11 +19,11 @@ void ScriviLog(Contesto& contesto, std::string_view messaggio) {
   const std::string folder = LogFolder(contesto);
   if (!FolderExists(contesto.Files, folder)) Ignora(contesto.Files.CreateFolder(folder));
   const std::tm now = contesto.Ora.Adesso();
-  auto file =
-      contesto.Files.Open(AggiungiBarra(folder) + Format(now, "%Y%m%d.log"), OpenMode::Append);
+  auto file = contesto.Files.Open(AggiungiBarra(folder) + FormattaMomento(now, "%Y%m%d.log"),
+                                  OpenMode::Append);
   if (!file) return;
   const CodePage page(contesto.Luogo.AnsiCodePage);
-  Ignora(file.Value()->Write(Format(now, "%H:%M:%S ") + page.Encode(messaggio) + "\r\n"));
+  Ignora(file.Value()->Write(FormattaMomento(now, "%H:%M:%S ") + page.Encode(messaggio) + "\r\n"));
   Ignora(file.Value()->Close());
 }
 

@@ -6,7 +6,7 @@
 namespace kvr5 {
 namespace {
 
-std::string Words(Contesto& contesto, std::string_view root, const Error& error) {
+std::string EjectionWords(Contesto& contesto, std::string_view root, const Error& error) {
   if (!error) {
     return ConValori(TestoLinguaO(contesto, "0130307", "You can take the card %1 out now."),
                      {root});
@@ -22,7 +22,7 @@ std::string Words(Contesto& contesto, std::string_view root, const Error& error)
 }  // namespace
 
 Messaggio BoxEspulsione(Contesto& contesto, std::string_view radice, const Error& errore) {
-  return {TestoLinguaO(contesto, "0130158", "Eject card"), Words(contesto, radice, errore),
+  return {TestoLinguaO(contesto, "0130158", "Eject card"), EjectionWords(contesto, radice, errore),
           errore ? Icona::Avviso : Icona::Informazione, Pulsanti::Ok, Risposta::Ok};
 }
 

@@ -4,14 +4,11 @@
 #include <cstddef>
 #include <string>
 
+#include "platform/Digit.h"
 #include "platform/Fold.h"
 
 namespace kvr5 {
 namespace {
-
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
 
 /// Takes the digits off the front.
 std::string_view TakeDigits(std::string_view& text) {

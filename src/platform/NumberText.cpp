@@ -7,6 +7,7 @@
 #include <limits>
 #include <string>
 
+#include "platform/Digit.h"
 #include "platform/Locale.h"
 
 namespace kvr5 {
@@ -16,10 +17,6 @@ struct Parsed {
   double Value = 0;
   bool Overflow = false;
 };
-
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
 
 /// Reads one number off a text, piece by piece; each piece is taken if it is there.
 class NumberReader {

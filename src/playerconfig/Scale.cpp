@@ -24,7 +24,7 @@ constexpr Scale kPercent{"OFF",  "2%",   "5%",   "9%",   "14%",  "20%",  "26%",
                          "33%",  "40%",  "48%",  "56%",  "66%",  "77%",  "88%",
                          "100%", "112%", "128%", "144%", "161%", "178%", "200%"};
 
-std::string_view Row(const Scale& scale, int index) {
+std::string_view StepOf(const Scale& scale, int index) {
   const bool inside = index >= 0 && index < static_cast<int>(scale.size());
   return scale[inside ? static_cast<std::size_t>(index) : 0];
 }
@@ -32,16 +32,16 @@ std::string_view Row(const Scale& scale, int index) {
 }  // namespace
 
 std::string_view TestoScalaVolume(int indice) {
-  return Row(kOutput, indice);
+  return StepOf(kOutput, indice);
 }
 std::string_view TestoScalaLoudness(int indice) {
-  return Row(kLoudness, indice);
+  return StepOf(kLoudness, indice);
 }
 std::string_view TestoScalaToni(int indice) {
-  return Row(kTone, indice);
+  return StepOf(kTone, indice);
 }
 std::string_view TestoScalaPercento(int indice) {
-  return Row(kPercent, indice);
+  return StepOf(kPercent, indice);
 }
 
 }  // namespace kvr5

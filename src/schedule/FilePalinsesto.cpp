@@ -3,11 +3,6 @@
 #include "projects/OraDelSegmento.h"
 
 namespace kvr5 {
-namespace {
-
-constexpr int kDays = 7;
-
-}  // namespace
 
 std::string FilePalinsesto::NomeDelGiorno(int giorno) {
   return std::to_string(giorno) + ".pal";
@@ -15,7 +10,7 @@ std::string FilePalinsesto::NomeDelGiorno(int giorno) {
 
 FilePalinsesto::FilePalinsesto(ListeDiTesto& liste, bool uno) : liste_(liste), uno_(uno) {
   if (uno_) liste_.Apri(kUno);
-  for (int day = 1; !uno_ && day <= kDays; ++day) liste_.Apri(NomeDelGiorno(day));
+  for (int day = 1; !uno_ && day <= kGiorni; ++day) liste_.Apri(NomeDelGiorno(day));
 }
 
 void FilePalinsesto::Aggiungi(const Spot& spot) {
@@ -32,7 +27,7 @@ void FilePalinsesto::Scrivi() {
   riga_.clear();
   if (uno_) return liste_.Aggiungi(kUno, line);
   // Spots that belong to no day of the week, such as those of a duplicated segment, have no file.
-  if (day >= 1 && day <= kDays) liste_.Aggiungi(NomeDelGiorno(day), line);
+  if (day >= 1 && day <= kGiorni) liste_.Aggiungi(NomeDelGiorno(day), line);
 }
 
 }  // namespace kvr5

@@ -32,6 +32,7 @@ class FilePalinsesto {
   void Fine() { Scrivi(); }
 
   static constexpr const char* kUno = "PALIN.TXT";
+  static constexpr int kGiorni = 7;  ///< of the week, from 1
   /// "3.pal".
   static std::string NomeDelGiorno(int giorno);
 

@@ -113,9 +113,10 @@ class Saving {
     files_.Scrivi();
   }
   void DeleteOldFiles(bool one) {
-    constexpr int kDays = 7;
     if (one) return DeleteOld(FilePalinsesto::kUno);
-    for (int day = 1; day <= kDays; ++day) DeleteOld(FilePalinsesto::NomeDelGiorno(day));
+    for (int day = 1; day <= FilePalinsesto::kGiorni; ++day) {
+      DeleteOld(FilePalinsesto::NomeDelGiorno(day));
+    }
   }
   void DeleteOld(const std::string& name) {
     const std::string path = FileDelProgetto(context_, name);

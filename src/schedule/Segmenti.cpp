@@ -10,10 +10,10 @@ namespace {
 constexpr const char* kNewest = "SELECT TOP 1 * FROM [HEAD] ORDER BY ID DESC";
 
 Ora MinuteLater(Ora time) {
-  constexpr int kMinutes = 60;
-  constexpr int kHours = 24;
-  const int minutes = (time.Ore * kMinutes + time.Minuti + 1) % (kHours * kMinutes);
-  return {minutes / kMinutes, minutes % kMinutes};
+  constexpr int kHour = 60;  // minutes
+  constexpr int kDay = 24 * kHour;
+  const int minutes = (time.Ore * kHour + time.Minuti + 1) % kDay;
+  return {minutes / kHour, minutes % kHour};
 }
 
 /// The spots of a segment, copied to another. They get the day 0 whatever day is edited: so in a

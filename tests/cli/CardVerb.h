@@ -117,10 +117,10 @@ class CardVerb : public Verbi {
     EXPECT_EQ(text.Uscita, "");
     EXPECT_NE(text.Errori.find("usage: kvr5card [OPTION...] " + line + "\n\n"), std::string::npos)
         << text.Errori;
-    const auto json = k.EseguiJson(words);
-    EXPECT_EQ(json.Stato, 2) << testing::PrintToString(words);
-    EXPECT_EQ(json.Uscita, "");
-    EXPECT_EQ(json.Box().size(), 1U) << json.Errori;
+    const auto told = k.EseguiJson(words);
+    EXPECT_EQ(told.Stato, 2) << testing::PrintToString(words);
+    EXPECT_EQ(told.Uscita, "");
+    EXPECT_EQ(told.Box().size(), 1U) << told.Errori;
   }
 };
 

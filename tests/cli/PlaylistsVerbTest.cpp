@@ -176,9 +176,9 @@ class NamedPlaylistsVerb : public PlaylistsVerb {
     PlaylistsVerb::SetUp();
     k.CreaProgetto("Named", 3, 9);
   }
-  auto Session(const std::string& commands, bool json = true) {
+  auto Session(const std::string& commands, bool asJson = true) {
     const std::vector<std::string> verb{"playlists", "Named"};
-    return json ? k.EseguiJson(verb, commands) : k.Esegui(verb, commands);
+    return asJson ? k.EseguiJson(verb, commands) : k.Esegui(verb, commands);
   }
   std::string List(const std::string& name) const {
     return k.Cartella.Read("program/Projects/Named/" + name + ".m3u");

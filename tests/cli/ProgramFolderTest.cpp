@@ -22,8 +22,8 @@ TEST(ProgramFolder, OfANameThatCannotHoldTheProgramIsToldWithStatus3) {
     EXPECT_NE(run.Errori.find(k.Host(name)), std::string::npos) << run.Errori;
     EXPECT_EQ(run.Righe().size(), 0U);
     EXPECT_TRUE(fs::is_empty(k.Cartella.Host() / name)) << name;
-    const auto json = k.EseguiJson({"--program", k.Host(name), "projects"});
-    EXPECT_EQ(json.Box().size(), 1U) << name;
+    const auto told = k.EseguiJson({"--program", k.Host(name), "projects"});
+    EXPECT_EQ(told.Box().size(), 1U) << name;
   }
 }
 

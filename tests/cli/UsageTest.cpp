@@ -80,9 +80,9 @@ TEST(Usage, AnOptionBehindTheVerbIsNamedBeforeAnythingIsDone) {
         std::string::npos)
         << run.Errori;
   }
-  const auto json = k.Esegui({"record", "Hall", k.Host("card"), "--json"});
-  EXPECT_EQ(json.Stato, 2);
-  EXPECT_NE(json.Box().at(0)["text"].get<std::string>().find("--json: an option stands"),
+  const auto told = k.Esegui({"record", "Hall", k.Host("card"), "--json"});
+  EXPECT_EQ(told.Stato, 2);
+  EXPECT_NE(told.Box().at(0)["text"].get<std::string>().find("--json: an option stands"),
             std::string::npos);
   EXPECT_TRUE(k.Nomi("card").empty());
 }

@@ -10,7 +10,6 @@
 namespace kvr5::test {
 namespace {
 
-constexpr std::size_t kBuffer = 16384;
 constexpr std::size_t kFrame = 418;
 
 /// Bytes without frames: all three figures that divide by them fail.

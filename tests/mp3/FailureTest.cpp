@@ -15,10 +15,6 @@ namespace fs = std::filesystem;
 
 using FailureTest = ReaderTest;
 
-std::string Plain(std::size_t size = 20000) {
-  return Stream({}, size);
-}
-
 TEST_F(FailureTest, MissingFileGivesZerosAndIsNotMade) {
   EXPECT_EQ(reader_.LeggiInfoMp3(folder_.System("missing.mp3")), InfoMp3());
   EXPECT_EQ(reader_.LeggiInfoMp3(folder_.System("no folder\\missing.mp3")), InfoMp3());

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -11,6 +12,9 @@
 #include "support/TempFolder.h"
 
 namespace kvr5::test {
+
+/// What the reader takes of a file at a time.
+inline constexpr std::size_t kBuffer = 16384;
 
 /// The fields of a frame header to be made; as it stands MPEG 1 Layer III, 128 kbit/s, 44,100 Hz,
 /// joint stereo, whose frames are 418 bytes long.
@@ -36,6 +40,10 @@ inline constexpr HeaderBits kMpeg2Mono{.Version = 2, .BitrateIndex = 8, .Channel
 
 /// `size` bytes that begin with the header and hold no other sync.
 std::string Stream(const HeaderBits& header, std::size_t size);
+/// The same with the header as it stands.
+inline std::string Plain(std::size_t size = 20000) {
+  return Stream({}, size);
+}
 
 /// `bytes` with `text` put over what stands at `at`.
 std::string With(std::string bytes, std::size_t at, std::string_view text);

@@ -10,11 +10,6 @@ namespace kvr5::test {
 namespace {
 
 using SearchTest = ReaderTest;
-constexpr std::size_t kBuffer = 16384;
-
-std::string Plain(std::size_t size = 20000) {
-  return Stream({}, size);
-}
 
 TEST_F(SearchTest, HeaderAtTheStart) {
   const InfoMp3 info = Read("header_at_the_start.mp3", Plain());

@@ -6,7 +6,12 @@
 #include <string>
 #include <vector>
 
+#include "platform/CodePage.h"
+
 namespace kvr5::test {
+
+/// The page of all INI files of the tests.
+inline const CodePage kPage(1252);
 
 /// One call on an INI file, with what must come out; all texts are bytes of Windows-1252.
 struct IniCase {

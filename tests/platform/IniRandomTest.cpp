@@ -5,12 +5,13 @@
 #include <random>
 #include <vector>
 
+#include "platform/IniCases.h"
 #include "platform/IniFile.h"
 
 namespace kvr5 {
 namespace {
 
-const CodePage kPage(1252);
+using test::kPage;
 constexpr std::array<std::string_view, 3> kSections{"Main", "Citt\xE0", "x  y"};
 constexpr std::array<std::string_view, 4> kKeys{"A", "Key", "perch\xE9", "B c"};
 constexpr std::array<std::string_view, 6> kValues{"1", "due", "a = b", "x;y", "[z]", "\xE8\x80"};

@@ -9,10 +9,10 @@ namespace kvr5 {
 namespace {
 
 using test::IniCase;
+using test::kPage;
 using test::MemoryFileSystem;
 
-constexpr const char* kPath = "C:\\Test.ini";
-const CodePage kPage(1252);
+constexpr const char* kTestIni = "C:\\Test.ini";
 
 std::string Marked(std::string_view bytes) {
   return "\xFF\xFE" + utf16::FromUtf8(kPage.Decode(bytes));
@@ -39,8 +39,8 @@ TEST_P(IniReadCase, GivesWhatTheHostGives) {
   }
   if (one.Section && one.Key) {  // a file on the disk is never asked for lists
     MemoryFileSystem files;
-    if (one.File) files.AddFile(kPath, *one.File);
-    EXPECT_EQ(IniFile(files, kPath, kPage)
+    if (one.File) files.AddFile(kTestIni, *one.File);
+    EXPECT_EQ(IniFile(files, kTestIni, kPage)
                   .Read(kPage.Decode(*one.Section), kPage.Decode(*one.Key),
                         kPage.Decode(one.Default), one.Size),
               kPage.Decode(one.Result));
@@ -62,11 +62,11 @@ TEST_P(IniWriteCase, LeavesTheBytesThatTheHostLeaves) {
   }
   if (one.Section && one.Key && one.Value) {  // nor are keys of a file dropped
     MemoryFileSystem files;
-    if (one.File) files.AddFile(kPath, before);
+    if (one.File) files.AddFile(kTestIni, before);
     EXPECT_FALSE(
-        IniFile(files, kPath, kPage)
+        IniFile(files, kTestIni, kPage)
             .Write(kPage.Decode(*one.Section), kPage.Decode(*one.Key), kPage.Decode(*one.Value)));
-    EXPECT_EQ(files.Content(kPath), one.Result);
+    EXPECT_EQ(files.Content(kTestIni), one.Result);
   }
 }
 

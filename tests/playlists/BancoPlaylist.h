@@ -12,10 +12,10 @@
 #include "platform/db/Recordset.h"
 #include "platform/db/Walk.h"
 #include "playlists/EditorPlaylist.h"
-#include "support/RigheDelDatabase.h"
 #include "projects/CartellaProgetto.h"
 #include "support/Banco.h"
 #include "support/FaultyFileSystem.h"
+#include "support/RigheDelDatabase.h"
 
 namespace kvr5::test {
 

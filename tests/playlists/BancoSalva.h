@@ -3,9 +3,9 @@
 #include <string>
 
 #include "playlists/BancoPlaylist.h"
-#include "support/RigheDelDatabase.h"
 #include "playlists/SalvaPlaylist.h"
 #include "support/ProgressoVisto.h"
+#include "support/RigheDelDatabase.h"
 
 namespace kvr5::test {
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "core/Aiuti.h"
+#include "reports/FinePagina.h"
 #include "reports/Report.h"
 #include "reports/ReportProgetto.h"
 #include "support/Banco.h"
@@ -11,7 +12,7 @@
 namespace kvr5 {
 namespace {
 
-constexpr const char* kTail = "</BODY>\r\n</HTML>\r\n";
+using test::kTail;
 
 /// A project of a KVR5 that plays by its inputs, with an empty template.
 class ProjectReports : public testing::Test {

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "reports/FinePagina.h"
 #include "reports/Report.h"
 #include "support/Banco.h"
 #include "support/FaultyFileSystem.h"
@@ -11,7 +12,7 @@
 namespace kvr5 {
 namespace {
 
-constexpr const char* kTail = "</BODY>\r\n</HTML>\r\n";
+using test::kTail;
 
 /// A project named Hall, with a template of the test's own.
 class Reports : public testing::Test {

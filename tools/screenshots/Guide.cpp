@@ -12,15 +12,6 @@
 namespace shots {
 namespace {
 
-template <class T>
-T& Shown() {
-  for (QWidget* widget : QApplication::topLevelWidgets()) {
-    auto* form = dynamic_cast<T*>(widget);
-    if (form != nullptr && form->isVisible()) return *form;
-  }
-  qFatal("a screen of the guide never came");
-}
-
 void LetEventsRun() {
   for (int i = 0; i < 8; ++i) QCoreApplication::processEvents();
 }
@@ -29,7 +20,7 @@ void TakeStart(Photographer& camera) {
   camera.Program().Mostra(kvr5::Schermata::Menu);
   camera.Take("frmMain", QStringLiteral("frmMain"));
   camera.Program().Mostra(kvr5::Schermata::Wizard);
-  Shown<kvr5::frmWizardPanel1>().txtNomeProgetto->setText(QStringLiteral("Museum-Hall-2"));
+  OnScreen<kvr5::frmWizardPanel1>().txtNomeProgetto->setText(QStringLiteral("Museum-Hall-2"));
   camera.Take("frmWizardPanel1", QStringLiteral("frmWizardPanel1"));
 }
 
@@ -46,7 +37,7 @@ void TakeInputs(Photographer& camera) {
     inputs.Assegna(128, "closing.mp3", folder);
   }
   camera.Program().ApriConfigurazione(1);
-  auto& hub = Shown<kvr5::frmPlayerConfig>();
+  auto& hub = OnScreen<kvr5::frmPlayerConfig>();
   hub.fraFileName->DirDirectoryMp3->ImpostaPercorso(camera.Music());
   hub.fraIngressiLogici->chkIn[0]->click();
   hub.fraIngressiLogici->chkIn[2]->click();
@@ -96,7 +87,7 @@ void TakePlaylist(Photographer& camera) {
   }
   Fill(camera, "playlist.mdb", rows);
   camera.Program().ApriPlaylist(kvr5::Schermata::Nessuna);
-  auto& editor = Shown<kvr5::frmPlaylistEditor>();
+  auto& editor = OnScreen<kvr5::frmPlaylistEditor>();
   editor.fraFile->DirDirectoryMp3->ImpostaPercorso(camera.Music());
   editor.fraFile->filMp3->setCurrentRow(0);
   WaitFor([&] {
@@ -130,7 +121,7 @@ void TakeSchedule(Photographer& camera) {
   add("17.45", {"closing.mp3"});
   Fill(camera, "scheduler.mdb", rows);
   camera.Program().ApriPalinsesto(kvr5::Schermata::Nessuna);
-  auto& editor = Shown<kvr5::frmPalinsesto>();
+  auto& editor = OnScreen<kvr5::frmPalinsesto>();
   editor.fraFile->DirDirectoryMp3->ImpostaPercorso(camera.Music());
   editor.fraFile->filMp3->setCurrentRow(2);
   WaitFor([&] { return editor.picDettaglio->lblTotaleSpot->text().contains(QLatin1Char(':')); });

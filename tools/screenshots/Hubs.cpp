@@ -10,15 +10,6 @@ namespace {
 
 constexpr const char* kHub = "frmPlayerConfig";
 
-/// The hub that is on the screen.
-kvr5::frmPlayerConfig& Hub() {
-  for (QWidget* widget : QApplication::topLevelWidgets()) {
-    auto* hub = dynamic_cast<kvr5::frmPlayerConfig*>(widget);
-    if (hub != nullptr && hub->isVisible()) return *hub;
-  }
-  qFatal("the hub isn't on the screen");
-}
-
 void AssignFiles(Photographer& camera) {
   const std::string folder = camera.Music() + "\\";
   kvr5::TabellaIngressi inputs(camera.C());
@@ -30,7 +21,7 @@ void AssignFiles(Photographer& camera) {
 }
 
 void ShowInputs(Photographer& camera) {
-  kvr5::frmPlayerConfig& hub = Hub();
+  kvr5::frmPlayerConfig& hub = OnScreen<kvr5::frmPlayerConfig>();
   hub.fraFileName->DirDirectoryMp3->ImpostaPercorso(camera.Music());
   hub.fraIngressiLogici->chkIn[0]->click();
   hub.fraIngressiLogici->chkIn[2]->click();
@@ -48,12 +39,12 @@ void LetItCount(const kvr5::frmPlayerConfig& hub) {
 
 /// The project of inputs once more: a file that the player can't play, a card, a file that lies in
 /// another folder, unsaved settings.
-void TakeStates(Photographer& camera) {
+void TakeHubStates(Photographer& camera) {
   camera.Project("Museum-Hall-3", 4, 1);
   AssignFiles(camera);
   camera.C().Stato.PercorsoMemoryCard = "E:\\";
   camera.Program().ApriConfigurazione(1);
-  kvr5::frmPlayerConfig& hub = Hub();
+  kvr5::frmPlayerConfig& hub = OnScreen<kvr5::frmPlayerConfig>();
   ShowInputs(camera);
   hub.fraFileName->Scegli("too-fast.mp3");
   camera.Take(kHub, QStringLiteral("frmPlayerConfig-refused"));
@@ -84,7 +75,7 @@ void TakeMissing(Photographer& camera) {
   }
   tracks.Close();
   camera.Program().ApriConfigurazione(1);
-  const kvr5::frmPlayerConfig& hub = Hub();
+  const kvr5::frmPlayerConfig& hub = OnScreen<kvr5::frmPlayerConfig>();
   WaitFor([&hub] { return hub.Pannello->picTrovaBrani->isVisible(); });
   camera.Take(kHub, QStringLiteral("frmPlayerConfig-missing"));
   camera.Program().DimenticaConfigurazione();
@@ -106,7 +97,7 @@ void TakeHubs(Photographer& camera) {
     camera.Take(kHub, QStringLiteral("frmPlayerConfig-%1-%2").arg(kind.Type).arg(kind.Mode));
     camera.Program().DimenticaConfigurazione();
   }
-  TakeStates(camera);
+  TakeHubStates(camera);
   TakeMissing(camera);
 }
 

@@ -7,15 +7,6 @@
 namespace shots {
 namespace {
 
-template <class T>
-T* Shown() {
-  for (QWidget* widget : QApplication::topLevelWidgets()) {
-    auto* form = dynamic_cast<T*>(widget);
-    if (form != nullptr && form->isVisible()) return form;
-  }
-  return nullptr;
-}
-
 /// Has something be done to a screen that is about to come up, before its picture is taken.
 template <class T>
 void Before(void (*act)(T&)) {

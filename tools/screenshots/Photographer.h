@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QApplication>
 #include <QString>
+#include <QWidget>
 #include <functional>
 #include <string>
 
@@ -42,6 +44,27 @@ void TakePlaylists(Photographer& camera);
 void TakeSchedules(Photographer& camera);
 /// Waits for what a screen does by itself.
 void WaitFor(const std::function<bool()>& done);
+/// The window of a kind that is on the screen; nullptr where there is none.
+template <class Window>
+Window* Shown() {
+  for (QWidget* widget : QApplication::topLevelWidgets()) {
+    auto* window = dynamic_cast<Window*>(widget);
+    if (window != nullptr && window->isVisible()) return window;
+  }
+  return nullptr;
+}
+/// The same where it has to be there.
+template <class Window>
+Window& OnScreen() {
+  if (auto* window = Shown<Window>()) return *window;
+  qFatal("the window isn't on the screen");
+}
+/// Leaves a window as its close button does.
+template <class Window>
+void Leave() {
+  OnScreen<Window>().Scarica();
+  for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
+}
 /// What the help shows, as a user would have it: projects in good order.
 void TakeGuide(Photographer& camera);
 /// The boxes and the windows that stand before others.

@@ -8,15 +8,7 @@
 namespace shots {
 namespace {
 
-constexpr const char* kEditor = "frmPlaylistEditor";
-
-kvr5::frmPlaylistEditor& Editor() {
-  for (QWidget* widget : QApplication::topLevelWidgets()) {
-    auto* editor = dynamic_cast<kvr5::frmPlaylistEditor*>(widget);
-    if (editor != nullptr && editor->isVisible()) return *editor;
-  }
-  qFatal("the editor isn't on the screen");
-}
+constexpr const char* kPlaylistEditor = "frmPlaylistEditor";
 
 /// A list with a file that has gone, and names for the mode that has them.
 void FillLists(Photographer& camera) {
@@ -35,35 +27,30 @@ void FillLists(Photographer& camera) {
   }
 }
 
-kvr5::frmPlaylistEditor& Open(Photographer& camera) {
+kvr5::frmPlaylistEditor& OpenPlaylistEditor(Photographer& camera) {
   camera.Program().ApriPlaylist(kvr5::Schermata::Nessuna);
-  auto& editor = Editor();
+  auto& editor = OnScreen<kvr5::frmPlaylistEditor>();
   editor.fraFile->DirDirectoryMp3->ImpostaPercorso(camera.Music());
   return editor;
 }
 
-void Close() {
-  Editor().Scarica();
-  for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
-}
-
-void TakeStates(Photographer& camera) {
-  auto& editor = Open(camera);
+void TakePlaylistStates(Photographer& camera) {
+  auto& editor = OpenPlaylistEditor(camera);
   editor.fraFile->filMp3->setCurrentRow(0);
   WaitFor([&] { return editor.cmdAggiungiFile->isVisible(); });
   editor.cmdAggiungiFile->click();
   WaitFor([&] { return !editor.Brani->lblTotali->text().isEmpty(); });
-  camera.Take(kEditor, QStringLiteral("frmPlaylistEditor-4-5"));
+  camera.Take(kPlaylistEditor, QStringLiteral("frmPlaylistEditor-4-5"));
   editor.fraFile->filMp3->setCurrentRow(3);
   WaitFor([&] { return editor.fraFileInfo->lblBadFileType->isVisible(); });
   editor.Brani->SuFile({camera.C().Files.HostPath(camera.Music() + "\\too-fast.mp3")});
-  camera.Take(kEditor, QStringLiteral("frmPlaylistEditor-refused"));
+  camera.Take(kPlaylistEditor, QStringLiteral("frmPlaylistEditor-refused"));
   editor.resize(944, 500);  // what a screen of 1920x1080 has room for at 200 %
-  camera.Take(kEditor, QStringLiteral("frmPlaylistEditor-small"));
+  camera.Take(kPlaylistEditor, QStringLiteral("frmPlaylistEditor-small"));
   editor.resize(1200, 720);
   editor.Brani->Attesa(true);
-  camera.Take(kEditor, QStringLiteral("frmPlaylistEditor-wait"));
-  Close();
+  camera.Take(kPlaylistEditor, QStringLiteral("frmPlaylistEditor-wait"));
+  Leave<kvr5::frmPlaylistEditor>();
 }
 
 }  // namespace
@@ -71,15 +58,15 @@ void TakeStates(Photographer& camera) {
 void TakePlaylists(Photographer& camera) {
   camera.Project("Shop-5", 4, 5);
   FillLists(camera);
-  TakeStates(camera);
+  TakePlaylistStates(camera);
   for (const std::int16_t mode : std::initializer_list<std::int16_t>{4, 7, 9}) {
     camera.Project("Tower-" + std::to_string(mode), 3, mode);
     if (mode != 4) FillLists(camera);
-    Open(camera);
-    camera.Take(kEditor, QStringLiteral("frmPlaylistEditor-3-%1").arg(mode));
+    OpenPlaylistEditor(camera);
+    camera.Take(kPlaylistEditor, QStringLiteral("frmPlaylistEditor-3-%1").arg(mode));
     if (mode == 9) {
       camera.TakeModal("frmPlaylistName", QStringLiteral("frmPlaylistName"),
-                       [] { Editor().Fascia->picAggiungiPL->click(); });
+                       [] { OnScreen<kvr5::frmPlaylistEditor>().Fascia->picAggiungiPL->click(); });
       QTimer::singleShot(20, qApp, [] {
         for (QWidget* widget : QApplication::topLevelWidgets()) {
           auto* name = dynamic_cast<kvr5::frmPlaylistName*>(widget);
@@ -89,9 +76,9 @@ void TakePlaylists(Photographer& camera) {
         }
       });
       camera.TakeModal("frmPlaylistName", QStringLiteral("frmPlaylistName-warning"),
-                       [] { Editor().Fascia->picAggiungiPL->click(); });
+                       [] { OnScreen<kvr5::frmPlaylistEditor>().Fascia->picAggiungiPL->click(); });
     }
-    Close();
+    Leave<kvr5::frmPlaylistEditor>();
   }
 }
 

@@ -8,15 +8,7 @@
 namespace shots {
 namespace {
 
-constexpr const char* kEditor = "frmPalinsesto";
-
-kvr5::frmPalinsesto& Editor() {
-  for (QWidget* widget : QApplication::topLevelWidgets()) {
-    auto* editor = dynamic_cast<kvr5::frmPalinsesto*>(widget);
-    if (editor != nullptr && editor->isVisible()) return *editor;
-  }
-  qFatal("the editor isn't on the screen");
-}
+constexpr const char* kScheduleEditor = "frmPalinsesto";
 
 void Run(kvr5::Connection& connection, const std::string& statement) {
   kvr5::Ignora(connection.Execute(statement));
@@ -54,9 +46,9 @@ void FillDay(Photographer& camera, int day, int hour, bool whole) {
                         "welcome.mp3", "gong.mp3"});
 }
 
-kvr5::frmPalinsesto& Open(Photographer& camera, bool filled) {
+kvr5::frmPalinsesto& OpenScheduleEditor(Photographer& camera, bool filled) {
   camera.Program().ApriPalinsesto(kvr5::Schermata::Nessuna);
-  auto& editor = Editor();
+  auto& editor = OnScreen<kvr5::frmPalinsesto>();
   editor.fraFile->DirDirectoryMp3->ImpostaPercorso(camera.Music());
   WaitFor([&] {
     return filled ? editor.picDettaglio->lblTotaleSpot->text().contains(QLatin1Char(':'))
@@ -66,18 +58,13 @@ kvr5::frmPalinsesto& Open(Photographer& camera, bool filled) {
   return editor;
 }
 
-void Close() {
-  Editor().Scarica();
-  for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
-}
-
-void TakeStates(Photographer& camera, kvr5::frmPalinsesto& editor) {
+void TakeScheduleStates(Photographer& camera, kvr5::frmPalinsesto& editor) {
   editor.fraFile->filMp3->setCurrentRow(3);
   WaitFor([&] { return editor.fraFileInfo->lblBadFileType->isVisible(); });
   editor.picDettaglio->SuFile(0, {camera.C().Files.HostPath(camera.Music() + "\\too-fast.mp3")});
-  camera.Take(kEditor, QStringLiteral("frmPalinsesto-refused"));
+  camera.Take(kScheduleEditor, QStringLiteral("frmPalinsesto-refused"));
   editor.resize(944, 500);  // what a screen of 1920x1080 has room for at 200 %
-  camera.Take(kEditor, QStringLiteral("frmPalinsesto-small"));
+  camera.Take(kScheduleEditor, QStringLiteral("frmPalinsesto-small"));
   editor.resize(1200, 720);
 }
 
@@ -85,26 +72,26 @@ void TakeStates(Photographer& camera, kvr5::frmPalinsesto& editor) {
 
 void TakeSchedules(Photographer& camera) {
   camera.Project("Clock", 4, 2);
-  Open(camera, false);
-  camera.Take(kEditor, QStringLiteral("frmPalinsesto-empty"));
-  Close();
+  OpenScheduleEditor(camera, false);
+  camera.Take(kScheduleEditor, QStringLiteral("frmPalinsesto-empty"));
+  Leave<kvr5::frmPalinsesto>();
   FillDay(camera, 0, -1, true);
-  Open(camera, true);
-  camera.Take(kEditor, QStringLiteral("frmPalinsesto-4-2"));
+  OpenScheduleEditor(camera, true);
+  camera.Take(kScheduleEditor, QStringLiteral("frmPalinsesto-4-2"));
   camera.TakeModal("frmSiNo", QStringLiteral("frmSiNo-segment"),
-                   [] { Editor().Segmenti->picRimuoviSegmento->click(); });
-  Close();
+                   [] { OnScreen<kvr5::frmPalinsesto>().Segmenti->picRimuoviSegmento->click(); });
+  Leave<kvr5::frmPalinsesto>();
   camera.Project("Station-day", 3, 2);
   FillDay(camera, 0, 8, true);
-  Open(camera, true);
-  camera.Take(kEditor, QStringLiteral("frmPalinsesto-3-2"));
-  Close();
+  OpenScheduleEditor(camera, true);
+  camera.Take(kScheduleEditor, QStringLiteral("frmPalinsesto-3-2"));
+  Leave<kvr5::frmPalinsesto>();
   camera.Project("Station-week", 3, 3);
   for (int day = 1; day <= 7; ++day) FillDay(camera, day, 6 + day, day % 2 == 1);
-  auto& week = Open(camera, true);
-  camera.Take(kEditor, QStringLiteral("frmPalinsesto-3-3"));
-  TakeStates(camera, week);
-  Close();
+  auto& week = OpenScheduleEditor(camera, true);
+  camera.Take(kScheduleEditor, QStringLiteral("frmPalinsesto-3-3"));
+  TakeScheduleStates(camera, week);
+  Leave<kvr5::frmPalinsesto>();
 }
 
 }  // namespace shots

@@ -21,7 +21,7 @@ std::optional<std::int16_t> ModeOf(const std::string& text) {
   return {};
 }
 
-std::optional<NewArguments> Parse(const std::vector<std::string>& arguments) {
+std::optional<NewArguments> ParseNew(const std::vector<std::string>& arguments) {
   NewArguments parsed;
   bool named = false;
   for (std::size_t i = 0; i < arguments.size(); ++i) {
@@ -47,7 +47,7 @@ std::optional<NewArguments> Parse(const std::vector<std::string>& arguments) {
 }  // namespace
 
 int RunNew(Session& session, const std::vector<std::string>& arguments) {
-  const auto parsed = Parse(arguments);
+  const auto parsed = ParseNew(arguments);
   if (!parsed) return kUsage;
   auto& context = session.Context();
   auto& state = context.Stato;

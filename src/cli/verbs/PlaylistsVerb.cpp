@@ -23,8 +23,6 @@ namespace {
 
 using Words = std::vector<std::string>;
 
-constexpr std::uint32_t kHighest = 2147483647;  // of a number in a command
-
 class PlaylistSession : public EditingCommands {
  public:
   explicit PlaylistSession(Session& session)
@@ -95,7 +93,7 @@ Outcome PlaylistSession::WithRow(const std::string& word, Work work) {
 
 Outcome PlaylistSession::Select(const Words& words) {
   if (!IsWholeNumber(words[1])) return Outcome::Unknown;
-  const auto entry = NumberOf(words[1], kHighest);
+  const auto entry = NumberOf(words[1], kHighestNumber);
   if (!editor_.Disposizione().picfraSelezionePlaylist) {
     return Refuse("this project has no selector");
   }
@@ -199,7 +197,7 @@ Outcome PlaylistSession::Shuffle(const Words& words) {
     Random(editor_, CasoDallOrologio());
     return Outcome::Done;
   }
-  const auto seed = NumberOf(words[1], kHighest);
+  const auto seed = NumberOf(words[1], kHighestNumber);
   if (!seed) return Outcome::Unknown;
   Random(editor_, CasoDaSeme(*seed));
   return Outcome::Done;

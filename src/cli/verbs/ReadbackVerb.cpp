@@ -19,7 +19,7 @@ struct ReadbackArguments {
   std::optional<std::string> Name;
 };
 
-std::optional<ReadbackArguments> Parse(const std::vector<std::string>& arguments) {
+std::optional<ReadbackArguments> ParseReadback(const std::vector<std::string>& arguments) {
   constexpr std::string_view kName = "--name";
   ReadbackArguments parsed;
   bool hasCard = false;
@@ -102,7 +102,7 @@ void Report(Session& session, const std::string& folder) {
 }  // namespace
 
 int RunReadback(Session& session, const std::vector<std::string>& arguments) {
-  const auto parsed = Parse(arguments);
+  const auto parsed = ParseReadback(arguments);
   if (!parsed) return kUsage;
   auto& context = session.Context();
   const std::string root = CardRoot(session, parsed->Card);

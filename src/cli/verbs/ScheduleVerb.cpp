@@ -20,7 +20,6 @@ namespace {
 
 using Words = std::vector<std::string>;
 
-constexpr std::uint32_t kHighest = 2147483647;  // of a number in a command
 constexpr const char* kNoSegment = "no segment is selected";
 constexpr const char* kNotWritten = "the working copy can't be written";
 
@@ -192,7 +191,7 @@ Outcome ScheduleSession::SegmentAdd(const Words& /*words*/) {
 
 Outcome ScheduleSession::SegmentSelect(const Words& words) {
   if (!IsWholeNumber(words[2])) return Outcome::Unknown;
-  const auto id = NumberOf(words[2], kHighest);
+  const auto id = NumberOf(words[2], kHighestNumber);
   const std::int64_t current = editor_.SegmentoCorrente();
   if (id && editor_.VaiAlSegmento(*id)) return Outcome::Done;
   editor_.VaiAlSegmento(current);

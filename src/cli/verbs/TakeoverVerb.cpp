@@ -13,7 +13,7 @@ struct TakeoverArguments {
   bool DryRun = false;
 };
 
-std::optional<TakeoverArguments> Parse(const std::vector<std::string>& arguments) {
+std::optional<TakeoverArguments> ParseTakeover(const std::vector<std::string>& arguments) {
   TakeoverArguments parsed;
   std::vector<std::string> projects;
   for (const std::string& word : arguments) {
@@ -57,7 +57,7 @@ void Report(Session& session, const EsitoSubentro& outcome) {
 }  // namespace
 
 int RunTakeover(Session& session, const std::vector<std::string>& arguments) {
-  const auto parsed = Parse(arguments);
+  const auto parsed = ParseTakeover(arguments);
   if (!parsed) return kUsage;
   if (const int status = session.OpenAsItIs(parsed->Project); status != kDone) return status;
   const Interrupt cancel;

@@ -19,7 +19,7 @@
 namespace kvr5 {
 namespace {
 
-constexpr std::int16_t kForm = 9;
+constexpr std::int16_t kFormConfig = 9;
 
 }  // namespace
 
@@ -115,7 +115,7 @@ void frmConfig::Collega() {
 }
 
 void frmConfig::AlCaricamento() {
-  LocalizzaForm(C(), kForm, *this);
+  LocalizzaForm(C(), kFormConfig, *this);
   lblTitolo->setText(windowTitle());
   cmdSelPrjDir->ImpostaScritta(Qs(TestoLinguaO(C(), "0090005", "Projects folder...")));
   // Their own captions aren't translated; the words that explain them are.

@@ -15,7 +15,7 @@
 namespace kvr5 {
 namespace {
 
-constexpr std::int16_t kForm = 2;
+constexpr std::int16_t kFormMain = 2;
 
 /// The plain logo.
 class Logo : public QWidget {
@@ -82,7 +82,7 @@ frmMain::frmMain(Ambiente& ambiente) : Form(ambiente, "frmMain") {
 
 void frmMain::AlCaricamento() {
   C().Messaggi.ImpostaPuntatore(Puntatore::Attesa);
-  LocalizzaForm(C(), kForm, *this);
+  LocalizzaForm(C(), kFormMain, *this);
   picNuovoProgetto->setToolTip(Qs(TestoLingua(C(), "0130100")));
   picCaricaDaDisco->setToolTip(Qs(TestoLingua(C(), "0130101")));
   C().Stato.PlayerType = 0;

@@ -13,7 +13,7 @@
 namespace kvr5 {
 namespace {
 
-constexpr std::int16_t kForm = 12;
+constexpr std::int16_t kFormSalva = 12;
 
 }  // namespace
 
@@ -65,7 +65,7 @@ frmSalva::frmSalva(Ambiente& ambiente) : Form(ambiente, "frmSalva") {
 
 void frmSalva::AlCaricamento() {
   C().Messaggi.ImpostaPuntatore(Puntatore::Attesa);
-  LocalizzaForm(C(), kForm, *this);
+  LocalizzaForm(C(), kFormSalva, *this);
   setWindowTitle(QStringLiteral("  ") + windowTitle());
   chkSaveMp3Inputs->setChecked(C().Stato.SalvaMp3Ingressi);
   chkSaveMp3Inputs->setAccessibleName(lblSaveMp3Inputs->text());

@@ -15,7 +15,7 @@
 namespace kvr5 {
 namespace {
 
-constexpr int kWords = 400;  // pixels that a line of words has at least
+constexpr int kNoteWidth = 400;  // pixels that a line of words has at least
 
 /// The picture of a button that has a third name for it.
 QWidget* PictureOf(const char* name, Coppia* button) {
@@ -39,7 +39,7 @@ frmSiNo::frmSiNo(Ambiente& ambiente) : Form(ambiente, "frmSiNo") {
   segno_ = SegnoDi("domanda", Tema::Corrente().Fuoco, 32, this);
   top->addWidget(segno_, 0, Qt::AlignTop);
   lblNota = TestoLungo("lblNota", QStringLiteral("Nota"), this);
-  lblNota->setMinimumWidth(kWords);
+  lblNota->setMinimumWidth(kNoteWidth);
   top->addWidget(lblNota, 1);
   page->addLayout(top, 1);
 
@@ -106,7 +106,7 @@ void frmSiNo::MostraSoloOk(const std::string& testo) {
 void frmSiNo::ImpostaNota(const QString& testo) {
   constexpr int kPlate = 2 * spazi::kStretto;  // of a coloured one, on both sides
   nota_ = testo;
-  lblNota->setText(Spezzabile(testo, lblNota->fontMetrics(), kWords - kPlate));
+  lblNota->setText(Spezzabile(testo, lblNota->fontMetrics(), kNoteWidth - kPlate));
 }
 
 void frmSiNo::ColoraNota(std::uint32_t colore) {

@@ -11,7 +11,6 @@ namespace kvr5 {
 namespace {
 
 constexpr int kHeight = 48;
-constexpr int kSign = 18;
 
 }  // namespace
 
@@ -34,7 +33,7 @@ void VociScheda::paint(QPainter* pittore, const QStyleOptionViewItem& opzione,
   pittore->setFont(FontDi(Carattere::Corpo));
   pittore->drawText(inside.adjusted(0, 0, 0, -half), Qt::AlignLeft | Qt::AlignVCenter, root);
   if (voce.data(Bloccata).toBool()) {
-    const QRectF where(inside.right() - kSign, inside.top(), kSign, kSign);
+    const QRectF where(inside.right() - kLucchetto, inside.top(), kLucchetto, kLucchetto);
     DipingiIcona(*pittore, where, QStringLiteral("blocco"),
                  chosen ? tema.SuSelezione : tema.Avviso);
   }

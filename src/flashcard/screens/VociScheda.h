@@ -12,6 +12,7 @@ class VociScheda : public QStyledItemDelegate {
   static constexpr int Fatti = Qt::UserRole + 1;
   /// And whether it is write-protected, which a padlock shows.
   static constexpr int Bloccata = Qt::UserRole + 2;
+  static constexpr int kLucchetto = 18;  ///< side of the padlock, in logical pixels
 
   using QStyledItemDelegate::QStyledItemDelegate;
 

@@ -14,7 +14,7 @@
 namespace kvr5 {
 namespace {
 
-constexpr std::int16_t kForm = 7;
+constexpr std::int16_t kFormProgress = 7;
 constexpr int kBarHeight = 16;
 
 }  // namespace
@@ -76,7 +76,7 @@ frmProgress::frmProgress(Ambiente& ambiente, ProgressoQt& progresso)
 }
 
 void frmProgress::AlCaricamento() {
-  LocalizzaForm(C(), kForm, *this);
+  LocalizzaForm(C(), kFormProgress, *this);
   picBar->setAccessibleName(Qs(TestoLingua(C(), "0130184")));
   fase_ = TestoLinguaO(C(), "0130183", "Step %1 of %2");
   ImpostaPrimoPiano(*this, true);

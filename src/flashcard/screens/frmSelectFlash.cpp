@@ -16,10 +16,8 @@
 namespace kvr5 {
 namespace {
 
-constexpr std::int16_t kForm = 6;
+constexpr std::int16_t kFormSelectFlash = 6;
 constexpr int kWatch = 1000;  // milliseconds between two looks at the cards
-
-constexpr int kSign = 18;
 
 bool IsLocked(const SchedaTrovata& card) {
   return card.Fatti && card.Fatti->HasMedium && card.Fatti->ReadOnly;
@@ -74,7 +72,7 @@ void frmSelectFlash::Costruisci() {
   lblFatti = TestoLungo("lblFatti", {}, this);
   lblContenuto = TestoLungo("lblContenuto", {}, this);
   Veste(*lblContenuto, Carattere::Corpo, Ruolo::Attenuato);
-  segno_ = SegnoDi("blocco", Tema::Corrente().Avviso, kSign, this);
+  segno_ = SegnoDi("blocco", Tema::Corrente().Avviso, VociScheda::kLucchetto, this);
   auto* facts = Riga({segno_, lblFatti});
   facts->setStretch(1, 1);
   facts->setAlignment(segno_, Qt::AlignTop);
@@ -93,7 +91,7 @@ void frmSelectFlash::Costruisci() {
 }
 
 void frmSelectFlash::AlCaricamento() {
-  LocalizzaForm(C(), kForm, *this);
+  LocalizzaForm(C(), kFormSelectFlash, *this);
   cmdFlash->setAccessibleName(Qs(TestoLingua(C(), "0130187")));
   picOpen->setToolTip(Qs(TestoLingua(C(), "0130188")));
   if (!elenco_.Carica()) {

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "platform/Digit.h"
 #include "platform/db/TimeOfDay.h"
 
 namespace kvr5 {
@@ -9,12 +10,8 @@ namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n";
 
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
-
 /// Letters, also those beyond ASCII, and the underscore.
-bool IsLetter(char c) {
+bool IsWordLetter(char c) {
   return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' ||
          static_cast<unsigned char>(c) >= 0x80;
 }
@@ -56,7 +53,7 @@ class Tokenizer {
     SkipBlanks();
     if (rest_.empty()) return Token{};
     const char c = rest_.front();
-    if (IsLetter(c)) return TakeWord();
+    if (IsWordLetter(c)) return TakeWord();
     if (IsDigit(c)) return TakeNumber();
     if (c == '\'' || c == '"') return TakeText(c);
     if (c == '[') return TakeBracket();
@@ -66,7 +63,7 @@ class Tokenizer {
   }
 
   std::optional<Token> TakeWord() {
-    const auto belongs = [](char c) { return IsLetter(c) || IsDigit(c); };
+    const auto belongs = [](char c) { return IsWordLetter(c) || IsDigit(c); };
     return Token{TokenKind::Word, std::string(TakeWhile(belongs))};
   }
 
@@ -77,7 +74,7 @@ class Tokenizer {
       number += '.';
       number += TakeWhile(IsDigit);
     }
-    if (!rest_.empty() && IsLetter(rest_.front())) return Fail("letters behind a number");
+    if (!rest_.empty() && IsWordLetter(rest_.front())) return Fail("letters behind a number");
     return Token{TokenKind::Number, std::move(number)};
   }
 

@@ -10,12 +10,12 @@
 namespace kvr5 {
 namespace {
 
-constexpr int kSign = 16;
-constexpr int kEdge = 10;   // pixels before the sign, behind it and behind the file's name
-constexpr int kGap = 14;    // pixels between two columns
-constexpr int kName = 110;  // pixels that the name of a file has beside a column of inputs
-constexpr int kLine = 28;   // height of a row
-constexpr int kMark = 18;   // what a mark adds to it
+constexpr int kSignWidth = 16;
+constexpr int kPadding = 10;  // pixels before the sign, behind it and behind the file's name
+constexpr int kGap = 14;      // pixels between two columns
+constexpr int kName = 110;    // pixels that the name of a file has beside a column of inputs
+constexpr int kLine = 28;     // height of a row
+constexpr int kMark = 18;     // what a mark adds to it
 
 /// A column of the row's first line, cut from the left of what is left of it.
 QRect Cut(QRect& rest, int width) {
@@ -62,8 +62,8 @@ void VociAssegnati::paint(QPainter* pittore, const QStyleOptionViewItem& opzione
   const QIcon sign = std::exchange(item.icon, QIcon());
   QApplication::style()->drawControl(QStyle::CE_ItemViewItem, &item, pittore, item.widget);
   QRect line = item.rect;
-  sign.paint(pittore, QRect(line.left() + kEdge, line.top(), kSign, line.height()));
-  line.adjust(kEdge + kSign + kEdge, 0, -kEdge, 0);
+  sign.paint(pittore, QRect(line.left() + kPadding, line.top(), kSignWidth, line.height()));
+  line.adjust(kPadding + kSignWidth + kPadding, 0, -kPadding, 0);
   const QRect below = line.adjusted(0, kLine - 6, 0, -4);
   line.setHeight(kLine);
   pittore->save();

@@ -20,9 +20,9 @@
 namespace kvr5 {
 namespace {
 
-constexpr std::int16_t kForm = 11;
+constexpr std::int16_t kFormConfig485 = 11;
 constexpr std::int16_t kOstrel = 3;
-constexpr int kTagDefaults = 3;
+constexpr int kTagDefaults485 = 3;
 constexpr int kTagUse485 = 4;
 constexpr int kTagChangePage = 5;
 
@@ -35,7 +35,7 @@ QGridLayout* RowsOf(QWidget* page) {
 }  // namespace
 
 frmConfig485::frmConfig485(Ambiente& ambiente)
-    : SchermoParametri(ambiente, "frmConfig485", SchermoParametro::Seriale, kForm) {
+    : SchermoParametri(ambiente, "frmConfig485", SchermoParametro::Seriale, kFormConfig485) {
   setWindowTitle(QStringLiteral("RS485"));
   resize(700, 590);
   auto* body = new QWidget(this);
@@ -48,7 +48,7 @@ frmConfig485::frmConfig485(Ambiente& ambiente)
   rows->addWidget(CostruisciUso(body));
   rows->addWidget(CostruisciPagine(body));
   rows->addStretch();
-  picDefaults = NuoviPredefiniti(kTagDefaults);
+  picDefaults = NuoviPredefiniti(kTagDefaults485);
   lblDefaults = picDefaults->Etichetta();
   connect(picDefaults, &QAbstractButton::clicked, this, [this] { Predefinisci(); });
   CostruisciPagina(nullptr, body, picDefaults);

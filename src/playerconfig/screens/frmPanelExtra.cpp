@@ -15,15 +15,15 @@
 namespace kvr5 {
 namespace {
 
-constexpr std::int16_t kForm = 19;
+constexpr std::int16_t kFormPanelExtra = 19;
 constexpr std::int16_t kByInputs = 1;
-constexpr int kTagDefaults = 4;
+constexpr int kTagDefaultsExtra = 4;
 constexpr int kLowWithoutSensor = 290;
 
 }  // namespace
 
 frmPanelExtra::frmPanelExtra(Ambiente& ambiente)
-    : SchermoParametri(ambiente, "frmPanelExtra", SchermoParametro::Extra, kForm) {
+    : SchermoParametri(ambiente, "frmPanelExtra", SchermoParametro::Extra, kFormPanelExtra) {
   setWindowTitle(QStringLiteral("KVR5 extra parameters"));
   resize(700, 500);
   auto* body = new QWidget(this);
@@ -33,7 +33,7 @@ frmPanelExtra::frmPanelExtra(Ambiente& ambiente)
   rows->addWidget(CostruisciUscita(body));
   rows->addWidget(CostruisciSensore(body));
   rows->addStretch();
-  picDefaults = NuoviPredefiniti(kTagDefaults);
+  picDefaults = NuoviPredefiniti(kTagDefaultsExtra);
   lblDefaults = picDefaults->Etichetta();
   CostruisciPagina(nullptr, body, picDefaults);
   OrdineTab({picHelp, chkPonte, cmbOMON, cmbMomd, cmbPYDT, cmbPYDL, cmbTAPL, cmbRSPL, picCancel,

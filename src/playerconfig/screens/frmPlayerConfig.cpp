@@ -23,7 +23,7 @@
 namespace kvr5 {
 namespace {
 
-constexpr std::int16_t kForm = 4;
+constexpr std::int16_t kFormPlayerConfig = 4;
 constexpr std::int16_t kFromCard = 2;
 constexpr int kTypeRoom = 420;
 // What the count does at once: a few milliseconds on a slow disk.
@@ -89,7 +89,7 @@ void frmPlayerConfig::AlCaricamento() {
 }
 
 void frmPlayerConfig::Localizza() {
-  LocalizzaForm(C(), kForm, *this);
+  LocalizzaForm(C(), kFormPlayerConfig, *this);
   setWindowTitle(QStringLiteral("KVR5 - ") + Qs(TestoLingua(C(), "0040000")) +
                  QStringLiteral(" - ") + Qs(C().Stato.ProjectName));
   fraFileName->lblfraFileName->setText(fraFileName->lblfraFileName->text() + QStringLiteral(" - "));

@@ -20,7 +20,7 @@
 namespace kvr5 {
 namespace {
 
-constexpr std::int16_t kForm = 17;
+constexpr std::int16_t kFormTempiFade = 17;
 constexpr int kTagSeconds = 12;
 constexpr int kTagLevels = 20;
 constexpr int kTagTimes = 21;
@@ -72,7 +72,7 @@ QLabel* NewWords(const char* name, const char* text, int tag, QWidget* parent) {
 }  // namespace
 
 frmTempiFade::frmTempiFade(Ambiente& ambiente)
-    : SchermoParametri(ambiente, "frmTempiFade", SchermoParametro::Fade, kForm) {
+    : SchermoParametri(ambiente, "frmTempiFade", SchermoParametro::Fade, kFormTempiFade) {
   setWindowTitle(QStringLiteral("Fade"));
   resize(860, 640);
   picGrafico = new GraficoFade(this);

@@ -14,8 +14,8 @@
 namespace kvr5 {
 namespace {
 
-constexpr std::uint32_t kRed = 255;
-constexpr std::uint32_t kWhite = 0xFFFFFF;
+constexpr std::uint32_t kLampOn = 255;
+constexpr std::uint32_t kLampOff = 0xFFFFFF;
 
 /// A group of the band: its controls in one line.
 QWidget* GroupOf(const char* name, std::initializer_list<QWidget*> controls, QWidget* parent) {
@@ -106,7 +106,7 @@ void FasciaSelezione::Mostra(const EditorPlaylist& editor) {
     const QSignalBlocker same(chkIn[i]);
     const bool on = editor.Ingresso(static_cast<int>(i) + 1);
     chkIn[i]->setChecked(on);
-    shaIn[i]->Imposta(on ? kRed : kWhite, on);
+    shaIn[i]->Imposta(on ? kLampOn : kLampOff, on);
   }
 }
 

@@ -17,7 +17,7 @@
 namespace kvr5 {
 namespace {
 
-constexpr std::int16_t kForm = 5;
+constexpr std::int16_t kFormPlaylistEditor = 5;
 constexpr std::size_t kFilesSeen = 8;  // at one time: a few milliseconds on a slow disk
 
 }  // namespace
@@ -111,7 +111,7 @@ void frmPlaylistEditor::CollegaBrani() {
 
 void frmPlaylistEditor::Localizza() {
   const auto text = [this](const char* key) { return Qs(TestoLingua(C(), key)); };
-  LocalizzaForm(C(), kForm, *this);
+  LocalizzaForm(C(), kFormPlaylistEditor, *this);
   lblProgetto->setText(Qs(C().Stato.ProjectName));
   constexpr int kTypeRoom = 420;
   const QString type = Qs(C().Stato.PlayerConfigDesc);

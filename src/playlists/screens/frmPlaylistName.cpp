@@ -14,7 +14,7 @@
 namespace kvr5 {
 namespace {
 
-constexpr std::int16_t kForm = 15;
+constexpr std::int16_t kFormPlaylistName = 15;
 
 }  // namespace
 
@@ -70,7 +70,7 @@ void frmPlaylistName::Collega() {
 
 void frmPlaylistName::AlCaricamento() {
   C().Messaggi.ImpostaPuntatore(Puntatore::Attesa);
-  LocalizzaForm(C(), kForm, *this);
+  LocalizzaForm(C(), kFormPlaylistName, *this);
   prefisso_ = lblCaratteriDisponibili->text() + QStringLiteral(": ");
   avviso_ = lblWarn->text();
   lblNota->setText(Qs(TestoLingua(C(), "0150101")));

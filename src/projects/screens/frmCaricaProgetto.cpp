@@ -16,13 +16,13 @@
 #include "core/screens/Testo.h"
 #include "platform/FileOps.h"
 #include "projects/ApriProgetto.h"
-#include "projects/Subentro.h"
 #include "projects/CaricaDaFlash.h"
+#include "projects/Subentro.h"
 
 namespace kvr5 {
 namespace {
 
-constexpr std::int16_t kForm = 8;
+constexpr std::int16_t kFormCaricaProgetto = 8;
 constexpr std::int16_t kFromDisk = 1;
 constexpr std::int16_t kFromCard = 2;
 
@@ -166,7 +166,7 @@ void frmCaricaProgetto::Collega() {
 
 void frmCaricaProgetto::AlCaricamento() {
   C().Messaggi.ImpostaPuntatore(Puntatore::Attesa);
-  LocalizzaForm(C(), kForm, *this);
+  LocalizzaForm(C(), kFormCaricaProgetto, *this);
   lista_.Carica();
   const bool empty = lista_.rowCount() == 0;
   lstProgetti->setVisible(!empty);

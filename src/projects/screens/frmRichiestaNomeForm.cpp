@@ -16,7 +16,7 @@
 namespace kvr5 {
 namespace {
 
-constexpr std::int16_t kForm = 3;
+constexpr std::int16_t kFormRichiestaNome = 3;
 
 }  // namespace
 
@@ -68,7 +68,7 @@ void frmRichiestaNomeForm::Collega() {
 void frmRichiestaNomeForm::AlCaricamento() {
   C().Messaggi.ImpostaPuntatore(Puntatore::Attesa);
   txtNomeProgetto->setText(Qs(C().Stato.ProjectName));
-  LocalizzaForm(C(), kForm, *this);
+  LocalizzaForm(C(), kFormRichiestaNome, *this);
   lblNota->setText(QsRighe(NotaCaratteriVietati(C(), "\r\n")));
   txtNomeProgetto->setPlaceholderText(Qs(TestoLingua(C(), "0130106")));
   CambiaNome();

@@ -20,7 +20,7 @@
 namespace kvr5 {
 namespace {
 
-constexpr std::int16_t kForm = 16;
+constexpr std::int16_t kFormWizardPanel1 = 16;
 constexpr std::int16_t kInputs = 1;
 constexpr std::int16_t kSchedule = 2;
 constexpr int kPlaylistOption = 21;
@@ -136,7 +136,7 @@ void frmWizardPanel1::AlCaricamento() {
 }
 
 void frmWizardPanel1::Localizza() {
-  LocalizzaForm(C(), kForm, *this);
+  LocalizzaForm(C(), kFormWizardPanel1, *this);
   setWindowTitle(Qs(TestoLinguaO(C(), "0020000", "KVR5 Software")));
   for (const std::int16_t mode : kPlaylistModes) {
     const std::string words = TestoVariantePlaylist(C(), mode);

@@ -9,12 +9,12 @@
 namespace kvr5 {
 namespace {
 
-constexpr int kRow = 32;
+constexpr int kSegmentRow = 32;
 
 }  // namespace
 
 GrigliaSegmenti::GrigliaSegmenti(Contesto& contesto, ModelloSegmenti& modello, QWidget* padre)
-    : TabellaEditor("grdSegmenti", modello, kRow, padre), contesto_(contesto) {
+    : TabellaEditor("grdSegmenti", modello, kSegmentRow, padre), contesto_(contesto) {
   setSelectionMode(SingleSelection);
   setHorizontalScrollMode(ScrollPerPixel);
   setContextMenuPolicy(Qt::CustomContextMenu);

@@ -20,7 +20,7 @@
 namespace kvr5 {
 namespace {
 
-constexpr std::int16_t kForm = 14;
+constexpr std::int16_t kFormPalinsesto = 14;
 constexpr std::size_t kFilesSeen = 8;  // at one time: a few milliseconds on a slow disk
 constexpr int kPoll = 30;              // milliseconds
 
@@ -168,7 +168,7 @@ void frmPalinsesto::RiempiGiorni() {
 
 void frmPalinsesto::Localizza() {
   const auto text = [this](const char* key) { return Qs(TestoLingua(C(), key)); };
-  LocalizzaForm(C(), kForm, *this);
+  LocalizzaForm(C(), kFormPalinsesto, *this);
   lblProgetto->setText(Qs(C().Stato.ProjectName));
   constexpr int kTypeRoom = 420;
   const QString type = Qs(C().Stato.PlayerConfigDesc);

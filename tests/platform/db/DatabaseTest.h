@@ -14,6 +14,9 @@
 
 namespace kvr5::test {
 
+/// All tracks, in the order of their lists.
+inline constexpr std::string_view kAll = "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC";
+
 /// A test with an empty project database `a.mdb`, open.
 class DatabaseTest : public testing::Test {
  protected:

@@ -9,8 +9,6 @@
 namespace kvr5::test {
 namespace {
 
-constexpr std::string_view kAll = "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC";
-
 class RecordsetEditTest : public DatabaseTest {
  protected:
   void SetUp() override {

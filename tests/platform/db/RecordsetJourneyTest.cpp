@@ -10,8 +10,6 @@
 namespace kvr5::test {
 namespace {
 
-constexpr std::string_view kAll = "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC";
-
 std::string Small(std::string text) {
   std::transform(text.begin(), text.end(), text.begin(),
                  [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });

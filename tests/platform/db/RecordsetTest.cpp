@@ -10,8 +10,6 @@
 namespace kvr5::test {
 namespace {
 
-constexpr std::string_view kAll = "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC";
-
 /// Five tracks, 1 to 5, in one playlist.
 class RecordsetTest : public DatabaseTest {
  protected:

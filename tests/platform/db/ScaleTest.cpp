@@ -7,8 +7,6 @@
 namespace kvr5::test {
 namespace {
 
-constexpr std::string_view kAll = "SELECT * FROM [List] ORDER BY [NPlaylist],[Pos] ASC";
-
 class Scale : public DatabaseTest {
  protected:
   void Fill(int count) {

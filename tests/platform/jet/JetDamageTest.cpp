@@ -6,7 +6,6 @@
 
 #include "platform/jet/Codificato.h"
 #include "platform/jet/Tabelle.h"
-#include "support/MemoryFileSystem.h"
 
 namespace kvr5 {
 namespace {
@@ -14,18 +13,11 @@ namespace {
 using jet::Fault;
 using test::Content;
 using test::Encoded;
-using test::LeggiTutto;
 using test::Letto;
 using test::Put32;
+using test::Read;
 
 constexpr std::size_t kPage = jet::kPageSize;
-constexpr const char* kPath = "C:\\a.mdb";
-
-Letto Read(const std::string& content) {
-  test::MemoryFileSystem files;
-  files.AddFile(kPath, content);
-  return LeggiTutto(files, kPath);
-}
 
 std::uint32_t Get32(const std::string& content, std::size_t at) {
   std::uint32_t value = 0;

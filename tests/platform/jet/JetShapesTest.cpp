@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "platform/jet/Tabelle.h"
-#include "support/MemoryFileSystem.h"
 #include "support/ScriviJet.h"
 
 namespace kvr5 {
@@ -14,14 +13,9 @@ using test::CampiHead;
 using test::CampiList;
 using test::CampoJet;
 using test::DisposizioneJet;
+using test::Read;
 using test::Rows;
 using test::ScrittoreJet;
-
-test::Letto Read(const std::string& content) {
-  test::MemoryFileSystem files;
-  files.AddFile("C:\\a.mdb", content);
-  return test::LeggiTutto(files, "C:\\a.mdb");
-}
 
 Rows Tracks(std::int64_t count) {
   Rows rows;

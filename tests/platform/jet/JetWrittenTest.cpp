@@ -5,16 +5,16 @@
 
 #include "platform/HostFileSystem.h"
 #include "platform/jet/Tabelle.h"
-#include "support/MemoryFileSystem.h"
 #include "support/ScriviJet.h"
 #include "support/TempFolder.h"
 
 namespace kvr5 {
 namespace {
 
+using test::Read;
 using test::Rows;
 
-Rows Tracks(std::int64_t count) {
+Rows NumberedTracks(std::int64_t count) {
   Rows rows;
   for (std::int64_t i = 1; i <= count; ++i) {
     const std::string number = std::to_string(i);
@@ -24,14 +24,8 @@ Rows Tracks(std::int64_t count) {
   return rows;
 }
 
-test::Letto Read(const std::string& content) {
-  test::MemoryFileSystem files;
-  files.AddFile("C:\\a.mdb", content);
-  return test::LeggiTutto(files, "C:\\a.mdb");
-}
-
 TEST(JetWritten, ManyRowsOverManyPagesAreReadAsTheyWereWritten) {
-  const Rows tracks = Tracks(20'000);
+  const Rows tracks = NumberedTracks(20'000);
   const auto read = Read(test::FileJet(tracks, {}));
   EXPECT_EQ(read.Guasto.What, jet::Fault::None);
   EXPECT_TRUE(read.Lista == tracks);
@@ -64,9 +58,9 @@ TEST(JetWritten, AFileOfTwoGigabytesOfHolesIsReadWhereItsTablesAreAndALargerOneI
   const test::TempFolder folder;
   const PathMap paths;
   HostFileSystem files(paths);
-  folder.Write("a.mdb", test::FileJet(Tracks(10), {}));
+  folder.Write("a.mdb", test::FileJet(NumberedTracks(10), {}));
   std::filesystem::resize_file(folder.Host() / "a.mdb", kLargest);
-  EXPECT_EQ(test::LeggiTutto(files, folder.System("a.mdb")).Lista, Tracks(10));
+  EXPECT_EQ(test::LeggiTutto(files, folder.System("a.mdb")).Lista, NumberedTracks(10));
   std::filesystem::resize_file(folder.Host() / "a.mdb", kLargest + jet::kPageSize);
   EXPECT_EQ(test::LeggiTutto(files, folder.System("a.mdb")).Guasto.What, jet::Fault::Damaged);
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/jet/JetFile.h"
+#include "support/MemoryFileSystem.h"
 
 namespace kvr5::test {
 
@@ -45,6 +46,14 @@ inline Letto LeggiTutto(FileSystem& files, std::string_view path) {
   if (!read.Guasto) read.Guasto = file.Read("List", kList, into(read.Lista));
   if (!read.Guasto) read.Guasto = file.Read("HEAD", kHead, into(read.Testa));
   return read;
+}
+
+/// Both tables of a file of these bytes.
+inline Letto Read(const std::string& content) {
+  constexpr const char* kFile = "C:\\a.mdb";
+  MemoryFileSystem files;
+  files.AddFile(kFile, content);
+  return LeggiTutto(files, kFile);
 }
 
 }  // namespace kvr5::test

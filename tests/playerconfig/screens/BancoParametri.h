@@ -15,6 +15,9 @@
 
 namespace kvr5::test {
 
+/// The descriptor of the project named Hall.
+inline constexpr const char* kDescriptor = "program/Projects/Hall/Config.cfg";
+
 /// A screen of parameters over the project named Hall.
 template <class T>
 class ProvaParametri : public ProvaForm<T> {

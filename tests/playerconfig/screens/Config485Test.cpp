@@ -14,7 +14,7 @@ namespace {
 using test::Clicca;
 using Items = std::vector<std::string>;
 
-constexpr const char* kDescriptor = "program/Projects/Hall/Config.cfg";
+using test::kDescriptor;
 
 class Serial : public test::ProvaParametri<frmConfig485> {
  protected:

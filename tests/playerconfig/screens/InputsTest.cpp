@@ -350,13 +350,13 @@ TEST_F(Inputs, ADamagedDatabaseIsNoMoreThanAnEmptyOne) {
   EXPECT_EQ(b.Cartella.Read("program/Projects/Hall/inputcfg.mdb"), std::string(9000, '\x5A'));
 }
 
-struct Model {
+struct ModelWithInputs {
   std::int16_t Type;
   std::int16_t Mode;
   std::int16_t Config;
 };
 
-class OfEveryModel : public test::Hub, public testing::WithParamInterface<Model> {};
+class OfEveryModel : public test::Hub, public testing::WithParamInterface<ModelWithInputs> {};
 
 TEST_P(OfEveryModel, InputsAreTickedConfirmedListedAndFreed) {
   Progetto(GetParam().Type, GetParam().Mode, GetParam().Config);
@@ -378,8 +378,9 @@ TEST_P(OfEveryModel, InputsAreTickedConfirmedListedAndFreed) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Models, OfEveryModel,
-                         testing::Values(Model{1, 0, 0}, Model{2, 0, 0}, Model{2, 0, 1},
-                                         Model{3, 1, 0}, Model{4, 1, 0}),
+                         testing::Values(ModelWithInputs{1, 0, 0}, ModelWithInputs{2, 0, 0},
+                                         ModelWithInputs{2, 0, 1}, ModelWithInputs{3, 1, 0},
+                                         ModelWithInputs{4, 1, 0}),
                          [](const auto& each) {
                            return "Type" + std::to_string(each.param.Type) + "Mode" +
                                   std::to_string(each.param.Mode) + "Config" +

@@ -15,7 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* kDescriptor = "program/Projects/Hall/Config.cfg";
+using test::kDescriptor;
 
 /// Every key of the three screens, away from what they begin with, among lines of others.
 constexpr const char* kFull =

@@ -17,7 +17,7 @@
 namespace kvr5 {
 namespace {
 
-using Model = std::map<std::string, std::string>;
+using ShownValues = std::map<std::string, std::string>;
 
 int FromEnvironment(const char* name, int otherwise) {
   const char* text = std::getenv(name);
@@ -47,13 +47,13 @@ class Session : public test::ProvaParametri<T>, public testing::WithParamInterfa
 
   virtual Controls All() = 0;
   /// Has the model follow what a change of a control does besides.
-  virtual void Follow(const std::string& /*key*/, Model& /*shown*/) {}
+  virtual void Follow(const std::string& /*key*/, ShownValues& /*shown*/) {}
   virtual void BeforeOpening() {}
   virtual void AfterOpening() {}
 
   int Dice(int sides) { return static_cast<int>(random_() % static_cast<unsigned>(sides)); }
 
-  void Change(const std::string& key, QWidget& control, Model& shown) {
+  void Change(const std::string& key, QWidget& control, ShownValues& shown) {
     if (!control.isVisible() || !control.isEnabled()) return;
     if (auto* list = qobject_cast<QComboBox*>(&control)) {
       const int index = Dice(list->count());
@@ -76,16 +76,16 @@ class Session : public test::ProvaParametri<T>, public testing::WithParamInterfa
     Follow(key, shown);
   }
 
-  void Compare(const Model& shown) {
+  void Compare(const ShownValues& shown) {
     for (const auto& [key, control] : All()) EXPECT_EQ(Shown(*control), shown.at(key)) << key;
   }
 
-  void OneRound(Model& file) {
+  void OneRound(ShownValues& file) {
     BeforeOpening();
     this->Apri();
     AfterOpening();
     Compare(file);
-    Model shown = file;
+    ShownValues shown = file;
     for (int i = Dice(8); i > 0; --i) {
       const auto controls = All();
       const auto& [key, control] =
@@ -104,7 +104,7 @@ class Session : public test::ProvaParametri<T>, public testing::WithParamInterfa
     BeforeOpening();
     this->Apri();
     AfterOpening();
-    Model file;
+    ShownValues file;
     for (const auto& [key, control] : All()) file[key] = Shown(*control);
     this->Salva();
     const int steps = FromEnvironment("KVR5_STEPS", 15);
@@ -144,7 +144,7 @@ class ExtraSession : public Session<frmPanelExtra> {
             {"MOMD", forma->cmbMomd}};
   }
   void AfterOpening() override { before_ = Shown(*forma->cmbOMON); }
-  void Follow(const std::string& key, Model& shown) override {
+  void Follow(const std::string& key, ShownValues& shown) override {
     if (key == "OMON") before_ = shown["OMON"];
     if (key != "INVR") return;
     if (shown["INVR"] == "1") before_ = std::exchange(shown["OMON"], "1");

@@ -26,7 +26,7 @@ using test::SchermoVisto;
 using Stops = std::vector<QWidget*>;
 
 /// What a walk found at fault, by the check that found it.
-struct Findings {
+struct KeyFaults {
   std::vector<std::string> Nameless, Astray, Scattered, Keyless;
 };
 
@@ -121,7 +121,7 @@ Stops TabFrom(QWidget& first, std::size_t tabs) {
   return way;
 }
 
-std::string Names(const Stops& stops) {
+std::string NamesOf(const Stops& stops) {
   std::string names;
   for (const QWidget* each : stops) {
     if (each == nullptr) continue;
@@ -134,8 +134,8 @@ std::string Names(const Stops& stops) {
 void FindAstray(const SchermoVisto& screen, std::vector<std::string>& found) {
   const Stops stops = InReadingOrder(screen.Finestra);
   if (stops.empty()) return;
-  const std::string read = Names(stops);
-  const std::string way = Names(TabFrom(*stops.front(), stops.size()));
+  const std::string read = NamesOf(stops);
+  const std::string way = NamesOf(TabFrom(*stops.front(), stops.size()));
   if (way != read) found.push_back(screen.Nome + ":\n" + way + "and not\n" + read);
   if (screen.Finestra.focusWidget() != stops.front()) {
     found.push_back(screen.Nome + ": never comes back");
@@ -167,10 +167,10 @@ void FindKeyless(const SchermoVisto& screen, std::vector<std::string>& found) {
 }
 
 /// One walk in a language does for all that is asked of it.
-const Findings& FoundIn(const std::string& language) {
-  static std::map<std::string, Findings> walked;
+const KeyFaults& KeyFaultsIn(const std::string& language) {
+  static std::map<std::string, KeyFaults> walked;
   if (const auto known = walked.find(language); known != walked.end()) return known->second;
-  Findings& found = walked[language];
+  KeyFaults& found = walked[language];
   test::GiroSchermi(language).Percorri([&found](const SchermoVisto& screen) {
     FindNameless(screen, found.Nameless);
     FindScattered(screen, found.Scattered);
@@ -184,19 +184,19 @@ const Findings& FoundIn(const std::string& language) {
 class Keyboard : public testing::TestWithParam<std::string> {};
 
 TEST_P(Keyboard, WhatItReachesHasAName) {
-  EXPECT_THAT(FoundIn(GetParam()).Nameless, testing::IsEmpty());
+  EXPECT_THAT(KeyFaultsIn(GetParam()).Nameless, testing::IsEmpty());
 }
 
 TEST_P(Keyboard, TabGoesThroughEachWindowAsOneReadsIt) {
-  EXPECT_THAT(FoundIn(GetParam()).Astray, testing::IsEmpty());
+  EXPECT_THAT(KeyFaultsIn(GetParam()).Astray, testing::IsEmpty());
 }
 
 TEST_P(Keyboard, PressesEachButtonByALetterOfItsOwn) {
-  EXPECT_THAT(FoundIn(GetParam()).Keyless, testing::IsEmpty());
+  EXPECT_THAT(KeyFaultsIn(GetParam()).Keyless, testing::IsEmpty());
 }
 
 TEST_P(Keyboard, OfSomeOptionsTabStopsAtTheChosenOne) {
-  EXPECT_THAT(FoundIn(GetParam()).Scattered, testing::IsEmpty());
+  EXPECT_THAT(KeyFaultsIn(GetParam()).Scattered, testing::IsEmpty());
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, Keyboard, testing::ValuesIn(test::FileDiLingua()),

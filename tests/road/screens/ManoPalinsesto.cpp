@@ -19,20 +19,6 @@ namespace {
 
 constexpr const char* kNotice = " !";
 
-/// Where an entry stands in a list, in view; one that isn't there ends the test.
-QPoint PlaceOf(QListWidget& pane, const std::string& name) {
-  const auto found = pane.findItems(QString::fromStdString(name), Qt::MatchExactly);
-  if (found.size() != 1) throw std::logic_error(name + " isn't in the list");
-  pane.scrollToItem(found.front());
-  return pane.visualItemRect(found.front()).center();
-}
-
-/// A click as the mouse gives it to the window.
-void Click(QWidget& viewport, QPoint place) {
-  QTest::mouseClick(viewport.window()->windowHandle(), Qt::LeftButton, {},
-                    viewport.mapTo(viewport.window(), place));
-}
-
 std::vector<std::string> WordsOf(const std::string& line) {
   std::istringstream in(line);
   std::vector<std::string> words;
@@ -56,7 +42,7 @@ void PressYes(frmSiNo& box) {
 void CliccaFile(frmPalinsesto& editor, const std::string& nome) {
   editor.fraFileInfo->tmrInfoMp3.setInterval(0);
   ElencoFile& pane = *editor.fraFile->filMp3;
-  Click(*pane.viewport(), PlaceOf(pane, nome));
+  Clicca(*pane.viewport(), PostoDi(pane, nome));
   const auto judged = [&editor] {
     return editor.Editor().FileMp3Valido || !editor.fraFileInfo->lblBadFileType->isHidden();
   };
@@ -114,7 +100,7 @@ void PalinsestoAMano::Scegli(std::int64_t id) {
   if (row < 0) throw std::logic_error("the day has no such segment");
   const QModelIndex cell = grid.model()->index(row, ModelloSegmenti::Inizio);
   grid.scrollTo(cell);
-  Click(*grid.viewport(), grid.visualRect(cell).center());
+  Clicca(*grid.viewport(), grid.visualRect(cell).center());
   EXPECT_EQ(e_.Editor().SegmentoCorrente(), id);
 }
 
@@ -153,7 +139,7 @@ void PalinsestoAMano::Aggiungi(std::size_t slot, const std::filesystem::path& fi
   const std::string name = file.filename().string();
   if (free && ++aggiunti_ % 2 == 0) {
     ElencoFile& pane = *e_.fraFile->filMp3;
-    CliccaDoppio(*pane.viewport(), PlaceOf(pane, name));
+    CliccaDoppio(*pane.viewport(), PostoDi(pane, name));
   } else {
     CliccaFile(e_, name);
     Clicca(*e_.picDettaglio->picAggiungiSpot.at(slot));
@@ -168,7 +154,7 @@ void PalinsestoAMano::VaiA(const std::filesystem::path& cartella) {
   if (now().parent_path() == cartella.parent_path()) {
     QListWidget& folders = *e_.fraFile->DirDirectoryMp3;
     for (const std::string& step : {std::string(".."), cartella.filename().string()}) {
-      CliccaDoppio(*folders.viewport(), PlaceOf(folders, step));
+      CliccaDoppio(*folders.viewport(), PostoDi(folders, step));
     }
   } else {
     const Pilota<QFileDialog> browser(

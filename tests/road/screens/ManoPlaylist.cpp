@@ -11,28 +11,11 @@
 #include "support/screens/Scelte.h"
 
 namespace kvr5::test {
-namespace {
-
-/// Where an entry stands in a list, in view; one that isn't there ends the test.
-QPoint PlaceOf(QListWidget& pane, const std::string& name) {
-  const auto found = pane.findItems(QString::fromStdString(name), Qt::MatchExactly);
-  if (found.size() != 1) throw std::logic_error(name + " isn't in the list");
-  pane.scrollToItem(found.front());
-  return pane.visualItemRect(found.front()).center();
-}
-
-/// A click as the mouse gives it to the window.
-void Click(QWidget& viewport, QPoint place) {
-  QTest::mouseClick(viewport.window()->windowHandle(), Qt::LeftButton, {},
-                    viewport.mapTo(viewport.window(), place));
-}
-
-}  // namespace
 
 void CliccaFile(frmPlaylistEditor& editor, const std::string& nome) {
   editor.fraFileInfo->tmrInfoMp3.setInterval(0);
   ElencoFile& pane = *editor.fraFile->filMp3;
-  Click(*pane.viewport(), PlaceOf(pane, nome));
+  Clicca(*pane.viewport(), PostoDi(pane, nome));
   const auto judged = [&editor] {
     return !editor.cmdAggiungiFile->isHidden() || !editor.fraFileInfo->lblBadFileType->isHidden();
   };
@@ -41,14 +24,14 @@ void CliccaFile(frmPlaylistEditor& editor, const std::string& nome) {
 
 void CliccaFileDueVolte(frmPlaylistEditor& editor, const std::string& nome) {
   ElencoFile& pane = *editor.fraFile->filMp3;
-  CliccaDoppio(*pane.viewport(), PlaceOf(pane, nome));
+  CliccaDoppio(*pane.viewport(), PostoDi(pane, nome));
 }
 
 void CliccaBrano(frmPlaylistEditor& editor, int riga) {
   GrigliaPlaylist& grid = *editor.Brani->grdPlaylist;
   const QModelIndex name = grid.model()->index(riga, ModelloBrani::Nome);
   grid.scrollTo(name);
-  Click(*grid.viewport(), grid.visualRect(name).center());
+  Clicca(*grid.viewport(), grid.visualRect(name).center());
 }
 
 void SessioneAMano::Esegui(const Passi& passi) {
@@ -86,7 +69,7 @@ void SessioneAMano::VaiA(const std::filesystem::path& cartella) {
   if (now().parent_path() == cartella.parent_path()) {
     QListWidget& folders = *e_.fraFile->DirDirectoryMp3;
     for (const std::string& step : {std::string(".."), cartella.filename().string()}) {
-      CliccaDoppio(*folders.viewport(), PlaceOf(folders, step));
+      CliccaDoppio(*folders.viewport(), PostoDi(folders, step));
     }
   } else {
     const Pilota<QFileDialog> browser(

@@ -27,7 +27,7 @@ struct ReportedDay {
 };
 
 /// A model and mode, what is done there, and what that leaves.
-struct Kind {
+struct ScheduleKind {
   const char* Name;
   std::int16_t Type, Mode;
   Passi Session;
@@ -38,7 +38,7 @@ struct Kind {
   Lines Rows;   ///< the rows of List
 };
 
-void PrintTo(const Kind& kind, std::ostream* out) {
+void PrintTo(const ScheduleKind& kind, std::ostream* out) {
   *out << kind.Name;
 }
 
@@ -102,7 +102,7 @@ Lines OneSchedulesRows() {
           "11 0/5/2 sei.mp3 F0-0042.mp3"};
 }
 
-Kind Kvr5() {
+ScheduleKind Kvr5() {
   return {"Kvr5",
           4,
           2,
@@ -119,7 +119,7 @@ Kind Kvr5() {
           OneSchedulesRows()};
 }
 
-Kind OstrelWithOneSchedule() {
+ScheduleKind OstrelWithOneSchedule() {
   return {"OstrelWithOneSchedule",
           3,
           2,
@@ -137,8 +137,8 @@ Kind OstrelWithOneSchedule() {
 }
 
 /// The same on the days of a week.
-Kind OstrelWithAWeek() {
-  Kind kind{"OstrelWithAWeek", 3, 3, {}, {}, {}, {}, {}, {}};
+ScheduleKind OstrelWithAWeek() {
+  ScheduleKind kind{"OstrelWithAWeek", 3, 3, {}, {}, {}, {}, {}, {}};
   kind.Session = {"day 3",
                   "segment add",
                   "time 20 30",
@@ -221,12 +221,13 @@ std::string FromHeading(const std::string& page) {
   return at == std::string::npos ? page : page.substr(at);
 }
 
-class ScheduleRoad : public test::StradaPalinsesto, public testing::WithParamInterface<Kind> {
+class ScheduleRoad : public test::StradaPalinsesto,
+                     public testing::WithParamInterface<ScheduleKind> {
  protected:
   void ToTheHub() { Apri(GetParam().Type, GetParam().Mode); }
   /// What the save leaves in the project.
   void ExpectTheProject() {
-    const Kind& kind = GetParam();
+    const ScheduleKind& kind = GetParam();
     for (const auto& [name, text] : kind.Files) EXPECT_EQ(LeggiProgetto(name), text) << name;
     for (const char* name : {"PALIN.TXT", "0.pal", "1.pal", "2.pal", "3.pal", "4.pal", "5.pal",
                              "6.pal", "7.pal", "8.pal"}) {

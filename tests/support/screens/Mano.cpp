@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
@@ -50,6 +51,11 @@ void Clicca(QWidget& finestra, const char* nome) {
   Clicca(Controllo(finestra, nome));
 }
 
+void Clicca(QWidget& controllo, QPoint dove) {
+  QTest::mouseClick(controllo.window()->windowHandle(), Qt::LeftButton, {},
+                    controllo.mapTo(controllo.window(), dove));
+}
+
 void CliccaDoppio(QWidget& controllo, QPoint dove) {
   QTest::mouseDClick(controllo.window()->windowHandle(), Qt::LeftButton, {},
                      controllo.mapTo(controllo.window(), dove));
@@ -80,6 +86,13 @@ void ScegliCartella(QFileDialog& scelta, const std::string& cartella) {
   Controllo<QLineEdit>(scelta, "fileNameEdit").setText(QString::fromStdString(cartella));
   auto& buttons = Controllo<QDialogButtonBox>(scelta, "buttonBox");
   QTest::mouseClick(buttons.button(QDialogButtonBox::Open), Qt::LeftButton);
+}
+
+QPoint PostoDi(QListWidget& elenco, const std::string& voce) {
+  const auto found = elenco.findItems(QString::fromStdString(voce), Qt::MatchExactly);
+  if (found.size() != 1) throw std::logic_error(voce + " isn't in the list");
+  elenco.scrollToItem(found.front());
+  return elenco.visualItemRect(found.front()).center();
 }
 
 std::string Scritta(QWidget& finestra, const char* nome) {

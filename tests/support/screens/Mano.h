@@ -7,6 +7,7 @@
 #include <string>
 
 class QFileDialog;
+class QListWidget;
 
 namespace kvr5::test {
 
@@ -24,6 +25,8 @@ bool Pronta(QWidget& finestra);
 /// whatever lies there gets it.
 void Clicca(QWidget& controllo);
 void Clicca(QWidget& finestra, const char* nome);
+/// The same at a place of the control.
+void Clicca(QWidget& controllo, QPoint dove);
 /// A click and another one at once.
 void CliccaDoppio(QWidget& controllo, QPoint dove);
 
@@ -37,6 +40,9 @@ void Riscrivi(QWidget& campo, const QString& testo);
 
 /// Chooses a folder (host's form) in a folder chooser by its full path, and leaves it.
 void ScegliCartella(QFileDialog& scelta, const std::string& cartella);
+
+/// Where an entry stands in a list, in view; one that isn't there ends the test.
+QPoint PostoDi(QListWidget& elenco, const std::string& voce);
 
 /// The text that a label of that name shows.
 std::string Scritta(QWidget& finestra, const char* nome);

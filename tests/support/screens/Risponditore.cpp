@@ -12,7 +12,7 @@
 namespace kvr5::test {
 namespace {
 
-constexpr int kPatience = 3000;  // milliseconds
+constexpr int kLongestModal = 3000;  // milliseconds
 
 /// The screens over the hub that Esc leaves without saving anything.
 bool IsLeftByEsc(const QWidget& window) {
@@ -42,7 +42,7 @@ void Risponditore::Guarda() {
   }
   if (IsLeftByEsc(*window)) return Tasto(*window, Qt::Key_Escape);
   if (!attesa_.isValid()) attesa_.start();
-  if (attesa_.elapsed() < kPatience) return;
+  if (attesa_.elapsed() < kLongestModal) return;
   attesa_.invalidate();
   ADD_FAILURE() << "a window stayed: " << window->objectName().toStdString();
   Tasto(*window, Qt::Key_Escape);

@@ -23,7 +23,7 @@ struct Reading {
   std::unordered_map<std::string, std::string> Names;
 };
 
-std::optional<Reading> g_last;  // one thread, and runs ask one folder at a time
+std::optional<Reading> g_reading;  // one thread, and runs ask one folder at a time
 int g_held = 0;
 
 bool SameState(const struct stat& a, const struct stat& b) {
@@ -49,8 +49,9 @@ bool IsSettled(const std::string& folder, const struct stat& state) {
 
 bool Serves(const std::string& folder, const struct stat& state) {
   constexpr auto kMoment = std::chrono::seconds(2);
-  if (!g_last || g_last->Folder != folder) return false;
-  return g_held > 0 || (SameState(g_last->State, state) && Clock::now() - g_last->Taken < kMoment);
+  if (!g_reading || g_reading->Folder != folder) return false;
+  return g_held > 0 ||
+         (SameState(g_reading->State, state) && Clock::now() - g_reading->Taken < kMoment);
 }
 
 std::optional<Reading> Read(const std::string& folder, const struct stat& state) {
@@ -70,33 +71,33 @@ std::optional<std::string> OtherSpelling(const std::string& folder, std::string_
   struct stat state {};
   if (::stat(folder.c_str(), &state) != 0) return std::nullopt;
   if (!Serves(folder, state)) {
-    g_last = Read(folder, state);
-    if (!g_last) return std::nullopt;
+    g_reading = Read(folder, state);
+    if (!g_reading) return std::nullopt;
   }
-  const auto found = g_last->Names.find(FoldCase(name));
+  const auto found = g_reading->Names.find(FoldCase(name));
   std::optional<std::string> spelling;
-  if (found != g_last->Names.end()) spelling = found->second;
-  if (g_held == 0 && !IsSettled(folder, state)) g_last.reset();
+  if (found != g_reading->Names.end()) spelling = found->second;
+  if (g_held == 0 && !IsSettled(folder, state)) g_reading.reset();
   return spelling;
 }
 
 void ForgetSpellings() {
-  g_last.reset();
+  g_reading.reset();
 }
 
 SpellingsHeld::SpellingsHeld() {
-  if (g_held++ == 0) g_last.reset();  // what was read before may be older than it says
+  if (g_held++ == 0) g_reading.reset();  // what was read before may be older than it says
 }
 
 SpellingsHeld::~SpellingsHeld() {
-  if (--g_held == 0) g_last.reset();
+  if (--g_held == 0) g_reading.reset();
 }
 
 bool NoteRenamed(const std::string& folder, std::string_view from, std::string_view to) {
-  if (g_held == 0 || !g_last || g_last->Folder != folder) return false;
-  const auto old = g_last->Names.find(FoldCase(from));
-  if (old != g_last->Names.end() && old->second == from) g_last->Names.erase(old);
-  const auto [place, isNew] = g_last->Names.try_emplace(FoldCase(to), to);
+  if (g_held == 0 || !g_reading || g_reading->Folder != folder) return false;
+  const auto old = g_reading->Names.find(FoldCase(from));
+  if (old != g_reading->Names.end() && old->second == from) g_reading->Names.erase(old);
+  const auto [place, isNew] = g_reading->Names.try_emplace(FoldCase(to), to);
   if (!isNew && to < place->second) place->second = to;
   return true;
 }

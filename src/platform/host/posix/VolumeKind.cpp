@@ -23,7 +23,7 @@ struct Answer {
   Clock::time_point Taken;
 };
 
-Answer g_last;  // one thread, and runs stay on one volume
+Answer g_answer;  // one thread, and runs stay on one volume
 
 }  // namespace
 
@@ -47,10 +47,10 @@ VolumeKind KindOf(const std::string& path) {
 VolumeKind KindOf(const std::string& path, dev_t device) {
   constexpr auto kMoment = std::chrono::seconds(1);
   const Clock::time_point now = Clock::now();
-  if (g_last.Device != device || now - g_last.Taken > kMoment) {
-    g_last = {device, KindOf(path), now};
+  if (g_answer.Device != device || now - g_answer.Taken > kMoment) {
+    g_answer = {device, KindOf(path), now};
   }
-  return g_last.Kind;
+  return g_answer.Kind;
 }
 
 }  // namespace kvr5::host
