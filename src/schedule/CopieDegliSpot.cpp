@@ -9,33 +9,13 @@
 #include "core/ListaCopia.h"
 #include "platform/FileOps.h"
 #include "platform/Fold.h"
-#include "platform/Path.h"
 #include "platform/db/Walk.h"
+#include "playerconfig/CopiaNelProgetto.h"
+#include "playerconfig/NomeLibero.h"
 #include "playerconfig/NomiCartella.h"
 #include "projects/CartellaProgetto.h"
-#include "schedule/NomeLibero.h"
 
 namespace kvr5 {
-namespace {
-
-/// Whether a file of the project can have this name.
-bool CanBeNamed(const std::string& name) {
-  return CardCanHold(name) && FaultOf(name) == NameFault::None;
-}
-
-/// Whether a copy is of this file: as long and as old, as copies are made. A file that is gone
-/// can't speak against it.
-bool IsCopyOf(const Contesto& context, const std::string& alias, const std::string& source) {
-  const auto file = context.Files.Info(source);
-  if (!file || file.Value().IsFolder) return true;
-  const auto copy = context.Files.Info(FileDelProgetto(context, alias));
-  constexpr std::int64_t kFat = 2;  // seconds that a card's file system rounds to
-  return copy && copy.Value().Size == file.Value().Size &&
-         std::abs(copy.Value().Modified - file.Value().Modified) <= kFat;
-}
-
-}  // namespace
-
 void CopieDegliSpot::Leggi(EditorPalinsesto& editor) {
   copie_.clear();
   auto& context = editor.C();
@@ -50,7 +30,7 @@ void CopieDegliSpot::Leggi(EditorPalinsesto& editor) {
   editor.Record(WalkRows(rows, [&] {
     Copia copy{rows.Text("Alias"), rows.Text("FilePath"), rows.Text("FileName")};
     const bool there = !copy.Alias.empty() && names.Contiene(copy.Alias);
-    if (there && IsCopyOf(context, copy.Alias, AggiungiBarra(copy.Cartella) + copy.Nome)) {
+    if (there && SembraCopiaDi(context, copy.Alias, AggiungiBarra(copy.Cartella) + copy.Nome)) {
       copie_.emplace(rows.Number("ID"), std::move(copy));
     }
     return true;
@@ -65,7 +45,7 @@ bool CopieDegliSpot::Propria(std::int64_t id, const std::string& cartella,
 }
 
 bool CopieDegliSpot::SenzaFile(const Contesto& contesto, const Copia& copia) {
-  return CanBeNamed(copia.Nome) &&
+  return PuoChiamarsi(copia.Nome) &&
          !FileExists(contesto.Files, AggiungiBarra(copia.Cartella) + copia.Nome);
 }
 

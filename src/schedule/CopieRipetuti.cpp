@@ -9,7 +9,7 @@
 #include "platform/FileOps.h"
 #include "platform/db/Walk.h"
 #include "projects/CartellaProgetto.h"
-#include "schedule/NomeLibero.h"
+#include "playerconfig/NomeLibero.h"
 
 namespace kvr5 {
 namespace {

@@ -43,6 +43,7 @@ void frmPlaylistEditor::Costruisci() {
              cmdRimuoviFile,
              cmdRimuoviTuttiFile,
              Brani->grdPlaylist,
+             Brani->picNomiCopie,
              Brani->cmdPlayMp3,
              Brani->cmdStopMp3,
              Brani->cmdSpostaSu,

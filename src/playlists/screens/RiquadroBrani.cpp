@@ -42,13 +42,7 @@ RiquadroBrani::RiquadroBrani(Contesto& contesto, ModelloBrani& modello, QWidget*
   pila_->addWidget(grdPlaylist);
   pila_->addWidget(attesa_);
   Corpo()->addLayout(pila_, 1);
-  lblDoppi = new EtichettaAvviso("lblDoppi", {}, Carattere::Suggerimento, this);
-  lblEsito = new EtichettaAvviso("lblEsito", {}, Carattere::Suggerimento, this);
-  for (EtichettaAvviso* each : {lblDoppi, lblEsito}) {
-    each->setWordWrap(true);
-    each->hide();
-    Corpo()->addWidget(each);
-  }
+  CostruisciAvvisi();
   const auto button = [this](const char* cmd, const char* lbl, const char* caption,
                              const char* icon, int tag) {
     return new Coppia(cmd, lbl, QLatin1String(caption), icon, tag, this);
@@ -66,6 +60,28 @@ RiquadroBrani::RiquadroBrani(Contesto& contesto, ModelloBrani& modello, QWidget*
   coloreAttesa_ = kGreen;
   Lampeggia();
   setAcceptDrops(true);
+}
+
+void RiquadroBrani::CostruisciAvvisi() {
+  lblCopie = new EtichettaAvviso("lblCopie", {}, Carattere::Suggerimento, this);
+  picNomiCopie = new Coppia("picNomiCopie", "lblNomiCopie", {}, "duplica", -1, this);
+  lblDoppi = new EtichettaAvviso("lblDoppi", {}, Carattere::Suggerimento, this);
+  lblEsito = new EtichettaAvviso("lblEsito", {}, Carattere::Suggerimento, this);
+  for (EtichettaAvviso* each : {lblCopie, lblDoppi, lblEsito}) {
+    each->setWordWrap(true);
+    each->hide();
+    Corpo()->addWidget(each);
+    if (each != lblCopie) continue;
+    Corpo()->addWidget(picNomiCopie, 0, Qt::AlignLeft);
+    picNomiCopie->hide();
+  }
+}
+
+void RiquadroBrani::MostraCopie(const QString& testo) {
+  Avvisa(*lblCopie, testo);
+  // The keyboard would come to the next button, for a second press.
+  if (testo.isEmpty() && picNomiCopie->hasFocus()) grdPlaylist->setFocus(Qt::OtherFocusReason);
+  picNomiCopie->setVisible(!testo.isEmpty());
 }
 
 void RiquadroBrani::Lampeggia() {
@@ -148,6 +164,8 @@ void RiquadroBrani::Localizza() {
   cmdSpostaGiu->ImpostaScritta(text("0050045"));
   cmdSpostaGiu->setToolTip(text("0050107"));
   cmdRandom->setToolTip(text("0050108"));
+  picNomiCopie->ImpostaScritta(text("0140131"));
+  picNomiCopie->setToolTip(text("0140133"));
   grdPlaylist->setAccessibleName(text("0050018"));
   grdPlaylist->ImpostaVuota(text("0050109"));
 }

@@ -26,6 +26,8 @@ class RiquadroBrani : public Riquadro {
   GrigliaPlaylist* grdPlaylist;
   QLabel* lblAttendere;  ///< lies where the grid is, while that is hidden
   QTimer tmrAttendere;
+  EtichettaAvviso* lblCopie;  ///< copies with names of the card
+  Coppia* picNomiCopie;       ///< gives them their own names
   EtichettaAvviso* lblDoppi;  ///< names that different files have
   EtichettaAvviso* lblEsito;  ///< files that were not taken
   Coppia *cmdPlayMp3, *cmdStopMp3, *cmdSpostaSu, *cmdSpostaGiu, *cmdRandom;
@@ -36,6 +38,8 @@ class RiquadroBrani : public Riquadro {
   /// Says what was not taken, and which name different files have; "" takes that away.
   void MostraEsito(const QString& testo) { Avvisa(*lblEsito, testo); }
   void MostraDoppi(const QString& testo) { Avvisa(*lblDoppi, testo); }
+  /// What to do about copies with names of the card; "" where there are none.
+  void MostraCopie(const QString& testo);
   void Localizza();
 
   /// Called with the files that were dropped, in the host's form.
@@ -48,6 +52,7 @@ class RiquadroBrani : public Riquadro {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void CostruisciAvvisi();
   static void Avvisa(QLabel& riga, const QString& testo);
   void Lampeggia();
   void Sopra(bool sopra);

@@ -103,6 +103,12 @@ void frmPlaylistEditor::CollegaBrani() {
       same ? ascolto_.Stop() : AscoltaRiga();
     });
   };
+  connect(Brani->picNomiCopie, &QAbstractButton::clicked, this, [this] {
+    Comando([this] {
+      copie_.RidaiNomi(editor_);
+      Brani->MostraCopie(Qs(copie_.Parole(C())));
+    });
+  });
   connect(Brani->cmdSpostaSu, &QAbstractButton::clicked, this, [moves] { moves(true); });
   connect(Brani->cmdSpostaGiu, &QAbstractButton::clicked, this, [moves] { moves(false); });
   connect(Brani->cmdRandom, &QAbstractButton::clicked, this,
@@ -153,6 +159,8 @@ void frmPlaylistEditor::AlCaricamento() {
       picSave->setEnabled(!there);
       if (there) picSave->setToolTip(words);
     }
+    copie_.Leggi(editor_);
+    Brani->MostraCopie(Qs(copie_.Parole(C())));
     fraFile->DirDirectoryMp3->ImpostaPercorso(CartellaIniziale(C(), 0));
   });
   fraFile->filMp3->setFocus();
@@ -270,6 +278,7 @@ void frmPlaylistEditor::Salva() {
   editor_.Turni.Ultimo([this] {
     conta_.stop();
     SalvaPlaylist(editor_, progresso_);
+    copie_.TogliSuperate(C());
     Scarica();
   });
 }

@@ -17,6 +17,7 @@
 #include "core/screens/PannelloInfo.h"
 #include "mp3/modMp3Infos.h"
 #include "playerconfig/ContoBrani.h"
+#include "playlists/CopieDeiBrani.h"
 #include "playlists/EditorPlaylist.h"
 #include "playlists/screens/FasciaSelezione.h"
 #include "playlists/screens/ModelloBrani.h"
@@ -108,6 +109,7 @@ class frmPlaylistEditor : public Form {
   EditorPlaylist editor_;
   modMp3Infos lettore_;
   ContoBrani conto_;
+  CopieDeiBrani copie_;
   ModelloBrani modello_;
   AscoltoEditor ascolto_{C(), ambiente_.Documenti, *mci1, *mciPreview};
   FormPredefinita<frmPlaylistName> nome_{[this] { return new frmPlaylistName(ambiente_); }};

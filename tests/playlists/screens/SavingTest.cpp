@@ -108,6 +108,34 @@ TEST_F(SavingEditor, AQuestionThatIsClosedIsANo) {
   EXPECT_EQ(Leggi("1.m3u"), "P01-001\r\n");
 }
 
+TEST_F(SavingEditor, CopiesOfACardGetTheirNamesByTheButtonAndGoWithTheSave) {
+  Progetto(4, 5);
+  b.AggiungiRiga("playlist.mdb", 1, 1, "a.mp3", "D:\\Old\\", "P01-001.mp3");
+  b.Cartella.Write("program/Projects/Hall/P01-001.mp3", "sound");
+  Apri();
+  ASSERT_TRUE(form->Brani->lblCopie->isVisible());
+  Clic("picNomiCopie");
+  EXPECT_FALSE(form->Brani->lblCopie->isVisible());
+  EXPECT_FALSE(form->Brani->picNomiCopie->isVisible());
+  EXPECT_EQ(form->lblModifiche->text(), "1 change unsaved");
+  EXPECT_TRUE(Ha("P01-001.mp3")) << "the rows need it until they are saved";
+  {
+    const Pilota<frmSiNo> no([](frmSiNo& box) { test::Tasto(box, Qt::Key_Escape); });
+    Clic("picSave");
+  }
+  ExpectGone();
+  EXPECT_FALSE(Ha("P01-001.mp3"));
+  EXPECT_EQ(Leggi("a.mp3"), "sound");
+}
+
+TEST_F(SavingEditor, WithoutCopiesOfACardThereIsNoSuchButton) {
+  Progetto(4, 5);
+  Brano(1, 1, "a.mp3");
+  Apri();
+  EXPECT_FALSE(form->Brani->lblCopie->isVisible());
+  EXPECT_FALSE(form->Brani->picNomiCopie->isVisible());
+}
+
 TEST_F(SavingEditor, WithoutATrackAsksNothing) {
   Progetto(4, 5);
   Brano(1, 1, "a.mp3");

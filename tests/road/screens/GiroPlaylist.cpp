@@ -1,6 +1,7 @@
 // The walk past the editor of playlists and the dialog for a name.
 
 #include <QTest>
+#include <filesystem>
 
 #include "platform/db/Connection.h"
 #include "projects/CartellaProgetto.h"
@@ -29,6 +30,16 @@ void GiroSchermi::NellEditor() {
   b.AggiungiRiga("playlist.mdb", 1, 1, "welcome.mp3", music, "");
   b.AggiungiRiga("playlist.mdb", 1, 2, "gone.mp3", music, "");
   b.AggiungiRiga("playlist.mdb", 1, 3, std::string(200, 'W') + ".mp3", music, "");
+  {
+    b.AggiungiRiga("playlist.mdb", 1, 4, "gong.mp3", "D:\\Old\\", "P01-004.mp3");
+    b.Cartella.Write("program/Projects/Lists of days/P01-004.mp3", "of a card");
+    const auto fromCard = Editor();
+    ASSERT_TRUE(fromCard->Brani->picNomiCopie->isVisible());
+    Vedi(*fromCard, "frmPlaylistEditor with copies of a card");
+    Clicca(*fromCard->Brani->picNomiCopie);
+    ASSERT_FALSE(fromCard->Brani->picNomiCopie->isVisible());
+  }
+  std::filesystem::remove(b.Cartella.Host() / "program/Projects/Lists of days/P01-004.mp3");
   const auto editor = Editor();
   Vedi(*editor, "frmPlaylistEditor");
   CliccaFile(*editor, "door.mp3");

@@ -1,4 +1,4 @@
-#include "schedule/NomeLibero.h"
+#include "playerconfig/NomeLibero.h"
 
 #include "core/Aiuti.h"
 
