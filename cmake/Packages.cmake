@@ -47,6 +47,8 @@ install(CODE "set(PROGRAM \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/lib/kvr5softw
   COMPONENT system)
 install(SCRIPT "${extras}/Manifest.cmake" COMPONENT system)
 
+file(READ "${extras}/first-settings.sh" FIRST_SETTINGS)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${extras}/first-settings.sh")
 foreach(PROGRAM KVR5Software kvr5card)
   configure_file("${extras}/launcher.in" "${made}/bin/${PROGRAM}" @ONLY)
   install(PROGRAMS "${made}/bin/${PROGRAM}" TYPE BIN COMPONENT system)
@@ -87,6 +89,12 @@ add_custom_target(packed_papers ALL DEPENDS ${packed})
 
 kvr5_install_program(. portable OPTIONS EXCLUDE_FROM_ALL)
 install(FILES "${extras}/README.txt" "${extras}/qt.conf" DESTINATION .
+  COMPONENT portable EXCLUDE_FROM_ALL)
+# Settings of somebody who unpacks or installs over a folder that was used stay.
+install(CODE "set(settings \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/KVR5Software.ini\")
+if(NOT EXISTS \"\${settings}\")
+  file(WRITE \"\${settings}\" \"[Config]\\r\\n\")
+endif()"
   COMPONENT portable EXCLUDE_FROM_ALL)
 install(CODE "set(PROGRAM \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}\")
 set(EXECUTABLES \"$<TARGET_FILE:KVR5Software>\" \"$<TARGET_FILE:kvr5card>\")

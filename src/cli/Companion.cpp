@@ -34,7 +34,8 @@ std::string HelpPage() {
       "Prepares memory cards for KVR5 players without a screen.\n"
       "\n"
       "Options, before the verb:\n"
-      "  --program DIR  the program's folder (default: where kvr5card lies)\n"
+      "  --program DIR  the program's folder (default: where kvr5card lies; as a package\n"
+      "                 of the system ~/.local/share/KVR5Software)\n"
       "  --lang NAME    a language of the folder Language\n"
       "  --json         every line of output is one JSON object\n"
       "  --yes, --no    the answer to every question\n"
@@ -47,6 +48,7 @@ std::string HelpPage() {
   }
   page +=
       "\n"
+      "Modes of a project: 1 inputs, 2 schedule, 5 to 7 playlists.\n"
       "A PROJECT with a slash, backslash or colon is a folder, anything else a name in the\n"
       "projects folder. Exit status: 0 done, 1 refused or failed, 2 wrong usage, 3 something\n"
       "needed is missing.";

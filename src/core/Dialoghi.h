@@ -29,6 +29,7 @@ struct BoxSiNo {
   std::string Nota;                         ///< lines divided by CR LF
   std::optional<std::string> SoloOk;        ///< caption of the only button; nothing: yes and no
   std::optional<std::uint32_t> ColoreNota;  ///< blue-green-red value, such as 33023 (orange)
+  bool Toglie = false;                      ///< yes takes something away: the keyboard begins on no
 };
 
 /// A kind of files in a file chooser.

@@ -113,7 +113,7 @@ void RimuoviPlaylist(EditorPlaylist& editor) {
   auto& context = editor.C();
   if (editor.Voci().empty()) return;
   const std::string question = TestoLingua(context, "0050038") + " '" + editor.Testo() + "'?";
-  if (ChiediSiNo(context, {TestoLingua(context, "0050037"), question, {}, {}}) != 1) return;
+  if (ChiediSiNo(context, {TestoLingua(context, "0050037"), question, {}, {}, true}) != 1) return;
   EliminaPlaylist(editor, editor.PlaylistCorrente());
   CaricaNomiPlaylist(editor);
   if (editor.Voci().empty()) editor.AggiornaGrigliaPlaylist();  // the rows of the last one

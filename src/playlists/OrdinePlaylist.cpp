@@ -117,7 +117,8 @@ void RimuoviTuttiFile(EditorPlaylist& editor) {
   auto& context = editor.C();
   if (editor.Quanti() < 1) return;
   const OwnError own(context.Errore);
-  const BoxSiNo question{TestoLingua(context, "0050024"), TestoLingua(context, "0050025"), {}, {}};
+  const BoxSiNo question{
+      TestoLingua(context, "0050024"), TestoLingua(context, "0050025"), {}, {}, true};
   if (ChiediSiNo(context, question) != 1) return;
   editor.Record(editor.ConnessionePlaylist().Execute("DELETE * FROM [List] WHERE [NPlaylist]=" +
                                                      std::to_string(editor.PlaylistCorrente())));

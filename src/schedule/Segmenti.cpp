@@ -117,8 +117,11 @@ void RimuoviSegmento(EditorPalinsesto& editor) {
   const OwnError own(context.Errore);
   if (editor.SegmentoCorrente() < 1 || !OnASegment(editor)) return;
   const std::string time = OraConPunto(OraDa(editor.rsSegmenti().Text("StartTime")));
-  const BoxSiNo question{
-      TestoLingua(context, "0140018"), TestoLingua(context, "0140019") + " " + time + "?", {}, {}};
+  const BoxSiNo question{TestoLingua(context, "0140018"),
+                         TestoLingua(context, "0140019") + " " + time + "?",
+                         {},
+                         {},
+                         true};
   if (ChiediSiNo(context, question) != 1) return;
   const std::int64_t segment = editor.SegmentoCorrente();
   const std::int64_t neighbour = Neighbour(editor);

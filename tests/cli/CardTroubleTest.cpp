@@ -152,7 +152,7 @@ TEST_F(CardTrouble, ACopyThatFailedIsStatus1AlsoWhereAFileOfTheProjectIsMissingF
   EXPECT_EQ(run.Uscita, "");
   ASSERT_EQ(run.Box().size(), 2U) << run.Errori;
   EXPECT_EQ(run.Box()[0]["title"], "Copy stopped");
-  EXPECT_EQ(run.Box()[1]["title"], "File of the project missing");
+  EXPECT_EQ(run.Box()[1]["title"], "Project not complete");
 }
 
 TEST_F(CardTrouble, ACardThatShowsNoProjectsFileAnyMoreIsTold) {

@@ -65,7 +65,7 @@ TEST_F(Verbs, AFolderThatIsNoProjectShowsTheMissingFileBox) {
   std::filesystem::remove(Project() + "/inputcfg.mdb");
   const auto run = k.EseguiJson({"show", "Hall"});
   EXPECT_EQ(run.Stato, 3);
-  EXPECT_EQ(run.Box().at(0)["title"], "File of the project missing");
+  EXPECT_EQ(run.Box().at(0)["title"], "Project not complete");
   EXPECT_EQ(run.Box().at(0)["box"], "info");
   EXPECT_NE(run.Box().at(0)["text"].get<std::string>().find("'input.mdb'\n"), std::string::npos);
 }

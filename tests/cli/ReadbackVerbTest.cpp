@@ -7,7 +7,7 @@ namespace {
 
 using nlohmann::json;
 
-constexpr const char* kMissing = "File of the project missing";
+constexpr const char* kMissing = "Project not complete";
 
 class ReadbackVerb : public test::CardVerb {
  protected:
@@ -188,14 +188,15 @@ TEST_F(ReadbackVerb, AStoredNameThatIsAPathMakesNoFolderAnywhere) {
 
 TEST_F(ReadbackVerb, ACardWithoutDescriptorIsStatus3) {
   std::filesystem::remove(k.Host("card/Config.cfg"));
-  ExpectRefusal(3, {"readback", k.Host("card")},
-                Told("info", kMissing,
-                     "This folder lacks the file 'config.cfg'\nThe folder can't be opened as a "
-                     "project. Choose another one."));
+  ExpectRefusal(
+      3, {"readback", k.Host("card")},
+      Told("info", kMissing,
+           "Missing or incomplete: the file 'config.cfg'\nThe folder can't be opened as a "
+           "project. Choose another one."));
   std::filesystem::create_directories(k.Host("empty"));
   const auto text = k.Esegui({"readback", k.Host("empty")});
   EXPECT_EQ(text.Stato, 3);
-  EXPECT_TRUE(text.Errori.starts_with("File of the project missing: This folder lacks the file "))
+  EXPECT_TRUE(text.Errori.starts_with("Project not complete: Missing or incomplete: the file "))
       << text.Errori;
   EXPECT_TRUE(std::filesystem::is_empty(k.Host("empty")));
 }
@@ -204,7 +205,7 @@ TEST_F(ReadbackVerb, ACardWithoutProjectNameIsStatus3) {
   for (const char* lines : {"ProjectName=\r\n", "PlayerType=4\r\n", ""}) {
     Descriptor(lines);
     ExpectRefusal(3, {"readback", k.Host("card")},
-                  Told("info", kMissing, "This folder lacks the file 'config.cfg'"));
+                  Told("info", kMissing, "Missing or incomplete: the file 'config.cfg'"));
   }
 }
 
@@ -214,10 +215,11 @@ TEST_F(ReadbackVerb, TheMissingFileBoxOfOpeningIsStatus3AndTheCopyStays) {
   const auto run = k.EseguiJson({"readback", k.Host("card")});
   EXPECT_EQ(run.Stato, 3);
   EXPECT_EQ(run.Uscita, "");
-  EXPECT_EQ(run.Box(),
-            (Objects{Told("info", kMissing,
-                          "This folder lacks the file 'input.mdb'\nThe folder can't be opened as "
-                          "a project. Choose another one.")}));
+  EXPECT_EQ(
+      run.Box(),
+      (Objects{Told("info", kMissing,
+                    "Missing or incomplete: the file 'input.mdb'\nThe folder can't be opened as "
+                    "a project. Choose another one.")}));
   EXPECT_EQ(k.Nomi("program/Projects/Hall"), (Names{"1.mp3", "5.mp3", "Config.cfg", "Config.txt"}));
 }
 

@@ -183,7 +183,7 @@ TEST_F(VerifyVerb, AMissingProjectOrFileOfItIsStatus3) {
   EXPECT_EQ(half.Stato, 3);
   EXPECT_EQ(half.Uscita, "");
   ASSERT_EQ(half.Box().size(), 1U);
-  EXPECT_EQ(half.Box()[0]["title"], "File of the project missing");
+  EXPECT_EQ(half.Box()[0]["title"], "Project not complete");
 }
 
 TEST_F(VerifyVerb, WhatIsNoCardIsStatus1) {

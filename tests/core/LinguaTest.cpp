@@ -38,6 +38,11 @@ TEST_F(Language, WithoutItalianoLanTheLocale1040TakesEnglish) {
   EXPECT_EQ(Chosen(kItalian), "English.lan");
 }
 
+TEST_F(Language, WithoutEnglishLanTheLocale1040TakesItalianAllTheSame) {
+  Remove("English.lan");
+  EXPECT_EQ(Chosen(kItalian), "Italiano.lan");
+}
+
 TEST_F(Language, WithoutAnyTheProgramEndsInFixedWords) {
   Remove("Italiano.lan");
   Remove("English.lan");

@@ -39,8 +39,8 @@ TEST_F(Recording, TheSameMp3OnTwoInputsStopsTheRunWithoutAnyMp3) {
   inputs.Assegna(2, "a.mp3", Music());
   EXPECT_EQ(Record(), FineRegistrazione::FileMancante);
   ExpectBox("MP3 files not copied",
-            "No MP3 was copied, so the work isn't complete. This file can't be found, or two "
-            "inputs share it (give one of them a copy under another name):\r\na.mp3",
+            "No MP3 was copied, so the work isn't complete. This file can't be found or, when "
+            "recording, two inputs share it (give one of them a copy under another name):\r\na.mp3",
             kOrange);
   EXPECT_EQ(Card(), (Names{"Config.cfg", "Config.txt", "inputcfg.mdb"}));
   EXPECT_EQ(b.Messaggi.Ora, Puntatore::Attesa) << "the wait pointer is left on";
@@ -53,8 +53,8 @@ TEST_F(Recording, AMissingTrackStopsTheRunWithItsPath) {
   b.AggiungiRiga("playlist.mdb", 1, 2, "gone.mp3", Music(), "P01-002.mp3");
   EXPECT_EQ(Record(), FineRegistrazione::FileMancante);
   ExpectBox("MP3 files not copied",
-            "No MP3 was copied, so the work isn't complete. This file can't be found, or two "
-            "inputs share it (give one of them a copy under another name):\r\n" +
+            "No MP3 was copied, so the work isn't complete. This file can't be found or, when "
+            "recording, two inputs share it (give one of them a copy under another name):\r\n" +
                 (b.Cartella.Host() / "music/gone.mp3").string(),
             kOrange);
   EXPECT_EQ(Card(), (Names{"Config.cfg", "Config.txt", "playlist.mdb"}));

@@ -1,7 +1,7 @@
-# launcher.sh TEMPLATE CASE: installs the launchers with a stand-in for the program below a temporary
-# folder, and goes through one case.
+# launcher.sh PACKAGING CASE: installs the launchers, whose templates lie in that folder, with a
+# stand-in for the program below a temporary folder, and goes through one case.
 set -eu
-template=$1
+packaging=$1
 # In memory, where a host lets programs start from there: on a disk each flush takes its time.
 work=$(mktemp -d -p /dev/shm 2>/dev/null || mktemp -d)
 printf '#!/bin/sh\n' >"$work/starts"
@@ -16,11 +16,18 @@ trap 'exit 1' HUP INT TERM
 unset XDG_DATA_HOME DISPLAY WAYLAND_DISPLAY
 HOME="$work/home of a user"
 export HOME
-mkdir -p "$HOME" "$work/usr/bin"
+mkdir -p "$HOME" "$work/usr/bin" "$work/tools"
+PATH=$work/tools:$PATH
+music_is() { # music_is FOLDER: what the desktop tells of where music lies
+  printf '#!/bin/sh\necho "%s"\n' "$1" >"$work/tools/xdg-user-dir"
+  chmod +x "$work/tools/xdg-user-dir"
+}
+music_is "$HOME/Music"
 package=$work/usr/lib/kvr5software
 folder=$HOME/.local/share/KVR5Software
 for name in KVR5Software kvr5card; do
-  sed "s/@PROGRAM@/$name/" "$template" >"$work/usr/bin/$name"
+  sed -e "s/@PROGRAM@/$name/" -e "/^@FIRST_SETTINGS@/r $packaging/first-settings.sh" \
+    -e '/^@FIRST_SETTINGS@/d' "$packaging/launcher.in" >"$work/usr/bin/$name"
   chmod +x "$work/usr/bin/$name"
 done
 
@@ -59,11 +66,42 @@ first_start() {
   install 1 Help/English.htm "Help/Español.htm" source.mdb
   is "$(kvr5card new 'a name')" "1: $folder/kvr5card new a name"
   whole
-  is "$(cat "$folder/KVR5Software.ini")" "$(printf '[Config]\r')"
+  is "$(cat "$folder/KVR5Software.ini")" "$(settings_with "$HOME")"
   is "$("$work/usr/bin/KVR5Software" /C)" "1: $folder/KVR5Software /C"
   # where the user says that data belongs
   is "$(XDG_DATA_HOME="$work/data" kvr5card)" "1: $work/data/KVR5Software/kvr5card"
   is "$(XDG_DATA_HOME=relative kvr5card)" "1: $folder/kvr5card"
+}
+
+settings_with() { # settings_with FOLDER: the first settings, which lead to that folder
+  printf '[Config]\r\n[Path]\r\nLastMp3Dir=C:'
+  printf '%s' "$1" | tr / '\\'
+  printf '\r'
+}
+
+# Music is looked for where the desktop keeps it, else in the user's own folder; where the settings
+# can't keep its path, they say nothing of it.
+first_music() {
+  install 1 source.mdb
+  begins_in() { # begins_in TEXT
+    rm -rf "$folder"
+    kvr5card >/dev/null
+    holds KVR5Software.ini "$1"
+  }
+  mkdir "$HOME/Music" "$HOME/Música" "$HOME/a:b"
+  begins_in "$(settings_with "$HOME/Music")"
+  for music in "$HOME/Música" "$HOME/a:b" "$HOME/nowhere" relative ''; do
+    music_is "$music"
+    begins_in "$(settings_with "$HOME")"
+  done
+  rm "$work/tools/xdg-user-dir"
+  begins_in "$(settings_with "$HOME")"
+  home=$HOME
+  HOME=$work/$(printf '%0*d' 98 0)
+  mkdir "$HOME"
+  folder=$HOME/.local/share/KVR5Software
+  begins_in "$(printf '[Config]\r')"
+  HOME=$home
 }
 
 # A copy that is up to date is not written to, and asking for help makes none.
@@ -230,7 +268,7 @@ strange_home() {
 # The shell offers the languages of the user's folder, before there is one those of the package.
 completion() {
   install 1 Language/English.lan
-  script=$(dirname "$template")/../docs/completion/kvr5card.bash
+  script=$packaging/../docs/completion/kvr5card.bash
   offered() {
     PATH="$work/usr/bin:$PATH" bash -c "source '$script'; command=kvr5card; _kvr5card_languages ''" | tr '\n' ' '
   }

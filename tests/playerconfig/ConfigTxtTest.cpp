@@ -32,6 +32,29 @@ TEST_F(DeviceFile, EveryTemplateHoldsEveryKeyWithAValueThatItsScreenCanHold) {
   EXPECT_EQ(count, 19);
 }
 
+/// What a new player begins with: the levels, fades, extras and link that its screens begin with,
+/// and a list that goes on by itself where the player has one.
+TEST_F(DeviceFile, EveryTemplateHoldsTheFactoryValuesAndNothingElse) {
+  const std::string before =
+      "[Config]\r\nLOUT=14\r\nLLOU=0\r\nLTRE=10\r\nLBAS=10\r\nMOMN=0\r\nIMOD=0\r\nTPCM=0\r\n";
+  const std::string after =
+      "MIRS=1\r\nMPLL=5\r\nLMP3=14\r\nLLIN=14\r\nLLI2=14\r\nTFOU=2\r\nTFIN=2\r\nTADU=5\r\n"
+      "TAVC=0\r\nCMAD=31\r\nCMCK=1\r\nCMCL=0\r\nCMBR=3\r\nCMPR=0\r\nCMSB=1\r\nCMDB=8\r\n"
+      "CMDR=0\r\nCMI3=4\r\nORI3=0\r\nOMON=0\r\nINVR=0\r\nPYDT=0\r\nPYDL=0\r\nTAPL=0\r\nRSPL=1\r\n"
+      "MOMD=0\r\n";
+  for (const char* inputsOrTimes : {"1", "20", "31", "32", "33", "41", "42"}) {
+    EXPECT_EQ(b.Cartella.Read(std::string("program/Defaults/") + inputsOrTimes + "Config.txt"),
+              before + "MICP=0\r\n" + after)
+        << inputsOrTimes;
+  }
+  for (const char* lists :
+       {"21", "22", "23", "34", "35", "36", "37", "38", "39", "45", "46", "47"}) {
+    EXPECT_EQ(b.Cartella.Read(std::string("program/Defaults/") + lists + "Config.txt"),
+              before + "MICP=1\r\n" + after)
+        << lists;
+  }
+}
+
 TEST_F(DeviceFile, AKeyIsWrittenInPlaceAndTheRestStays) {
   Put("; first\r\n[Config]\r\nZZZZ=9\r\nLOUT=14\r\nMPLL=5\r\n[Other]\r\nLOUT=1\r\n");
   ScriviChiaveConfig(b.C, "LOUT", "3");

@@ -168,7 +168,8 @@ TEST_F(NamedLists, ARemovalTakesTheTracksToo) {
   editor.ScegliVoce(0);
   b.Finestre.Rispondi(Risposta::No);
   RimuoviPlaylist(editor);
-  EXPECT_EQ(b.Finestre.Prossimo().Testo, "Remove the playlist and its tracks 'A'?");
+  EXPECT_EQ(b.Finestre.Prossimo().Testo,
+            "Remove the list now shown with its tracks, labelled 'A'?");
   EXPECT_EQ(Entries().size(), 2U);
   b.Finestre.Rispondi(Risposta::Si);
   RimuoviPlaylist(editor);
@@ -191,7 +192,8 @@ TEST_F(NamedLists, WhatARemovalDeletesIsTheCurrentNumberWhateverNameIsShown) {
   editor.ScegliVoce(0);  // "A", number 2: the current one is 1
   b.Finestre.Rispondi(Risposta::Si);
   RimuoviPlaylist(editor);
-  EXPECT_EQ(b.Finestre.Prossimo().Testo, "Remove the playlist and its tracks 'A'?");
+  EXPECT_EQ(b.Finestre.Prossimo().Testo,
+            "Remove the list now shown with its tracks, labelled 'A'?");
   EXPECT_THAT(Entries(), ElementsAre("A 2"));
 }
 

@@ -21,8 +21,8 @@ class Opening : public testing::Test {
   }
   void ExpectMissing(const std::string& name) {
     const auto box = b.Finestre.Prossimo();
-    EXPECT_EQ(box.Titolo, "File of the project missing");
-    EXPECT_EQ(box.Testo, "This folder lacks the file '" + name +
+    EXPECT_EQ(box.Titolo, "Project not complete");
+    EXPECT_EQ(box.Testo, "Missing or incomplete: the file '" + name +
                              "'\r\nThe folder can't be opened as a project. Choose another one.");
     EXPECT_EQ(box.Segno, Icona::Informazione);
     EXPECT_FALSE(box.SiNo);

@@ -148,12 +148,13 @@ class Lettura : public testing::Test {
     EXPECT_EQ(box.Colore, colour);
   }
   void ExpectNoDescriptor() {
-    ExpectBox("File of the project missing",
-              "This folder lacks the file 'config.cfg'\r\nThe folder can't be opened as a project. "
-              "Choose another one.");
+    ExpectBox(
+        "Project not complete",
+        "Missing or incomplete: the file 'config.cfg'\r\nThe folder can't be opened as a project. "
+        "Choose another one.");
   }
   void ExpectNoName() {
-    ExpectBox("File of the project missing", "This folder lacks the file 'config.cfg'");
+    ExpectBox("Project not complete", "Missing or incomplete: the file 'config.cfg'");
   }
   void ExpectNoFolder(int number) {
     ExpectBox("Project folder not created",

@@ -80,8 +80,9 @@ TEST_F(FatalEnd, WithoutSourceTheProjectIsListedAndOpeningItMissesTheInputs) {
   EXPECT_EQ(ElencoProgetti(b.C), Names{"Hall"});
   EXPECT_EQ(ApriProgetto(b.C, b.Percorso("program/Projects/Hall")), EsitoApertura::FileMancante);
   const auto box = b.Finestre.Prossimo();
-  EXPECT_EQ(box.Titolo, "File of the project missing");
-  EXPECT_TRUE(box.Testo.starts_with("This folder lacks the file 'input.mdb'\r\n")) << box.Testo;
+  EXPECT_EQ(box.Titolo, "Project not complete");
+  EXPECT_TRUE(box.Testo.starts_with("Missing or incomplete: the file 'input.mdb'\r\n"))
+      << box.Testo;
 }
 
 TEST_F(FatalEnd, WithoutSourceAPlaylistProjectIsListedAndOpens) {

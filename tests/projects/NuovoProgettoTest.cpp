@@ -120,7 +120,7 @@ TEST_F(NewProject, ALeadingBlankStaysInTheFoldersName) {
 TEST_F(NewProject, AnAsteriskPassesTheTestAndFailsAtTheFolder) {
   EXPECT_EQ(Create("Hall*", 1), EsitoNuovo::CartellaNonCreata);
   const auto box = b.Finestre.Prossimo();
-  EXPECT_EQ(box.Titolo, "Project folder not created");
+  EXPECT_EQ(box.Titolo, "Project folder not created: check the name and the projects folder");
   EXPECT_EQ(box.Testo, "This step could not be completed\r\nN°:52\r\nBad file name or number");
   EXPECT_EQ(box.Segno, Icona::Avviso);
   EXPECT_EQ(s.ProjectName, "Hall*");
@@ -173,7 +173,8 @@ TEST_F(NewProject, AFileOfTheNameIsAFolderThatCannotBeMade) {
 TEST_F(NewProject, ReservedAndDottedNamesAreRefusedByTheirBoxes) {
   for (const char* name : {"CON", "nul.x", "end."}) {
     EXPECT_EQ(Create(name, 1), EsitoNuovo::CartellaNonCreata) << name;
-    EXPECT_EQ(b.Finestre.Prossimo().Titolo, "Project folder not created");
+    EXPECT_EQ(b.Finestre.Prossimo().Titolo,
+              "Project folder not created: check the name and the projects folder");
   }
   for (const char* name : {".", ".."}) {
     EXPECT_EQ(Create(name, 1), EsitoNuovo::CartellaEsistente) << name;

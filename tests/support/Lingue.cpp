@@ -47,7 +47,9 @@ std::map<std::string, std::string> VociDiLingua(const std::string& file,
     if (line.starts_with('[')) inside = line == "[" + sezione + "]";
     const auto sign = line.find('=');
     if (!inside || sign == std::string::npos) continue;
-    texts[line.substr(0, sign)] = Unquoted(line.substr(sign + 1));
+    // A key may end in a blank, which counts for nobody who asks.
+    texts[line.substr(0, line.find_last_not_of(' ', sign - 1) + 1)] =
+        Unquoted(line.substr(sign + 1));
   }
   return texts;
 }

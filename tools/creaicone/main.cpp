@@ -1,18 +1,29 @@
-// Renders a drawing as a square picture: creaicone DRAWING SIZE TARGET. SIZE is the side in pixels,
-// from 1 to 4096; the target's suffix names its format. A target that exists is replaced.
+// Renders a drawing as a picture: creaicone DRAWING SIZE TARGET. SIZE is the side of a square in
+// pixels, from 1 to 4096, or width and height as 320x200; the target's suffix names its format. A
+// target that exists is replaced.
 
 #include <QByteArray>
 #include <QImage>
 #include <QPainter>
+#include <QSize>
 #include <QString>
 #include <QSvgRenderer>
+#include <algorithm>
 #include <iostream>
 
-int main(int argc, char** argv) {
+/// The size that a word tells; an empty one for any other word.
+QSize SizeOf(const QByteArray& word) {
   constexpr int kLargest = 4096;
-  const int size = argc == 4 ? QByteArray(argv[2]).toInt() : 0;
-  if (size < 1 || size > kLargest) {
-    std::cerr << "usage: creaicone DRAWING SIZE TARGET\n";
+  const auto sides = word.split('x');
+  const QSize size(sides.first().toInt(), sides.last().toInt());
+  const bool fits = sides.size() <= 2 && std::max(size.width(), size.height()) <= kLargest;
+  return fits ? size : QSize();
+}
+
+int main(int argc, char** argv) {
+  const QSize size = argc == 4 ? SizeOf(argv[2]) : QSize();
+  if (size.isEmpty()) {
+    std::cerr << "usage: creaicone DRAWING SIZE|WIDTHxHEIGHT TARGET\n";
     return 2;
   }
   QSvgRenderer drawing(QString::fromLocal8Bit(argv[1]));
@@ -20,7 +31,7 @@ int main(int argc, char** argv) {
     std::cerr << argv[1] << ": no drawing that can be read\n";
     return 1;
   }
-  QImage picture(size, size, QImage::Format_ARGB32);
+  QImage picture(size, QImage::Format_ARGB32);
   picture.fill(Qt::transparent);
   QPainter painter(&picture);
   drawing.render(&painter);

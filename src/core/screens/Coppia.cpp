@@ -154,6 +154,12 @@ void Coppia::Sottolinea(QPainter& painter) const {
   painter.fillRect(left, written.top() + metrics.ascent() + kBelow, width, 1, ColoreTesto());
 }
 
+bool Coppia::event(QEvent* event) {
+  // Alt and the letter leave the field that was being filled, as a click does.
+  if (event->type() == QEvent::Shortcut && isEnabled()) setFocus(Qt::ShortcutFocusReason);
+  return QAbstractButton::event(event);
+}
+
 void Coppia::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);

@@ -5,7 +5,8 @@
 
 namespace kvr5 {
 
-/// Opens documents and folders with the host's own programs.
+/// Opens documents and folders with the host's own programs. Where the host has none for them, a
+/// box tells where they lie.
 class EsecutoreQt : public Esecutore {
  public:
   explicit EsecutoreQt(Contesto& contesto) : contesto_(contesto) {}

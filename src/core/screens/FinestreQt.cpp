@@ -68,6 +68,7 @@ std::uint8_t FinestreQt::MostraSiNo(const BoxSiNo& box) {
   form.setWindowTitle(Qs(box.Titolo));
   form.ImpostaNota(QsRighe(box.Nota));
   if (box.ColoreNota) form.ColoraNota(*box.ColoreNota);
+  if (box.Toglie) form.MostraPericolo();
   if (box.SoloOk) form.MostraSoloOk(*box.SoloOk);
   state.RispostaSiNo = 0;
   form.MostraModale();

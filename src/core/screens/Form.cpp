@@ -13,6 +13,7 @@
 
 #include "core/Aiuto.h"
 #include "core/screens/Davanti.h"
+#include "core/screens/Mnemonici.h"
 
 namespace kvr5 {
 namespace {
@@ -133,17 +134,25 @@ void Form::FineImpegno() {
       Qt::QueuedConnection);
 }
 
-void Form::SuTasto(Qt::Key tasto, std::function<void()> azione) {
-  auto* key = new QShortcut(QKeySequence(tasto), this);
+void Form::SuTasto(const QKeySequence& tasto, std::function<void()> azione) {
+  auto* key = new QShortcut(tasto, this);
   key->setAutoRepeat(false);  // a key that is held down is one press
   connect(key, &QShortcut::activated, this, [tasto, azione = std::move(azione)] {
     QWidget* const open = QApplication::activePopupWidget();
     // An open list or menu is what Esc sends away first.
-    if (tasto == Qt::Key_Escape && open != nullptr) {
+    if (tasto == QKeySequence(Qt::Key_Escape) && open != nullptr) {
       open->close();
     } else {
       azione();
     }
+  });
+}
+
+void Form::SuSalva(QAbstractButton& pulsante) {
+  pulsante.setProperty(kPrimaLettera, true);
+  SuTasto(QKeySequence::Save, [&pulsante] {
+    pulsante.setFocus(Qt::ShortcutFocusReason);
+    pulsante.click();
   });
 }
 

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QEventLoop>
+#include <QKeySequence>
 #include <QPointer>
 #include <QWidget>
 #include <functional>
@@ -69,10 +70,13 @@ class Form : public QWidget {
   virtual void AlloScarico() {}
 
   /// Has a key of the window, wherever the focus is, run `azione`.
-  void SuTasto(Qt::Key tasto, std::function<void()> azione);
+  void SuTasto(const QKeySequence& tasto, std::function<void()> azione);
   /// Has Enter press `pulsante`, also with the focus on a box, an option or a closed list, unless
   /// the control there takes the key for itself as buttons, open lists and lines of text do.
   void SuInvio(QAbstractButton& pulsante) { suInvio_ = &pulsante; }
+  /// Has Ctrl+S press `pulsante` as a click does, which leaves the field that was being filled; it
+  /// has the first choice of the letters for Alt.
+  void SuSalva(QAbstractButton& pulsante);
   /// Whether it was asked to close and does so once its handlers are done.
   bool ChiusuraAttesa() const { return rinviata_.has_value(); }
   /// Drops that request.

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QSet>
+#include <algorithm>
 
 #include "core/screens/Coppia.h"
 
@@ -57,6 +58,13 @@ class Hand {
   QHash<QChar, Coppia*> given_;
 };
 
+/// Who chooses before whom.
+int Rank(const Coppia* button) {
+  if (button->property(kPrimaLettera).toBool()) return 0;
+  const auto kind = button->GenereOra();
+  return kind == Coppia::Genere::Primario || kind == Coppia::Genere::CartaPrimaria ? 1 : 2;
+}
+
 QList<Coppia*> ButtonsOf(const QWidget& window) {
   QList<Coppia*> buttons;
   for (auto* each : window.findChildren<QAbstractButton*>()) {
@@ -64,6 +72,7 @@ QList<Coppia*> ButtonsOf(const QWidget& window) {
     if (button == nullptr || button->Etichetta() == nullptr) continue;
     if (button->window() == &window && button->isVisible()) buttons.append(button);
   }
+  std::ranges::stable_sort(buttons, {}, Rank);
   return buttons;
 }
 

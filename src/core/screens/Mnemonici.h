@@ -5,8 +5,13 @@ class QWidget;
 
 namespace kvr5 {
 
+/// The property of a button that chooses its letter before the others of its window, so that the
+/// button has the same one on all screens.
+inline constexpr const char* kPrimaLettera = "primaLettera";
+
 /// Gives each button with a label, in every window of the application, a letter of that label to be
-/// pressed with Alt: the first letters where they are free, no letter twice in a window. The
+/// pressed with Alt: the first letters where they are free, no letter twice in a window. Those
+/// with the property choose first, then the primary ones. The
 /// letters are found when a window comes up and whenever Alt goes down, and are underlined while it
 /// is held.
 void InstallaMnemonici(QApplication& programma);

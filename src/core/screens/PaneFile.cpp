@@ -51,9 +51,7 @@ void PaneFile::Costruisci(int tag) {
   DirDirectoryMp3->setMinimumHeight(64);
   lblMp3_Dir->setBuddy(DirDirectoryMp3);
   Corpo()->addWidget(DirDirectoryMp3, 3);
-  txtCerca = new QLineEdit(this);
-  txtCerca->setObjectName(QStringLiteral("txtCerca"));
-  txtCerca->setClearButtonEnabled(true);
+  txtCerca = new CasellaCerca(this);
   Corpo()->addWidget(txtCerca);
   filMp3 = new ElencoFile(contesto_, this);
   filMp3->setMinimumHeight(96);
@@ -68,6 +66,7 @@ void PaneFile::Riempi() {
   filMp3->Mostra(DirDirectoryMp3->Percorso(), file_);
   lblVuota->setVisible(file_.empty());
   txtCerca->setEnabled(!file_.empty());
+  txtCerca->setToolTip(Qs(TestoLingua(contesto_, file_.empty() ? "0130138" : "0050111")));
 }
 
 bool PaneFile::Rileggi() {
@@ -82,22 +81,14 @@ std::vector<std::string> PaneFile::Nomi() const {
 
 void PaneFile::Cerca(bool prossimo) {
   const bool found = filMp3->Cerca(txtCerca->text(), prossimo);
-  const bool nothing = !found && !txtCerca->text().trimmed().isEmpty();
-  QPalette palette = txtCerca->palette();
-  palette.setColor(QPalette::Text, nothing ? Tema::Corrente().Errore : Tema::Corrente().Testo);
-  txtCerca->setPalette(palette);
-  const QString words = nothing ? Qs(TestoLingua(contesto_, "0050110")) : QString();
-  txtCerca->setAccessibleDescription(words);
-  txtCerca->setToolTip(nothing ? words : Qs(TestoLingua(contesto_, "0050111")));
+  txtCerca->MostraEsito(found);
 }
 
 void PaneFile::Localizza() {
   const auto text = [this](const char* key) { return Qs(TestoLingua(contesto_, key)); };
   picDisk->ImpostaScritta(text("0130171"));
   lblVuota->setText(text("0130138"));
-  txtCerca->setPlaceholderText(text("0050112"));
-  txtCerca->setAccessibleName(txtCerca->placeholderText());
-  txtCerca->setToolTip(text("0050111"));
+  txtCerca->ImpostaParole(text("0050112"), text("0050111"), text("0050110"));
   filMp3->setAccessibleName(text("0050124"));
   DirDirectoryMp3->setAccessibleName(text("0130180"));
 }

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <QLabel>
-#include <QLineEdit>
 #include <functional>
 #include <string>
 #include <vector>
 
+#include "core/screens/CasellaCerca.h"
 #include "core/screens/Coppia.h"
 #include "core/screens/ElencoCartelle.h"
 #include "core/screens/ElencoFile.h"
@@ -23,7 +23,7 @@ class PaneFile : public Riquadro {
   QLabel* lblMp3_Dir;
   QLabel* lblPercorso;  ///< the folder, as a person reads it
   ElencoCartelle* DirDirectoryMp3;
-  QLineEdit* txtCerca;
+  CasellaCerca* txtCerca;
   ElencoFile* filMp3;
   QLabel* lblVuota;  ///< says that the folder holds no file
 

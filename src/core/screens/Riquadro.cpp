@@ -18,6 +18,7 @@ Riquadro::Riquadro(const char* nome, const QString& titolo, int tag, QWidget* pa
   if (tag >= 0) setProperty(kTag, tag);
   titolo_ = new QLabel(this);
   Veste(*titolo_, Carattere::Riquadro);
+  titolo_->setMinimumHeight(kLatoNumero);  // all titles at one height, with a numeral or without
   testata_ = new QHBoxLayout();
   testata_->setSpacing(spazi::kStretto);
   testata_->addWidget(titolo_);
@@ -44,7 +45,7 @@ void Riquadro::ImpostaNumero(int numero, const QString& passo) {
 }
 
 QLabel* NumeroDiPasso(int numero, const QString& passo, QWidget* padre) {
-  constexpr int kSide = 20;
+  constexpr int kSide = kLatoNumero;
   auto* badge = new QLabel(padre);
   badge->setFixedSize(kSide, kSide);
   badge->setToolTip(passo);

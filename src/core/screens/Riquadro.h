@@ -8,6 +8,9 @@ class QVBoxLayout;
 
 namespace kvr5 {
 
+/// The side of a numeral beside a title, in pixels, and the least height of a title.
+inline constexpr int kLatoNumero = 20;
+
 /// A frame with a title: a raised surface that holds controls. Its objectName is that of the frame
 /// ("fraFileInfo"), its title the frame's caption.
 class Riquadro : public QWidget {

@@ -104,6 +104,7 @@ void RiquadroMessaggio::keyPressEvent(QKeyEvent* event) {
 
 void RiquadroMessaggio::showEvent(QShowEvent* event) {
   MostraIntero(*this);
+  setFixedSize(size());  // there is nothing in it that more room would show
   QDialog::showEvent(event);
 }
 

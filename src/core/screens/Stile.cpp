@@ -169,7 +169,7 @@ void DipingiPulsante(QPainter& pittore, const QRect& dove, const AspettoPulsante
     case Coppia::Genere::Primario:
     case Coppia::Genere::CartaPrimaria:
       if (aspetto.Abilitato) {
-        RoundedRect(pittore, dove, {}, Mixed(tema.Primario, tema.SuPrimario, strength * 1.5));
+        RoundedRect(pittore, dove, {}, Mixed(tema.Primario, tema.Testo, strength * 1.5));
       } else {
         RoundedRect(pittore, dove, tema.Linea, tema.Incavo);
       }

@@ -112,6 +112,7 @@ void frmConfig::Collega() {
   });
   connect(picHelp, &QAbstractButton::clicked, this, [this] { Aiuto(); });
   SuTasto(Qt::Key_F1, [this] { Aiuto(); });
+  SuSalva(*cmdSave);
 }
 
 void frmConfig::AlCaricamento() {

@@ -61,6 +61,7 @@ frmSalva::frmSalva(Ambiente& ambiente) : Form(ambiente, "frmSalva") {
   SuInvio(*picSalva);
   SuTasto(Qt::Key_Escape, [this] { Finisci(true); });
   SuTasto(Qt::Key_F1, [this] { Aiuto(); });
+  SuSalva(*picSalva);
 }
 
 void frmSalva::AlCaricamento() {

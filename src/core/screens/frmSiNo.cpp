@@ -103,6 +103,13 @@ void frmSiNo::MostraSoloOk(const std::string& testo) {
                               Tema::Corrente().Fuoco, devicePixelRatioF()));
 }
 
+void frmSiNo::MostraPericolo() {
+  Carica();
+  cmdSi->ImpostaGenere(Coppia::Genere::Pericolo);
+  cmdNo->ImpostaGenere(Coppia::Genere::Primario);
+  cmdNo->setFocus();
+}
+
 void frmSiNo::ImpostaNota(const QString& testo) {
   constexpr int kPlate = 2 * spazi::kStretto;  // of a coloured one, on both sides
   nota_ = testo;

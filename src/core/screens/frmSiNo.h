@@ -16,6 +16,8 @@ class frmSiNo : public Form {
 
   /// A notice with one button of this caption.
   void MostraSoloOk(const std::string& testo);
+  /// A question whose yes takes something away: the keyboard begins on no.
+  void MostraPericolo();
   /// Without effect.
   void Reimposta() {}
   void ImpostaNota(const QString& testo);

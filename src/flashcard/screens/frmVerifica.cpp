@@ -1,9 +1,10 @@
 #include "flashcard/screens/frmVerifica.h"
 
+#include <QHash>
 #include <QHeaderView>
 #include <QShowEvent>
-#include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "core/Lingua.h"
 #include "core/Parole.h"
@@ -17,7 +18,7 @@
 namespace kvr5 {
 namespace {
 
-constexpr int kRow = 44;          // two lines
+constexpr int kRow = 44;          // two lines, the least that a row has
 constexpr qint64 kRefresh = 100;  // milliseconds between two looks of the user at the state
 
 }  // namespace
@@ -61,9 +62,15 @@ void frmVerifica::Costruisci() {
   VestiTabella(*grdRiscontri, kRow);
   grdRiscontri->setWordWrap(true);
   auto* header = grdRiscontri->horizontalHeader();
-  header->resizeSection(ModelloRiscontri::Che, 240);
+  header->setSectionResizeMode(ModelloRiscontri::Che, QHeaderView::ResizeToContents);
   header->resizeSection(ModelloRiscontri::File, 180);
   header->setSectionResizeMode(ModelloRiscontri::Rimedio, QHeaderView::Stretch);
+  connect(header, &QHeaderView::sectionResized, this, [this](int column) {
+    if (column == ModelloRiscontri::Rimedio) adatta_.start(0);
+  });
+  connect(&modello_, &QAbstractItemModel::rowsInserted, this, [this] { adatta_.start(0); });
+  adatta_.setSingleShot(true);
+  connect(&adatta_, &QTimer::timeout, this, [this] { AdattaRighe(); });
   page->addWidget(grdRiscontri, 1);
   picRipeti = new Coppia("picRipeti", "lblRipeti", QStringLiteral("Again"), "verifica", -1, this);
   picChiudi = new Coppia("picChiudi", "lblChiudi", QStringLiteral("Close"), "fatto", -1, this);
@@ -72,6 +79,20 @@ void frmVerifica::Costruisci() {
   lblChiudi = picChiudi->Etichetta();
   page->addLayout(Riga({picRipeti, nullptr, picChiudi}));
   OrdineTab({picHelp, grdRiscontri, picRipeti, picChiudi});
+}
+
+void frmVerifica::AdattaRighe() {
+  // Thousands of rows have a dozen remedies between them: each is measured once.
+  QHash<QString, int> heights;
+  for (int row = 0; row < modello_.rowCount(); ++row) {
+    const QString remedy = modello_.index(row, ModelloRiscontri::Rimedio).data().toString();
+    int& height = heights[remedy];
+    if (height == 0) {
+      grdRiscontri->resizeRowToContents(row);
+      height = std::max(kRow, grdRiscontri->rowHeight(row));
+    }
+    grdRiscontri->setRowHeight(row, height);
+  }
 }
 
 void frmVerifica::AlCaricamento() {
@@ -127,6 +148,7 @@ void frmVerifica::MostraLavoro(bool lavora) {
     picAvanzamento->ImpostaParte(0);
   }
   picRipeti->setEnabled(!lavora);
+  picRipeti->setToolTip(lavora ? Qs(TestoLinguaO(C(), "0130281", "Comparing files")) : QString());
   picChiudi->ImpostaScritta(Qs(lavora ? ferma_ : chiudi_));
   picChiudi->ImpostaIcona(lavora ? "ferma" : "fatto");
   // A key that is pressed once too often mustn't stop the work, nor close what it has found.

@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QTableView>
+#include <QTimer>
 #include <functional>
 #include <string>
 
@@ -56,8 +57,11 @@ class frmVerifica : public Form, private OsservatoreVerifica {
   void Trovato(const Riscontro& riscontro) override;
   bool Presente() override { return SchedaPresente(); }
   void ScriviStato(const CopyState& stato);
+  /// Gives each row the height that its remedy needs.
+  void AdattaRighe();
 
   ModelloRiscontri modello_;
+  QTimer adatta_;
   QElapsedTimer scritto_;  ///< since the state was written last
   std::string quanto_, ferma_, chiudi_;
   bool lavora_ = false;

@@ -40,13 +40,15 @@ QLayout* frmPlayerConfig::CostruisciTestata() {
   auto* head = new QVBoxLayout();
   head->setSpacing(2);
   lblTipoPlayer = NuovaEtichetta("lblTipoPlayer", QStringLiteral("Player"), -1, this);
-  Veste(*lblTipoPlayer, Carattere::Corpo, Ruolo::Attenuato);
+  Veste(*lblTipoPlayer, Carattere::Riquadro);
+  lblModello = NuovaEtichetta("lblModello", {}, -1, this);
+  Veste(*lblModello, Carattere::Riquadro);
   lblProgetto = new EtichettaElisa("lblProgetto", this, Qt::ElideMiddle);
   Veste(*lblProgetto, Carattere::Progetto);
   lblNonSalvato = new EtichettaAvviso("lblNonSalvato", {}, Carattere::Riquadro, this);
   lblNonSalvato->hide();
   picHelp = NuovoAiuto(this);
-  auto* top = Riga({lblProgetto, lblTipoPlayer, lblNonSalvato, picHelp});
+  auto* top = Riga({lblProgetto, lblModello, lblTipoPlayer, lblNonSalvato, picHelp});
   top->setStretch(0, 1);
   top->setSpacing(spazi::kMedio);
   head->addLayout(top);
@@ -197,6 +199,7 @@ void frmPlayerConfig::CollegaComandi() {
   connect(Barra->picEsci, &QAbstractButton::clicked, this, [this] { Scarica(); });
   connect(picHelp, &QAbstractButton::clicked, this, [this] { Aiuto(); });
   SuTasto(Qt::Key_F1, [this] { Aiuto(); });
+  SuSalva(*Barra->picSave);
   CollegaParametri();
 }
 
@@ -222,32 +225,35 @@ void frmPlayerConfig::CollegaParametri() {
 }
 
 void frmPlayerConfig::RiempiAltro() {
-  const auto text = [this](const char* key) { return SenzaMnemonico(Qs(TestoLingua(C(), key))); };
+  const auto text = [this](const char* key, const char* caption) {
+    return SenzaMnemonico(Qs(TestoLinguaO(C(), key, caption)));
+  };
   QMenu& menu = Barra->menuAltro;
   menu.setToolTipsVisible(true);
   const auto has = [this](const char* database) {
     return FileExists(C().Files, FileDelProgetto(C(), database));
   };
   if (!layout_.picPalinsesto && has("scheduler.mdb")) {
-    connect(menu.addAction(text("0130151")), &QAction::triggered, this,
+    connect(menu.addAction(text("0130151", "Schedule")), &QAction::triggered, this,
             [this] { ApriPalinsesto(); });
   }
   if (!layout_.picPlaylist && has("playlist.mdb")) {
-    connect(menu.addAction(text("0130152")), &QAction::triggered, this, [this] { ApriPlaylist(); });
+    connect(menu.addAction(text("0130152", "Playlists")), &QAction::triggered, this,
+            [this] { ApriPlaylist(); });
   }
-  QAction* find = menu.addAction(text("0130154"));
+  QAction* find = menu.addAction(text("0130154", "Find missing files"));
   connect(find, &QAction::triggered, this, [this] { TrovaMancanti(); });
   connect(&menu, &QMenu::aboutToShow, find, [this, find] {
     find->setVisible(conto_.Cifre().Completo && conto_.Cifre().Mancanti > 0);
   });
-  connect(menu.addAction(text("0130156")), &QAction::triggered, this,
+  connect(menu.addAction(text("0130156", "Copy by hand")), &QAction::triggered, this,
           [this] { Seriali->cmdCopiaFileManuale->click(); });
-  QAction* eject = menu.addAction(text("0130158"));
-  eject->setToolTip(text("0130147"));
+  QAction* eject = menu.addAction(text("0130158", "Eject card"));
+  eject->setToolTip(text("0130147", ""));
   connect(eject, &QAction::triggered, this, [this] { Espelli(); });
   connect(&menu, &QMenu::aboutToShow, eject,
           [this, eject] { eject->setVisible(servizi_.PuoEspellere()); });
-  QAction* open = menu.addAction(text("0130157"));
+  QAction* open = menu.addAction(text("0130157", "Open project folder"));
   connect(open, &QAction::triggered, this,
           [this] { ambiente_.Documenti.Apri(C().Stato.CartellaProgetto); });
 }

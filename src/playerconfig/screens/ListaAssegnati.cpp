@@ -24,18 +24,19 @@ ListaAssegnati::ListaAssegnati(Contesto& contesto, QWidget* padre)
   lstAssegnati->setObjectName(QStringLiteral("lstAssegnati"));
   voci_ = new VociAssegnati(lstAssegnati);
   lstAssegnati->setItemDelegate(voci_);
+  lstAssegnati->viewport()->installEventFilter(this);
   lstAssegnati->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   lstAssegnati->setMinimumHeight(90);
   Corpo()->addWidget(lstAssegnati, 1);
-  lblCifre = NuovaEtichetta("lblCifre", {}, -1, this);
+  lblCifre = new EtichettaAvviso("lblCifre", {}, Carattere::Suggerimento, this);
+  lblCifre->ImpostaAvviso(false);
   Veste(*lblCifre, Carattere::Suggerimento, Ruolo::Attenuato);
   lblCifre->setWordWrap(true);
   picTrova = NuovoTrova("picTrova", "lblTrova", this);
   auto* figures = Riga({lblCifre, picTrova});
   figures->setStretch(0, 1);
   Corpo()->addLayout(figures);
-  lblBraniMancanti = NuovaEtichetta("lblBraniMancanti", {}, -1, this);
-  Veste(*lblBraniMancanti, Carattere::Suggerimento, Ruolo::Avviso);
+  lblBraniMancanti = new EtichettaAvviso("lblBraniMancanti", {}, Carattere::Suggerimento, this);
   lblBraniMancanti->setWordWrap(true);
   lblBraniMancanti->hide();
   Corpo()->addWidget(lblBraniMancanti);
@@ -46,6 +47,15 @@ ListaAssegnati::ListaAssegnati(Contesto& contesto, QWidget* padre)
   });
   connect(lstAssegnati, &QListWidget::itemActivated, this,
           [this](const QListWidgetItem* item) { Scegli(*item); });
+}
+
+bool ListaAssegnati::eventFilter(QObject* oggetto, QEvent* evento) {
+  if (oggetto == lstAssegnati->viewport() && evento->type() == QEvent::Resize) Adatta();
+  return Riquadro::eventFilter(oggetto, evento);
+}
+
+void ListaAssegnati::Adatta() {
+  if (voci_->AdattaA(lstAssegnati->viewport()->width())) lstAssegnati->doItemsLayout();
 }
 
 void ListaAssegnati::Scegli(const QListWidgetItem& voce) {
@@ -84,11 +94,13 @@ bool ListaAssegnati::Mostra(const ElencoAssegnati& elenco) {
   mostrato_ = elenco;
   const QSignalBlocker quiet(lstAssegnati);
   const int top = lstAssegnati->verticalScrollBar()->value();
+  lblCifre->ImpostaAvviso(false);
   Veste(*lblCifre, Carattere::Suggerimento, Ruolo::Attenuato);
   lstAssegnati->clear();
   const ParoleAssegnato words(contesto_);
   for (const Assegnato& row : elenco.Righe) AggiungiRiga(words, row);
   voci_->Misura(*lstAssegnati);
+  Adatta();
   lblCifre->setText(elenco.Righe.empty() ? Qs(TestoLingua(contesto_, "0130127"))
                                          : Qs(CifreAssegnati(contesto_, elenco)));
   OffriTrova();
@@ -123,7 +135,7 @@ void ListaAssegnati::Svuota(const char* chiave) {
   lstAssegnati->clear();
   lblCifre->setText(Qs(TestoLingua(contesto_, chiave)));
   OffriTrova();
-  Veste(*lblCifre, Carattere::Suggerimento, Ruolo::Avviso);
+  lblCifre->ImpostaAvviso(true);
 }
 
 void ListaAssegnati::MostraBraniMancanti(std::size_t quanti) {

@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 
+#include "core/screens/Avvisi.h"
 #include "core/screens/Coppia.h"
 #include "core/screens/Riquadro.h"
 #include "playerconfig/Assegnati.h"
@@ -19,9 +20,10 @@ class ListaAssegnati : public Riquadro {
   explicit ListaAssegnati(Contesto& contesto, QWidget* padre = nullptr);
 
   QListWidget* lstAssegnati;
-  QLabel* lblCifre;
-  Coppia* picTrova;          ///< looks for the files that are missing; there only where some are
-  QLabel* lblBraniMancanti;  ///< how many the playlists miss, which have no place of their own here
+  EtichettaAvviso* lblCifre;
+  Coppia* picTrova;  ///< looks for the files that are missing; there only where some are
+  /// How many the playlists miss, which have no place of their own here.
+  EtichettaAvviso* lblBraniMancanti;
 
   /// False when these rows stand there already.
   bool Mostra(const ElencoAssegnati& elenco);
@@ -37,7 +39,12 @@ class ListaAssegnati : public Riquadro {
   /// Called when the user comes to a row, by a click or a key, with its code.
   std::function<void(std::int64_t)> SuScelta;
 
+ protected:
+  bool eventFilter(QObject* oggetto, QEvent* evento) override;
+
  private:
+  /// Lays the rows out anew where their room has become another.
+  void Adatta();
   void Svuota(const char* chiave);
   void OffriTrova();
   void Scegli(const QListWidgetItem& voce);

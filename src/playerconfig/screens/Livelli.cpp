@@ -26,6 +26,7 @@ Livelli::Livelli(Contesto& contesto, QWidget* padre)
     : Riquadro("fraOutputLevel", {}, -1, padre), contesto_(contesto) {
   lblTitoloFrame = NuovaEtichetta("lblTitoloFrame", QStringLiteral("Output"), 1, this);
   Veste(*lblTitoloFrame, Carattere::Riquadro);
+  lblTitoloFrame->setMinimumHeight(kLatoNumero);
   Corpo()->addWidget(lblTitoloFrame);
   picVolume = NewPicture("picVolume", "volume", this);
   picLoudness = NewPicture("picLoudness", "loudness", this);
@@ -85,9 +86,14 @@ void Livelli::Raccogli(ControlliHub& controlli) const {
 }
 
 void Livelli::Localizza() {
-  constexpr std::array<const char*, 4> kNames{"0130174", "0130175", "0130176", "0130177"};
+  struct Name {
+    const char* Key;
+    const char* Caption;
+  };
+  constexpr std::array<Name, 4> kNames{Name{"0130174", "Volume"}, Name{"0130175", "Loudness"},
+                                       Name{"0130176", "Treble"}, Name{"0130177", "Bass"}};
   for (std::size_t i = 0; i < kNames.size(); ++i) {
-    const QString name = Qs(TestoLingua(contesto_, kNames[i]));
+    const QString name = Qs(TestoLinguaO(contesto_, kNames[i].Key, kNames[i].Caption));
     cursori_[i].Slider->setAccessibleName(name);
     cursori_[i].Slider->setToolTip(name);
     nomi_[i]->setText(name);

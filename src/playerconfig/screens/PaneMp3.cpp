@@ -60,11 +60,7 @@ void PaneMp3::Costruisci() {
   Veste(*lblPercorso, Carattere::Suggerimento, Ruolo::Attenuato);
   auto* words = new QVBoxLayout();
   words->setSpacing(0);
-  lblVuota = new EtichettaElisa("lblVuota", this);
-  Veste(*lblVuota, Carattere::Suggerimento, Ruolo::Attenuato);
-  auto* caption = Riga({lblMp3_Dir});
-  caption->addWidget(lblVuota, 1);
-  words->addLayout(caption);
+  words->addWidget(lblMp3_Dir);
   words->addWidget(lblPercorso);
   auto* top = new QHBoxLayout();
   top->addWidget(picDisk);
@@ -73,7 +69,7 @@ void PaneMp3::Costruisci() {
   DirDirectoryMp3 = new ElencoCartelle(contesto_, "DirDirectoryMp3", this);
   DirDirectoryMp3->setMinimumHeight(84);
   Corpo()->addWidget(DirDirectoryMp3, 1);
-  cmbFileMp3 = new QComboBox(this);
+  cmbFileMp3 = new CasellaInvito(this);
   cmbFileMp3->setObjectName(QStringLiteral("cmbFileMp3"));
   // The width of 5,000 names isn't measured.
   cmbFileMp3->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -131,7 +127,14 @@ void PaneMp3::MostraElenco() {
     model->setItem(static_cast<int>(i), item);
   }
   cmbFileMp3->setModel(model);  // the one before belonged to the box and goes with it
-  lblVuota->setVisible(elenco_.Voci.size() <= 1);  // the blank item alone
+  Invita();
+}
+
+void PaneMp3::Invita() {
+  const std::size_t files = std::max<std::size_t>(1, elenco_.Voci.size()) - 1;  // one is blank
+  cmbFileMp3->ImpostaInvito(
+      Qs(files == 0 ? TestoLingua(contesto_, "0130138")
+                    : ConValori(TestoLingua(contesto_, "0130348"), {std::to_string(files)})));
 }
 
 std::string PaneMp3::Scelto() const {
@@ -212,8 +215,8 @@ void PaneMp3::Localizza() {
   MostraTogliere(false);
   numero_->setToolTip(Qs(TestoLingua(contesto_, "0130125")));
   numero_->setAccessibleName(numero_->toolTip());
-  lblVuota->setText(Qs(TestoLingua(contesto_, "0130138")));
   cmbFileMp3->setAccessibleName(Qs(TestoLingua(contesto_, "0130179")));
+  Invita();
   DirDirectoryMp3->setAccessibleName(Qs(TestoLingua(contesto_, "0130180")));
 }
 

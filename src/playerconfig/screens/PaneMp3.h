@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QComboBox>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <functional>
 #include <string>
 
 #include "core/ElencoMp3.h"
+#include "core/screens/CasellaInvito.h"
 #include "core/screens/Coppia.h"
 #include "core/screens/ElencoCartelle.h"
 #include "core/screens/PulsanteAscolto.h"
@@ -22,10 +22,9 @@ class PaneMp3 : public Riquadro {
   QLabel* lblfraFileName;
   Coppia* picDisk;
   QLabel* lblMp3_Dir;
-  QLabel* lblVuota;     ///< says that the folder holds no file
   QLabel* lblPercorso;  ///< the folder, as a person reads it
   ElencoCartelle* DirDirectoryMp3;
-  QComboBox* cmbFileMp3;
+  CasellaInvito* cmbFileMp3;
   Coppia* cmdPlayMp3;
   Coppia* cmdStopMp3;
   Coppia* cmdOkFileMp3;
@@ -76,6 +75,8 @@ class PaneMp3 : public Riquadro {
  private:
   void Costruisci();
   void MostraElenco();
+  /// Has the list say what can be picked while nothing is.
+  void Invita();
   /// cmdPlayMp3 is off while no file is picked; the keyboard goes to cmbFileMp3 then.
   void AggiornaPlay();
   bool Sospeso() const;

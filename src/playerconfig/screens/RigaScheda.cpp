@@ -89,12 +89,22 @@ void RigaScheda::MostraStato(const std::optional<Drive>& fatti) {
                        {QuantitaInParole(fatti->Free, contesto_.Luogo)});
   }
   lblStato->setText(Qs(words));
+  SpiegaPercorso();
   Veste(*lblStato, Carattere::Corpo, state.Role);
   fatti_ = fatti;
   MostraSpazio();
   segno_->setPixmap(DisegnoDi(QLatin1String(state.Icon), {kSign, kSign},
                               lblStato->palette().color(QPalette::WindowText),
                               devicePixelRatioF()));
+}
+
+void RigaScheda::SpiegaPercorso() {
+  // A letter says nothing where the system itself has none: its own path follows.
+  const std::string& root = contesto_.Stato.PercorsoMemoryCard;
+  QString tip = cmdScegli->toolTip();
+  if (!root.empty()) tip = Qs(contesto_.Files.HostPath(root)) + '\n' + tip;
+  lblPathMemoryCard->setToolTip(tip);
+  segno_->setToolTip(tip);
 }
 
 std::string RigaScheda::ParoleDelloStato(const char* chiave) const {
@@ -125,9 +135,11 @@ void RigaScheda::MostraSpazio() {
   const auto room = static_cast<double>(fatti_->Size);
   const auto needed = static_cast<double>(bisogno_);
   picSpazio->ImpostaParte(needed >= room ? 1.0 : needed / room);
-  lblSpazio->setText(Qs(ConValori(TestoLinguaO(contesto_, "0130148", "%1 of %2"),
-                                  {QuantitaInParole(bisogno_, contesto_.Luogo),
-                                   QuantitaInParole(fatti_->Size, contesto_.Luogo)})));
+  const std::string words = needed > room
+                                ? TestoLinguaO(contesto_, "0130349", "too small: %1 of %2")
+                                : TestoLinguaO(contesto_, "0130148", "%1 of %2");
+  lblSpazio->setText(Qs(ConValori(words, {QuantitaInParole(bisogno_, contesto_.Luogo),
+                                          QuantitaInParole(fatti_->Size, contesto_.Luogo)})));
   lblSpazio->ImpostaAvviso(needed > room);
   picSpazio->setAccessibleDescription(lblSpazio->text());
 }
@@ -151,7 +163,7 @@ bool RigaScheda::eventFilter(QObject* object, QEvent* event) {
 void RigaScheda::Localizza() {
   cmdScegli->ImpostaScritta(Qs(TestoLinguaO(contesto_, "0130144", "Choose...")));
   cmdScegli->setToolTip(Qs(TestoLingua(contesto_, "0130145")));
-  lblPathMemoryCard->setToolTip(cmdScegli->toolTip());
+  SpiegaPercorso();
   for (QWidget* each : {static_cast<QWidget*>(picSpazio), static_cast<QWidget*>(lblSpazio)}) {
     each->setToolTip(Qs(TestoLingua(contesto_, "0130149")));
     each->setAccessibleName(each->toolTip());

@@ -42,6 +42,7 @@ class RigaScheda : public QWidget {
  private:
   Contesto& contesto_;
   void MostraSpazio();
+  void SpiegaPercorso();
   std::string ParoleDelloStato(const char* chiave) const;
 
   QLabel* segno_;

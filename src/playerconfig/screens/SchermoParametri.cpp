@@ -52,6 +52,7 @@ SchermoParametri::SchermoParametri(Ambiente& ambiente, const char* nome, Schermo
   connect(picHelp, &QAbstractButton::clicked, this, [this] { Aiuto(); });
   SuInvio(*picSave);
   SuTasto(Qt::Key_F1, [this] { Aiuto(); });
+  SuSalva(*picSave);
 }
 
 void SchermoParametri::CostruisciPagina(QWidget* sopra, QWidget* corpo, Coppia* predefiniti) {

@@ -15,7 +15,8 @@ constexpr int kPadding = 10;  // pixels before the sign, behind it and behind th
 constexpr int kGap = 14;      // pixels between two columns
 constexpr int kName = 110;    // pixels that the name of a file has beside a column of inputs
 constexpr int kLine = 28;     // height of a row
-constexpr int kMark = 18;     // what a mark adds to it
+constexpr int kSecond = 20;   // what a second line adds to it
+constexpr int kMark = 18;     // what a line of a mark adds to it
 
 /// A column of the row's first line, cut from the left of what is left of it.
 QRect Cut(QRect& rest, int width) {
@@ -49,9 +50,43 @@ void VociAssegnati::Misura(const QListWidget& elenco) {
   }
 }
 
+bool VociAssegnati::InColonne() const {
+  constexpr int kAround = kPadding + kSignWidth + kPadding + kPadding;
+  return larghezza_ - kAround - codici_ - kGap >= 2 * kName;
+}
+
+bool VociAssegnati::AdattaA(int larghezza) {
+  const bool before = InColonne();
+  larghezza_ = larghezza;
+  return InColonne() != before;
+}
+
 QSize VociAssegnati::sizeHint(const QStyleOptionViewItem& /*opzione*/,
                               const QModelIndex& voce) const {
-  return {0, voce.data(Segno).toString().isEmpty() ? kLine : kLine + kMark};
+  const bool columns = InColonne();
+  const int lines = columns ? kLine : kLine + kSecond;
+  if (voce.data(Segno).toString().isEmpty()) return {0, lines};
+  return {0, lines + (columns ? kMark : 2 * kMark)};
+}
+
+/// Writes code, inputs and file, and gives what is left for the mark.
+QRect VociAssegnati::Scrivi(QPainter& pittore, QRect riga, const QModelIndex& voce) const {
+  QRect line(riga.left(), riga.top(), riga.width(), kLine);
+  const QString inputs = voce.data(Ingressi).toString();
+  const QString file = voce.data(File).toString();
+  Write(pittore, Cut(line, codici_), voce.data(Codice).toString(), Qt::ElideRight);
+  int used = kLine;
+  if (InColonne()) {
+    // The inputs of a row may be all eight of them: the name of the file keeps half of the room.
+    Write(pittore, Cut(line, std::min(ingressi_, line.width() / 2)), inputs, Qt::ElideRight);
+    Write(pittore, line, file, Qt::ElideMiddle);
+  } else {
+    Write(pittore, line, inputs, Qt::ElideRight);
+    Write(pittore, {riga.left(), riga.top() + kLine - 4, riga.width(), kSecond}, file,
+          Qt::ElideMiddle);
+    used += kSecond;
+  }
+  return riga.adjusted(0, used - 6, 0, -4);
 }
 
 void VociAssegnati::paint(QPainter* pittore, const QStyleOptionViewItem& opzione,
@@ -61,24 +96,16 @@ void VociAssegnati::paint(QPainter* pittore, const QStyleOptionViewItem& opzione
   item.text.clear();
   const QIcon sign = std::exchange(item.icon, QIcon());
   QApplication::style()->drawControl(QStyle::CE_ItemViewItem, &item, pittore, item.widget);
-  QRect line = item.rect;
-  sign.paint(pittore, QRect(line.left() + kPadding, line.top(), kSignWidth, line.height()));
-  line.adjust(kPadding + kSignWidth + kPadding, 0, -kPadding, 0);
-  const QRect below = line.adjusted(0, kLine - 6, 0, -4);
-  line.setHeight(kLine);
+  const QRect row = item.rect;
+  sign.paint(pittore, QRect(row.left() + kPadding, row.top(), kSignWidth, row.height()));
   pittore->save();
   pittore->setPen(InkOf(item, voce));
   pittore->setFont(FontDi(Carattere::Corpo));
-  Write(*pittore, Cut(line, codici_), voce.data(Codice).toString(), Qt::ElideRight);
-  const QString inputs = voce.data(Ingressi).toString();
-  // The inputs of a row may be all eight of them: the name of the file keeps half of the room, and
-  // in a narrow list each row's name begins where its own inputs end.
-  const bool roomy = line.width() >= 2 * kName;
-  const int wanted = roomy ? ingressi_ : pittore->fontMetrics().horizontalAdvance(inputs);
-  Write(*pittore, Cut(line, std::min(wanted, line.width() / 2)), inputs, Qt::ElideRight);
-  Write(*pittore, line, voce.data(File).toString(), Qt::ElideMiddle);
+  const QRect below =
+      Scrivi(*pittore, row.adjusted(kPadding + kSignWidth + kPadding, 0, -kPadding, 0), voce);
   pittore->setFont(FontDi(Carattere::Suggerimento));
-  Write(*pittore, below, voce.data(Segno).toString(), Qt::ElideRight);
+  pittore->drawText(below, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap,
+                    voce.data(Segno).toString());
   pittore->restore();
 }
 

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <QListWidget>
+#include <QRect>
 #include <QStyledItemDelegate>
 
 namespace kvr5 {
 
 /// The rows of lstAssegnati in columns, so that the eye can run down the codes, the inputs or the
-/// files; what a row is marked with stands in a line of its own below them.
+/// files; what a row is marked with stands below them. Where there is no room for columns a row has
+/// its file in a second line.
 class VociAssegnati : public QStyledItemDelegate {
  public:
   /// What an item keeps besides its text, which is the whole row in words.
@@ -16,14 +18,20 @@ class VociAssegnati : public QStyledItemDelegate {
 
   /// Makes the columns as wide as the rows of the list need; to be called when they are new.
   void Misura(const QListWidget& elenco);
+  /// Has the rows fit into so many pixels; true when that changes how they are laid out.
+  bool AdattaA(int larghezza);
 
   QSize sizeHint(const QStyleOptionViewItem& opzione, const QModelIndex& voce) const override;
   void paint(QPainter* pittore, const QStyleOptionViewItem& opzione,
              const QModelIndex& voce) const override;
 
  private:
-  int codici_ = 0;    ///< pixels
-  int ingressi_ = 0;  ///< pixels
+  bool InColonne() const;
+  QRect Scrivi(QPainter& pittore, QRect riga, const QModelIndex& voce) const;
+
+  int larghezza_ = 0;  ///< of a row, pixels
+  int codici_ = 0;     ///< pixels
+  int ingressi_ = 0;   ///< pixels
 };
 
 }  // namespace kvr5

@@ -104,7 +104,7 @@ void frmPlayerConfig::Localizza() {
   fraIngressiLogici->Localizza();
   Assegnazioni->Localizza();
   for (Coppia* find : {Assegnazioni->picTrova, Pannello->picTrovaBrani}) {
-    find->ImpostaScritta(SenzaMnemonico(Qs(TestoLingua(C(), "0130134"))));
+    find->ImpostaScritta(SenzaMnemonico(Qs(TestoLinguaO(C(), "0130134", "Find"))));
     find->setToolTip(Qs(TestoLingua(C(), "0130339")));
   }
   fraFileName->Localizza();
@@ -132,6 +132,8 @@ void frmPlayerConfig::MostraModo() {
   lblTipoPlayer->setText(lblTipoPlayer->fontMetrics().elidedText(type, Qt::ElideRight, kTypeRoom));
   lblTipoPlayer->setToolTip(Suggerimento(type));
   lblTipoPlayer->setAccessibleName(type);
+  lblModello->setText(Qs(NomeModello(C().Stato.PlayerType)));
+  lblModello->setVisible(type.trimmed().isEmpty());
   const EtichetteModo mode =
       EtichetteDelModo(C().Stato.PlayerConfigDesc, TestoLingua(C(), "0040047"));
   lblModoPanel->setText(Qs(mode.lblModoPanel));
@@ -370,6 +372,7 @@ void frmPlayerConfig::Conta() {
   const CifreProgetto& figures = conto_.Cifre();
   if (figures.Completo || first) Pannello->Mostra(C(), figures, layout_.picPalinsesto);
   if (figures.Completo) {
+    MostraPrimario();
     Assegnazioni->MostraBraniMancanti(figures.Mancanti - figures.MancantiIngressi);
   }
   // What can't be read is no reason to say that less room is needed.
@@ -397,9 +400,24 @@ void frmPlayerConfig::AggiornaNonSalvato() {
   Opzioni->Raccogli(controlli_);
   const bool unsaved = modifiche_.DaSalvare(controlli_);
   lblNonSalvato->setVisible(unsaved);
-  Barra->picSave->ImpostaGenere(unsaved ? Coppia::Genere::Primario : Coppia::Genere::Normale);
-  Barra->picRecordFlash->ImpostaGenere(unsaved ? Coppia::Genere::Normale
-                                               : Coppia::Genere::Primario);
+  MostraPrimario();
+}
+
+void frmPlayerConfig::MostraPrimario() {
+  const CifreProgetto& figures = conto_.Cifre();
+  const bool empty = figures.Completo && figures.Illeggibile.empty() &&
+                     figures.Ingressi + figures.Brani + figures.Spot == 0;
+  Coppia* next = Barra->picRecordFlash;
+  // Of an empty project there is nothing to record: its editor comes first.
+  for (Coppia* editor : {Barra->picPlaylist, Barra->picPalinsesto}) {
+    if (empty && editor->parentWidget() == Pannello && !editor->isHidden()) next = editor;
+  }
+  if (!lblNonSalvato->isHidden()) next = Barra->picSave;
+  for (Coppia* each :
+       {Barra->picSave, Barra->picRecordFlash, Barra->picPlaylist, Barra->picPalinsesto}) {
+    const auto kind = each == next ? Coppia::Genere::Primario : Coppia::Genere::Normale;
+    if (each->GenereOra() != kind) each->ImpostaGenere(kind);
+  }
 }
 
 bool frmPlayerConfig::PuoChiudere(Causa /*causa*/) {

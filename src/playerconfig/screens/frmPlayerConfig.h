@@ -43,6 +43,7 @@ class frmPlayerConfig : public Form {
   void AggiornaPercorsoMemoryCard();
 
   QLabel* lblTipoPlayer;
+  QLabel* lblModello;  ///< stands in for it where the project describes itself by nothing
   QLabel* lblProgetto;
   QLabel* lblNonSalvato;
   Coppia* picHelp;
@@ -164,6 +165,8 @@ class frmPlayerConfig : public Form {
   /// Tells of what a screen of parameters couldn't write, which closes all the same.
   void AvvisaNonScritto();
   void AggiornaNonSalvato();
+  /// Fills the button of what is to be done next.
+  void MostraPrimario();
   /// Counts the project at the next free moment; not `daCapo`: rows that haven't changed since the
   /// last count aren't read again.
   void CominciaConto(bool daCapo = true);

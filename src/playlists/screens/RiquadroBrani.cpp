@@ -155,16 +155,18 @@ void RiquadroBrani::paintEvent(QPaintEvent* event) {
 }
 
 void RiquadroBrani::Localizza() {
-  const auto text = [this](const char* key) { return Qs(TestoLingua(contesto_, key)); };
+  const auto text = [this](const char* key, const char* caption = "") {
+    return Qs(TestoLinguaO(contesto_, key, caption));
+  };
   grdPlaylist->Misura();
-  cmdStopMp3->ImpostaScritta(text("0130169"));
+  cmdStopMp3->ImpostaScritta(text("0130169", "Stop"));
   cmdStopMp3->setToolTip(text("0130269"));
-  cmdSpostaSu->ImpostaScritta(text("0050044"));
+  cmdSpostaSu->ImpostaScritta(text("0050044", "Up"));
   cmdSpostaSu->setToolTip(text("0050106"));
-  cmdSpostaGiu->ImpostaScritta(text("0050045"));
+  cmdSpostaGiu->ImpostaScritta(text("0050045", "Down"));
   cmdSpostaGiu->setToolTip(text("0050107"));
   cmdRandom->setToolTip(text("0050108"));
-  picNomiCopie->ImpostaScritta(text("0140131"));
+  picNomiCopie->ImpostaScritta(text("0140131", "Give copies their names"));
   picNomiCopie->setToolTip(text("0140133"));
   grdPlaylist->setAccessibleName(text("0050018"));
   grdPlaylist->ImpostaVuota(text("0050109"));

@@ -80,6 +80,7 @@ void frmPlaylistEditor::Collega() {
   connect(picAnnulla, &QAbstractButton::clicked, this, [this] { Scarica(); });
   connect(picHelp, &QAbstractButton::clicked, this, [this] { Aiuto(); });
   SuTasto(Qt::Key_F1, [this] { Aiuto(); });
+  SuSalva(*picSave);
   connect(&conta_, &QTimer::timeout, this, [this] { Conta(); });
   CollegaPane();
   CollegaBrani();

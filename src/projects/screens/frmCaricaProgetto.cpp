@@ -5,6 +5,7 @@
 #include <QScopedValueRollback>
 #include <QShortcut>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "core/Aiuti.h"
 #include "core/Lingua.h"
@@ -74,6 +75,18 @@ class TabellaProgetti : public QTableView {
     if (name.isValid()) selectionModel()->setCurrentIndex(name, QItemSelectionModel::NoUpdate);
     QTableView::keyboardSearch(text);
   }
+
+ protected:
+  /// In a narrow list the description of the player gives way to the project's name.
+  void resizeEvent(QResizeEvent* event) override {
+    constexpr int kPlayer = 330;
+    constexpr int kChange = 170;
+    constexpr int kName = 200;
+    const int rest = viewport()->width() - kChange - kName;
+    horizontalHeader()->resizeSection(ListaProgetti::Modifica, kChange);
+    horizontalHeader()->resizeSection(ListaProgetti::Player, std::clamp(rest, 110, kPlayer));
+    QTableView::resizeEvent(event);
+  }
 };
 
 }  // namespace
@@ -91,10 +104,8 @@ void frmCaricaProgetto::Costruisci() {
   lblPrjInDefaultDir =
       NuovaEtichetta("lblPrjInDefaultDir", QStringLiteral("Projects in default dir"), 1, this);
   Veste(*lblPrjInDefaultDir, Carattere::Schermata);
-  txtCerca = new QLineEdit(this);
-  txtCerca->setObjectName(QStringLiteral("txtCerca"));
+  txtCerca = new CasellaCerca(this);
   txtCerca->setFixedWidth(260);
-  txtCerca->setClearButtonEnabled(true);
   picHelp = NuovoAiuto(this);
   page->addLayout(Riga({lblPrjInDefaultDir, nullptr, txtCerca, picHelp}));
   CostruisciElenco();
@@ -129,8 +140,6 @@ void frmCaricaProgetto::CostruisciElenco() {
   VestiTabella(*lstProgetti, kRow);
   auto* header = lstProgetti->horizontalHeader();
   header->setSectionResizeMode(ListaProgetti::Nome, QHeaderView::Stretch);
-  header->resizeSection(ListaProgetti::Player, 330);
-  header->resizeSection(ListaProgetti::Modifica, 170);
 }
 
 void frmCaricaProgetto::Collega() {
@@ -178,9 +187,8 @@ void frmCaricaProgetto::AlCaricamento() {
   lblElencoVuoto->setVisible(empty);
   lblElencoVuoto->setText(Qs(TestoLingua(C(), "0130110")));
   lstProgetti->selectRow(0);
-  txtCerca->setPlaceholderText(Qs(TestoLingua(C(), "0130111")));
-  txtCerca->setAccessibleName(txtCerca->placeholderText());
-  txtCerca->setToolTip(Qs(TestoLingua(C(), "0130112")));
+  txtCerca->ImpostaParole(Qs(TestoLingua(C(), "0130111")), Qs(TestoLingua(C(), "0130112")),
+                          Qs(TestoLingua(C(), "0130113")));
   lstProgetti->setAccessibleName(lblPrjInDefaultDir->text());
   picLoad->setToolTip(Qs(TestoLingua(C(), "0130115")));
   picLoadFlash->setToolTip(Qs(TestoLingua(C(), "0130114")));
@@ -200,13 +208,7 @@ void frmCaricaProgetto::CercaProssimo() {
 
 void frmCaricaProgetto::MostraTrovato(std::optional<std::size_t> riga) {
   if (riga) lstProgetti->selectRow(static_cast<int>(*riga));
-  const bool nothing = !riga && !Rifila(Std(txtCerca->text())).empty();
-  QPalette palette = lstProgetti->palette();
-  palette.setColor(QPalette::Text, nothing ? Tema::Corrente().Errore : Tema::Corrente().Testo);
-  txtCerca->setPalette(palette);
-  const QString words = nothing ? Qs(TestoLingua(C(), "0130113")) : QString();
-  txtCerca->setAccessibleDescription(words);
-  txtCerca->setToolTip(nothing ? words : Qs(TestoLingua(C(), "0130112")));
+  txtCerca->MostraEsito(riga.has_value());
 }
 
 void frmCaricaProgetto::ApriScelto() {

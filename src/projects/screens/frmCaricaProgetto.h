@@ -1,13 +1,13 @@
 #pragma once
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QTableView>
 #include <optional>
 #include <string>
 
 #include "core/FinestraProgresso.h"
 #include "core/Schermata.h"
+#include "core/screens/CasellaCerca.h"
 #include "core/screens/Coppia.h"
 #include "core/screens/Form.h"
 #include "projects/screens/ListaProgetti.h"
@@ -28,7 +28,7 @@ class frmCaricaProgetto : public Form {
   std::int16_t ModoScelto = 0;
 
   QLabel* lblPrjInDefaultDir;
-  QLineEdit* txtCerca;
+  CasellaCerca* txtCerca;
   QTableView* lstProgetti;
   QLabel* lblElencoVuoto;
   Coppia* picOpen;

@@ -137,7 +137,7 @@ void frmWizardPanel1::AlCaricamento() {
 
 void frmWizardPanel1::Localizza() {
   LocalizzaForm(C(), kFormWizardPanel1, *this);
-  setWindowTitle(Qs(TestoLinguaO(C(), "0020000", "KVR5 Software")));
+  setWindowTitle(Qs(TestoLinguaO(C(), "0020000", "KVR5 Software Configuration")));
   for (const std::int16_t mode : kPlaylistModes) {
     const std::string words = TestoVariantePlaylist(C(), mode);
     cmbPlaylist->addItem(Qs(words.empty() ? std::to_string(mode) : words), mode);

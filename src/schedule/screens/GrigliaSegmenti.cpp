@@ -18,6 +18,15 @@ GrigliaSegmenti::GrigliaSegmenti(Contesto& contesto, ModelloSegmenti& modello, Q
   setSelectionMode(SingleSelection);
   setHorizontalScrollMode(ScrollPerPixel);
   setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(&modello, &QAbstractItemModel::modelReset, this, [this] { NascondiPosti(); });
+  NascondiPosti();
+}
+
+void GrigliaSegmenti::NascondiPosti() {
+  const bool none = model()->rowCount() == 0;
+  for (int column = ModelloSegmenti::Spot1; column < ModelloSegmenti::Colonne; ++column) {
+    setColumnHidden(column, none);
+  }
 }
 
 void GrigliaSegmenti::AggiornaLayout() {
@@ -38,7 +47,7 @@ void GrigliaSegmenti::AggiornaLayout() {
   header->resizeSection(ModelloSegmenti::Inizio, start);
   header->resizeSection(ModelloSegmenti::Contenuto, contents);
   for (int column = ModelloSegmenti::Spot1; column < ModelloSegmenti::Colonne; ++column) {
-    header->resizeSection(column, names == 0 ? kName : rest / names);
+    if (!isColumnHidden(column)) header->resizeSection(column, names == 0 ? kName : rest / names);
   }
 }
 

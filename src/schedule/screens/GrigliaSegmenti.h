@@ -20,6 +20,9 @@ class GrigliaSegmenti : public TabellaEditor {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  /// Names of places are nothing to scroll to while there is no segment.
+  void NascondiPosti();
+
   Contesto& contesto_;
 };
 

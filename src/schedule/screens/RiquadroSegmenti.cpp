@@ -60,15 +60,24 @@ void RiquadroSegmenti::MostraAvvisi(const QString& testo, bool senzaNome, bool r
 }
 
 void RiquadroSegmenti::Localizza() {
-  const auto text = [this](const char* key) { return Qs(TestoLingua(contesto_, key)); };
-  mnuDuplicaRiga->setText(text("0140038"));
+  const auto text = [this](const char* key, const char* caption = "") {
+    return Qs(TestoLinguaO(contesto_, key, caption));
+  };
+  mnuDuplicaRiga->setText(text("0140038", "Duplica"));
   grdSegmenti->setAccessibleName(text("0140024"));
   grdSegmenti->ImpostaVuota(text("0140123"));
-  picNomiCopie->ImpostaScritta(text("0140131"));
+  picNomiCopie->ImpostaScritta(text("0140131", "Give copies their names"));
   picNomiCopie->setToolTip(text("0140133"));
-  picCopiaRipetuti->ImpostaScritta(text("0140135"));
+  picCopiaRipetuti->ImpostaScritta(text("0140135", "Make copies for the others"));
   picCopiaRipetuti->setToolTip(text("0140136"));
   picAggiungiSegmento->setToolTip(text("0140109"));
+  SpiegaPulsanti(picRimuoviSegmento->isEnabled());
+}
+
+void RiquadroSegmenti::SpiegaPulsanti(bool segmento) {
+  const auto text = [&](const char* key) {
+    return Qs(TestoLingua(contesto_, segmento ? key : "0140123"));
+  };
   picCopiaSegmento->setToolTip(text("0140110"));
   picRimuoviSegmento->setToolTip(text("0140111"));
 }

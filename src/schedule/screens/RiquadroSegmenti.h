@@ -27,6 +27,8 @@ class RiquadroSegmenti : public Riquadro {
 
   /// What a recording would do wrong, "" for nothing, and which remedies there are.
   void MostraAvvisi(const QString& testo, bool senzaNome, bool ripetuti);
+  /// What the buttons of a segment do, or why they can't where there is none.
+  void SpiegaPulsanti(bool segmento);
   void Localizza();
 
  private:

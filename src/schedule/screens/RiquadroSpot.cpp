@@ -42,6 +42,8 @@ RiquadroSpot::RiquadroSpot(Contesto& contesto, ModelloSpot& modello, QWidget* pa
       NuovaEtichetta("lblDettaglioPalinsesto", QStringLiteral("Dettaglio Palinsesto"), 27, this);
   Veste(*lblDettaglioPalinsesto, Carattere::Riquadro);
   Testata()->insertWidget(0, lblDettaglioPalinsesto);
+  // As high as that of the segments beside it, which has a button.
+  lblDettaglioPalinsesto->setMinimumHeight(spazi::kPulsante);
   grdDettaglio = new TabellaEditor("grdDettaglio", modello, kRow, this);
   Corpo()->addLayout(CostruisciOrario());
   Corpo()->addLayout(CostruisciSlot());

@@ -68,6 +68,7 @@ void frmPalinsesto::Collega() {
   });
   connect(picHelp, &QAbstractButton::clicked, this, [this] { Aiuto(); });
   SuTasto(Qt::Key_F1, [this] { Aiuto(); });
+  SuSalva(*picSave);
   CollegaPane();
   CollegaSegmenti();
   CollegaOrario();
@@ -312,6 +313,7 @@ void frmPalinsesto::MostraDettaglio() {
   for (QWidget* each : {Segmenti->picCopiaSegmento, Segmenti->picRimuoviSegmento}) {
     each->setEnabled(id > 0);
   }
+  Segmenti->SpiegaPulsanti(id > 0);
   MostraAscolto();
 }
 

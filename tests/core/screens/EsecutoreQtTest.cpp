@@ -33,6 +33,19 @@ TEST(Opener, GivesTheDesktopEachNameAsItIs) {
   }
 }
 
+TEST(Opener, TellsWhereAPageLiesThatNothingOpens) {
+  test::Banco b;
+  EsecutoreQt opener(b.C);
+  EXPECT_FALSE(opener.Apri(b.Percorso("program/Help") + "\\English.htm"));
+  const auto box = b.Finestre.Prossimo();
+  EXPECT_EQ(box.Titolo, "It could not be opened");
+  EXPECT_EQ(
+      box.Testo,
+      "Perhaps this computer has no program for it, such as a browser or a file manager. It lies "
+      "here: " +
+          (b.Cartella.Host() / "program/Help/English.htm").string());
+}
+
 }  // namespace
 }  // namespace kvr5
 

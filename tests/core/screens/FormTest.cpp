@@ -36,6 +36,7 @@ class FormDiProva : public Form {
   }
   using Form::Aiuto;
   using Form::SuInvio;
+  using Form::SuSalva;
 
  protected:
   void AlCaricamento() override {
@@ -118,6 +119,24 @@ TEST_F(VitaDiUnaForm, UnloadingAFormThatIsNotLoadedDoesNothing) {
   EXPECT_EQ(FormDiProva::Scarichi, 0);
   EXPECT_TRUE(FormDiProva::Cause.empty());
   EXPECT_EQ(b.UltimeScaricate, 0);
+}
+
+TEST_F(VitaDiUnaForm, CtrlSPressesTheSaveButtonOnceTheFieldIsLeft) {
+  auto* save = new Coppia("picSave", "lblSave", "Save", "salva", -1, &*forma);
+  auto* field = new QLineEdit(&*forma);
+  std::string happened;
+  QObject::connect(field, &QLineEdit::editingFinished, &*forma, [&] { happened += "left "; });
+  QObject::connect(save, &QAbstractButton::clicked, &*forma, [&] { happened += "saved "; });
+  forma->SuSalva(*save);
+  ASSERT_TRUE(Pronta(Apri()));
+  field->setFocus();
+  QTest::keyClicks(field, QStringLiteral("5"));
+  QTest::keyClick(field, Qt::Key_S, Qt::ControlModifier);
+  EXPECT_EQ(happened, "left saved ");
+  EXPECT_EQ(field->text(), "5");
+  save->setEnabled(false);
+  QTest::keyClick(field, Qt::Key_S, Qt::ControlModifier);
+  EXPECT_EQ(happened, "left saved ") << "a button that is disabled can't be pressed";
 }
 
 /// Gives a form a button "Next" that Enter presses, and counts the presses.

@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QLabel>
+#include <QLineEdit>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -52,6 +53,28 @@ TEST_F(Letters, AreTheFirstOnesOfTheWordsWhereTheyAreFree) {
   Show();
   EXPECT_EQ(Given(), "SREC") << "Report has no other first letter, so it takes its second one, and "
                                 "Erase card its second word's";
+}
+
+TEST_F(Letters, AreChosenFirstByTheButtonThatSavesThenByThePrimaryOne) {
+  Button(QStringLiteral("Set"));
+  Button(QStringLiteral("Open"));
+  Button(QStringLiteral("Save"))->setProperty(kPrimaLettera, true);
+  Button(QStringLiteral("OK"))->ImpostaGenere(Coppia::Genere::Primario);
+  Show();
+  EXPECT_EQ(Given(), "EPSO");
+}
+
+TEST_F(Letters, LeaveTheFieldThatWasBeingFilled) {
+  auto* field = new QLineEdit(&window);
+  window.layout()->addWidget(field);
+  QObject::connect(field, &QLineEdit::editingFinished, &window, [this] { pressed += "left "; });
+  Button(QStringLiteral("Save"));
+  Show();
+  field->setFocus();
+  QTest::keyClicks(field, QStringLiteral("5"));
+  QTest::keyClick(field, Qt::Key_S, Qt::AltModifier);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return pressed.endsWith(QStringLiteral("Save")); }));
+  EXPECT_EQ(pressed, "left Save");
 }
 
 TEST_F(Letters, MoveOnForAButtonThatHasNoOther) {

@@ -34,6 +34,14 @@ TEST_F(Riquadri, ShowsTitleAndTextLineByLine) {
   });
 }
 
+TEST_F(Riquadri, HaveTheSizeOfTheirWordsAndKeepIt) {
+  Mostra(Pulsanti::Ok, [](RiquadroMessaggio& box) {
+    EXPECT_EQ(box.minimumSize(), box.size());
+    EXPECT_EQ(box.maximumSize(), box.size());
+    box.close();
+  });
+}
+
 TEST_F(Riquadri, EachButtonGivesItsAnswer) {
   const auto press = [](const char* name) {
     return [name](RiquadroMessaggio& box) { Clicca(box, name); };

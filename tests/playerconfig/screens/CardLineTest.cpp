@@ -48,6 +48,17 @@ TEST_F(CardLine, ShowsTheCardsStateFromTheLoadAndItsPathOnceItIsChosen) {
   EXPECT_EQ(Testo("lblStatoScheda"), "ready, SHOP, 1.9 GB, 1.4 GB free");
 }
 
+TEST_F(CardLine, TellsWhereTheCardLiesInTheSystemsOwnWords) {
+  b.Percorsi.Bind('E', "/media/anna/SHOP");
+  servizi.Scheda = Card();
+  Open("E:\\");
+  const auto tip = [this] { return Trova<QWidget>("lblPathMemoryCard").toolTip().toStdString(); };
+  EXPECT_TRUE(tip().starts_with("/media/anna/SHOP\nChoose the memory card.")) << tip();
+  b.C.Stato.PercorsoMemoryCard.clear();
+  hub->AggiornaPercorsoMemoryCard();
+  EXPECT_TRUE(tip().starts_with("Choose the memory card.")) << tip();
+}
+
 TEST_F(CardLine, ACardThatIsLockedOrGoneSaysSo) {
   servizi.Scheda = Card();
   servizi.Scheda->ReadOnly = true;

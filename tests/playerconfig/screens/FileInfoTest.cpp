@@ -89,14 +89,20 @@ TEST_F(FileInfo, ARemovalCallsForAttentionOnlyWhereTheBlankLineWasPicked) {
   EXPECT_EQ(Trova<QComboBox>("cmbFileMp3").toolTip(), "");
 }
 
-TEST_F(FileInfo, AFolderWithoutFilesSaysSo) {
+TEST_F(FileInfo, TheListOfFilesSaysWhatToPickOrThatThereIsNone) {
   b.Cartella.Write("music/readme.txt", "");
   b.ScriviMp3("music/Jazz/a.mp3");
   Apri(0);
-  EXPECT_EQ(Testo("lblVuota"), "no MP3 file here");
-  EXPECT_TRUE(SiVede("lblVuota"));
+  const CasellaInvito& list = *hub->fraFileName->cmbFileMp3;
+  EXPECT_EQ(list.Invito(), "no MP3 file here");
+  const QImage none = hub->fraFileName->cmbFileMp3->grab().toImage();
   hub->fraFileName->DirDirectoryMp3->ImpostaPercorso(b.Percorso("music\\Jazz"));
-  EXPECT_FALSE(SiVede("lblVuota"));
+  EXPECT_EQ(list.Invito(), "Pick a file (1 here)");
+  ScegliFile(" ");
+  EXPECT_NE(hub->fraFileName->cmbFileMp3->grab().toImage(), none) << "the words are seen";
+  EXPECT_EQ(list.currentText(), " ") << "they are no text of the list";
+  ScegliFile("a.mp3");
+  EXPECT_EQ(list.currentText(), "a.mp3");
 }
 
 TEST_F(FileInfo, LongFiguresLeaveTheColumnsWhereTheyAre) {

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QSlider>
 #include <QTest>
 #include <QTimer>
 
@@ -34,6 +35,15 @@ class Ways : public test::Hub {
     EXPECT_EQ(b.Schermi.PannelliExtra, 1);
     EXPECT_EQ(b.Schermi.Seriali.size(), 4U);
   }
+  /// The button that stands out.
+  std::string Filled() {
+    std::string names;
+    for (const char* name : {"picSave", "picRecordFlash", "picPlaylist", "picPalinsesto"}) {
+      const auto& button = dynamic_cast<Coppia&>(Trova<QAbstractButton>(name));
+      if (button.GenereOra() == Coppia::Genere::Primario) names += name;
+    }
+    return names;
+  }
 
  private:
   int pressed_ = 0;
@@ -53,6 +63,25 @@ TEST_F(Ways, LeadToTheExtrasOfAKvr5) {
   Apri();
   Clic("cmdConfigureExtra");
   EXPECT_EQ(b.Schermi.PannelliExtra, 1);
+}
+
+TEST_F(Ways, OfAnEmptyScheduleStandOutBeforeTheCard) {
+  Progetto(4, 2);
+  Apri();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Filled() == "picPalinsesto"; })) << Filled();
+}
+
+TEST_F(Ways, OfEmptyPlaylistsStandOutBeforeTheCardUntilThereIsATrack) {
+  Progetto(4, 5);
+  Apri();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Filled() == "picPlaylist"; })) << Filled();
+  Trova<QSlider>("sliBass").setValue(3);
+  EXPECT_EQ(Filled(), "picSave") << "what is unsaved comes before anything";
+  Chiudi();
+  b.AggiungiRiga("playlist.mdb", 1, 1, "a.mp3", b.Percorso("music") + "\\", "");
+  Apri();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return SiVede("lblMancanti"); })) << "all is counted";
+  EXPECT_EQ(Filled(), "picRecordFlash");
 }
 
 TEST_F(Ways, AreOpenToTheKeyboard) {

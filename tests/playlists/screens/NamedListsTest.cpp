@@ -142,7 +142,7 @@ TEST_F(NamedLists, ARemovedOneIsAskedAboutByItsName) {
   Clic("picRimuoviPL");
   const auto box = b.Finestre.Prossimo();
   EXPECT_EQ(box.Titolo, "Remove playlist");
-  EXPECT_EQ(box.Testo, "Remove the playlist and its tracks 'Bee'?");
+  EXPECT_EQ(box.Testo, "Remove the list now shown with its tracks, labelled 'Bee'?");
   EXPECT_THAT(Entries(), ElementsAre("Ape", "Bee"));
   b.Finestre.Rispondi(Risposta::Si);
   test::Clicca(Trova<QWidget>("lblRimuovi"));
@@ -162,7 +162,8 @@ TEST_F(NamedLists, WhatIsRemovedGoesByThePlaceNotByTheName) {
   test::ScegliColMouse(Selettore(), 0);
   b.Finestre.Rispondi(Risposta::Si);
   Clic("picRimuoviPL");
-  EXPECT_EQ(b.Finestre.Prossimo().Testo, "Remove the playlist and its tracks 'Ape'?");
+  EXPECT_EQ(b.Finestre.Prossimo().Testo,
+            "Remove the list now shown with its tracks, labelled 'Ape'?");
   EXPECT_THAT(Heads(), ElementsAre("2 Ape")) << "list 1 has gone, the one of the first place";
   EXPECT_THAT(Tutti("tmpPlaylist.mdb"), ElementsAre("2-1 ape.mp3"));
 }

@@ -70,9 +70,10 @@ TEST_F(CaricaDaFlash, LeavingTheCardDialogChangesNothing) {
 TEST_F(CaricaDaFlash, ACardWithoutItsDescriptorIsToldAndTheListStays) {
   std::filesystem::remove(b.Cartella.Host() / "card/Config.cfg");
   Apri();
-  const auto box = Avviso("File of the project missing",
-                          "This folder lacks the file 'config.cfg' The folder can't be opened as a "
-                          "project. Choose another one.");
+  const auto box =
+      Avviso("Project not complete",
+             "Missing or incomplete: the file 'config.cfg' The folder can't be opened as a "
+             "project. Choose another one.");
   Leggi();
   EXPECT_EQ(c.Stato.CartellaProgetto, b.Percorso("card") + "\\") << "until the next one is opened";
   AspettaNienteFatto();
@@ -82,7 +83,7 @@ TEST_F(CaricaDaFlash, ACardWithoutANameIsToldAndTheListStays) {
   Descrittore("");
   c.Stato.ProjectName = "name before";
   Apri();
-  const auto box = Avviso("File of the project missing", "This folder lacks the file 'config.cfg'");
+  const auto box = Avviso("Project not complete", "Missing or incomplete: the file 'config.cfg'");
   Leggi();
   EXPECT_EQ(c.Stato.ProjectName, "");
   AspettaNienteFatto();
@@ -293,9 +294,9 @@ TEST_F(CaricaDaFlash, WhatIsNoProjectIsToldAndTheListIsToBeUsedAgain) {
   frmCaricaProgetto& form = Apri();
   {
     const Pilota<RiquadroMessaggio> box([](RiquadroMessaggio& words) {
-      EXPECT_EQ(words.windowTitle(), "File of the project missing");
+      EXPECT_EQ(words.windowTitle(), "Project not complete");
       EXPECT_TRUE(QString::fromStdString(Scritta(words, "lblTesto"))
-                      .startsWith(QLatin1String("This folder lacks the file 'Config.txt'")));
+                      .startsWith(QLatin1String("Missing or incomplete: the file 'Config.txt'")));
       Clicca(words, "cmdOk");
     });
     Leggi();

@@ -42,8 +42,8 @@ class ElencoDeiProgetti : public ProvaForm<frmCaricaProgetto> {
   std::string Scelto() { return Cella(forma->lstProgetti->currentIndex().row()); }
   void AttesoMancante(const std::string& name) {
     const BoxVisto box = b.Finestre.Prossimo();
-    EXPECT_EQ(box.Titolo, "File of the project missing");
-    EXPECT_EQ(box.Testo, "This folder lacks the file '" + name +
+    EXPECT_EQ(box.Titolo, "Project not complete");
+    EXPECT_EQ(box.Testo, "Missing or incomplete: the file '" + name +
                              "'\r\nThe folder can't be opened as a project. Choose another one.");
     EXPECT_EQ(box.Segno, Icona::Informazione);
     EXPECT_TRUE(forma->isVisible());

@@ -205,7 +205,7 @@ TEST_F(Wizard, AnAsteriskFailsAtTheFolderWithNumberAndWords) {
   Nome("a*b");
   Clicca(*form.picGoOn);
   const BoxVisto box = b.Finestre.Prossimo();
-  EXPECT_EQ(box.Titolo, "Project folder not created");
+  EXPECT_EQ(box.Titolo, "Project folder not created: check the name and the projects folder");
   EXPECT_EQ(box.Testo, "This step could not be completed\r\nN°:52\r\nBad file name or number");
   EXPECT_EQ(box.Segno, Icona::Avviso);
   EXPECT_FALSE(PuntatoreOccupato());

@@ -114,6 +114,12 @@ TEST_F(ReportPage, SaysWhoseItIsWhereItsPicturesAreMissing) {
   EXPECT_EQ(browser.Value("document.querySelector('.band img').alt"), "KVR5");
   EXPECT_EQ(browser.Value("getComputedStyle(document.querySelector('.band')).backgroundColor"),
             "rgb(10, 102, 90)");
+  EXPECT_LT(browser.Value("document.querySelector('center img').getBoundingClientRect().width"),
+            24);
+  EXPECT_EQ(browser.Value("getComputedStyle(document.querySelector('center img'), '::after')"
+                          ".backgroundColor"),
+            "rgb(255, 255, 255)")
+      << "the sheet's own, over the browser's sign of a broken picture";
   EXPECT_THAT(LinesOf(browser), Contains("Project name: " + Progetto()));
 }
 

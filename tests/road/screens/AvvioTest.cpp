@@ -102,7 +102,7 @@ TEST_F(Avvio, ANewLanguageCountsFromTheSecondSplashOn) {
   EXPECT_EQ(Scritta(settings, "lblLanguage"), "Language") << "not before";
   Clicca(*settings.cmdExit);
   EXPECT_EQ(S().FileLingua, b.Percorso("program/Language/Italiano.lan"));
-  EXPECT_EQ(Scritta(*Vista<frmSplash>(), "lblNomePrj"), "KVR5 Software Configurazione");
+  EXPECT_EQ(Scritta(*Vista<frmSplash>(), "lblNomePrj"), "Configurazione KVR5 Software");
   PassaLoSplash();
   EXPECT_EQ(Scritta(Attendi<frmMain>(), "lblUscita"), "Uscire");
 }

@@ -115,7 +115,8 @@ TEST_F(BadInput, ANameLongerThanAFolderCanHaveIsToldAndTheWizardStays) {
   auto& wizard = Attendi<frmWizardPanel1>();
   test::Riscrivi(*wizard.txtNomeProgetto, QString(300, QLatin1Char('m')));
   const Pilota<RiquadroMessaggio> box([](RiquadroMessaggio& message) {
-    EXPECT_EQ(message.windowTitle(), QStringLiteral("Project folder not created"));
+    EXPECT_EQ(message.windowTitle(),
+              QStringLiteral("Project folder not created: check the name and the projects folder"));
     message.accept();
   });
   test::Clicca(wizard, "picGoOn");

@@ -1,7 +1,5 @@
-#include <QDesktopServices>
 #include <QMenu>
 #include <QTest>
-#include <QTextBrowser>
 #include <QTimer>
 #include <algorithm>
 
@@ -10,6 +8,7 @@
 #include "flashcard/screens/frmSelectFlash.h"
 #include "flashcard/screens/frmVerifica.h"
 #include "road/screens/BancoGuasti.h"
+#include "road/screens/Scrivania.h"
 #include "support/screens/Frattempo.h"
 
 // Erasing, verifying and handing over a card through the real screens.
@@ -229,20 +228,6 @@ TEST_F(CardRoad, NothingOfThemBeginsWhileARecordingIsAtWork) {
   EXPECT_TRUE(Hub().isVisible());
 }
 
-/// Takes the folders that are opened in the desktop's place: a browser of texts has the slot that a
-/// handler needs.
-class Desktop : public QTextBrowser {
- public:
-  Desktop() {
-    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "setSource");
-    connect(this, &QTextBrowser::sourceChanged, this,
-            [this](const QUrl& url) { Opened.push_back(url.toLocalFile().toStdString()); });
-  }
-  ~Desktop() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
-  QVariant loadResource(int /*type*/, const QUrl& /*url*/) override { return QStringLiteral(" "); }
-  Names Opened;
-};
-
 class CopyByHand : public CardRoad {
  protected:
   frmCopiaManuale& Bar() { return dynamic_cast<frmCopiaManuale&>(Schermo("frmCopiaManuale")); }
@@ -251,7 +236,7 @@ class CopyByHand : public CardRoad {
     EXPECT_EQ(Window<frmCopiaManuale>(), nullptr);
   }
 
-  Desktop desktop;
+  test::Scrivania desktop;
 };
 
 TEST_F(CopyByHand, HidesTheHubBehindTheBarWhoseButtonBringsItBack) {
@@ -261,7 +246,7 @@ TEST_F(CopyByHand, HidesTheHubBehindTheBarWhoseButtonBringsItBack) {
   EXPECT_EQ(test::Scritta(Bar(), "lblScheda"),
             "Copy your files to the card E:\\, " + Host("card").string() + ".");
   EXPECT_FALSE(hub->isVisible());
-  EXPECT_EQ(desktop.Opened, Names{Host("card").string()}) << "once";
+  EXPECT_EQ(desktop.Aperti, Names{Host("card").string()}) << "once";
   b.Cartella.Write("card/mine.mp3", "mine");
   Clicca(*Bar().picTorna);
   ExpectBack();
@@ -296,7 +281,7 @@ TEST_F(CopyByHand, LeavingThatDialogLeavesTheHubAsItIs) {
   More("Copy by hand…");
   QCoreApplication::processEvents();
   ExpectBack();
-  EXPECT_EQ(desktop.Opened, Names{});
+  EXPECT_EQ(desktop.Aperti, Names{});
   LasciaHall();
 }
 

@@ -101,7 +101,7 @@ TEST_P(DamagedFiles, TheDatabaseLeavesTheHubAtWork) {
   const test::Risponditore boxes;
   Clic("frmMain", "picCaricaDaDisco");
   Clic("frmCaricaProgetto", "picOpen");
-  EXPECT_EQ(boxes.Titoli(), "File of the project missing");
+  EXPECT_EQ(boxes.Titoli(), "Project not complete");
   Schermo("frmCaricaProgetto");
 }
 

@@ -307,8 +307,11 @@ void GiroSchermi::NegliHub() {
     std::int16_t Type;
     std::int16_t Mode;
   };
-  for (const Model& model : {Model{"Inputs", 4, 1}, Model{"Schedule", 4, 2}, Model{"Lists", 4, 5},
-                             Model{"Veskadro", 1, 0}, Model{"Zub", 2, 0}, Model{"Ostrel", 3, 2}}) {
+  for (const Model& model :
+       {Model{"Inputs", 4, 1}, Model{"Schedule", 4, 2}, Model{"Lists by input", 4, 5},
+        Model{"Lists by day", 4, 6}, Model{"Lists", 4, 7}, Model{"Veskadro", 1, 0},
+        Model{"Zub", 2, 0}, Model{"Ostrel 1", 3, 1}, Model{"Ostrel 2", 3, 2},
+        Model{"Ostrel 3", 3, 3}, Model{"Ostrel 4", 3, 4}, Model{"Ostrel 9", 3, 9}}) {
     Progetto(model.Name, model.Type, model.Mode);
     Vedi(*Hub(), std::string("frmPlayerConfig ") + model.Name);
   }
@@ -352,6 +355,19 @@ void GiroSchermi::NellHubConScheda() {
   hub->AggiornaPercorsoMemoryCard();
   ASSERT_TRUE(QTest::qWaitFor([&hub] { return hub->Scheda->picSpazio->isVisible(); }));
   Vedi(*hub, "frmPlayerConfig with a card");
+  hub->Scheda->SegnaRegistrata();
+  hub->AggiornaPercorsoMemoryCard();
+  Vedi(*hub, "frmPlayerConfig, its card recorded");
+  servizi_.Scheda->ReadOnly = true;
+  hub->AggiornaPercorsoMemoryCard();
+  Vedi(*hub, "frmPlayerConfig, its card locked");
+  servizi_.Scheda->ReadOnly = false;
+  servizi_.Scheda->Size = 4096;
+  hub->AggiornaPercorsoMemoryCard();
+  ASSERT_NE(hub->Scheda->lblSpazio->text().indexOf(QLatin1String("4 KB")), -1);
+  Vedi(*hub, "frmPlayerConfig, its card too small");
+  servizi_.Scheda = card;
+  hub->AggiornaPercorsoMemoryCard();
   hub->fraOutputLevel->sliVolume->setValue(3);
   ASSERT_TRUE(hub->lblNonSalvato->isVisible());
   Vedi(*hub, "frmPlayerConfig unsaved");

@@ -2,17 +2,24 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStyleOptionComboBox>
+#include <QTableView>
 #include <map>
+#include <regex>
+#include <set>
 #include <string>
 #include <vector>
 
 #include "core/screens/Coppia.h"
 #include "core/screens/EtichettaElisa.h"
+#include "house/SourceTree.h"
 #include "road/screens/GiroSchermi.h"
 #include "support/Lingue.h"
 
@@ -26,6 +33,9 @@ using test::SchermoVisto;
 /// What a walk found at fault, by the check that found it.
 struct Findings {
   std::vector<std::string> Cut, Covered, Cramped, Leaderless, Mute;
+  std::set<std::string> Seen;  ///< the objectNames of the windows
+  std::size_t Windows = 0;     ///< in all their states
+  double Scale = 0;            ///< the pixels of a point
 };
 
 std::string NameOf(const QObject& control) {
@@ -63,21 +73,83 @@ void FindCutIn(const SchermoVisto& screen, std::vector<std::string>& found) {
   }
 }
 
+/// The words of a closed list, but for names of files and languages, which have any length.
+void FindCutLists(const SchermoVisto& screen, std::vector<std::string>& found) {
+  for (const QComboBox* list : screen.Finestra.findChildren<QComboBox*>()) {
+    if (!list->isVisible() || list->objectName() == QLatin1String("cmbFileMp3")) continue;
+    QStyleOptionComboBox option;
+    option.initFrom(list);
+    option.editable = list->isEditable();
+    const int room =
+        list->style()
+            ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, list)
+            .width();
+    for (int i = 0; i < list->count(); ++i) {
+      const int lacks = list->fontMetrics().horizontalAdvance(list->itemText(i)) - room;
+      if (lacks <= 0) continue;
+      found.push_back(screen.Nome + ": " + NameOf(*list) + " \"" + list->itemText(i).toStdString() +
+                      "\" lacks " + std::to_string(lacks));
+    }
+  }
+}
+
+/// The titles of columns, and the rows of tables whose words go on in further lines.
+void FindCutCells(const SchermoVisto& screen, std::vector<std::string>& found) {
+  for (const QTableView* table : screen.Finestra.findChildren<QTableView*>()) {
+    if (!table->isVisible()) continue;
+    const QHeaderView* titles = table->horizontalHeader();
+    for (int column = 0; titles->isVisible() && column < titles->count(); ++column) {
+      if (titles->isSectionHidden(column)) continue;
+      if (titles->sectionSize(column) >= titles->sectionSizeHint(column)) continue;
+      found.push_back(screen.Nome + ": " + NameOf(*table) + ", title " + std::to_string(column));
+    }
+    const QAbstractItemView* rows = table;
+    for (int row = 0; table->wordWrap() && row < table->model()->rowCount(); ++row) {
+      if (rows->sizeHintForRow(row) <= table->rowHeight(row)) continue;
+      found.push_back(screen.Nome + ": " + NameOf(*table) + ", row " + std::to_string(row));
+    }
+  }
+}
+
 void FindCut(const SchermoVisto& screen, std::vector<std::string>& found) {
   FindCutIn<QLabel>(screen, found);
   FindCutIn<QAbstractButton>(screen, found);
+  FindCutLists(screen, found);
+  FindCutCells(screen, found);
+}
+
+/// Whether a widget lays out what is in it for the eye, as a page does, and is no control that is
+/// made of several.
+bool IsPage(const QWidget& parent) {
+  return parent.isVisible() && qobject_cast<const QAbstractButton*>(&parent) == nullptr &&
+         qobject_cast<const QAbstractScrollArea*>(&parent) == nullptr &&
+         qobject_cast<const QComboBox*>(&parent) == nullptr &&
+         qobject_cast<const QLineEdit*>(&parent) == nullptr &&
+         qobject_cast<const QAbstractSpinBox*>(&parent) == nullptr &&
+         !parent.objectName().startsWith(QLatin1String("qt_"));
+}
+
+void FindCoveredIn(const std::string& screen, const QWidget& parent,
+                   std::vector<std::string>& found) {
+  const auto children = parent.findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+  for (qsizetype i = 0; i < children.size(); ++i) {
+    if (!children[i]->isVisible() || children[i]->isWindow()) continue;
+    if (!parent.rect().contains(children[i]->geometry())) {
+      found.push_back(screen + ": " + NameOf(*children[i]) + " goes over " + NameOf(parent));
+    }
+    for (qsizetype k = i + 1; k < children.size(); ++k) {
+      if (!children[k]->isVisible() || children[k]->isWindow()) continue;
+      if (!children[i]->geometry().intersects(children[k]->geometry())) continue;
+      found.push_back(screen + ": " + NameOf(*children[i]) + " and " + NameOf(*children[k]));
+    }
+  }
 }
 
 void FindCovered(const SchermoVisto& screen, std::vector<std::string>& found) {
+  FindCoveredIn(screen.Nome, screen.Finestra, found);
   for (const QWidget* parent : screen.Finestra.findChildren<QWidget*>()) {
-    if (!parent->isVisible() || parent->layout() == nullptr) continue;
-    const auto children = parent->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
-    for (qsizetype i = 0; i < children.size(); ++i) {
-      for (qsizetype k = i + 1; k < children.size(); ++k) {
-        if (!children[i]->isVisible() || !children[k]->isVisible()) continue;
-        if (!children[i]->geometry().intersects(children[k]->geometry())) continue;
-        found.push_back(screen.Nome + ": " + NameOf(*children[i]) + " and " + NameOf(*children[k]));
-      }
+    if (parent->window() == &screen.Finestra && IsPage(*parent)) {
+      FindCoveredIn(screen.Nome, *parent, found);
     }
   }
 }
@@ -143,6 +215,9 @@ const Findings& FoundIn(const std::string& language) {
   if (const auto known = walked.find(language); known != walked.end()) return known->second;
   Findings& found = walked[language];
   test::GiroSchermi(language).Percorri([&found](const SchermoVisto& screen) {
+    found.Seen.insert(NameOf(screen.Finestra));
+    ++found.Windows;
+    found.Scale = screen.Finestra.devicePixelRatioF();
     FindCut(screen, found.Cut);
     FindCovered(screen, found.Covered);
     FindLeaderless(screen, found.Leaderless);
@@ -153,6 +228,33 @@ const Findings& FoundIn(const std::string& language) {
 }
 
 class Looks : public testing::TestWithParam<std::string> {};
+
+/// The names of all classes of the sources that are a window.
+std::set<std::string> WindowClasses() {
+  const std::regex window("class (\\w+)(?: final)? : public (?:Form|SchermoParametri|QDialog)\\b");
+  std::set<std::string> names;
+  for (const auto& file : test::SourceFiles()) {
+    for (std::sregex_iterator at(file.Text.begin(), file.Text.end(), window), end; at != end;
+         ++at) {
+      names.insert((*at)[1]);
+    }
+  }
+  names.erase("SchermoParametri");  // what the screens of parameters share
+  // The window of the host's copying is called by what it stands for.
+  names.erase("RiquadroCopia");
+  names.insert("FinestraCopia");
+  return names;
+}
+
+TEST_P(Looks, AreLookedAtInEveryWindowThatTheSourcesHaveAndAtTheScaleThatWasAskedFor) {
+  const Findings& walked = FoundIn(GetParam());
+  const auto classes = WindowClasses();
+  EXPECT_GT(classes.size(), 15U);
+  EXPECT_THAT(walked.Seen, testing::IsSupersetOf(classes));
+  EXPECT_GT(walked.Windows, 80U);
+  const QByteArray scale = qgetenv("QT_SCALE_FACTOR");
+  EXPECT_EQ(walked.Scale, scale.isEmpty() ? 1 : scale.toDouble());
+}
 
 TEST_P(Looks, NoTextIsCut) {
   EXPECT_THAT(FoundIn(GetParam()).Cut, testing::IsEmpty());

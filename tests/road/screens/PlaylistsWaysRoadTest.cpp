@@ -5,6 +5,7 @@
 #include "core/screens/FinestraCopia.h"
 #include "flashcard/screens/frmProgress.h"
 #include "projects/screens/frmCaricaProgetto.h"
+#include "road/screens/Scrivania.h"
 #include "road/screens/StradaPlaylist.h"
 
 // What else happens on the road of the playlists: leaving without a save, copies that are
@@ -106,7 +107,9 @@ TEST_F(PlaylistsWays, TheHubCountsTheTracksOfASaveAndThoseThatAreMissing) {
 TEST_F(PlaylistsWays, TheProjectsReportTakesThatOfThePlaylistsIn) {
   CreaColWizard(6);
   Sessione({"select 1", "add a/L'été.mp3"}, false);
+  const test::Scrivania desktop;
   Clicca(*Hub().Barra->picReport);
+  EXPECT_EQ(desktop.Aperti, std::vector<std::string>{Host(InProject("Bar.htm")).string()});
   const std::string screens = b.Cartella.Read(InProject("Bar.htm"));
   EXPECT_NE(screens.find("Playlist 2.m3u - Tuesday"), std::string::npos) << screens;
   EXPECT_NE(screens.find(".mp3<BR>"), std::string::npos);

@@ -66,7 +66,7 @@ TEST_P(ProjectsFolder, IsToldByTheWizardWhichStays) {
   test::Riscrivi(*wizard.txtNomeProgetto, QStringLiteral("Hall"));
   const test::Risponditore boxes;
   test::Clicca(wizard, "picGoOn");
-  EXPECT_EQ(boxes.Titoli(), "Project folder not created");
+  EXPECT_EQ(boxes.Titoli(), "Project folder not created: check the name and the projects folder");
   EXPECT_EQ(Viste(), Names{"frmWizardPanel1"});
   EXPECT_FALSE(test::PuntatoreOccupato());
   wizard.activateWindow();  // without a display nobody else does, once the box has gone

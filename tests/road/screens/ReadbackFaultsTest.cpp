@@ -252,7 +252,7 @@ TEST_F(ReadbackFaults, AFolderInThePlaceOfAFileOfTheProjectIsToldWhenItIsOpened)
   b.Cartella.Write("card/Config.txt/x", "a folder");
   const test::Risponditore boxes;
   ReadCard();
-  EXPECT_EQ(boxes.Titoli(), "File of the project missing");
+  EXPECT_EQ(boxes.Titoli(), "Project not complete");
   ExpectListInUse();
 }
 
@@ -262,14 +262,14 @@ TEST_F(ReadbackFaults, ACardWithoutADescriptorOrANameIsToldAndLeavesNothing) {
   {
     const test::Risponditore boxes;
     ReadCard();
-    EXPECT_EQ(boxes.Titoli(), "File of the project missing");
+    EXPECT_EQ(boxes.Titoli(), "Project not complete");
   }
   b.Cartella.Write("card/Config.cfg", descriptor);
   Descriptor("");
   {
     const test::Risponditore boxes;
     Again();
-    EXPECT_EQ(boxes.Titoli(), "File of the project missing");
+    EXPECT_EQ(boxes.Titoli(), "Project not complete");
   }
   EXPECT_EQ(Projects(), Names{});
   ExpectListInUse();

@@ -1,6 +1,7 @@
 #include <sstream>
 
 #include "platform/CodePage.h"
+#include "road/screens/Scrivania.h"
 #include "road/screens/StradaPalinsesto.h"
 
 // Schedules from the start of the program to the finished card, for every model and mode that has
@@ -332,7 +333,10 @@ TEST_P(ScheduleRoad, TheProjectsReportTakesThatOfTheScheduleInAndBothGoToTheCard
   ToTheHub();
   Ricorda();
   Palinsesto(GetParam().Session, false);
+  const test::Scrivania desktop;
   Clicca(*Hub().Barra->picReport);
+  EXPECT_EQ(desktop.Aperti,
+            std::vector<std::string>{(b.Cartella.Host() / NelProgetto("Bar.htm")).string()});
   const std::string page = LeggiProgetto("Bar.htm");
   EXPECT_EQ(FromHeading(page), BodyOf(GetParam().Report));
   EXPECT_NE(page.find("File CONFIG.TXT"), std::string::npos);

@@ -89,7 +89,7 @@ TEST_F(VanishedProject, BetweenTheListAndItsOpeningIsToldByTheList) {
   fs::remove(Host(DelProgetto("Config.cfg")));
   const test::Risponditore boxes;
   test::Clicca(list, "picOpen");
-  EXPECT_EQ(boxes.Titoli(), "File of the project missing");
+  EXPECT_EQ(boxes.Titoli(), "Project not complete");
   EXPECT_TRUE(list.isVisible());
   Vanish();
   test::Clicca(list, "picOpen");

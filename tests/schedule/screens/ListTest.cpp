@@ -1,4 +1,5 @@
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QTest>
 
 #include "core/screens/Tema.h"
@@ -34,6 +35,16 @@ class ScheduleLists : public test::BancoPalinsestoSchermo {
     b.AggiungiRiga("scheduler.mdb", 0, pos, name, Music(), "", static_cast<int>(segment));
   }
 };
+
+TEST_F(ScheduleLists, HaveNothingToScrollToWhileThereIsNoSegment) {
+  Apri();
+  Grid().resize(300, 300);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Grid().horizontalScrollBar()->maximum() == 0; }));
+  Clic("picAggiungiSegmento");
+  EXPECT_EQ(Grid().model()->rowCount(), 1);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Grid().horizontalScrollBar()->maximum() > 0; }))
+      << "the names of the places";
+}
 
 TEST_F(ScheduleLists, HaveAColumnForTheStartTheContentsAndEachOfEightPlaces) {
   const std::int64_t id = Segmento(0, "08.30");

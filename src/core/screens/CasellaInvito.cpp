@@ -1,0 +1,24 @@
+#include "core/screens/CasellaInvito.h"
+
+#include <QStyleOptionComboBox>
+
+#include "core/screens/Tema.h"
+
+namespace kvr5 {
+
+void CasellaInvito::ImpostaInvito(const QString& parole) {
+  invito_ = parole;
+  setAccessibleDescription(parole);
+  update();
+}
+
+void CasellaInvito::initStyleOption(QStyleOptionComboBox* option) const {
+  QComboBox::initStyleOption(option);
+  if (!option->currentText.trimmed().isEmpty()) return;
+  option->currentText = invito_;
+  for (const auto role : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText}) {
+    option->palette.setColor(role, Tema::Corrente().Attenuato);
+  }
+}
+
+}  // namespace kvr5
