@@ -8,8 +8,8 @@
 #include "core/ListaCopia.h"
 #include "platform/FileOps.h"
 #include "platform/db/Walk.h"
-#include "projects/CartellaProgetto.h"
 #include "playerconfig/NomeLibero.h"
+#include "projects/CartellaProgetto.h"
 
 namespace kvr5 {
 namespace {
