@@ -112,14 +112,16 @@ void frmPlayerConfig::MostraReport() {
 }
 
 void frmPlayerConfig::ApriPlaylist() {
-  ApriEditor("tmpPlaylist.mdb", &Navigazione::ApriPlaylist);
+  ApriEditor("tmpPlaylist.mdb",
+             [](Navigazione& screens) { screens.ApriPlaylist(Schermata::Configurazione); });
 }
 
 void frmPlayerConfig::ApriPalinsesto() {
-  ApriEditor("tmpScheduler.mdb", &Navigazione::ApriPalinsesto);
+  ApriEditor("tmpScheduler.mdb",
+             [](Navigazione& screens) { screens.ApriPalinsesto(Schermata::Configurazione); });
 }
 
-void frmPlayerConfig::ApriEditor(const char* copia, void (Navigazione::*apri)(Schermata)) {
+void frmPlayerConfig::ApriEditor(const char* copia, void (*apri)(Navigazione&)) {
   if (lavora_) return;
   const Impegno stays(*this);
   const OwnError own(C().Errore);
@@ -132,7 +134,7 @@ void frmPlayerConfig::ApriEditor(const char* copia, void (Navigazione::*apri)(Sc
   if (FileExists(C().Files, stale) && !IsHeld(C().Files, stale)) {
     C().Errore.Record(C().Files.Delete(stale));
   }
-  (ambiente_.Schermi.*apri)(Schermata::Configurazione);
+  apri(ambiente_.Schermi);
   Nascondi();
   guardia_.stop();  // a box of the editor's load may have brought the hub to the front
   conta_.stop();

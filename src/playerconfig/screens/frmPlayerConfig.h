@@ -161,7 +161,7 @@ class frmPlayerConfig : public Form {
   void ApriPlaylist();
   void ApriPalinsesto();
   /// Hands over to an editor; `copia` is its working copy, of which a crash may have left one.
-  void ApriEditor(const char* copia, void (Navigazione::*apri)(Schermata));
+  void ApriEditor(const char* copia, void (*apri)(Navigazione&));
   /// Tells of what a screen of parameters couldn't write, which closes all the same.
   void AvvisaNonScritto();
   void AggiornaNonSalvato();
