@@ -7,9 +7,12 @@
 #include <iterator>
 #include <regex>
 #include <set>
+#include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "platform/Fold.h"
 #include "support/Lingue.h"
 
 // What holds of the help document of every language.
@@ -75,11 +78,64 @@ class Help : public testing::TestWithParam<std::string> {
 INSTANTIATE_TEST_SUITE_P(Languages, Help, testing::ValuesIn(test::FileDiLingua()),
                          test::NomeDiProva);
 
+// Elements in their order, with the ids that links lead to and the classes that dress them.
+constexpr const char* kElement = R"(<(/?[a-z0-9]+(?: (?:id|class)="[^"]*")*))";
+
+/// Cuts the entries of the glossary out of a document: each language has them in its own order.
+std::vector<std::string> CutTerms(std::string& page) {
+  const std::string begin = "<dl class=\"terms\">";
+  const auto from = page.find(begin);
+  if (from == std::string::npos) return {};
+  const auto to = page.find("</dl>", from);
+  std::istringstream block(page.substr(from + begin.size(), to - from - begin.size()));
+  page.erase(from, to - from);
+  std::vector<std::string> entries;
+  for (std::string line; std::getline(block, line);) {
+    if (line.starts_with("<dt>")) entries.emplace_back();
+    if (!entries.empty()) entries.back() += line;
+  }
+  return entries;
+}
+
 TEST_P(Help, IsBuiltAsTheEnglishOneIs) {
-  // Elements in their order, with the ids that links lead to and the classes that dress them.
-  constexpr const char* kElement = R"(<(/?[a-z0-9]+(?: (?:id|class)="[^"]*")*))";
-  EXPECT_EQ(All(page, kElement), All(DocumentOf("English.lan"), kElement));
-  EXPECT_GT(All(page, kElement).size(), 1000U);
+  const auto built = [](std::string document) {
+    std::vector<std::vector<std::string>> parts;
+    for (const auto& entry : CutTerms(document)) parts.push_back(All(entry, kElement));
+    std::ranges::sort(parts);
+    parts.push_back(All(document, kElement));
+    return parts;
+  };
+  const auto parts = built(page);
+  EXPECT_EQ(parts, built(DocumentOf("English.lan")));
+  EXPECT_GT(parts.size(), 20U) << "the glossary's entries";
+  EXPECT_GT(parts.back().size(), 1000U);
+}
+
+TEST_P(Help, HasItsGlossaryInTheOrderOfTheAlphabet) {
+  std::string document = page;
+  std::vector<std::string> terms;
+  for (const auto& entry : CutTerms(document)) {
+    std::string term = All(entry, "<dt>(.*?)</dt>").at(0);
+    for (const auto& [accent, letter] :
+         std::initializer_list<std::pair<const char*, const char*>>{{"à", "a"},
+                                                                    {"á", "a"},
+                                                                    {"ä", "a"},
+                                                                    {"é", "e"},
+                                                                    {"è", "e"},
+                                                                    {"ê", "e"},
+                                                                    {"É", "e"},
+                                                                    {"í", "i"},
+                                                                    {"ó", "o"},
+                                                                    {"ö", "o"},
+                                                                    {"ú", "u"},
+                                                                    {"ü", "u"},
+                                                                    {"ñ", "n"}}) {
+      Replace(term, accent, letter);
+    }
+    terms.push_back(FoldCase(std::regex_replace(term, std::regex("<[^>]*>"), "")));
+  }
+  EXPECT_GT(terms.size(), 20U);
+  EXPECT_TRUE(std::ranges::is_sorted(terms)) << testing::PrintToString(terms);
 }
 
 TEST_P(Help, ClosesWhatItOpens) {

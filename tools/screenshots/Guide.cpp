@@ -124,7 +124,10 @@ void TakeSchedule(Photographer& camera) {
   auto& editor = OnScreen<kvr5::frmPalinsesto>();
   editor.fraFile->DirDirectoryMp3->ImpostaPercorso(camera.Music());
   editor.fraFile->filMp3->setCurrentRow(2);
-  WaitFor([&] { return editor.picDettaglio->lblTotaleSpot->text().contains(QLatin1Char(':')); });
+  WaitFor([&] {
+    return editor.picDettaglio->lblTotaleSpot->text().contains(QLatin1Char(':')) &&
+           !editor.fraFileInfo->lblFreq->text().isEmpty();
+  });
   camera.Take("frmPalinsesto", QStringLiteral("editor-schedule"));
   editor.Scarica();
   LetEventsRun();

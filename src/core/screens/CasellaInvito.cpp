@@ -1,5 +1,6 @@
 #include "core/screens/CasellaInvito.h"
 
+#include <QPalette>
 #include <QStyleOptionComboBox>
 
 #include "core/screens/Tema.h"

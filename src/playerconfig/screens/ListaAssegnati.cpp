@@ -1,5 +1,6 @@
 #include "playerconfig/screens/ListaAssegnati.h"
 
+#include <QEvent>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QVBoxLayout>

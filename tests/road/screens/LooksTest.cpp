@@ -276,6 +276,18 @@ TEST_P(Looks, WhatIsDisabledSaysWhy) {
   EXPECT_THAT(FoundIn(GetParam()).Mute, testing::IsEmpty());
 }
 
+TEST(LooksWithoutALanguage, EveryButtonHasItsBuiltInWords) {
+  std::vector<std::string> blank;
+  test::GiroSchermi("Missing.lan").Percorri([&blank](const SchermoVisto& screen) {
+    for (const auto* each : screen.Finestra.findChildren<QAbstractButton*>()) {
+      const auto* button = dynamic_cast<const Coppia*>(each);
+      if (button == nullptr || button->Etichetta() == nullptr || !button->isVisible()) continue;
+      if (button->text().trimmed().isEmpty()) blank.push_back(screen.Nome + ": " + NameOf(*button));
+    }
+  });
+  EXPECT_THAT(blank, testing::IsEmpty());
+}
+
 INSTANTIATE_TEST_SUITE_P(Languages, Looks, testing::ValuesIn(test::FileDiLingua()),
                          test::NomeDiProva);
 

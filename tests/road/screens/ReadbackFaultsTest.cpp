@@ -1,4 +1,5 @@
 #include <QElapsedTimer>
+#include <QPointer>
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
@@ -80,10 +81,10 @@ class ReadbackFaults : public test::Guasti {
   /// Runs the reading with a look at each turn of the event loop.
   void ReadUnder(const std::function<void()>& look, const TakesBox& box = {}) {
     Clic("frmMain", "picCaricaDaDisco");
-    frmCaricaProgetto& list = List();
+    const QPointer<QWidget> list = &List();  // it goes when the project is open
     QTimer watch;
     QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
-      if (!list.isEnabled()) look();
+      if (list && !list->isEnabled()) look();
     });
     watch.start(0);
     Again(box);
