@@ -30,11 +30,15 @@ void ModelloRiscontri::Localizza() {
   titoli_ = {Qs(TestoLinguaO(contesto_, "0130298", "Finding")),
              Qs(TestoLinguaO(contesto_, "0130299", "File")),
              Qs(TestoLinguaO(contesto_, "0130300", "What to do"))};
+  difetti_.clear();
+  rimedi_.clear();
+  propri_.clear();
   emit headerDataChanged(Qt::Horizontal, 0, Colonne - 1);
 }
 
 void ModelloRiscontri::Svuota() {
   beginResetModel();
+  propri_.clear();
   righe_.clear();
   mancanti_.clear();
   endResetModel();
@@ -62,6 +66,21 @@ int ModelloRiscontri::columnCount(const QModelIndex& padre) const {
   return padre.isValid() ? 0 : static_cast<int>(Colonne);
 }
 
+QString ModelloRiscontri::ParoleDi(Difetto tipo) const {
+  QString& words = difetti_[static_cast<int>(tipo)];
+  if (words.isEmpty()) words = Qs(DifettoInParole(contesto_, tipo));
+  return words;
+}
+
+QString ModelloRiscontri::RimedioDi(const Riscontro& riga) const {
+  const bool own = riga.Perche != Mancanza::Nessuna;
+  QString& words =
+      own ? propri_[QString::number(static_cast<int>(riga.Perche)) + Qs(riga.DelProgetto)]
+          : rimedi_[static_cast<int>(riga.Tipo)];
+  if (words.isEmpty()) words = Qs(RimedioInParole(contesto_, riga));
+  return words;
+}
+
 QVariant ModelloRiscontri::data(const QModelIndex& indice, int ruolo) const {
   if (!indice.isValid()) return {};
   const Riscontro& row = righe_.at(static_cast<std::size_t>(indice.row()));
@@ -70,8 +89,8 @@ QVariant ModelloRiscontri::data(const QModelIndex& indice, int ruolo) const {
   }
   if (ruolo != Qt::DisplayRole && ruolo != Qt::ToolTipRole) return {};
   QString text = indice.column() == File  ? Qs(SuUnaRiga(row.File))
-                 : indice.column() == Che ? Qs(DifettoInParole(contesto_, row.Tipo))
-                                          : Qs(RimedioInParole(contesto_, row));
+                 : indice.column() == Che ? ParoleDi(row.Tipo)
+                                          : RimedioDi(row);
   return ruolo == Qt::ToolTipRole ? Suggerimento(text) : text;
 }
 

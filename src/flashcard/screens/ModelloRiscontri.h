@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QHash>
 #include <QStringList>
 #include <set>
 #include <string>
@@ -30,11 +31,16 @@ class ModelloRiscontri : public QAbstractTableModel {
 
  private:
   bool SiSa(const Riscontro& riscontro) const;
+  QString ParoleDi(Difetto tipo) const;
+  QString RimedioDi(const Riscontro& riga) const;
 
   Contesto& contesto_;
   std::vector<Riscontro> righe_;
   std::set<std::string> mancanti_;  ///< their names, without regard to case
   QStringList titoli_;
+  // Words that were read once: a list of thousands asks for the same again and again.
+  mutable QHash<int, QString> difetti_, rimedi_;
+  mutable QHash<QString, QString> propri_;  ///< remedies that name a file of the project
 };
 
 }  // namespace kvr5

@@ -1,10 +1,10 @@
 #include "flashcard/screens/frmVerifica.h"
 
-#include <QHash>
 #include <QHeaderView>
 #include <QShowEvent>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <utility>
 
 #include "core/Lingua.h"
 #include "core/Parole.h"
@@ -62,13 +62,15 @@ void frmVerifica::Costruisci() {
   VestiTabella(*grdRiscontri, kRow);
   grdRiscontri->setWordWrap(true);
   auto* header = grdRiscontri->horizontalHeader();
-  header->setSectionResizeMode(ModelloRiscontri::Che, QHeaderView::ResizeToContents);
   header->resizeSection(ModelloRiscontri::File, 180);
   header->setSectionResizeMode(ModelloRiscontri::Rimedio, QHeaderView::Stretch);
   connect(header, &QHeaderView::sectionResized, this, [this](int column) {
-    if (column == ModelloRiscontri::Rimedio) adatta_.start(0);
+    if (column != ModelloRiscontri::Rimedio) return;
+    daCapo_ = true;  // the words break elsewhere
+    adatta_.start(0);
   });
   connect(&modello_, &QAbstractItemModel::rowsInserted, this, [this] { adatta_.start(0); });
+  connect(&modello_, &QAbstractItemModel::modelReset, this, [this] { adattate_ = 0; });
   adatta_.setSingleShot(true);
   connect(&adatta_, &QTimer::timeout, this, [this] { AdattaRighe(); });
   page->addWidget(grdRiscontri, 1);
@@ -82,16 +84,39 @@ void frmVerifica::Costruisci() {
 }
 
 void frmVerifica::AdattaRighe() {
-  // Thousands of rows have a dozen remedies between them: each is measured once.
-  QHash<QString, int> heights;
-  for (int row = 0; row < modello_.rowCount(); ++row) {
-    const QString remedy = modello_.index(row, ModelloRiscontri::Rimedio).data().toString();
-    int& height = heights[remedy];
-    if (height == 0) {
-      grdRiscontri->resizeRowToContents(row);
-      height = std::max(kRow, grdRiscontri->rowHeight(row));
+  // Thousands of rows have a dozen findings and remedies between them: each is measured once, and a
+  // row that stands right already isn't looked at again.
+  if (std::exchange(daCapo_, false)) {
+    altezze_.clear();
+    adattate_ = 0;
+  }
+  for (; adattate_ < modello_.rowCount(); ++adattate_) {
+    MostraIntera(adattate_);
+    const int height = AltezzaDi(adattate_);
+    if (grdRiscontri->rowHeight(adattate_) != height) {
+      grdRiscontri->setRowHeight(adattate_, height);
     }
-    grdRiscontri->setRowHeight(row, height);
+  }
+}
+
+int frmVerifica::AltezzaDi(int riga) {
+  const QString remedy = modello_.index(riga, ModelloRiscontri::Rimedio).data().toString();
+  if (!altezze_.contains(remedy)) {
+    grdRiscontri->resizeRowToContents(riga);
+    altezze_.insert(remedy, std::max(kRow, grdRiscontri->rowHeight(riga)));
+  }
+  return altezze_.value(remedy);
+}
+
+void frmVerifica::MostraIntera(int riga) {
+  constexpr int kBeside = 64;  // pixels that a finding's sign and the edges of its cell take
+  const QString finding = modello_.index(riga, ModelloRiscontri::Che).data().toString();
+  if (misurati_.contains(finding)) return;
+  misurati_.insert(finding);
+  auto* header = grdRiscontri->horizontalHeader();
+  const int needed = grdRiscontri->fontMetrics().horizontalAdvance(finding) + kBeside;
+  if (needed > header->sectionSize(ModelloRiscontri::Che)) {
+    header->resizeSection(ModelloRiscontri::Che, needed);
   }
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QHash>
 #include <QLabel>
+#include <QSet>
 #include <QTableView>
 #include <QTimer>
 #include <functional>
@@ -57,12 +59,20 @@ class frmVerifica : public Form, private OsservatoreVerifica {
   void Trovato(const Riscontro& riscontro) override;
   bool Presente() override { return SchedaPresente(); }
   void ScriviStato(const CopyState& stato);
-  /// Gives each row the height that its remedy needs.
+  /// Gives each new row the height that its remedy needs.
   void AdattaRighe();
+  /// Makes the column of the findings wide enough for that of a row.
+  void MostraIntera(int riga);
+  /// The height that a row needs for its remedy, pixels.
+  int AltezzaDi(int riga);
 
   ModelloRiscontri modello_;
   QTimer adatta_;
-  QElapsedTimer scritto_;  ///< since the state was written last
+  int adattate_ = 0;             ///< rows that stand right
+  bool daCapo_ = false;          ///< they have another width now
+  QHash<QString, int> altezze_;  ///< of rows with this remedy, pixels
+  QSet<QString> misurati_;       ///< findings that the column has room for
+  QElapsedTimer scritto_;        ///< since the state was written last
   std::string quanto_, ferma_, chiudi_;
   bool lavora_ = false;
   bool fermata_ = false;

@@ -93,6 +93,16 @@ void FindCutLists(const SchermoVisto& screen, std::vector<std::string>& found) {
   }
 }
 
+/// The same of a cell, with the sign that may stand before it.
+int WidestWord(const QTableView& table, int row, int column) {
+  const QModelIndex cell = table.model()->index(row, column);
+  int widest = 0;
+  for (const QString& word : cell.data().toString().split(QLatin1Char(' '))) {
+    widest = std::max(widest, table.fontMetrics().horizontalAdvance(word));
+  }
+  return widest + (cell.data(Qt::DecorationRole).isNull() ? 0 : table.iconSize().width());
+}
+
 /// The titles of columns, and the rows of tables whose words go on in further lines.
 void FindCutCells(const SchermoVisto& screen, std::vector<std::string>& found) {
   for (const QTableView* table : screen.Finestra.findChildren<QTableView*>()) {
@@ -102,6 +112,13 @@ void FindCutCells(const SchermoVisto& screen, std::vector<std::string>& found) {
       if (titles->isSectionHidden(column)) continue;
       if (titles->sectionSize(column) >= titles->sectionSizeHint(column)) continue;
       found.push_back(screen.Nome + ": " + NameOf(*table) + ", title " + std::to_string(column));
+    }
+    for (int row = 0; table->wordWrap() && row < table->model()->rowCount(); ++row) {
+      for (int column = 0; column < table->model()->columnCount(); ++column) {
+        if (WidestWord(*table, row, column) <= table->columnWidth(column)) continue;
+        found.push_back(screen.Nome + ": " + NameOf(*table) + ", a word of row " +
+                        std::to_string(row) + ", column " + std::to_string(column));
+      }
     }
     const QAbstractItemView* rows = table;
     for (int row = 0; table->wordWrap() && row < table->model()->rowCount(); ++row) {
