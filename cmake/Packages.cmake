@@ -90,12 +90,6 @@ add_custom_target(packed_papers ALL DEPENDS ${packed})
 kvr5_install_program(. portable OPTIONS EXCLUDE_FROM_ALL)
 install(FILES "${extras}/README.txt" "${extras}/qt.conf" DESTINATION .
   COMPONENT portable EXCLUDE_FROM_ALL)
-# Settings of somebody who unpacks or installs over a folder that was used stay.
-install(CODE "set(settings \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/KVR5Software.ini\")
-if(NOT EXISTS \"\${settings}\")
-  file(WRITE \"\${settings}\" \"[Config]\\r\\n\")
-endif()"
-  COMPONENT portable EXCLUDE_FROM_ALL)
 install(CODE "set(PROGRAM \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}\")
 set(EXECUTABLES \"$<TARGET_FILE:KVR5Software>\" \"$<TARGET_FILE:kvr5card>\")
 set(PLUGINS \"${QT6_INSTALL_PREFIX}/${QT6_INSTALL_PLUGINS}\")"

@@ -168,8 +168,9 @@ TEST_F(NamedLists, ARemovalTakesTheTracksToo) {
   editor.ScegliVoce(0);
   b.Finestre.Rispondi(Risposta::No);
   RimuoviPlaylist(editor);
-  EXPECT_EQ(b.Finestre.Prossimo().Testo,
-            "Remove the list now shown with its tracks, labelled 'A'?");
+  const auto question = b.Finestre.Prossimo();
+  EXPECT_EQ(question.Testo, "Remove the list now shown with its tracks, labelled 'A'?");
+  EXPECT_TRUE(question.Toglie);
   EXPECT_EQ(Entries().size(), 2U);
   b.Finestre.Rispondi(Risposta::Si);
   RimuoviPlaylist(editor);

@@ -36,7 +36,7 @@ Risposta DialoghiFinti::MostraMessaggio(const Messaggio& messaggio) {
 
 std::uint8_t DialoghiFinti::MostraSiNo(const BoxSiNo& box) {
   Vedi({box.Titolo, box.Nota, true, box.SoloOk.has_value(), box.SoloOk.value_or(""), Icona::Nessuna,
-        box.ColoreNota.value_or(0)});
+        box.ColoreNota.value_or(0), box.Toglie});
   if (box.SoloOk) return 1;
   const Risposta answer = Risposta_(box.Titolo);
   if (answer == Risposta::Annulla) return 0;

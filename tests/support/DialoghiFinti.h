@@ -20,6 +20,7 @@ struct BoxVisto {
   std::string TestoOk;  ///< caption of frmSiNo's only button
   Icona Segno = Icona::Nessuna;
   std::uint32_t Colore = 0;
+  bool Toglie = false;  ///< frmSiNo whose keyboard begins on no
 };
 
 /// A folder chooser that the logic opened.

@@ -7,10 +7,18 @@
 
 namespace kvr5 {
 
+CasellaInvito::CasellaInvito(QWidget* padre) : QComboBox(padre) {
+  connect(this, &QComboBox::currentTextChanged, this, [this] { Descrivi(); });
+}
+
 void CasellaInvito::ImpostaInvito(const QString& parole) {
   invito_ = parole;
-  setAccessibleDescription(parole);
+  Descrivi();
   update();
+}
+
+void CasellaInvito::Descrivi() {
+  setAccessibleDescription(currentText().trimmed().isEmpty() ? invito_ : QString());
 }
 
 void CasellaInvito::initStyleOption(QStyleOptionComboBox* option) const {

@@ -8,7 +8,7 @@ namespace kvr5 {
 /// words are no text of the list: nobody reads them back.
 class CasellaInvito : public QComboBox {
  public:
-  using QComboBox::QComboBox;
+  explicit CasellaInvito(QWidget* padre);
   void ImpostaInvito(const QString& parole);
   QString Invito() const { return invito_; }
 
@@ -16,6 +16,9 @@ class CasellaInvito : public QComboBox {
   void initStyleOption(QStyleOptionComboBox* option) const override;
 
  private:
+  /// The words are heard while they are seen.
+  void Descrivi();
+
   QString invito_;
 };
 

@@ -58,11 +58,9 @@ class Hand {
   QHash<QChar, Coppia*> given_;
 };
 
-/// Who chooses before whom.
+/// Who chooses before whom. What a button looks like doesn't count: that changes with the state.
 int Rank(const Coppia* button) {
-  if (button->property(kPrimaLettera).toBool()) return 0;
-  const auto kind = button->GenereOra();
-  return kind == Coppia::Genere::Primario || kind == Coppia::Genere::CartaPrimaria ? 1 : 2;
+  return button->property(kPrimaLettera).toBool() ? 0 : 1;
 }
 
 QList<Coppia*> ButtonsOf(const QWidget& window) {

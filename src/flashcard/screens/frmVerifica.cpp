@@ -1,7 +1,9 @@
 #include "flashcard/screens/frmVerifica.h"
 
+#include <QAbstractItemDelegate>
 #include <QHeaderView>
 #include <QShowEvent>
+#include <QStyleOptionViewItem>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
@@ -100,12 +102,18 @@ void frmVerifica::AdattaRighe() {
 }
 
 int frmVerifica::AltezzaDi(int riga) {
-  const QString remedy = modello_.index(riga, ModelloRiscontri::Rimedio).data().toString();
-  if (!altezze_.contains(remedy)) {
-    grdRiscontri->resizeRowToContents(riga);
-    altezze_.insert(remedy, std::max(kRow, grdRiscontri->rowHeight(riga)));
+  const QModelIndex cell = modello_.index(riga, ModelloRiscontri::Rimedio);
+  int& height = altezze_[cell.data().toString()];
+  if (height == 0) {
+    // Of the remedy alone: a long name of a file may end in "…".
+    QStyleOptionViewItem option;
+    option.initFrom(grdRiscontri);
+    option.rect = QRect(0, 0, grdRiscontri->columnWidth(ModelloRiscontri::Rimedio), 1 << 16);
+    option.features = QStyleOptionViewItem::WrapText;
+    option.decorationSize = grdRiscontri->iconSize();
+    height = std::max(kRow, grdRiscontri->itemDelegate()->sizeHint(option, cell).height());
   }
-  return altezze_.value(remedy);
+  return height;
 }
 
 void frmVerifica::MostraIntera(int riga) {

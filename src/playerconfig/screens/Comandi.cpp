@@ -5,6 +5,7 @@
 
 #include "core/Lingua.h"
 #include "core/Parole.h"
+#include "core/screens/Mnemonici.h"
 #include "core/screens/Pagina.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
@@ -38,6 +39,7 @@ Comandi::Comandi(Contesto& contesto, QWidget* padre) : QWidget(padre), contesto_
   picSave = pair("picSave", "lblSave", "Save", "salva", 38);
   picVerifica = pair("picVerifica", "lblVerifica", "Verify", "verifica", -1);
   picRecordFlash = pair("picRecordFlash", "lblRecordFlash", "WriteFlash", "registra", 39);
+  picRecordFlash->setProperty(kPrimaLettera, true);
   picRecordFlash->ImpostaGenere(Coppia::Genere::Primario);
   progetto_ = GroupOf(
       {picEsci, picReport, picPlaylist, picPalinsesto, picAltro, picCancellaFlash, nullptr});

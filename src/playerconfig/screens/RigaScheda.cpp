@@ -102,7 +102,7 @@ void RigaScheda::SpiegaPercorso() {
   // A letter says nothing where the system itself has none: its own path follows.
   const std::string& root = contesto_.Stato.PercorsoMemoryCard;
   QString tip = cmdScegli->toolTip();
-  if (!root.empty()) tip = Qs(contesto_.Files.HostPath(root)) + '\n' + tip;
+  if (!root.empty()) tip = Suggerimento(Qs(contesto_.Files.HostPath(root)) + '\n' + tip);
   lblPathMemoryCard->setToolTip(tip);
   segno_->setToolTip(tip);
 }

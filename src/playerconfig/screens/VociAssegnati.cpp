@@ -16,7 +16,8 @@ constexpr int kGap = 14;      // pixels between two columns
 constexpr int kName = 110;    // pixels that the name of a file has beside a column of inputs
 constexpr int kLine = 28;     // height of a row
 constexpr int kSecond = 20;   // what a second line adds to it
-constexpr int kMark = 18;     // what a line of a mark adds to it
+constexpr int kMark = 4;      // what a mark adds to it besides its own lines
+constexpr int kAround = kPadding + kSignWidth + kPadding + kPadding;  // beside the words of a row
 
 /// A column of the row's first line, cut from the left of what is left of it.
 QRect Cut(QRect& rest, int width) {
@@ -51,22 +52,21 @@ void VociAssegnati::Misura(const QListWidget& elenco) {
 }
 
 bool VociAssegnati::InColonne() const {
-  constexpr int kAround = kPadding + kSignWidth + kPadding + kPadding;
   return larghezza_ - kAround - codici_ - kGap >= 2 * kName;
 }
 
 bool VociAssegnati::AdattaA(int larghezza) {
-  const bool before = InColonne();
-  larghezza_ = larghezza;
-  return InColonne() != before;
+  return std::exchange(larghezza_, larghezza) != larghezza;
 }
 
 QSize VociAssegnati::sizeHint(const QStyleOptionViewItem& /*opzione*/,
                               const QModelIndex& voce) const {
-  const bool columns = InColonne();
-  const int lines = columns ? kLine : kLine + kSecond;
-  if (voce.data(Segno).toString().isEmpty()) return {0, lines};
-  return {0, lines + (columns ? kMark : 2 * kMark)};
+  const int lines = InColonne() ? kLine : kLine + kSecond;
+  const QString mark = voce.data(Segno).toString();
+  if (mark.isEmpty()) return {0, lines};
+  const QRect room(0, 0, std::max(1, larghezza_ - kAround), 1 << 16);
+  const QFontMetrics metrics(FontDi(Carattere::Suggerimento));
+  return {0, lines + metrics.boundingRect(room, Qt::TextWordWrap, mark).height() + kMark};
 }
 
 /// Writes code, inputs and file, and gives what is left for the mark.
@@ -86,7 +86,7 @@ QRect VociAssegnati::Scrivi(QPainter& pittore, QRect riga, const QModelIndex& vo
           Qt::ElideMiddle);
     used += kSecond;
   }
-  return riga.adjusted(0, used - 6, 0, -4);
+  return riga.adjusted(0, used - kMark, 0, 0);
 }
 
 void VociAssegnati::paint(QPainter* pittore, const QStyleOptionViewItem& opzione,
@@ -104,7 +104,7 @@ void VociAssegnati::paint(QPainter* pittore, const QStyleOptionViewItem& opzione
   const QRect below =
       Scrivi(*pittore, row.adjusted(kPadding + kSignWidth + kPadding, 0, -kPadding, 0), voce);
   pittore->setFont(FontDi(Carattere::Suggerimento));
-  pittore->drawText(below, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap,
+  pittore->drawText(below, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
                     voce.data(Segno).toString());
   pittore->restore();
 }

@@ -18,7 +18,7 @@ class VociAssegnati : public QStyledItemDelegate {
 
   /// Makes the columns as wide as the rows of the list need; to be called when they are new.
   void Misura(const QListWidget& elenco);
-  /// Has the rows fit into so many pixels; true when that changes how they are laid out.
+  /// Has the rows fit into so many pixels; true when those are others than before.
   bool AdattaA(int larghezza);
 
   QSize sizeHint(const QStyleOptionViewItem& opzione, const QModelIndex& voce) const override;

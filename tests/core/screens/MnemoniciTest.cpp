@@ -55,13 +55,16 @@ TEST_F(Letters, AreTheFirstOnesOfTheWordsWhereTheyAreFree) {
                                 "Erase card its second word's";
 }
 
-TEST_F(Letters, AreChosenFirstByTheButtonThatSavesThenByThePrimaryOne) {
+TEST_F(Letters, AreChosenFirstByTheButtonThatSavesAndStayWhatIsFilled) {
   Button(QStringLiteral("Set"));
   Button(QStringLiteral("Open"));
   Button(QStringLiteral("Save"))->setProperty(kPrimaLettera, true);
-  Button(QStringLiteral("OK"))->ImpostaGenere(Coppia::Genere::Primario);
+  Coppia* last = Button(QStringLiteral("OK"));
   Show();
-  EXPECT_EQ(Given(), "EPSO");
+  EXPECT_EQ(Given(), "EOSK");
+  last->ImpostaGenere(Coppia::Genere::Primario);
+  AssegnaMnemonici(window);
+  EXPECT_EQ(Given(), "EOSK");
 }
 
 TEST_F(Letters, LeaveTheFieldThatWasBeingFilled) {

@@ -36,6 +36,18 @@ TEST_F(SiNo, YesIsOneAndNoIsTwo) {
   EXPECT_EQ(b.C.Stato.RispostaSiNo, 2);
 }
 
+TEST_F(SiNo, AQuestionThatTakesAwayHasTheKeyboardOnNoAndAPlainOneOnYes) {
+  const auto space = [](frmSiNo& box) { Tasto(box, Qt::Key_Space); };
+  EXPECT_EQ(Chiedi(space), 1);
+  const Pilota<frmSiNo> pilot([&](frmSiNo& box) {
+    EXPECT_TRUE(Pronta(box));
+    EXPECT_EQ(box.cmdSi->GenereOra(), Coppia::Genere::Pericolo);
+    EXPECT_EQ(box.cmdNo->GenereOra(), Coppia::Genere::Primario);
+    space(box);
+  });
+  EXPECT_EQ(b.C.Finestre.MostraSiNo({"Title", "Remove?", {}, {}, true}), 2);
+}
+
 TEST_F(SiNo, LabelsAndPicturesAnswerAsTheirButtons) {
   EXPECT_EQ(Chiedi([](frmSiNo& box) { Clicca(box, "lblYes"); }), 1);
   EXPECT_EQ(Chiedi([](frmSiNo& box) { Clicca(box, "picSi"); }), 1);

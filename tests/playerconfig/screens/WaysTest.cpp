@@ -6,6 +6,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include "core/screens/Mnemonici.h"
 #include "playerconfig/screens/BancoHub.h"
 
 // The ways from the hub to the screens of parameters and to the editor of playlists.
@@ -82,6 +83,24 @@ TEST_F(Ways, OfEmptyPlaylistsStandOutBeforeTheCardUntilThereIsATrack) {
   Apri();
   EXPECT_TRUE(QTest::qWaitFor([&] { return SiVede("lblMancanti"); })) << "all is counted";
   EXPECT_EQ(Filled(), "picRecordFlash");
+}
+
+TEST_F(Ways, KeepTheirLettersWhicheverButtonIsFilled) {
+  Progetto(4, 1);
+  Apri();
+  const auto letters = [this] {
+    AssegnaMnemonici(*hub);
+    QString all;
+    for (const char* name : {"picSave", "picRecordFlash", "picReport", "picCancellaFlash"}) {
+      all += dynamic_cast<Coppia&>(Trova<QAbstractButton>(name)).Mnemonico();
+    }
+    return all;
+  };
+  const QString saved = letters();
+  EXPECT_TRUE(saved.startsWith(QLatin1String("SR"))) << saved.toStdString();
+  Trova<QSlider>("sliBass").setValue(3);
+  ASSERT_EQ(Filled(), "picSave");
+  EXPECT_EQ(letters(), saved);
 }
 
 TEST_F(Ways, AreOpenToTheKeyboard) {

@@ -250,10 +250,12 @@ TEST_F(ElencoDeiProgetti, WithoutAMatchTheSelectionStaysAndTheFieldSaysSo) {
   EXPECT_EQ(Scelto(), "museum");
   EXPECT_EQ(colour(), Tema::Corrente().Errore);
   EXPECT_EQ(form.txtCerca->accessibleDescription(), "No project of this name");
+  EXPECT_TRUE(form.txtCerca->SenzaEsito()) << "a sign";
   Riscrivi(*form.txtCerca, "");
   EXPECT_EQ(Scelto(), "museum");
   EXPECT_EQ(colour(), Tema::Corrente().Testo);
   EXPECT_EQ(form.txtCerca->accessibleDescription(), "");
+  EXPECT_FALSE(form.txtCerca->SenzaEsito());
 }
 
 TEST_F(ElencoDeiProgetti, ShownAfterAnUnloadItReadsTheFolderAfresh) {

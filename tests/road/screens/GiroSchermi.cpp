@@ -95,6 +95,7 @@ void GiroSchermi::Percorri(const Guarda& guarda) {
   NegliAltriPalinsesti();
   NegliHub();
   NellHubInUso();
+  NellHubColCollegamento();
   NellHubConScheda();
   NelleDissolvenze();
   NegliExtra();
@@ -262,6 +263,7 @@ void GiroSchermi::Domanda(const std::string& nome, const BoxSiNo& box) {
 void GiroSchermi::NelleDomande() {
   Domanda("frmSiNo", {Testo("0040027"), Testo("0040026"), {}, {}});
   constexpr std::uint32_t kOrange = 33023;
+  Domanda("frmSiNo, removes", {Testo("0050024"), Testo("0050025"), {}, {}, true});
   Domanda("frmSiNo, a notice",
           {Testo("0070009"), Testo("0070019") + ":\r\ngong.mp3", Testo("0140022"), kOrange});
   Domanda("frmSiNo, long", {Testo("0040027"), LongestText(), {}, {}});
@@ -340,6 +342,23 @@ void GiroSchermi::NellHubInUso() {
   hub->fraIngressiLogici->chkIn[2]->click();
   ASSERT_TRUE(hub->fraIngressiLogici->cmdVaiAlFile->isVisible());
   Vedi(*hub, "frmPlayerConfig with a file elsewhere");
+}
+
+void GiroSchermi::NellHubColCollegamento() {
+  Progetto("Linked", 4, 1);
+  {
+    TabellaIngressi inputs(b.C);
+    inputs.Apri();
+    inputs.Assegna(1, "welcome.mp3", b.Percorso("music") + "\\");
+    inputs.Assegna(16, "welcome.mp3", b.Percorso("music") + "\\");
+  }
+  b.Cartella.Write("program/Projects/Linked/Config.cfg", "[Config]\r\nUse485=1\r\n");
+  const auto hub = Hub();
+  const auto* row = hub->Assegnazioni->lstAssegnati->item(1);
+  ASSERT_NE(row, nullptr);
+  ASSERT_NE(row->text().indexOf(QLatin1Char(',')), -1) << "marked for two reasons";
+  Vedi(*hub, "frmPlayerConfig with a link");
+  b.C.Stato.Usa485 = false;
 }
 
 void GiroSchermi::NellHubConScheda() {

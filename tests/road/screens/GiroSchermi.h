@@ -75,6 +75,7 @@ class GiroSchermi {
   void NegliAltriPalinsesti();
   void NegliHub();
   void NellHubInUso();
+  void NellHubColCollegamento();
   void NellHubConScheda();
   void NelleDissolvenze();
   void NegliExtra();

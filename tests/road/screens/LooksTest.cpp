@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyleOptionComboBox>
@@ -19,7 +20,9 @@
 
 #include "core/screens/Coppia.h"
 #include "core/screens/EtichettaElisa.h"
+#include "core/screens/Tema.h"
 #include "house/SourceTree.h"
+#include "playerconfig/screens/VociAssegnati.h"
 #include "road/screens/GiroSchermi.h"
 #include "support/Lingue.h"
 
@@ -128,7 +131,26 @@ void FindCutCells(const SchermoVisto& screen, std::vector<std::string>& found) {
   }
 }
 
+/// The marks of the rows of assignments, which a delegate draws.
+void FindCutMarks(const SchermoVisto& screen, std::vector<std::string>& found) {
+  const auto* list = screen.Finestra.findChild<QListWidget*>(QStringLiteral("lstAssegnati"));
+  if (list == nullptr || !list->isVisible()) return;
+  constexpr int kBeside = 46;  // the sign, and the edges
+  const QFontMetrics metrics(FontDi(Carattere::Suggerimento));
+  for (int row = 0; row < list->count(); ++row) {
+    const QRect place = list->visualItemRect(list->item(row));
+    const QString mark = list->item(row)->data(VociAssegnati::Segno).toString();
+    const QRect room(0, 0, place.width() - kBeside, 1 << 16);
+    const int lacks =
+        metrics.boundingRect(room, Qt::TextWordWrap, mark).height() + 28 - place.height();
+    if (mark.isEmpty() || lacks <= 0) continue;
+    found.push_back(screen.Nome + ": mark \"" + mark.toStdString() + "\" lacks " +
+                    std::to_string(lacks));
+  }
+}
+
 void FindCut(const SchermoVisto& screen, std::vector<std::string>& found) {
+  FindCutMarks(screen, found);
   FindCutIn<QLabel>(screen, found);
   FindCutIn<QAbstractButton>(screen, found);
   FindCutLists(screen, found);
