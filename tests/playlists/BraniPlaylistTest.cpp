@@ -184,7 +184,9 @@ TEST_F(Tracks, ThePlaylistIsEmptiedAfterAYes) {
   Five();
   b.Finestre.Rispondi(Risposta::No);
   RimuoviTuttiFile(editor);
-  EXPECT_EQ(b.Finestre.Prossimo().Titolo, "Empty the playlist");
+  const auto question = b.Finestre.Prossimo();
+  EXPECT_EQ(question.Titolo, "Empty the playlist");
+  EXPECT_TRUE(question.Toglie) << "the keyboard begins on no";
   EXPECT_EQ(Griglia().size(), 5U);
   b.Finestre.Rispondi(Risposta::Si);
   RimuoviTuttiFile(editor);

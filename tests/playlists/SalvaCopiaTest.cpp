@@ -49,6 +49,7 @@ TEST_F(FilesBroughtIn, AreAskedForInTheseWords) {
   EXPECT_EQ(box.Titolo, TestoLingua(b.C, "0050019"));
   EXPECT_EQ(box.Testo, TestoLingua(b.C, "0050020") + "\r\n" + TestoLingua(b.C, "0050023"));
   EXPECT_TRUE(box.SiNo);
+  EXPECT_FALSE(box.Toglie) << "the keyboard begins on yes";
   EXPECT_FALSE(box.SoloOk);
 }
 

@@ -92,6 +92,7 @@ TEST_F(SaveStepByStep, AsksInTheseWordsWhileTheWindowIsAway) {
   EXPECT_EQ(box.Titolo, Parola("0140035"));
   EXPECT_EQ(box.Testo, Parola("0140036") + "\r\n" + Parola("0140037"));
   EXPECT_TRUE(box.SiNo);
+  EXPECT_FALSE(box.Toglie) << "the keyboard begins on yes";
   EXPECT_FALSE(box.SoloOk);
 }
 

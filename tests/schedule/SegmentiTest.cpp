@@ -164,6 +164,7 @@ TEST_F(RemovedSegments, AreAskedAboutInTheseWords) {
   EXPECT_EQ(box.Testo, Parola("0140019") + " 09.00?");
   EXPECT_TRUE(box.SiNo);
   EXPECT_FALSE(box.SoloOk);
+  EXPECT_TRUE(box.Toglie) << "the keyboard begins on no";
 }
 
 TEST_F(RemovedSegments, TakeTheirSpotsAlongAndTheNextOneIsSelected) {

@@ -149,7 +149,7 @@ void Form::SuTasto(const QKeySequence& tasto, std::function<void()> azione) {
 }
 
 void Form::SuSalva(QAbstractButton& pulsante) {
-  pulsante.setProperty(kPrimaLettera, true);
+  ImpostaTurno(pulsante, TurnoLettera::SalvaERegistra);
   SuTasto(QKeySequence::Save, [&pulsante] {
     pulsante.setFocus(Qt::ShortcutFocusReason);
     pulsante.click();

@@ -27,8 +27,16 @@ QList<QChar> Offered(const QString& text) {
   return initials + others;
 }
 
+constexpr const char* kTurn = "turnoLettera";
+
+/// What a button looks like doesn't count: that changes with the state.
+TurnoLettera TurnOf(const Coppia* button) {
+  const QVariant turn = button->property(kTurn);
+  return turn.isValid() ? static_cast<TurnoLettera>(turn.toInt()) : TurnoLettera::Sempre;
+}
+
 /// Hands out letters so that as many buttons as can be have one: a button that finds all of its own
-/// taken has another one move to a letter that is free.
+/// taken has another one of its turn move to a letter that is free.
 class Hand {
  public:
   void Give(Coppia& button) {
@@ -48,6 +56,7 @@ class Hand {
     for (const QChar letter : letters) {
       if (tried.contains(letter)) continue;
       tried.insert(letter);
+      if (TurnOf(given_.value(letter)) < TurnOf(&button)) continue;  // that one keeps it
       if (!Place(*given_.value(letter), tried)) continue;
       given_.insert(letter, &button);
       return true;
@@ -58,11 +67,6 @@ class Hand {
   QHash<QChar, Coppia*> given_;
 };
 
-/// Who chooses before whom. What a button looks like doesn't count: that changes with the state.
-int Rank(const Coppia* button) {
-  return button->property(kPrimaLettera).toBool() ? 0 : 1;
-}
-
 QList<Coppia*> ButtonsOf(const QWidget& window) {
   QList<Coppia*> buttons;
   for (auto* each : window.findChildren<QAbstractButton*>()) {
@@ -70,7 +74,7 @@ QList<Coppia*> ButtonsOf(const QWidget& window) {
     if (button == nullptr || button->Etichetta() == nullptr) continue;
     if (button->window() == &window && button->isVisible()) buttons.append(button);
   }
-  std::ranges::stable_sort(buttons, {}, Rank);
+  std::ranges::stable_sort(buttons, {}, TurnOf);
   return buttons;
 }
 
@@ -104,6 +108,10 @@ class Listener : public QObject {
 };
 
 }  // namespace
+
+void ImpostaTurno(QAbstractButton& pulsante, TurnoLettera turno) {
+  pulsante.setProperty(kTurn, static_cast<int>(turno));
+}
 
 void AssegnaMnemonici(QWidget& finestra) {
   Hand hand;

@@ -108,9 +108,10 @@ int frmVerifica::AltezzaDi(int riga) {
     // Of the remedy alone: a long name of a file may end in "…".
     QStyleOptionViewItem option;
     option.initFrom(grdRiscontri);
+    option.widget = grdRiscontri;
+    option.font = grdRiscontri->font();
     option.rect = QRect(0, 0, grdRiscontri->columnWidth(ModelloRiscontri::Rimedio), 1 << 16);
     option.features = QStyleOptionViewItem::WrapText;
-    option.decorationSize = grdRiscontri->iconSize();
     height = std::max(kRow, grdRiscontri->itemDelegate()->sizeHint(option, cell).height());
   }
   return height;

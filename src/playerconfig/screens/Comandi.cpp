@@ -39,7 +39,7 @@ Comandi::Comandi(Contesto& contesto, QWidget* padre) : QWidget(padre), contesto_
   picSave = pair("picSave", "lblSave", "Save", "salva", 38);
   picVerifica = pair("picVerifica", "lblVerifica", "Verify", "verifica", -1);
   picRecordFlash = pair("picRecordFlash", "lblRecordFlash", "WriteFlash", "registra", 39);
-  picRecordFlash->setProperty(kPrimaLettera, true);
+  ImpostaTurno(*picRecordFlash, TurnoLettera::SalvaERegistra);
   picRecordFlash->ImpostaGenere(Coppia::Genere::Primario);
   progetto_ = GroupOf(
       {picEsci, picReport, picPlaylist, picPalinsesto, picAltro, picCancellaFlash, nullptr});

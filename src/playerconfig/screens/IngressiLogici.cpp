@@ -13,6 +13,7 @@
 #include "core/screens/Avvisi.h"
 #include "core/screens/EtichettaElisa.h"
 #include "core/screens/LocalizzaForm.h"
+#include "core/screens/Mnemonici.h"
 #include "core/screens/Pagina.h"
 #include "core/screens/Posto.h"
 #include "core/screens/PulsanteAscolto.h"
@@ -76,6 +77,7 @@ QWidget* IngressiLogici::CostruisciAssociato() {
   cmdMp3Preview_Play = new Coppia("cmdMp3Preview_Play", "lblPreview", QStringLiteral("Preview"),
                                   "ascolta", 36, fraFileAssociato);
   cmdMp3Preview_Stop = new Coppia("cmdMp3Preview_Stop", "", {}, "ferma", -1, fraFileAssociato);
+  ImpostaTurno(*cmdMp3Preview_Play, TurnoLettera::VieneEVa);
   lblPreview = cmdMp3Preview_Play->Etichetta();
   cmdVaiAlFile = new Coppia("cmdVaiAlFile", "", {}, "cartella", -1, fraFileAssociato);
   cmdVaiAlFile->hide();

@@ -13,6 +13,7 @@
 #include "core/ParoleCopia.h"
 #include "core/screens/EtichettaElisa.h"
 #include "core/screens/LocalizzaForm.h"
+#include "core/screens/Mnemonici.h"
 #include "core/screens/Pagina.h"
 #include "core/screens/Posto.h"
 #include "core/screens/SenzaRotella.h"
@@ -84,6 +85,7 @@ void PaneMp3::Costruisci() {
   // The numeral comes and goes with the button that it leads to; a removal is no step.
   numero_ = NumeroDiPasso(3, {}, this);
   cmdOkFileMp3->installEventFilter(this);
+  ImpostaTurno(*cmdOkFileMp3, TurnoLettera::VieneEVa);
   // The time of a double click is that between two presses.
   connect(cmdOkFileMp3, &QAbstractButton::pressed, this, [this] { pressioneSospesa_ = Sospeso(); });
   for (QWidget* each : {static_cast<QWidget*>(cmdOkFileMp3), static_cast<QWidget*>(numero_)}) {

@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 
 #include "core/screens/Icona.h"
+#include "core/screens/Mnemonici.h"
 #include "core/screens/Pagina.h"
 #include "core/screens/Testo.h"
 #include "playerconfig/ParoleConto.h"
@@ -52,6 +53,7 @@ QString PictureOf(std::int16_t playerType) {
 Coppia* NuovoTrova(const char* nome, const char* etichetta, QWidget* padre) {
   auto* button = new Coppia(nome, etichetta, QStringLiteral("Find"), "cerca", -1, padre);
   button->ImpostaGenere(Coppia::Genere::Quieto);
+  ImpostaTurno(*button, TurnoLettera::VieneEVa);
   button->hide();
   return button;
 }

@@ -42,7 +42,7 @@ QColor InkOf(const QStyleOptionViewItem& item, const QModelIndex& row) {
 }  // namespace
 
 void VociAssegnati::Misura(const QListWidget& elenco) {
-  const QFontMetrics metrics(FontDi(Carattere::Corpo));
+  const QFontMetrics metrics(FontDi(Carattere::Corpo), &elenco);
   codici_ = ingressi_ = 0;
   for (int row = 0; row < elenco.count(); ++row) {
     const QListWidgetItem& item = *elenco.item(row);
@@ -59,13 +59,12 @@ bool VociAssegnati::AdattaA(int larghezza) {
   return std::exchange(larghezza_, larghezza) != larghezza;
 }
 
-QSize VociAssegnati::sizeHint(const QStyleOptionViewItem& /*opzione*/,
-                              const QModelIndex& voce) const {
+QSize VociAssegnati::sizeHint(const QStyleOptionViewItem& opzione, const QModelIndex& voce) const {
   const int lines = InColonne() ? kLine : kLine + kSecond;
   const QString mark = voce.data(Segno).toString();
   if (mark.isEmpty()) return {0, lines};
   const QRect room(0, 0, std::max(1, larghezza_ - kAround), 1 << 16);
-  const QFontMetrics metrics(FontDi(Carattere::Suggerimento));
+  const QFontMetrics metrics(FontDi(Carattere::Suggerimento), opzione.widget);
   return {0, lines + metrics.boundingRect(room, Qt::TextWordWrap, mark).height() + kMark};
 }
 

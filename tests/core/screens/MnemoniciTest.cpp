@@ -58,13 +58,29 @@ TEST_F(Letters, AreTheFirstOnesOfTheWordsWhereTheyAreFree) {
 TEST_F(Letters, AreChosenFirstByTheButtonThatSavesAndStayWhatIsFilled) {
   Button(QStringLiteral("Set"));
   Button(QStringLiteral("Open"));
-  Button(QStringLiteral("Save"))->setProperty(kPrimaLettera, true);
+  ImpostaTurno(*Button(QStringLiteral("Save")), TurnoLettera::SalvaERegistra);
   Coppia* last = Button(QStringLiteral("OK"));
   Show();
   EXPECT_EQ(Given(), "EOSK");
   last->ImpostaGenere(Coppia::Genere::Primario);
   AssegnaMnemonici(window);
   EXPECT_EQ(Given(), "EOSK");
+}
+
+TEST_F(Letters, StayWhenAButtonComesThatIsNotThereAtAllTimes) {
+  Button(QStringLiteral("Report"));
+  Coppia* find = Button(QStringLiteral("Erp"));
+  ImpostaTurno(*find, TurnoLettera::VieneEVa);
+  find->hide();
+  Button(QStringLiteral("Erase"));
+  Show();
+  EXPECT_EQ(Given(), "R-E");
+  find->show();
+  AssegnaMnemonici(window);
+  EXPECT_EQ(Given(), "RPE");
+  find->ImpostaScritta(QStringLiteral("Er"));
+  AssegnaMnemonici(window);
+  EXPECT_EQ(Given(), "R-E") << "it has none before another one moves";
 }
 
 TEST_F(Letters, LeaveTheFieldThatWasBeingFilled) {

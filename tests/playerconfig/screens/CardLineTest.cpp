@@ -53,11 +53,18 @@ TEST_F(CardLine, TellsWhereTheCardLiesInTheSystemsOwnWords) {
   servizi.Scheda = Card();
   Open("E:\\");
   const auto tip = [this] { return Trova<QWidget>("lblPathMemoryCard").toolTip().toStdString(); };
-  EXPECT_NE(tip().find("/media/anna/SHOP"), std::string::npos) << tip();
-  EXPECT_NE(tip().find("Choose the memory card."), std::string::npos) << tip();
+  EXPECT_TRUE(tip().starts_with("/media/anna/SHOP\nChoose the memory card.")) << tip();
   b.C.Stato.PercorsoMemoryCard.clear();
   hub->AggiornaPercorsoMemoryCard();
   EXPECT_TRUE(tip().starts_with("Choose the memory card.")) << tip();
+}
+
+TEST_F(CardLine, ShowsAPathThatLooksLikeMarkupAsItIs) {
+  b.Percorsi.Bind('E', "/media/<b>SHOP");
+  servizi.Scheda = Card();
+  Open("E:\\");
+  const auto tip = Trova<QWidget>("lblPathMemoryCard").toolTip().toStdString();
+  EXPECT_TRUE(tip.starts_with("/media/&lt;b&gt;SHOP<br>Choose")) << tip;
 }
 
 TEST_F(CardLine, ACardThatIsLockedOrGoneSaysSo) {

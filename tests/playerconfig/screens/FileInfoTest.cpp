@@ -101,7 +101,9 @@ TEST_F(FileInfo, TheListOfFilesSaysWhatToPickOrThatThereIsNone) {
   ScegliFile(" ");
   EXPECT_NE(hub->fraFileName->cmbFileMp3->grab().toImage(), none) << "the words are seen";
   EXPECT_EQ(list.currentText(), " ") << "they are no text of the list";
+  EXPECT_EQ(list.accessibleDescription(), list.Invito());
   ScegliFile("a.mp3");
+  EXPECT_EQ(list.accessibleDescription(), "") << "heard only while they are seen";
   EXPECT_EQ(list.currentText(), "a.mp3");
 }
 

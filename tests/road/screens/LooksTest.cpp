@@ -10,6 +10,7 @@
 #include <QListWidget>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStandardItemModel>
 #include <QStyleOptionComboBox>
 #include <QTableView>
 #include <map>
@@ -21,6 +22,7 @@
 #include "core/screens/Coppia.h"
 #include "core/screens/EtichettaElisa.h"
 #include "core/screens/Tema.h"
+#include "flashcard/screens/ModelloRiscontri.h"
 #include "house/SourceTree.h"
 #include "playerconfig/screens/VociAssegnati.h"
 #include "road/screens/GiroSchermi.h"
@@ -103,7 +105,22 @@ int WidestWord(const QTableView& table, int row, int column) {
   for (const QString& word : cell.data().toString().split(QLatin1Char(' '))) {
     widest = std::max(widest, table.fontMetrics().horizontalAdvance(word));
   }
-  return widest + (cell.data(Qt::DecorationRole).isNull() ? 0 : table.iconSize().width());
+  const QStyle& style = *table.style();
+  const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &table) + 1;
+  const int sign = style.pixelMetric(QStyle::PM_SmallIconSize, nullptr, &table) + 2 * margin;
+  return widest + 2 * margin + (cell.data(Qt::DecorationRole).isNull() ? 0 : sign);
+}
+
+/// How high a cell is with all its words; a name of a file, of any length, may end in "…".
+int HeightOf(const QTableView& table, int row, int column) {
+  if (column == ModelloRiscontri::File) return 0;
+  QStyleOptionViewItem option;
+  option.initFrom(&table);
+  option.widget = &table;
+  option.font = table.font();
+  option.rect = QRect(0, 0, table.columnWidth(column), 1 << 16);
+  option.features = QStyleOptionViewItem::WrapText;
+  return table.itemDelegate()->sizeHint(option, table.model()->index(row, column)).height();
 }
 
 /// The titles of columns, and the rows of tables whose words go on in further lines.
@@ -123,10 +140,11 @@ void FindCutCells(const SchermoVisto& screen, std::vector<std::string>& found) {
                         std::to_string(row) + ", column " + std::to_string(column));
       }
     }
-    const QAbstractItemView* rows = table;
     for (int row = 0; table->wordWrap() && row < table->model()->rowCount(); ++row) {
-      if (rows->sizeHintForRow(row) <= table->rowHeight(row)) continue;
-      found.push_back(screen.Nome + ": " + NameOf(*table) + ", row " + std::to_string(row));
+      for (int column = 0; column < table->model()->columnCount(); ++column) {
+        if (HeightOf(*table, row, column) <= table->rowHeight(row)) continue;
+        found.push_back(screen.Nome + ": " + NameOf(*table) + ", row " + std::to_string(row));
+      }
     }
   }
 }
@@ -136,13 +154,15 @@ void FindCutMarks(const SchermoVisto& screen, std::vector<std::string>& found) {
   const auto* list = screen.Finestra.findChild<QListWidget*>(QStringLiteral("lstAssegnati"));
   if (list == nullptr || !list->isVisible()) return;
   constexpr int kBeside = 46;  // the sign, and the edges
-  const QFontMetrics metrics(FontDi(Carattere::Suggerimento));
+  const QFontMetrics metrics(FontDi(Carattere::Suggerimento), list);
+  const QStandardItemModel unmarked(1, 1);
+  const int words = list->itemDelegate()->sizeHint({}, unmarked.index(0, 0)).height();
   for (int row = 0; row < list->count(); ++row) {
     const QRect place = list->visualItemRect(list->item(row));
     const QString mark = list->item(row)->data(VociAssegnati::Segno).toString();
     const QRect room(0, 0, place.width() - kBeside, 1 << 16);
     const int lacks =
-        metrics.boundingRect(room, Qt::TextWordWrap, mark).height() + 28 - place.height();
+        metrics.boundingRect(room, Qt::TextWordWrap, mark).height() + words - place.height();
     if (mark.isEmpty() || lacks <= 0) continue;
     found.push_back(screen.Nome + ": mark \"" + mark.toStdString() + "\" lacks " +
                     std::to_string(lacks));
