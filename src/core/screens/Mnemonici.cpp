@@ -1,13 +1,15 @@
 #include "core/screens/Mnemonici.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QEvent>
 #include <QKeyEvent>
-#include <QLabel>
+#include <QRadioButton>
 #include <QSet>
 #include <algorithm>
 
 #include "core/screens/Coppia.h"
+#include "core/screens/PortaLettera.h"
 
 namespace kvr5 {
 namespace {
@@ -30,57 +32,63 @@ QList<QChar> Offered(const QString& text) {
 constexpr const char* kTurn = "turnoLettera";
 
 /// What a button looks like doesn't count: that changes with the state.
-TurnoLettera TurnOf(const Coppia* button) {
-  const QVariant turn = button->property(kTurn);
-  return turn.isValid() ? static_cast<TurnoLettera>(turn.toInt()) : TurnoLettera::Sempre;
+TurnoLettera TurnOf(const QWidget* control) {
+  const QVariant turn = control->property(kTurn);
+  if (turn.isValid()) return static_cast<TurnoLettera>(turn.toInt());
+  return dynamic_cast<const Coppia*>(control) == nullptr ? TurnoLettera::Scelte
+                                                         : TurnoLettera::Sempre;
 }
 
-/// Hands out letters so that as many buttons as can be have one: a button that finds all of its own
+/// Hands out letters so that as many controls as can be have one: one that finds all of its own
 /// taken has another one of its turn move to a letter that is free.
 class Hand {
  public:
-  void Give(Coppia& button) {
+  void Give(QWidget& control) {
     QSet<QChar> tried;
-    Place(button, tried);
+    Place(control, tried);
   }
-  const QHash<QChar, Coppia*>& Given() const { return given_; }
+  const QHash<QChar, QWidget*>& Given() const { return given_; }
 
  private:
-  bool Place(Coppia& button, QSet<QChar>& tried) {
-    const auto letters = Offered(button.text());
+  bool Place(QWidget& control, QSet<QChar>& tried) {
+    const auto letters = Offered(ParoleDi(control));
     for (const QChar letter : letters) {
       if (given_.contains(letter)) continue;
-      given_.insert(letter, &button);
+      given_.insert(letter, &control);
       return true;
     }
     for (const QChar letter : letters) {
       if (tried.contains(letter)) continue;
       tried.insert(letter);
-      if (TurnOf(given_.value(letter)) < TurnOf(&button)) continue;  // that one keeps it
+      if (TurnOf(given_.value(letter)) < TurnOf(&control)) continue;  // that one keeps it
       if (!Place(*given_.value(letter), tried)) continue;
-      given_.insert(letter, &button);
+      given_.insert(letter, &control);
       return true;
     }
     return false;
   }
 
-  QHash<QChar, Coppia*> given_;
+  QHash<QChar, QWidget*> given_;
 };
 
-QList<Coppia*> ButtonsOf(const QWidget& window) {
-  QList<Coppia*> buttons;
-  for (auto* each : window.findChildren<QAbstractButton*>()) {
-    auto* button = dynamic_cast<Coppia*>(each);
-    if (button == nullptr || button->Etichetta() == nullptr) continue;
-    if (button->window() == &window && button->isVisible()) buttons.append(button);
+QList<QWidget*> ControlsOf(const QWidget& window) {
+  QList<QWidget*> controls;
+  for (auto* each : window.findChildren<QWidget*>()) {
+    if (each->window() == &window && each->isVisible() && PortaLettera(*each)) controls += each;
   }
-  std::ranges::stable_sort(buttons, {}, TurnOf);
-  return buttons;
+  std::ranges::stable_sort(controls, {}, TurnOf);
+  return controls;
 }
 
-void Show(const QWidget* window, bool shown) {
-  if (window == nullptr) return;
-  for (Coppia* button : ButtonsOf(*window)) button->MostraMnemonico(shown);
+/// Also of those that are hidden since Alt went down.
+void Hide(const QWidget& window) {
+  for (auto* each : window.findChildren<QWidget*>()) {
+    if (PortaLettera(*each)) SottolineaLettera(*each, false);
+  }
+}
+
+void Show(const QWidget& window) {
+  for (QWidget* control : ControlsOf(window)) SottolineaLettera(*control, true);
 }
 
 class Listener : public QObject {
@@ -99,11 +107,13 @@ class Listener : public QObject {
     QWidget* window = widget.window();
     const bool key = event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease;
     const bool alt = key && static_cast<const QKeyEvent&>(event).key() == Qt::Key_Alt;
-    if (event.type() == QEvent::WindowActivate || (alt && event.type() == QEvent::KeyPress)) {
-      AssegnaMnemonici(*window);
-    }
-    if (alt) Show(window, event.type() == QEvent::KeyPress);
-    if (event.type() == QEvent::WindowDeactivate) Show(window, false);
+    const bool held = alt && event.type() == QEvent::KeyPress;
+    if (event.type() == QEvent::WindowActivate || held) AssegnaMnemonici(*window);
+    if (held) Show(*window);
+    if ((alt && !held) || event.type() == QEvent::WindowDeactivate) Hide(*window);
+    // The letter of an option leaves the field that was being filled, as a click does.
+    const bool option = qobject_cast<QRadioButton*>(&widget) || qobject_cast<QCheckBox*>(&widget);
+    if (event.type() == QEvent::Shortcut && option) widget.setFocus(Qt::ShortcutFocusReason);
   }
 };
 
@@ -114,12 +124,13 @@ void ImpostaTurno(QAbstractButton& pulsante, TurnoLettera turno) {
 }
 
 void AssegnaMnemonici(QWidget& finestra) {
+  Hide(finestra);
   Hand hand;
-  const auto buttons = ButtonsOf(finestra);
-  for (Coppia* button : buttons) hand.Give(*button);
-  for (Coppia* button : buttons) button->ImpostaMnemonico({});
+  const auto controls = ControlsOf(finestra);
+  for (QWidget* control : controls) hand.Give(*control);
+  for (QWidget* control : controls) DaiLettera(*control, {});
   for (auto each = hand.Given().begin(); each != hand.Given().end(); ++each) {
-    each.value()->ImpostaMnemonico(each.key());
+    DaiLettera(*each.value(), each.key());
   }
 }
 

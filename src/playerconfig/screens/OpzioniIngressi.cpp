@@ -88,6 +88,7 @@ void OpzioniIngressi::CostruisciTpcm() {
   line->addWidget(
       NuovaStriscia(optTPCM_Off, optTPCM_On, "optTPCM_Off", "OFF", 4, "optTPCM_On", "ON", 3));
   fraTPCM = NuovaRiga("fraTPCM", "lblTPCM_Descrizione", "Tempo persistenza", 11, choices);
+  fraTPCM->findChild<QLabel*>(QStringLiteral("lblTPCM_Descrizione"))->setBuddy(lstTPCM);
 }
 
 void OpzioniIngressi::CostruisciAltre() {

@@ -1,16 +1,20 @@
 #include <gtest/gtest.h>
 
+#include <QCheckBox>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRadioButton>
 #include <QTest>
 #include <QVBoxLayout>
 
 #include "core/screens/Coppia.h"
 #include "core/screens/Mnemonici.h"
+#include "core/screens/PortaLettera.h"
+#include "core/screens/Segmento.h"
 #include "support/screens/Mano.h"
 
-// The letters that press the buttons together with Alt.
+// The letters that lead to controls together with Alt.
 
 namespace kvr5 {
 namespace {
@@ -146,6 +150,62 @@ TEST_F(Letters, AreUnderlinedWhileAltIsHeld) {
   EXPECT_NE(button->grab().toImage(), plain);
   QTest::keyRelease(&window, Qt::Key_Alt);
   EXPECT_EQ(button->grab().toImage(), plain);
+}
+
+TEST_F(Letters, LeadToTheFieldOfALabel) {
+  auto* name = new QLabel(QStringLiteral("Project name"), &window);
+  auto* field = new QLineEdit(&window);
+  name->setBuddy(field);
+  window.layout()->addWidget(name);
+  window.layout()->addWidget(field);
+  Coppia* button = Button(QStringLiteral("Play"));
+  Show();
+  button->setFocus();
+  EXPECT_EQ(LetteraDi(*name), QLatin1Char('N')) << "the buttons choose first";
+  QTest::keyPress(&window, Qt::Key_Alt);
+  QTest::keyClick(&window, Qt::Key_N, Qt::AltModifier);
+  EXPECT_TRUE(field->hasFocus());
+  QTest::keyRelease(&window, Qt::Key_Alt);
+  EXPECT_EQ(name->text(), "Project name");
+}
+
+TEST_F(Letters, ChooseAnOptionAndLeaveTheFieldThatWasBeingFilled) {
+  auto* field = new QLineEdit(&window);
+  auto* option = new QRadioButton(QStringLiteral("Bed && breakfast"), &window);
+  QObject::connect(field, &QLineEdit::editingFinished, &window, [this] { pressed += "left "; });
+  QObject::connect(option, &QAbstractButton::clicked, &window, [this] { pressed += "chosen"; });
+  Show();
+  field->setFocus();
+  QTest::keyClicks(field, QStringLiteral("5"));
+  QTest::keyPress(field, Qt::Key_Alt);
+  EXPECT_EQ(option->text(), "&Bed && breakfast");
+  QTest::keyClick(field, Qt::Key_B, Qt::AltModifier);
+  QTest::keyRelease(option, Qt::Key_Alt);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return pressed.endsWith(QStringLiteral("chosen")); }));
+  EXPECT_EQ(pressed, "left chosen");
+  EXPECT_TRUE(option->isChecked());
+  EXPECT_EQ(option->text(), "Bed && breakfast");
+}
+
+TEST_F(Letters, OfAnOptionAreTakenAwayAlsoWhereItWasHiddenOrSpeaksAnotherLanguageNow) {
+  auto* hidden = new QCheckBox(QStringLiteral("Bridge"), &window);
+  auto* other = new QCheckBox(QStringLiteral("Save"), &window);
+  Show();
+  QTest::keyPress(&window, Qt::Key_Alt);
+  hidden->hide();
+  other->setText(QStringLiteral("Salvare"));
+  QTest::keyRelease(&window, Qt::Key_Alt);
+  EXPECT_EQ(hidden->text(), "Bridge");
+  EXPECT_EQ(other->text(), "Salvare");
+  QTest::keyPress(&window, Qt::Key_Alt);
+  EXPECT_EQ(other->text(), "&Salvare");
+  QTest::keyRelease(&window, Qt::Key_Alt);
+}
+
+TEST_F(Letters, AreNoneForTheSegmentsOfAStrip) {
+  const Segmento segment("optOff", QStringLiteral("Off"), -1, &window);
+  Show();
+  EXPECT_FALSE(PortaLettera(segment)) << "that many strips have one";
 }
 
 }  // namespace

@@ -12,7 +12,10 @@
 #include <vector>
 
 #include "core/screens/Coppia.h"
+#include "core/screens/EtichettaElisa.h"
 #include "core/screens/Mnemonici.h"
+#include "core/screens/PortaLettera.h"
+#include "core/screens/Segmento.h"
 #include "road/screens/GiroSchermi.h"
 #include "support/Lingue.h"
 #include "support/screens/Mano.h"
@@ -150,17 +153,30 @@ void FindScattered(const SchermoVisto& screen, std::vector<std::string>& found) 
   }
 }
 
-/// Buttons with words but without a letter for Alt, and letters that two have.
+/// What has words and is to be reached by Alt: the buttons, the options but for those of a strip,
+/// the labels of fields.
+bool ShouldHaveALetter(const QWidget& control) {
+  if (const auto* button = dynamic_cast<const Coppia*>(&control)) return button->Etichetta();
+  if (const auto* option = qobject_cast<const QAbstractButton*>(&control)) {
+    return dynamic_cast<const Segmento*>(option) == nullptr && !option->text().isEmpty();
+  }
+  const auto* label = qobject_cast<const QLabel*>(&control);
+  if (label == nullptr || label->text().isEmpty()) return false;
+  const QWidget* field = label->buddy();
+  return field != nullptr && qobject_cast<const QAbstractButton*>(field) == nullptr &&
+         dynamic_cast<const EtichettaElisa*>(label) == nullptr;
+}
+
+/// Controls without a letter for Alt, and letters that two have.
 void FindKeyless(const SchermoVisto& screen, std::vector<std::string>& found) {
   std::map<QChar, std::string> taken;
-  for (const auto* each : screen.Finestra.findChildren<QAbstractButton*>()) {
-    const auto* button = dynamic_cast<const Coppia*>(each);
-    if (button == nullptr || button->Etichetta() == nullptr || !button->isVisible()) continue;
-    const std::string name = button->objectName().toStdString();
-    const QChar letter = button->Mnemonico();
-    const bool own = !letter.isNull() && button->text().toUpper().contains(letter);
-    if (!own)
-      found.push_back(screen.Nome + ": " + name + " \"" + button->text().toStdString() + "\"");
+  for (const auto* control : screen.Finestra.findChildren<QWidget*>()) {
+    if (!control->isVisible() || !ShouldHaveALetter(*control)) continue;
+    const std::string name = control->objectName().toStdString();
+    const QChar letter = LetteraDi(*control);
+    const QString words = ParoleDi(*control);
+    const bool own = !letter.isNull() && words.toUpper().contains(letter);
+    if (!own) found.push_back(screen.Nome + ": " + name + " \"" + words.toStdString() + "\"");
     const auto [other, first] = taken.emplace(letter, name);
     if (own && !first) found.push_back(screen.Nome + ": " + name + " and " + other->second);
   }
@@ -191,7 +207,7 @@ TEST_P(Keyboard, TabGoesThroughEachWindowAsOneReadsIt) {
   EXPECT_THAT(KeyFaultsIn(GetParam()).Astray, testing::IsEmpty());
 }
 
-TEST_P(Keyboard, PressesEachButtonByALetterOfItsOwn) {
+TEST_P(Keyboard, LeadsToEachControlByALetterOfItsOwn) {
   EXPECT_THAT(KeyFaultsIn(GetParam()).Keyless, testing::IsEmpty());
 }
 
