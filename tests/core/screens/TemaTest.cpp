@@ -1,9 +1,15 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QImage>
+#include <QLabel>
+#include <QPainter>
 #include <algorithm>
 #include <cmath>
 #include <vector>
 
+#include "core/screens/Coppia.h"
+#include "core/screens/Stile.h"
 #include "core/screens/Tema.h"
 
 // The colours of the two themes, by what stands on what.
@@ -78,6 +84,43 @@ TEST_P(Palette, TheNamesOfTerminalsCanBeRead) {
   const QColor strip = FondoMorsettiera(tema);
   ExpectContrast({{"name", Qt::black, strip}, {"ticked", QColor(0x00, 0x40, 0xA2), strip}}, kText);
   ExpectContrast({{"focus", Tema::Chiaro().Fuoco, strip}}, kSign);
+}
+
+/// What a button's words stand on, amid its surface.
+QColor GroundOf(const AspettoPulsante& look) {
+  constexpr int kSide = 36;
+  QImage image(kSide, kSide, QImage::Format_RGB32);
+  image.fill(Tema::Corrente().Finestra);
+  QPainter painter(&image);
+  DipingiPulsante(painter, image.rect(), look);
+  painter.end();
+  return image.pixelColor(kSide / 2, kSide / 2);
+}
+
+TEST_P(Palette, TheWordsOfAButtonCanBeReadHoveredAndPressedToo) {
+  const bool before = Tema::Corrente().Scuro;
+  ApplicaTema(*qApp, GetParam());
+  using Kind = Coppia::Genere;
+  Coppia button("pic", "lbl", QStringLiteral("Words"), "salva", -1);
+  for (const auto kind : {Kind::Normale, Kind::Primario, Kind::Quieto, Kind::Pericolo, Kind::Carta,
+                          Kind::CartaPrimaria}) {
+    button.ImpostaGenere(kind);
+    for (const bool enabled : {true, false}) {
+      button.setEnabled(enabled);
+      const QColor words = button.Etichetta()->palette().color(QPalette::WindowText);
+      const auto on = [&](bool hovered, bool pressed) {
+        return GroundOf(
+            {.Genere = kind, .Abilitato = enabled, .Sopra = hovered, .Premuto = pressed});
+      };
+      SCOPED_TRACE(testing::Message() << static_cast<int>(kind) << " enabled " << enabled);
+      ExpectContrast({{"at rest", words, on(false, false)},
+                      {"hovered", words, on(true, false)},
+                      {"pressed", words, on(true, true)}},
+                     kText);
+      EXPECT_EQ(on(true, true) != on(false, false), enabled) << "one sees that it is pressed";
+    }
+  }
+  ApplicaTema(*qApp, before);
 }
 
 TEST_P(Palette, ItsLinesAndRingsCanBeSeen) {

@@ -239,6 +239,18 @@ TEST_F(HubLayout, FadesLieWhereTheHiddenPlaylistLoopWouldBe) {
   EXPECT_LT(fade.y() - extra.geometry().bottom(), 15) << "no hole between them";
 }
 
+TEST_F(HubLayout, AProjectThatDoesntDescribeItselfShowsItsModel) {
+  Progetto(2, 1);
+  for (const char* description : {"", "  ", "of my own"}) {
+    SCOPED_TRACE(description);
+    b.C.Stato.PlayerConfigDesc = description;
+    Apri();
+    EXPECT_EQ(SiVede("lblModello"), std::string(description) != "of my own");
+    EXPECT_EQ(Testo("lblModello"), "Zub");
+    Chiudi();
+  }
+}
+
 TEST_F(HubLayout, TheModeIsToldFromTheDescription) {
   struct Case {
     const char* Description;
