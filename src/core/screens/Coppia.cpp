@@ -7,6 +7,7 @@
 
 #include "core/screens/Icona.h"
 #include "core/screens/LocalizzaForm.h"
+#include "core/screens/PortaLettera.h"
 #include "core/screens/Stile.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
@@ -143,7 +144,7 @@ void Coppia::Colora() {
 /// A line below the letter, where the label draws its text: in one line, from its left or centred.
 void Coppia::Sottolinea(QPainter& painter) const {
   const QString text = etichetta_->text();
-  const qsizetype at = text.toUpper().indexOf(mnemonico_);
+  const qsizetype at = PostoLettera(text, mnemonico_);
   const QFontMetrics metrics = etichetta_->fontMetrics();
   const QRect room = etichetta_->geometry();
   const QRect written = metrics.boundingRect(room, static_cast<int>(etichetta_->alignment()), text);

@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QEvent>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QRadioButton>
 #include <QSet>
 #include <algorithm>
@@ -14,13 +15,21 @@
 namespace kvr5 {
 namespace {
 
+bool IsNumbered(const QString& text) {
+  const bool prefix =
+      text.size() == 1 || (text.size() == 3 && text.startsWith(QLatin1String("IN")));
+  return prefix && text.back() >= QLatin1Char('1') && text.back() <= QLatin1Char('9');
+}
+
 /// The letters that a text offers, the best first: the beginnings of its words, then the others.
-/// A letter with an accent may be on no key.
+/// A letter with an accent may be on no key. A terminal, "IN1", offers its digit alone.
 QList<QChar> Offered(const QString& text) {
+  if (IsNumbered(text)) return {text.back()};
   QList<QChar> initials;
   QList<QChar> others;
   bool inside = false;
-  for (const QChar each : text.toUpper()) {
+  for (const QChar sign : text) {
+    const QChar each = sign.toUpper();
     if (each >= QLatin1Char('A') && each <= QLatin1Char('Z')) {
       (inside ? others : initials).append(each);
     }
@@ -80,15 +89,15 @@ QList<QWidget*> ControlsOf(const QWidget& window) {
   return controls;
 }
 
-/// Also of those that are hidden since Alt went down.
+void Show(const QWidget& window) {
+  for (QWidget* control : ControlsOf(window)) SottolineaLettera(*control, true);
+}
+
+/// Also of what was hidden since Alt went down.
 void Hide(const QWidget& window) {
   for (auto* each : window.findChildren<QWidget*>()) {
     if (PortaLettera(*each)) SottolineaLettera(*each, false);
   }
-}
-
-void Show(const QWidget& window) {
-  for (QWidget* control : ControlsOf(window)) SottolineaLettera(*control, true);
 }
 
 class Listener : public QObject {
@@ -103,18 +112,33 @@ class Listener : public QObject {
   }
 
  private:
-  static void Hear(QWidget& widget, const QEvent& event) {
-    QWidget* window = widget.window();
-    const bool key = event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease;
-    const bool alt = key && static_cast<const QKeyEvent&>(event).key() == Qt::Key_Alt;
-    const bool held = alt && event.type() == QEvent::KeyPress;
-    if (event.type() == QEvent::WindowActivate || held) AssegnaMnemonici(*window);
-    if (held) Show(*window);
-    if ((alt && !held) || event.type() == QEvent::WindowDeactivate) Hide(*window);
+  /// An event is heard once more at each parent of its receiver, and may come to a menu that has
+  /// opened since.
+  void Hear(QWidget& widget, const QEvent& event) {
+    if (event.type() == QEvent::WindowActivate && widget.isWindow()) AssegnaMnemonici(widget);
+    if (event.type() == QEvent::WindowDeactivate && &widget == shown_) Release();
+    if (IsAlt(event)) event.type() == QEvent::KeyPress ? Hold(*widget.window()) : Release();
     // The letter of an option leaves the field that was being filled, as a click does.
     const bool option = qobject_cast<QRadioButton*>(&widget) || qobject_cast<QCheckBox*>(&widget);
     if (event.type() == QEvent::Shortcut && option) widget.setFocus(Qt::ShortcutFocusReason);
   }
+  static bool IsAlt(const QEvent& event) {
+    if (event.type() != QEvent::KeyPress && event.type() != QEvent::KeyRelease) return false;
+    return static_cast<const QKeyEvent&>(event).key() == Qt::Key_Alt;
+  }
+  void Hold(QWidget& window) {
+    if (shown_ == &window) return;
+    Release();
+    shown_ = &window;
+    AssegnaMnemonici(window);
+    Show(window);
+  }
+  void Release() {
+    if (shown_ != nullptr) Hide(*shown_);
+    shown_ = nullptr;
+  }
+
+  QPointer<QWidget> shown_;  ///< the window whose letters are underlined
 };
 
 }  // namespace
@@ -124,7 +148,6 @@ void ImpostaTurno(QAbstractButton& pulsante, TurnoLettera turno) {
 }
 
 void AssegnaMnemonici(QWidget& finestra) {
-  Hide(finestra);
   Hand hand;
   const auto controls = ControlsOf(finestra);
   for (QWidget* control : controls) hand.Give(*control);

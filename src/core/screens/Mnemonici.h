@@ -6,10 +6,10 @@ class QWidget;
 
 namespace kvr5 {
 
-/// When a button chooses its letter. None has a button of an earlier turn move, so that those that
-/// save and record have the same letter on all screens, and the others whatever comes and goes.
-/// Options and the labels of fields come last.
-enum class TurnoLettera { SalvaERegistra, Sempre, VieneEVa, Scelte };
+/// When a control chooses its letter; it takes none from those that have chosen in an earlier turn.
+/// So what saves and records has the same letter on all screens, and no letter moves when another
+/// button comes or goes. Options and the labels of fields choose after the buttons that stay.
+enum class TurnoLettera { SalvaERegistra, Sempre, Scelte, VieneEVa };
 
 /// A button of which nothing is set is there at all times.
 void ImpostaTurno(QAbstractButton& pulsante, TurnoLettera turno);

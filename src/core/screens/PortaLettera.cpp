@@ -3,21 +3,20 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QVariant>
+#include <algorithm>
 
 #include "core/screens/Coppia.h"
 #include "core/screens/EtichettaElisa.h"
 #include "core/screens/Segmento.h"
+#include "core/screens/Testo.h"
 
 namespace kvr5 {
 namespace {
 
 constexpr const char* kLetter = "lettera";
-constexpr const char* kPlain = "testoSenzaLettera";  // there while the letter is underlined
-
-const Coppia* ButtonOf(const QWidget& control) {
-  return dynamic_cast<const Coppia*>(&control);
-}
+constexpr const char* kShown = "letteraMostrata";
 
 bool IsOption(const QWidget& control) {
   if (dynamic_cast<const Segmento*>(&control) != nullptr) return false;
@@ -25,29 +24,38 @@ bool IsOption(const QWidget& control) {
          qobject_cast<const QCheckBox*>(&control) != nullptr;
 }
 
-/// The label of a field; one that shortens its text draws no letter.
+/// The label of a field, or of a check box without words; one that shortens its text draws no
+/// letter.
 bool LeadsToField(const QWidget& control) {
   const auto* label = qobject_cast<const QLabel*>(&control);
   if (label == nullptr || label->buddy() == nullptr) return false;
-  return qobject_cast<const QAbstractButton*>(label->buddy()) == nullptr &&
-         dynamic_cast<const EtichettaElisa*>(label) == nullptr;
+  if (dynamic_cast<const EtichettaElisa*>(label) != nullptr) return false;
+  const auto* button = qobject_cast<const QAbstractButton*>(label->buddy());
+  return button == nullptr || qobject_cast<const QCheckBox*>(button) != nullptr;
 }
 
-void Write(QWidget& control, const QString& text) {
-  if (auto* label = qobject_cast<QLabel*>(&control)) label->setText(text);
-  if (auto* option = qobject_cast<QAbstractButton*>(&control)) option->setText(text);
+void LeadTo(QWidget* field) {
+  if (field == nullptr || !field->isEnabled()) return;
+  field->setFocus(Qt::ShortcutFocusReason);
+  if (auto* box = qobject_cast<QCheckBox*>(field)) box->click();
 }
 
-/// The text with the toolkit's mark before the letter, which underlines it and has it work.
-QString Marked(QString text, QChar letter) {
-  const qsizetype at = text.indexOf(letter, 0, Qt::CaseInsensitive);
-  return at < 0 ? text : text.insert(at, QLatin1Char('&'));
+QKeySequence KeyOf(QChar letter) {
+  return letter.isNull() ? QKeySequence() : QKeySequence(Qt::ALT | Qt::Key(letter.unicode()));
+}
+
+/// The label's own key; the toolkit has one only for a label whose text is marked.
+QShortcut& KeyOf(QLabel& label) {
+  if (auto* known = label.findChild<QShortcut*>()) return *known;
+  auto* key = new QShortcut(&label);
+  QObject::connect(key, &QShortcut::activated, &label, [&label] { LeadTo(label.buddy()); });
+  return *key;
 }
 
 }  // namespace
 
 bool PortaLettera(const QWidget& controllo) {
-  if (const Coppia* button = ButtonOf(controllo)) return button->Etichetta() != nullptr;
+  if (const auto* button = dynamic_cast<const Coppia*>(&controllo)) return button->Etichetta();
   return (IsOption(controllo) || LeadsToField(controllo)) && !ParoleDi(controllo).isEmpty();
 }
 
@@ -56,31 +64,38 @@ QString ParoleDi(const QWidget& controllo) {
   return static_cast<const QAbstractButton&>(controllo).text();
 }
 
+qsizetype PostoLettera(const QString& testo, QChar lettera) {
+  const auto* at = std::ranges::find(testo, lettera, [](QChar each) { return each.toUpper(); });
+  return lettera.isNull() || at == testo.end() ? -1 : at - testo.begin();
+}
+
 QChar LetteraDi(const QWidget& controllo) {
-  const Coppia* button = ButtonOf(controllo);
+  const auto* button = dynamic_cast<const Coppia*>(&controllo);
   return button != nullptr ? button->Mnemonico() : controllo.property(kLetter).toChar();
 }
 
 void DaiLettera(QWidget& controllo, QChar lettera) {
   if (auto* button = dynamic_cast<Coppia*>(&controllo)) return button->ImpostaMnemonico(lettera);
   controllo.setProperty(kLetter, lettera);
+  if (auto* option = qobject_cast<QAbstractButton*>(&controllo))
+    option->setShortcut(KeyOf(lettera));
+  if (auto* label = qobject_cast<QLabel*>(&controllo)) KeyOf(*label).setKey(KeyOf(lettera));
 }
 
 void SottolineaLettera(QWidget& controllo, bool mostra) {
   if (auto* button = dynamic_cast<Coppia*>(&controllo)) return button->MostraMnemonico(mostra);
-  const QVariant plain = controllo.property(kPlain);
-  if (mostra == plain.isValid()) return;
-  if (mostra) {
-    const QString words = ParoleDi(controllo);
-    controllo.setProperty(kPlain, words);
-    Write(controllo, Marked(words, LetteraDi(controllo)));
-    return;
-  }
-  // What was written meanwhile, in another language, stays.
-  if (ParoleDi(controllo) == Marked(plain.toString(), LetteraDi(controllo))) {
-    Write(controllo, plain.toString());
-  }
-  controllo.setProperty(kPlain, {});
+  if (controllo.property(kShown).toBool() == mostra) return;
+  controllo.setProperty(kShown, mostra);
+  controllo.update();
+}
+
+QString TestoSottolineato(const QWidget& controllo, const QString& testo) {
+  if (!controllo.property(kShown).toBool()) return testo;
+  // An option's text has the toolkit's marks already, a label's is drawn as it stands.
+  const bool marked = qobject_cast<const QAbstractButton*>(&controllo) != nullptr;
+  QString shown = marked ? testo : SenzaMnemonico(testo);
+  const qsizetype at = PostoLettera(shown, LetteraDi(controllo));
+  return at < 0 ? shown : shown.insert(at, QLatin1Char('&'));
 }
 
 }  // namespace kvr5

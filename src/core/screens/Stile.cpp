@@ -5,6 +5,7 @@
 #include <QStyleOption>
 
 #include "core/screens/Icona.h"
+#include "core/screens/PortaLettera.h"
 #include "core/screens/Tema.h"
 
 namespace kvr5 {
@@ -289,6 +290,14 @@ QRect Stile::subControlRect(ComplexControl control, const QStyleOptionComplex* o
   if (control == CC_ComboBox && part == SC_ComboBoxEditField) return rect.adjusted(6, 0, 0, 0);
   if (control == CC_ComboBox && part == SC_ComboBoxArrow) return rect.adjusted(-6, 0, -6, 0);
   return rect;
+}
+
+void Stile::drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette,
+                         bool enabled, const QString& text, QPalette::ColorRole role) const {
+  const auto* control = dynamic_cast<const QWidget*>(painter->device());
+  const QString shown = control == nullptr ? text : TestoSottolineato(*control, text);
+  const int marks = shown == text ? 0 : Qt::TextShowMnemonic;
+  QProxyStyle::drawItemText(painter, rect, flags | marks, palette, enabled, shown, role);
 }
 
 void Stile::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

@@ -41,6 +41,9 @@ class Stile : public QProxyStyle {
                        const QWidget* widget) const override;
   QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
                        const QWidget* widget) const override;
+  /// Words of an option or a label with the letter underlined that is to be pressed with Alt.
+  void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette,
+                    bool enabled, const QString& text, QPalette::ColorRole role) const override;
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

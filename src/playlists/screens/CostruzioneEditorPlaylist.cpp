@@ -5,6 +5,7 @@
 
 #include "core/screens/EtichettaElisa.h"
 #include "core/screens/LocalizzaForm.h"
+#include "core/screens/Mnemonici.h"
 #include "core/screens/Pagina.h"
 #include "core/screens/Posto.h"
 #include "core/screens/Tema.h"
@@ -111,6 +112,7 @@ QWidget* frmPlaylistEditor::CostruisciFrecce(QWidget* corpo) {
     return new Coppia(cmd, lbl, QLatin1String(caption), icon, tag, arrows);
   };
   cmdAggiungiFile = button("cmdAggiungiFile", "lblAggiungiFile", "Add", "aggiungi", 32);
+  ImpostaTurno(*cmdAggiungiFile, TurnoLettera::VieneEVa);
   cmdAggiungiTuttiFiles =
       button("cmdAggiungiTuttiFiles", "lblAggiungiTuttiFiles", "Add all", "aggiungi-tutti", 36);
   cmdRimuoviFile = button("cmdRimuoviFile", "lblRimuoviFile", "Remove", "rimuovi", 42);

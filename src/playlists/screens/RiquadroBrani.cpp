@@ -9,6 +9,7 @@
 #include "core/Lingua.h"
 #include "core/screens/EtichettaElisa.h"
 #include "core/screens/FileTrascinati.h"
+#include "core/screens/Mnemonici.h"
 #include "core/screens/Pagina.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"
@@ -65,6 +66,7 @@ RiquadroBrani::RiquadroBrani(Contesto& contesto, ModelloBrani& modello, QWidget*
 void RiquadroBrani::CostruisciAvvisi() {
   lblCopie = new EtichettaAvviso("lblCopie", {}, Carattere::Suggerimento, this);
   picNomiCopie = new Coppia("picNomiCopie", "lblNomiCopie", {}, "duplica", -1, this);
+  ImpostaTurno(*picNomiCopie, TurnoLettera::VieneEVa);
   lblDoppi = new EtichettaAvviso("lblDoppi", {}, Carattere::Suggerimento, this);
   lblEsito = new EtichettaAvviso("lblEsito", {}, Carattere::Suggerimento, this);
   for (EtichettaAvviso* each : {lblCopie, lblDoppi, lblEsito}) {

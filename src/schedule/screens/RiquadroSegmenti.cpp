@@ -2,6 +2,7 @@
 
 #include <QVBoxLayout>
 
+#include "core/screens/Mnemonici.h"
 #include "core/Lingua.h"
 #include "core/screens/Pagina.h"
 #include "core/screens/Tema.h"
@@ -22,6 +23,7 @@ RiquadroSegmenti::RiquadroSegmenti(Contesto& contesto, ModelloSegmenti& modello,
   picNomiCopie = new Coppia("picNomiCopie", "lblNomiCopie", {}, "duplica", -1, this);
   picCopiaRipetuti = new Coppia("picCopiaRipetuti", "lblCopiaRipetuti", {}, "duplica", -1, this);
   for (Coppia* each : {picNomiCopie, picCopiaRipetuti}) {
+    ImpostaTurno(*each, TurnoLettera::VieneEVa);
     each->hide();
     Corpo()->addWidget(each, 0, Qt::AlignLeft);
   }

@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QRadioButton>
 #include <QTest>
 #include <QVBoxLayout>
@@ -169,6 +170,26 @@ TEST_F(Letters, LeadToTheFieldOfALabel) {
   EXPECT_EQ(name->text(), "Project name");
 }
 
+TEST_F(Letters, OfWhatIsCountedAreTheDigitsAndTickTheBox) {
+  QList<QCheckBox*> inputs;
+  for (const char* name : {"IN1", "IN2"}) {
+    inputs += new QCheckBox(&window);
+    auto* words = new QLabel(QLatin1String(name), &window);
+    words->setBuddy(inputs.back());
+    window.layout()->addWidget(words);
+    window.layout()->addWidget(inputs.back());
+  }
+  Coppia* button = Button(QStringLiteral("Now"));
+  Show();
+  EXPECT_EQ(button->Mnemonico(), QLatin1Char('N')) << "no letter is lost to them";
+  button->setFocus();
+  QTest::keyPress(&window, Qt::Key_Alt);
+  QTest::keyClick(&window, Qt::Key_2, Qt::AltModifier);
+  QTest::keyRelease(&window, Qt::Key_Alt);
+  EXPECT_TRUE(QTest::qWaitFor([&inputs] { return inputs.back()->isChecked(); }));
+  EXPECT_FALSE(inputs.front()->isChecked());
+}
+
 TEST_F(Letters, ChooseAnOptionAndLeaveTheFieldThatWasBeingFilled) {
   auto* field = new QLineEdit(&window);
   auto* option = new QRadioButton(QStringLiteral("Bed && breakfast"), &window);
@@ -177,35 +198,59 @@ TEST_F(Letters, ChooseAnOptionAndLeaveTheFieldThatWasBeingFilled) {
   Show();
   field->setFocus();
   QTest::keyClicks(field, QStringLiteral("5"));
-  QTest::keyPress(field, Qt::Key_Alt);
-  EXPECT_EQ(option->text(), "&Bed && breakfast");
   QTest::keyClick(field, Qt::Key_B, Qt::AltModifier);
-  QTest::keyRelease(option, Qt::Key_Alt);
   EXPECT_TRUE(QTest::qWaitFor([this] { return pressed.endsWith(QStringLiteral("chosen")); }));
   EXPECT_EQ(pressed, "left chosen");
   EXPECT_TRUE(option->isChecked());
-  EXPECT_EQ(option->text(), "Bed && breakfast");
 }
 
-TEST_F(Letters, OfAnOptionAreTakenAwayAlsoWhereItWasHiddenOrSpeaksAnotherLanguageNow) {
-  auto* hidden = new QCheckBox(QStringLiteral("Bridge"), &window);
-  auto* other = new QCheckBox(QStringLiteral("Save"), &window);
+TEST_F(Letters, OfOptionsAndLabelsAreUnderlinedWithoutAChangeOfTheirTexts) {
+  auto* option = new QRadioButton(QStringLiteral("Bed && breakfast"), &window);
+  auto* words = new QLabel(QStringLiteral("Dogs & cats"), &window);
+  words->setBuddy(new QLineEdit(&window));
+  for (QWidget* each : {static_cast<QWidget*>(option), static_cast<QWidget*>(words)}) {
+    window.layout()->addWidget(each);
+  }
   Show();
+  const auto seen = [&] { return std::pair(option->grab().toImage(), words->grab().toImage()); };
+  const auto plain = seen();
+  const QSize size = window.sizeHint();
   QTest::keyPress(&window, Qt::Key_Alt);
-  hidden->hide();
-  other->setText(QStringLiteral("Salvare"));
+  EXPECT_NE(seen().first, plain.first);
+  EXPECT_NE(seen().second, plain.second);
+  EXPECT_EQ(option->text(), "Bed && breakfast") << "a project is described by it";
+  EXPECT_EQ(words->text(), "Dogs & cats");
+  EXPECT_EQ(window.sizeHint(), size) << "nothing moves";
   QTest::keyRelease(&window, Qt::Key_Alt);
-  EXPECT_EQ(hidden->text(), "Bridge");
-  EXPECT_EQ(other->text(), "Salvare");
+  EXPECT_EQ(seen(), plain);
+}
+
+TEST_F(Letters, AreUnderlinedNoLongerWhenAltIsLetGoInAMenu) {
+  auto* option = new QCheckBox(QStringLiteral("Bridge"), &window);
+  window.layout()->addWidget(option);
+  Show();
+  const QImage plain = option->grab().toImage();
   QTest::keyPress(&window, Qt::Key_Alt);
-  EXPECT_EQ(other->text(), "&Salvare");
-  QTest::keyRelease(&window, Qt::Key_Alt);
+  QMenu menu;
+  menu.addAction(QStringLiteral("Eject"));
+  menu.popup(window.mapToGlobal(QPoint()));
+  EXPECT_NE(option->grab().toImage(), plain);
+  QTest::keyRelease(&menu, Qt::Key_Alt);
+  EXPECT_EQ(option->grab().toImage(), plain);
+}
+
+TEST_F(Letters, AreThoseThatAWordReallyHas) {
+  Button(QStringLiteral("\u00DF"));
+  EXPECT_EQ(PostoLettera(QStringLiteral("Gr\u00F6\u00DFen"), QLatin1Char('N')), 5);
+  EXPECT_EQ(PostoLettera(QStringLiteral("\u00DF"), QLatin1Char('S')), -1);
+  Show();
+  EXPECT_EQ(Given(), "-");
 }
 
 TEST_F(Letters, AreNoneForTheSegmentsOfAStrip) {
   const Segmento segment("optOff", QStringLiteral("Off"), -1, &window);
   Show();
-  EXPECT_FALSE(PortaLettera(segment)) << "that many strips have one";
+  EXPECT_FALSE(PortaLettera(segment)) << "each strip has an Off";
 }
 
 }  // namespace

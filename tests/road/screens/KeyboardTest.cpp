@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QLabel>
+#include <QPointer>
 #include <QRadioButton>
 #include <QScrollArea>
 #include <algorithm>
@@ -30,7 +31,7 @@ using Stops = std::vector<QWidget*>;
 
 /// What a walk found at fault, by the check that found it.
 struct KeyFaults {
-  std::vector<std::string> Nameless, Astray, Scattered, Keyless;
+  std::vector<std::string> Nameless, Astray, Scattered, Keyless, Moved;
 };
 
 /// Whether Tab stops at a control.
@@ -163,7 +164,7 @@ bool ShouldHaveALetter(const QWidget& control) {
   const auto* label = qobject_cast<const QLabel*>(&control);
   if (label == nullptr || label->text().isEmpty()) return false;
   const QWidget* field = label->buddy();
-  return field != nullptr && qobject_cast<const QAbstractButton*>(field) == nullptr &&
+  return field != nullptr && qobject_cast<const QRadioButton*>(field) == nullptr &&
          dynamic_cast<const EtichettaElisa*>(label) == nullptr;
 }
 
@@ -182,16 +183,39 @@ void FindKeyless(const SchermoVisto& screen, std::vector<std::string>& found) {
   }
 }
 
+/// Which letter what a window shows has; the window in all its states is one.
+struct Letters {
+  QPointer<const QWidget> Window;
+  std::map<std::string, QChar> Known;  ///< by name and words of the control
+};
+
+/// Letters that are others than in an earlier state of the window, though the control is the same.
+void FindMoved(const SchermoVisto& screen, Letters& before, std::vector<std::string>& found) {
+  if (before.Window != &screen.Finestra) before = {&screen.Finestra, {}};
+  for (const auto* control : screen.Finestra.findChildren<QWidget*>()) {
+    if (!control->isVisible() || !PortaLettera(*control)) continue;
+    const std::string name =
+        control->objectName().toStdString() + " " + ParoleDi(*control).toStdString();
+    const QChar letter = LetteraDi(*control);
+    const auto known = before.Known.emplace(name, letter).first->second;
+    if (letter == known) continue;
+    found.push_back(screen.Nome + ": " + name + ", " + known.toLatin1() + " before " +
+                    letter.toLatin1());
+  }
+}
+
 /// One walk in a language does for all that is asked of it.
 const KeyFaults& KeyFaultsIn(const std::string& language) {
   static std::map<std::string, KeyFaults> walked;
   if (const auto known = walked.find(language); known != walked.end()) return known->second;
   KeyFaults& found = walked[language];
-  test::GiroSchermi(language).Percorri([&found](const SchermoVisto& screen) {
+  Letters before;
+  test::GiroSchermi(language).Percorri([&found, &before](const SchermoVisto& screen) {
     FindNameless(screen, found.Nameless);
     FindScattered(screen, found.Scattered);
     AssegnaMnemonici(screen.Finestra);
     FindKeyless(screen, found.Keyless);
+    FindMoved(screen, before, found.Moved);
     FindAstray(screen, found.Astray);
   });
   return found;
@@ -209,6 +233,10 @@ TEST_P(Keyboard, TabGoesThroughEachWindowAsOneReadsIt) {
 
 TEST_P(Keyboard, LeadsToEachControlByALetterOfItsOwn) {
   EXPECT_THAT(KeyFaultsIn(GetParam()).Keyless, testing::IsEmpty());
+}
+
+TEST_P(Keyboard, FindsTheSameLettersWhateverComesAndGoes) {
+  EXPECT_THAT(KeyFaultsIn(GetParam()).Moved, testing::IsEmpty());
 }
 
 TEST_P(Keyboard, OfSomeOptionsTabStopsAtTheChosenOne) {
