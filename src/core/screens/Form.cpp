@@ -37,6 +37,25 @@ bool IsInput(QEvent::Type type) {
   }
 }
 
+/// Has Esc send away an open list or menu first: by itself that closes and lets the key go on to
+/// the form.
+class EscDellaLista : public QObject {
+ public:
+  using QObject::QObject;
+
+ protected:
+  bool eventFilter(QObject* /*object*/, QEvent* event) override {
+    QWidget* const open = QApplication::activePopupWidget();
+    if (open == nullptr || event->type() != QEvent::ShortcutOverride ||
+        static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape) {
+      return false;
+    }
+    event->accept();
+    open->close();
+    return true;
+  }
+};
+
 bool IsEnter(const QEvent& event) {
   if (event.type() != QEvent::KeyPress) return false;
   const int key = static_cast<const QKeyEvent&>(event).key();
@@ -137,15 +156,8 @@ void Form::FineImpegno() {
 void Form::SuTasto(const QKeySequence& tasto, std::function<void()> azione) {
   auto* key = new QShortcut(tasto, this);
   key->setAutoRepeat(false);  // a key that is held down is one press
-  connect(key, &QShortcut::activated, this, [tasto, azione = std::move(azione)] {
-    QWidget* const open = QApplication::activePopupWidget();
-    // An open list or menu is what Esc sends away first.
-    if (tasto == QKeySequence(Qt::Key_Escape) && open != nullptr) {
-      open->close();
-    } else {
-      azione();
-    }
-  });
+  connect(key, &QShortcut::activated, this, std::move(azione));
+  if (tasto == QKeySequence(Qt::Key_Escape)) qApp->installEventFilter(new EscDellaLista(key));
 }
 
 void Form::SuSalva(QAbstractButton& pulsante) {

@@ -1,7 +1,5 @@
 #include "flashcard/screens/frmSelectFlash.h"
 
-#include <QAbstractItemView>
-#include <QKeyEvent>
 #include <QVBoxLayout>
 
 #include "core/Lingua.h"
@@ -56,7 +54,6 @@ frmSelectFlash::frmSelectFlash(Ambiente& ambiente, SorgenteDrive& drive)
   SuInvio(*picOk);
   SuTasto(Qt::Key_F1, [this] { Aiuto(); });
   SuTasto(Qt::Key_Escape, [this] { picCancel->click(); });
-  cmdFlash->view()->installEventFilter(this);
 }
 
 void frmSelectFlash::Costruisci() {
@@ -146,17 +143,6 @@ void frmSelectFlash::MostraFatti() {
   QStringList heard{lblFatti->text(), lblContenuto->text()};
   heard.removeAll(QString());
   cmdFlash->setAccessibleDescription(heard.join(QLatin1String(". ")));
-}
-
-bool frmSelectFlash::eventFilter(QObject* object, QEvent* event) {
-  // The open list closes itself for Esc, and lets the key go on to the dialog.
-  if (object == cmdFlash->view() && event->type() == QEvent::ShortcutOverride &&
-      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
-    event->accept();
-    cmdFlash->hidePopup();
-    return true;
-  }
-  return Form::eventFilter(object, event);
 }
 
 bool frmSelectFlash::PuoChiudere(Causa causa) {

@@ -35,7 +35,6 @@ class frmSelectFlash : public Form {
   void AlCaricamento() override;
   bool PuoChiudere(Causa causa) override;
   void AlloScarico() override;
-  bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
   void Costruisci();
