@@ -173,7 +173,7 @@ void frmWizardPanel1::CreaProgetto() {
       Std(optPanel_21->text().replace("&&", "&")), Std(cmbPlaylist->currentText())};
   const EsitoNuovo outcome =
       CreaProgettoKvr5(C(), Std(txtNomeProgetto->text()), C().Stato.PlayerMode, words);
-  if (outcome == EsitoNuovo::NomeVuoto) txtNomeProgetto->setFocus();
+  if (outcome != EsitoNuovo::Creato) txtNomeProgetto->setFocus();  // it is what can be mended
   constexpr std::int16_t kKvr5 = 4;
   if (outcome != EsitoNuovo::Creato || C().Stato.PlayerType != kKvr5) return;
   FormSuccessivo = Schermata::Configurazione;

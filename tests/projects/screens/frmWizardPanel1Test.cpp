@@ -211,6 +211,7 @@ TEST_F(Wizard, AnAsteriskFailsAtTheFolderWithNumberAndWords) {
   EXPECT_EQ(box.Segno, Icona::Avviso);
   EXPECT_FALSE(PuntatoreOccupato());
   EXPECT_TRUE(form.isVisible());
+  EXPECT_TRUE(form.txtNomeProgetto->hasFocus()) << "to be written anew";
 }
 
 TEST_F(Wizard, ALeadingBlankStaysInTheFoldersName) {
