@@ -8,6 +8,7 @@
 #include "core/screens/Testo.h"
 #include "flashcard/AvvisoNonLetti.h"
 #include "flashcard/CancellaFlash.h"
+#include "flashcard/Estranei.h"
 #include "flashcard/ParoleEspulsione.h"
 #include "flashcard/Registrazione.h"
 #include "platform/FileOps.h"
@@ -187,6 +188,10 @@ bool Programma::RegistraProgetto(TabellaIngressi& ingressi) {
   registrataIntera_ = end.Intera();
   AvvisaNonLetti(contesto_, end);
   return end.Fine == FineRegistrazione::Annullata;
+}
+
+std::size_t Programma::EstraneiSullaScheda() {
+  return ContaEstranei(contesto_, contesto_.Stato.PercorsoMemoryCard);
 }
 
 bool Programma::ChiediScheda() {

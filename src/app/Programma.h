@@ -72,6 +72,7 @@ class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
 
   bool RegistraProgetto(TabellaIngressi& ingressi) override;
   bool RegistrataIntera() const override { return registrataIntera_; }
+  std::size_t EstraneiSullaScheda() override;
   bool ChiediScheda() override;
   void SvuotaScheda() override;
   void VerificaScheda() override;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "BancoRegistrazione.h"
+#include "flashcard/Estranei.h"
 #include "flashcard/Verifica.h"
 #include "projects/BancoLettura.h"
 #include "projects/CartellaProgetto.h"
@@ -118,6 +119,9 @@ class Verifica : public testing::Test {
     watch.Told.clear();
     outcome = VerificaScheda(b.C, s.PercorsoMemoryCard, watch);
     EXPECT_EQ(watch.Told, outcome.Riscontri) << "each is told as it is made";
+    if (!outcome.Annullata && !outcome.Sparita && !outcome.SenzaScheda) {
+      EXPECT_EQ(ContaEstranei(b.C, s.PercorsoMemoryCard), outcome.Quanti(Difetto::Estraneo));
+    }
     std::vector<std::string> found;
     for (const Riscontro& each : outcome.Riscontri) {
       found.push_back(std::string(NomeDifetto(each.Tipo)) + " " + each.File);

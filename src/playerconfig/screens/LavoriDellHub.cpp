@@ -45,7 +45,7 @@ void frmPlayerConfig::Lavora(const std::function<void()>& lavoro) {
 void frmPlayerConfig::Registra() {
   Lavora([this] {
     const bool cancelled = servizi_.RegistraProgetto(ingressi_);
-    if (servizi_.RegistrataIntera()) Scheda->SegnaRegistrata();
+    if (servizi_.RegistrataIntera()) Scheda->SegnaRegistrata(servizi_.EstraneiSullaScheda());
     if (!cancelled) return;
     show();
     setEnabled(true);

@@ -76,9 +76,10 @@ void RigaScheda::Mostra(const QString& percorso, const std::optional<Drive>& fat
 
 void RigaScheda::MostraStato(const std::optional<Drive>& fatti) {
   const std::string& root = contesto_.Stato.PercorsoMemoryCard;
-  const CardState state = StateOf(root, fatti);
+  CardState state = StateOf(root, fatti);
   const bool there = fatti && fatti->HasMedium;
   if (registrata_ && (!there || registrata_->Radice != root)) registrata_.reset();
+  if (HaEstranei()) state = {state.Key, "avviso", Ruolo::Avviso};
   std::string words = ParoleDelloStato(state.Key);
   // A card that was chosen before this project was opened isn't in the label: it is named here.
   if (!root.empty() && !Std(lblPathMemoryCard->text()).ends_with(root)) words = root + " " + words;
@@ -89,6 +90,8 @@ void RigaScheda::MostraStato(const std::optional<Drive>& fatti) {
                        {QuantitaInParole(fatti->Free, contesto_.Luogo)});
   }
   lblStato->setText(Qs(words));
+  lblStato->setToolTip(HaEstranei() ? Qs(TestoLingua(contesto_, "0130351")) : QString());
+  lblStato->setAccessibleDescription(lblStato->toolTip());
   SpiegaPercorso();
   Veste(*lblStato, Carattere::Corpo, state.Role);
   fatti_ = fatti;
@@ -110,15 +113,18 @@ void RigaScheda::SpiegaPercorso() {
 std::string RigaScheda::ParoleDelloStato(const char* chiave) const {
   std::string words = TestoLingua(contesto_, chiave);
   if (!registrata_) return words;
+  words += ", " + ConValori(TestoLinguaO(contesto_, "0130345", "recorded %1"),
+                            {QuandoInParole(contesto_, registrata_->Quando)});
+  if (!HaEstranei()) return words;
   return words + ", " +
-         ConValori(TestoLinguaO(contesto_, "0130345", "recorded %1"),
-                   {QuandoInParole(contesto_, registrata_->Quando)});
+         ConValori(TestoLinguaO(contesto_, "0130350", "other files on it: %1"),
+                   {std::to_string(registrata_->Estranei)});
 }
 
-void RigaScheda::SegnaRegistrata() {
+void RigaScheda::SegnaRegistrata(std::size_t estranei) {
   std::tm now = contesto_.Ora.Adesso();
   now.tm_isdst = -1;
-  registrata_ = {contesto_.Stato.PercorsoMemoryCard, std::mktime(&now)};
+  registrata_ = {contesto_.Stato.PercorsoMemoryCard, std::mktime(&now), estranei};
 }
 
 void RigaScheda::ImpostaBisogno(std::uint64_t byte) {

@@ -26,9 +26,9 @@ class RigaScheda : public QWidget {
   /// The path as the form shows it, and what the host tells of the card now.
   void Mostra(const QString& percorso, const std::optional<Drive>& fatti);
   void MostraStato(const std::optional<Drive>& fatti);
-  /// The chosen card was recorded whole just now: its state tells so until another one is chosen or
-  /// it goes away.
-  void SegnaRegistrata();
+  /// The chosen card was recorded whole just now, and so many files on it aren't the project's: its
+  /// state tells so until another one is chosen or it goes away.
+  void SegnaRegistrata(std::size_t estranei = 0);
   void DimenticaRegistrata() { registrata_.reset(); }
   /// The bytes that the project takes, for the gauge; 0: none is shown.
   void ImpostaBisogno(std::uint64_t byte);
@@ -44,11 +44,13 @@ class RigaScheda : public QWidget {
   void MostraSpazio();
   void SpiegaPercorso();
   std::string ParoleDelloStato(const char* chiave) const;
+  bool HaEstranei() const { return registrata_ && registrata_->Estranei > 0; }
 
   QLabel* segno_;
   struct Registrata {
     std::string Radice;
     std::int64_t Quando = 0;  ///< in seconds since 1970-01-01 UTC
+    std::size_t Estranei = 0;
   };
   std::optional<Drive> fatti_;
   std::optional<Registrata> registrata_;

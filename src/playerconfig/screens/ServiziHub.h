@@ -17,6 +17,8 @@ class ServiziHub {
   virtual bool RegistraProgetto(TabellaIngressi& ingressi) = 0;
   /// Whether the last recording put all of its project on the card.
   virtual bool RegistrataIntera() const = 0;
+  /// How many files lie on the chosen card that such a recording doesn't put there.
+  virtual std::size_t EstraneiSullaScheda() = 0;
   /// Asks for the card where none is chosen; false to give the work up.
   virtual bool ChiediScheda() = 0;
   /// Deletes the files of the chosen card, after its questions.

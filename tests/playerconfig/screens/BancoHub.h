@@ -29,6 +29,7 @@ class ServiziFinti : public ServiziHub {
     return Annullata;
   }
   bool RegistrataIntera() const override { return Intera; }
+  std::size_t EstraneiSullaScheda() override { return Estranei; }
   bool ChiediScheda() override {
     ++Richieste;
     return HaScheda;
@@ -43,6 +44,7 @@ class ServiziFinti : public ServiziHub {
 
   int Registrazioni = 0;
   bool Intera = false;
+  std::size_t Estranei = 0;  ///< files on the card that aren't the project's
   int Richieste = 0;  ///< how often a card was asked for
   bool HaScheda = true;
   int Svuotamenti = 0;

@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <QLabel>
 #include <QMouseEvent>
 #include <QTest>
 
+#include "core/screens/Tema.h"
 #include "playerconfig/screens/BancoHub.h"
 
 // The line of the chosen card, and the sign that settings are unsaved.
@@ -90,6 +92,25 @@ TEST_F(CardLine, FollowsTheCardWhileItIsTakenOutAndPutBack) {
   servizi.Scheda = Card();
   EXPECT_TRUE(QTest::qWaitFor(
       [this] { return Testo("lblStatoScheda") == "E:\\ ready, SHOP, 1.9 GB, 1.4 GB free"; }));
+}
+
+TEST_F(CardLine, WarnsOfOtherFilesOnACardThatWasRecorded) {
+  servizi.Scheda = Card();
+  servizi.Intera = true;
+  servizi.Estranei = 7;
+  Open("E:\\");
+  auto& state = Trova<QLabel>("lblStatoScheda");
+  Clic("picRecordFlash");
+  EXPECT_NE(Testo("lblStatoScheda").find(", other files on it: 7, SHOP"), std::string::npos)
+      << Testo("lblStatoScheda");
+  EXPECT_EQ(state.palette().color(QPalette::WindowText), Tema::Corrente().Avviso);
+  EXPECT_EQ(state.toolTip().left(29).toStdString(), "The player may play these fil");
+  EXPECT_EQ(state.accessibleDescription(), state.toolTip());
+  servizi.Estranei = 0;
+  Clic("picRecordFlash");
+  EXPECT_EQ(Testo("lblStatoScheda").find("other files"), std::string::npos);
+  EXPECT_EQ(state.palette().color(QPalette::WindowText), Tema::Corrente().Buono);
+  EXPECT_EQ(state.toolTip(), "");
 }
 
 TEST_F(CardLine, TellsThatACardWasRecordedWholeUntilAnotherIsChosenOrItIsGone) {

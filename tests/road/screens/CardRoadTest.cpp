@@ -171,10 +171,12 @@ TEST_F(CardRoad, AnErasedCardIsRecordedAgainAndVerified) {
   b.Cartella.Write("card/old.mp3", "left");
   ScegliScheda();
   EXPECT_EQ(Registra(), "");
+  EXPECT_NE(Stato().find(", other files on it: 1, "), std::string::npos) << Stato();
   EXPECT_EQ(Verify(), Names{"Not of this project old.mp3"});
   Erase(kErased);
   EXPECT_EQ(Verify().size(), 5U);
   EXPECT_EQ(Registra(), "");
+  EXPECT_EQ(Stato().find("other files"), std::string::npos) << Stato();
   EXPECT_EQ(Verify(), Names{});
   LasciaHall();
 }

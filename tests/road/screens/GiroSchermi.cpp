@@ -377,6 +377,9 @@ void GiroSchermi::NellHubConScheda() {
   hub->Scheda->SegnaRegistrata();
   hub->AggiornaPercorsoMemoryCard();
   Vedi(*hub, "frmPlayerConfig, its card recorded");
+  hub->Scheda->SegnaRegistrata(7);
+  hub->AggiornaPercorsoMemoryCard();
+  Vedi(*hub, "frmPlayerConfig, its card recorded besides others' files");
   servizi_.Scheda->ReadOnly = true;
   hub->AggiornaPercorsoMemoryCard();
   Vedi(*hub, "frmPlayerConfig, its card locked");

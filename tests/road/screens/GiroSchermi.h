@@ -27,6 +27,7 @@ class ServiziDelGiro : public ServiziHub {
   explicit ServiziDelGiro(Contesto& contesto) : avanzamento_(contesto) {}
   bool RegistraProgetto(TabellaIngressi& /*ingressi*/) override { return false; }
   bool RegistrataIntera() const override { return false; }
+  std::size_t EstraneiSullaScheda() override { return 0; }
   bool ChiediScheda() override { return false; }
   void SvuotaScheda() override {}
   void VerificaScheda() override {}
