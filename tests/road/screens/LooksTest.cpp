@@ -169,8 +169,20 @@ void FindCutMarks(const SchermoVisto& screen, std::vector<std::string>& found) {
   }
 }
 
+/// Of the card's line the figures may be shortened, never what state the card is in.
+void FindCutState(const SchermoVisto& screen, std::vector<std::string>& found) {
+  const auto* state = screen.Finestra.findChild<QLabel*>(QStringLiteral("lblStatoScheda"));
+  if (state == nullptr || !state->isVisible()) return;
+  const QString words = state->text().section(QLatin1Char(','), 0, 0) + QChar(0x2026);
+  const int lacks = state->fontMetrics().horizontalAdvance(words) - state->width();
+  if (lacks <= 0) return;
+  found.push_back(screen.Nome + ": state \"" + words.toStdString() + "\" lacks " +
+                  std::to_string(lacks));
+}
+
 void FindCut(const SchermoVisto& screen, std::vector<std::string>& found) {
   FindCutMarks(screen, found);
+  FindCutState(screen, found);
   FindCutIn<QLabel>(screen, found);
   FindCutIn<QAbstractButton>(screen, found);
   FindCutLists(screen, found);
