@@ -199,9 +199,10 @@ bool Programma::ChiediScheda() {
   return ScegliSchedaSeManca(contesto_, choice);
 }
 
-void Programma::SvuotaScheda() {
+bool Programma::SvuotaScheda() {
   SceltaDalDialogo choice(*this);
-  CancellaFlash(contesto_, choice);
+  const FineSvuotamento end = CancellaFlash(contesto_, choice);
+  return end == FineSvuotamento::Svuotata || end == FineSvuotamento::Fallita;
 }
 
 void Programma::VerificaScheda() {

@@ -74,7 +74,7 @@ class Programma : public Navigazione, public SchermateAvvio, public ServiziHub {
   bool RegistrataIntera() const override { return registrataIntera_; }
   std::size_t EstraneiSullaScheda() override;
   bool ChiediScheda() override;
-  void SvuotaScheda() override;
+  bool SvuotaScheda() override;
   void VerificaScheda() override;
   void ApriCopiaManuale() override;
   bool PuoEspellere() override;

@@ -37,23 +37,28 @@ bool IsInput(QEvent::Type type) {
   }
 }
 
-/// Has Esc send away an open list or menu first: by itself that closes and lets the key go on to
-/// the form.
+/// Has Esc send away an open list of the form first: by itself that closes and lets the key go on
+/// to the form.
 class EscDellaLista : public QObject {
  public:
-  using QObject::QObject;
+  EscDellaLista(const QWidget& form, QObject* parent) : QObject(parent), form_(form) {}
 
  protected:
   bool eventFilter(QObject* /*object*/, QEvent* event) override {
-    QWidget* const open = QApplication::activePopupWidget();
-    if (open == nullptr || event->type() != QEvent::ShortcutOverride ||
+    if (event->type() != QEvent::ShortcutOverride ||
         static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape) {
       return false;
     }
+    QWidget* const open = QApplication::activePopupWidget();
+    auto* list = open == nullptr ? nullptr : qobject_cast<QComboBox*>(open->parentWidget());
+    if (list == nullptr || list->window() != &form_) return false;
     event->accept();
-    open->close();
+    list->hidePopup();
     return true;
   }
+
+ private:
+  const QWidget& form_;
 };
 
 bool IsEnter(const QEvent& event) {
@@ -157,7 +162,8 @@ void Form::SuTasto(const QKeySequence& tasto, std::function<void()> azione) {
   auto* key = new QShortcut(tasto, this);
   key->setAutoRepeat(false);  // a key that is held down is one press
   connect(key, &QShortcut::activated, this, std::move(azione));
-  if (tasto == QKeySequence(Qt::Key_Escape)) qApp->installEventFilter(new EscDellaLista(key));
+  if (tasto == QKeySequence(Qt::Key_Escape))
+    qApp->installEventFilter(new EscDellaLista(*this, key));
 }
 
 void Form::SuSalva(QAbstractButton& pulsante) {

@@ -48,6 +48,7 @@ QKeySequence KeyOf(QChar letter) {
 QShortcut& KeyOf(QLabel& label) {
   if (auto* known = label.findChild<QShortcut*>()) return *known;
   auto* key = new QShortcut(&label);
+  key->setAutoRepeat(false);  // a key that is held down is one press
   QObject::connect(key, &QShortcut::activated, &label, [&label] { LeadTo(label.buddy()); });
   return *key;
 }
@@ -91,7 +92,7 @@ void SottolineaLettera(QWidget& controllo, bool mostra) {
 
 QString TestoSottolineato(const QWidget& controllo, const QString& testo) {
   if (!controllo.property(kShown).toBool()) return testo;
-  // An option's text has the toolkit's marks already, a label's is drawn as it stands.
+  // An option's text has the toolkit's marks already.
   const bool marked = qobject_cast<const QAbstractButton*>(&controllo) != nullptr;
   QString shown = marked ? testo : SenzaMnemonico(testo);
   const qsizetype at = PostoLettera(shown, LetteraDi(controllo));

@@ -58,8 +58,9 @@ void frmPlayerConfig::TrovaMancanti() {
 }
 
 void frmPlayerConfig::Svuota() {
-  Scheda->DimenticaRegistrata();
-  Lavora([this] { servizi_.SvuotaScheda(); });
+  Lavora([this] {
+    if (servizi_.SvuotaScheda()) Scheda->DimenticaRegistrata();
+  });
   Scheda->MostraStato(servizi_.FattiDellaScheda());
 }
 
@@ -80,6 +81,7 @@ void frmPlayerConfig::CopiaManuale() {
   guardia_.stop();
   conta_.stop();
   DimenticaChiusura();  // asked for while the dialog stood: the bar is what is left to close
+  Scheda->DimenticaRegistrata();  // what is copied or deleted there isn't known here
   servizi_.ApriCopiaManuale();
 }
 

@@ -79,7 +79,7 @@ void RigaScheda::MostraStato(const std::optional<Drive>& fatti) {
   CardState state = StateOf(root, fatti);
   const bool there = fatti && fatti->HasMedium;
   if (registrata_ && (!there || registrata_->Radice != root)) registrata_.reset();
-  if (HaEstranei()) state = {state.Key, "avviso", Ruolo::Avviso};
+  if (HaEstranei() && state.Role == Ruolo::Buono) state = {state.Key, "avviso", Ruolo::Avviso};
   std::string words = ParoleDelloStato(state.Key);
   // A card that was chosen before this project was opened isn't in the label: it is named here.
   if (!root.empty() && !Std(lblPathMemoryCard->text()).ends_with(root)) words = root + " " + words;
@@ -90,8 +90,10 @@ void RigaScheda::MostraStato(const std::optional<Drive>& fatti) {
                        {QuantitaInParole(fatti->Free, contesto_.Luogo)});
   }
   lblStato->setText(Qs(words));
-  lblStato->setToolTip(HaEstranei() ? Qs(TestoLingua(contesto_, "0130351")) : QString());
-  lblStato->setAccessibleDescription(lblStato->toolTip());
+  const QString strays = HaEstranei() ? Qs(TestoLingua(contesto_, "0130351")) : QString();
+  // The line may be cut: the tip begins with all of it.
+  lblStato->setToolTip(strays.isEmpty() ? strays : Suggerimento(lblStato->text() + '\n' + strays));
+  lblStato->setAccessibleDescription(strays);
   SpiegaPercorso();
   Veste(*lblStato, Carattere::Corpo, state.Role);
   fatti_ = fatti;

@@ -2,7 +2,6 @@
 
 #include <QCheckBox>
 #include <QGridLayout>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QSlider>
@@ -49,6 +48,7 @@ SchermoParametri::SchermoParametri(Ambiente& ambiente, const char* nome, Schermo
   lblSave = picSave->Etichetta();
   connect(picSave, &QAbstractButton::clicked, this, [this] { Salva(); });
   connect(picCancel, &QAbstractButton::clicked, this, [this] { Scarica(); });
+  SuTasto(Qt::Key_Escape, [this] { picCancel->click(); });
   connect(picHelp, &QAbstractButton::clicked, this, [this] { Aiuto(); });
   SuInvio(*picSave);
   SuTasto(Qt::Key_F1, [this] { Aiuto(); });
@@ -194,12 +194,6 @@ void SchermoParametri::Salva() {
   valori_.Scrivi(C());
   SalvaAltro();
   Scarica();
-}
-
-void SchermoParametri::keyPressEvent(QKeyEvent* event) {
-  // Not a shortcut: the key that closes an open list would be one for the screen, too.
-  if (event->key() == Qt::Key_Escape && !event->isAutoRepeat()) return picCancel->click();
-  Form::keyPressEvent(event);
 }
 
 void SchermoParametri::AlloScarico() {

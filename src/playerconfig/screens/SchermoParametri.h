@@ -66,7 +66,6 @@ class SchermoParametri : public Form {
   ValoriSchermo& Valori() { return valori_; }
 
   void AlloScarico() override;
-  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   /// A control of the table: how it shows a state, and what it holds.

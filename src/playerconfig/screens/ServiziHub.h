@@ -22,7 +22,8 @@ class ServiziHub {
   /// Asks for the card where none is chosen; false to give the work up.
   virtual bool ChiediScheda() = 0;
   /// Deletes the files of the chosen card, after its questions.
-  virtual void SvuotaScheda() = 0;
+  /// True where something may have been deleted.
+  virtual bool SvuotaScheda() = 0;
   /// Compares the chosen card with the open project and shows what it finds; modal.
   virtual void VerificaScheda() = 0;
   /// Opens the chosen card in the host's file manager, and a bar that brings the hub back.

@@ -34,7 +34,10 @@ class ServiziFinti : public ServiziHub {
     ++Richieste;
     return HaScheda;
   }
-  void SvuotaScheda() override { ++Svuotamenti; }
+  bool SvuotaScheda() override {
+    ++Svuotamenti;
+    return Svuotata;
+  }
   void VerificaScheda() override { ++Verifiche; }
   void ApriCopiaManuale() override { ++CopieManuali; }
   bool PuoEspellere() override { return Espellibile; }
@@ -45,9 +48,10 @@ class ServiziFinti : public ServiziHub {
   int Registrazioni = 0;
   bool Intera = false;
   std::size_t Estranei = 0;  ///< files on the card that aren't the project's
-  int Richieste = 0;  ///< how often a card was asked for
+  int Richieste = 0;         ///< how often a card was asked for
   bool HaScheda = true;
   int Svuotamenti = 0;
+  bool Svuotata = true;  ///< the questions were answered yes
   int Verifiche = 0;
   int CopieManuali = 0;
   bool Espellibile = false;

@@ -23,9 +23,10 @@ class CardServices : public test::ServiziFinti {
     if (SuChiedi) SuChiedi();
     return given;
   }
-  void SvuotaScheda() override {
-    ServiziFinti::SvuotaScheda();
+  bool SvuotaScheda() override {
+    const bool erased = ServiziFinti::SvuotaScheda();
     if (SuSvuota) SuSvuota();
+    return erased;
   }
   void VerificaScheda() override {
     ServiziFinti::VerificaScheda();

@@ -104,8 +104,16 @@ TEST_F(CardLine, WarnsOfOtherFilesOnACardThatWasRecorded) {
   EXPECT_NE(Testo("lblStatoScheda").find(", other files on it: 7, SHOP"), std::string::npos)
       << Testo("lblStatoScheda");
   EXPECT_EQ(state.palette().color(QPalette::WindowText), Tema::Corrente().Avviso);
-  EXPECT_EQ(state.toolTip().left(29).toStdString(), "The player may play these fil");
-  EXPECT_EQ(state.accessibleDescription(), state.toolTip());
+  EXPECT_TRUE(state.accessibleDescription().startsWith(QLatin1String("What of them is music")));
+  EXPECT_EQ(state.toolTip(), state.text() + '\n' + state.accessibleDescription());
+  servizi.Svuotata = false;
+  Clic("picCancellaFlash");
+  EXPECT_NE(Testo("lblStatoScheda").find("other files on it: 7"), std::string::npos)
+      << "they are still there after a no";
+  servizi.Scheda->ReadOnly = true;
+  hub->AggiornaPercorsoMemoryCard();
+  EXPECT_TRUE(Testo("lblStatoScheda").starts_with("locked: ")) << Testo("lblStatoScheda");
+  servizi.Scheda->ReadOnly = false;
   servizi.Estranei = 0;
   Clic("picRecordFlash");
   EXPECT_EQ(Testo("lblStatoScheda").find("other files"), std::string::npos);

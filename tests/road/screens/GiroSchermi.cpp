@@ -380,6 +380,7 @@ void GiroSchermi::NellHubConScheda() {
   hub->Scheda->SegnaRegistrata(7);
   hub->AggiornaPercorsoMemoryCard();
   Vedi(*hub, "frmPlayerConfig, its card recorded besides others' files");
+  hub->Scheda->SegnaRegistrata();
   servizi_.Scheda->ReadOnly = true;
   hub->AggiornaPercorsoMemoryCard();
   Vedi(*hub, "frmPlayerConfig, its card locked");

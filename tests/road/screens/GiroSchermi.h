@@ -29,7 +29,7 @@ class ServiziDelGiro : public ServiziHub {
   bool RegistrataIntera() const override { return false; }
   std::size_t EstraneiSullaScheda() override { return 0; }
   bool ChiediScheda() override { return false; }
-  void SvuotaScheda() override {}
+  bool SvuotaScheda() override { return false; }
   void VerificaScheda() override {}
   void ApriCopiaManuale() override {}
   bool PuoEspellere() override { return true; }
