@@ -202,7 +202,7 @@ bool Programma::ChiediScheda() {
 bool Programma::SvuotaScheda() {
   SceltaDalDialogo choice(*this);
   const FineSvuotamento end = CancellaFlash(contesto_, choice);
-  return end == FineSvuotamento::Svuotata || end == FineSvuotamento::Fallita;
+  return end != FineSvuotamento::Rinunciata && end != FineSvuotamento::SenzaScheda;
 }
 
 void Programma::VerificaScheda() {

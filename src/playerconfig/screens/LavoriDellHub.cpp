@@ -45,7 +45,11 @@ void frmPlayerConfig::Lavora(const std::function<void()>& lavoro) {
 void frmPlayerConfig::Registra() {
   Lavora([this] {
     const bool cancelled = servizi_.RegistraProgetto(ingressi_);
-    if (servizi_.RegistrataIntera()) Scheda->SegnaRegistrata(servizi_.EstraneiSullaScheda());
+    if (servizi_.RegistrataIntera()) {
+      Scheda->SegnaRegistrata(servizi_.EstraneiSullaScheda());
+    } else {
+      Scheda->DimenticaRegistrata();  // it may hold a part of another state
+    }
     if (!cancelled) return;
     show();
     setEnabled(true);
@@ -82,6 +86,7 @@ void frmPlayerConfig::CopiaManuale() {
   conta_.stop();
   DimenticaChiusura();  // asked for while the dialog stood: the bar is what is left to close
   Scheda->DimenticaRegistrata();  // what is copied or deleted there isn't known here
+  Scheda->MostraStato(servizi_.FattiDellaScheda());
   servizi_.ApriCopiaManuale();
 }
 

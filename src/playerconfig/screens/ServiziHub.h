@@ -22,7 +22,7 @@ class ServiziHub {
   /// Asks for the card where none is chosen; false to give the work up.
   virtual bool ChiediScheda() = 0;
   /// Deletes the files of the chosen card, after its questions.
-  /// True where something may have been deleted.
+  /// False where it was given up before anything was looked at.
   virtual bool SvuotaScheda() = 0;
   /// Compares the chosen card with the open project and shows what it finds; modal.
   virtual void VerificaScheda() = 0;

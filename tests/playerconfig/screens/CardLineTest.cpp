@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QTest>
@@ -104,7 +105,7 @@ TEST_F(CardLine, WarnsOfOtherFilesOnACardThatWasRecorded) {
   EXPECT_NE(Testo("lblStatoScheda").find(", other files on it: 7, SHOP"), std::string::npos)
       << Testo("lblStatoScheda");
   EXPECT_EQ(state.palette().color(QPalette::WindowText), Tema::Corrente().Avviso);
-  EXPECT_TRUE(state.accessibleDescription().startsWith(QLatin1String("What of them is music")));
+  EXPECT_TRUE(state.accessibleDescription().startsWith(QLatin1String("The player may also play")));
   EXPECT_EQ(state.toolTip(), state.text() + '\n' + state.accessibleDescription());
   servizi.Svuotata = false;
   Clic("picCancellaFlash");
@@ -150,6 +151,14 @@ TEST_F(CardLine, TellsThatACardWasRecordedWholeUntilAnotherIsChosenOrItIsGone) {
   record();
   Clic("picCancellaFlash");
   EXPECT_FALSE(told()) << "erased";
+  record();
+  servizi.Intera = false;
+  Clic("picRecordFlash");
+  EXPECT_FALSE(told()) << "a second one broke off";
+  servizi.Intera = true;
+  record();
+  Trova<QAbstractButton>("cmdCopiaFileManuale").click();
+  EXPECT_FALSE(told()) << "what is done by hand isn't known";
 }
 
 TEST_F(CardLine, ADoubleClickEnterAndTheButtonLetACardBeChosen) {
