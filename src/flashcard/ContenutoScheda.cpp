@@ -131,4 +131,18 @@ ContenutoScheda ContenutoDellaScheda(Contesto& contesto) {
   return Contents(contesto).Take();
 }
 
+std::optional<std::vector<FileInfo>> FileSullaScheda(const FileSystem& files,
+                                                     const std::string& scheda) {
+  auto entries = files.List(scheda);
+  if (!entries) return std::nullopt;
+  auto& all = entries.Value();
+  std::erase_if(all,
+                [](const FileInfo& each) { return each.IsFolder || each.Hidden || each.System; });
+  return std::move(all);
+}
+
+bool ForseDelProgetto(const ContenutoScheda& contenuto, const FileInfo& file) {
+  return !contenuto.NonLetti.empty() && MatchesWildcard(file.Name, "*.mp3");
+}
+
 }  // namespace kvr5

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "core/Contesto.h"
 #include "flashcard/RaccoltaMp3.h"
+#include "platform/FileSystem.h"
 #include "projects/CartellaProgetto.h"
 
 namespace kvr5 {
@@ -50,5 +52,14 @@ struct ContenutoScheda {
 /// Nothing is changed but a database that an interrupted change left behind, which is put back as
 /// any opening of it would do.
 ContenutoScheda ContenutoDellaScheda(Contesto& contesto);
+
+/// The files in the root of a card (system form, with its last bar) that count: no folders, none
+/// hidden or system. Nothing where it can't be listed.
+std::optional<std::vector<FileInfo>> FileSullaScheda(const FileSystem& files,
+                                                     const std::string& scheda);
+
+/// Whether nobody knows if a file of the card is the project's: where a database can't be read to
+/// its end, that is each MP3 file.
+bool ForseDelProgetto(const ContenutoScheda& contenuto, const FileInfo& file);
 
 }  // namespace kvr5

@@ -46,7 +46,6 @@ class Verification {
   void CheckList(const FileInfo& list);
   void CheckEntry(const std::string& name);
   void FindStrays();
-  bool MayBeRows(const FileInfo& file) const;
 
   /// The card's file of a name; null where it holds none.
   const FileInfo* OnCard(std::string_view name) const {
@@ -90,12 +89,9 @@ EsitoVerifica Verification::Run() {
 }
 
 bool Verification::ListCard() {
-  auto entries = context_.Files.List(card_);
-  if (!entries) return false;
-  for (FileInfo& entry : entries.Value()) {
-    const bool plain = !entry.IsFolder && !entry.Hidden && !entry.System;
-    if (plain) onCard_.emplace(FoldCase(entry.Name), std::move(entry));
-  }
+  auto files = FileSullaScheda(context_.Files, card_);
+  if (!files) return false;
+  for (FileInfo& file : *files) onCard_.emplace(FoldCase(file.Name), std::move(file));
   return true;
 }
 
@@ -233,13 +229,9 @@ void Verification::CheckEntry(const std::string& name) {
 
 void Verification::FindStrays() {
   for (const auto& [name, file] : onCard_) {
-    if (!taken_.contains(&file) && !MayBeRows(file)) Find({Difetto::Estraneo, file.Name});
+    if (taken_.contains(&file) || ForseDelProgetto(expected_, file)) continue;
+    Find({Difetto::Estraneo, file.Name});
   }
-}
-
-/// Where a database can't be read to its end, nobody knows which tracks are its own.
-bool Verification::MayBeRows(const FileInfo& file) const {
-  return !expected_.NonLetti.empty() && MatchesWildcard(file.Name, "*.mp3");
 }
 
 void Verification::Find(Riscontro finding) {

@@ -77,8 +77,7 @@ void Coppia::ImpostaIcona(const char* icona) {
 
 void Coppia::ImpostaMnemonico(QChar lettera) {
   mnemonico_ = lettera;
-  setShortcut(lettera.isNull() ? QKeySequence()
-                               : QKeySequence(Qt::ALT | Qt::Key(lettera.unicode())));
+  setShortcut(TastoDi(lettera));
   if (sottolineato_) update();
 }
 
@@ -153,12 +152,6 @@ void Coppia::Sottolinea(QPainter& painter) const {
   const int left = written.left() + metrics.horizontalAdvance(text.left(at));
   const int width = metrics.horizontalAdvance(text.at(at));
   painter.fillRect(left, written.top() + metrics.ascent() + kBelow, width, 1, ColoreTesto());
-}
-
-bool Coppia::event(QEvent* event) {
-  // Alt and the letter leave the field that was being filled, as a click does.
-  if (event->type() == QEvent::Shortcut && isEnabled()) setFocus(Qt::ShortcutFocusReason);
-  return QAbstractButton::event(event);
 }
 
 void Coppia::paintEvent(QPaintEvent* /*event*/) {

@@ -42,7 +42,6 @@ class Coppia : public QAbstractButton {
   QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
-  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;

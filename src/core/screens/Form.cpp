@@ -162,8 +162,8 @@ void Form::SuTasto(const QKeySequence& tasto, std::function<void()> azione) {
   auto* key = new QShortcut(tasto, this);
   key->setAutoRepeat(false);  // a key that is held down is one press
   connect(key, &QShortcut::activated, this, std::move(azione));
-  if (tasto == QKeySequence(Qt::Key_Escape))
-    qApp->installEventFilter(new EscDellaLista(*this, key));
+  if (tasto != QKeySequence(Qt::Key_Escape)) return;
+  qApp->installEventFilter(new EscDellaLista(*this, key));
 }
 
 void Form::SuSalva(QAbstractButton& pulsante) {

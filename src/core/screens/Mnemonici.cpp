@@ -1,11 +1,10 @@
 #include "core/screens/Mnemonici.h"
 
+#include <QAbstractButton>
 #include <QApplication>
-#include <QCheckBox>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QPointer>
-#include <QRadioButton>
 #include <QSet>
 #include <algorithm>
 
@@ -118,9 +117,11 @@ class Listener : public QObject {
     if (event.type() == QEvent::WindowActivate && widget.isWindow()) AssegnaMnemonici(widget);
     if (event.type() == QEvent::WindowDeactivate && &widget == shown_) Release();
     if (IsAlt(event)) event.type() == QEvent::KeyPress ? Hold(*widget.window()) : Release();
-    // The letter of an option leaves the field that was being filled, as a click does.
-    const bool option = qobject_cast<QRadioButton*>(&widget) || qobject_cast<QCheckBox*>(&widget);
-    if (event.type() == QEvent::Shortcut && option) widget.setFocus(Qt::ShortcutFocusReason);
+    // A letter leaves the field that was being filled, as a click does.
+    const bool pressed = event.type() == QEvent::Shortcut && widget.isEnabled();
+    if (pressed && qobject_cast<QAbstractButton*>(&widget) != nullptr) {
+      widget.setFocus(Qt::ShortcutFocusReason);
+    }
   }
   static bool IsAlt(const QEvent& event) {
     if (event.type() != QEvent::KeyPress && event.type() != QEvent::KeyRelease) return false;

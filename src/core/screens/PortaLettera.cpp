@@ -40,10 +40,6 @@ void LeadTo(QWidget* field) {
   if (auto* box = qobject_cast<QCheckBox*>(field)) box->click();
 }
 
-QKeySequence KeyOf(QChar letter) {
-  return letter.isNull() ? QKeySequence() : QKeySequence(Qt::ALT | Qt::Key(letter.unicode()));
-}
-
 /// The label's own key; the toolkit has one only for a label whose text is marked.
 QShortcut& KeyOf(QLabel& label) {
   if (auto* known = label.findChild<QShortcut*>()) return *known;
@@ -70,6 +66,10 @@ qsizetype PostoLettera(const QString& testo, QChar lettera) {
   return lettera.isNull() || at == testo.end() ? -1 : at - testo.begin();
 }
 
+QKeySequence TastoDi(QChar lettera) {
+  return lettera.isNull() ? QKeySequence() : QKeySequence(Qt::ALT | Qt::Key(lettera.unicode()));
+}
+
 QChar LetteraDi(const QWidget& controllo) {
   const auto* button = dynamic_cast<const Coppia*>(&controllo);
   return button != nullptr ? button->Mnemonico() : controllo.property(kLetter).toChar();
@@ -79,8 +79,8 @@ void DaiLettera(QWidget& controllo, QChar lettera) {
   if (auto* button = dynamic_cast<Coppia*>(&controllo)) return button->ImpostaMnemonico(lettera);
   controllo.setProperty(kLetter, lettera);
   if (auto* option = qobject_cast<QAbstractButton*>(&controllo))
-    option->setShortcut(KeyOf(lettera));
-  if (auto* label = qobject_cast<QLabel*>(&controllo)) KeyOf(*label).setKey(KeyOf(lettera));
+    option->setShortcut(TastoDi(lettera));
+  if (auto* label = qobject_cast<QLabel*>(&controllo)) KeyOf(*label).setKey(TastoDi(lettera));
 }
 
 void SottolineaLettera(QWidget& controllo, bool mostra) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QChar>
+#include <QKeySequence>
 #include <QString>
 
 class QWidget;
@@ -17,6 +18,9 @@ QString ParoleDi(const QWidget& controllo);
 
 /// Where the letter stands in a text, without regard to case; -1 where it doesn't.
 qsizetype PostoLettera(const QString& testo, QChar lettera);
+
+/// Alt and a letter; no key for none.
+QKeySequence TastoDi(QChar lettera);
 
 /// Null where it has none.
 QChar LetteraDi(const QWidget& controllo);

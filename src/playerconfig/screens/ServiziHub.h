@@ -21,8 +21,7 @@ class ServiziHub {
   virtual std::size_t EstraneiSullaScheda() = 0;
   /// Asks for the card where none is chosen; false to give the work up.
   virtual bool ChiediScheda() = 0;
-  /// Deletes the files of the chosen card, after its questions.
-  /// False where it was given up before anything was looked at.
+  /// Deletes the files of the chosen card, after its questions; false where it was given up there.
   virtual bool SvuotaScheda() = 0;
   /// Compares the chosen card with the open project and shows what it finds; modal.
   virtual void VerificaScheda() = 0;

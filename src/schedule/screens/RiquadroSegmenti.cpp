@@ -2,8 +2,8 @@
 
 #include <QVBoxLayout>
 
-#include "core/screens/Mnemonici.h"
 #include "core/Lingua.h"
+#include "core/screens/Mnemonici.h"
 #include "core/screens/Pagina.h"
 #include "core/screens/Tema.h"
 #include "core/screens/Testo.h"

@@ -36,6 +36,11 @@ class Letters : public testing::Test {
     window.activateWindow();
     ASSERT_TRUE(test::Pronta(window));
   }
+  /// What was pressed until this word came.
+  std::string PressedUpTo(const char* word) {
+    EXPECT_TRUE(QTest::qWaitFor([&] { return pressed.endsWith(QLatin1String(word)); }));
+    return pressed.toStdString();
+  }
   /// The letters of all buttons in the order in which they were made, "-" for none.
   QString Given() const {
     QString letters;
@@ -97,8 +102,7 @@ TEST_F(Letters, LeaveTheFieldThatWasBeingFilled) {
   field->setFocus();
   QTest::keyClicks(field, QStringLiteral("5"));
   QTest::keyClick(field, Qt::Key_S, Qt::AltModifier);
-  EXPECT_TRUE(QTest::qWaitFor([this] { return pressed.endsWith(QStringLiteral("Save")); }));
-  EXPECT_EQ(pressed, "left Save");
+  EXPECT_EQ(PressedUpTo("Save"), "left Save");
 }
 
 TEST_F(Letters, MoveOnForAButtonThatHasNoOther) {
@@ -199,8 +203,7 @@ TEST_F(Letters, ChooseAnOptionAndLeaveTheFieldThatWasBeingFilled) {
   field->setFocus();
   QTest::keyClicks(field, QStringLiteral("5"));
   QTest::keyClick(field, Qt::Key_B, Qt::AltModifier);
-  EXPECT_TRUE(QTest::qWaitFor([this] { return pressed.endsWith(QStringLiteral("chosen")); }));
-  EXPECT_EQ(pressed, "left chosen");
+  EXPECT_EQ(PressedUpTo("chosen"), "left chosen");
   EXPECT_TRUE(option->isChecked());
 }
 

@@ -319,16 +319,15 @@ void GiroSchermi::NegliHub() {
   }
 }
 
+void GiroSchermi::Assegna(std::initializer_list<std::pair<std::int16_t, const char*>> file) {
+  TabellaIngressi inputs(b.C);
+  inputs.Apri();
+  for (const auto& [code, name] : file) inputs.Assegna(code, name, b.Percorso("music") + "\\");
+}
+
 void GiroSchermi::NellHubInUso() {
   Progetto("Hall", 4, 1);
-  {
-    TabellaIngressi inputs(b.C);
-    inputs.Apri();
-    inputs.Assegna(1, "welcome.mp3", b.Percorso("music") + "\\");
-    inputs.Assegna(5, "door.mp3", b.Percorso("music") + "\\");
-    inputs.Assegna(12, "gone.mp3", b.Percorso("music") + "\\");
-    inputs.Assegna(255, "welcome.mp3", b.Percorso("music") + "\\");
-  }
+  Assegna({{1, "welcome.mp3"}, {5, "door.mp3"}, {12, "gone.mp3"}, {255, "welcome.mp3"}});
   const auto hub = Hub();
   hub->fraFileName->DirDirectoryMp3->ImpostaPercorso(b.Percorso("music"));
   hub->fraIngressiLogici->chkIn[0]->click();
@@ -346,12 +345,7 @@ void GiroSchermi::NellHubInUso() {
 
 void GiroSchermi::NellHubColCollegamento() {
   Progetto("Linked", 4, 1);
-  {
-    TabellaIngressi inputs(b.C);
-    inputs.Apri();
-    inputs.Assegna(1, "welcome.mp3", b.Percorso("music") + "\\");
-    inputs.Assegna(16, "welcome.mp3", b.Percorso("music") + "\\");
-  }
+  Assegna({{1, "welcome.mp3"}, {16, "welcome.mp3"}});
   b.Cartella.Write("program/Projects/Linked/Config.cfg", "[Config]\r\nUse485=1\r\n");
   const auto hub = Hub();
   const auto* row = hub->Assegnazioni->lstAssegnati->item(1);

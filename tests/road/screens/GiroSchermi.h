@@ -1,9 +1,12 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "core/screens/Form.h"
 #include "playerconfig/screens/frmPlayerConfig.h"
@@ -75,6 +78,8 @@ class GiroSchermi {
   void NelPalinsestoInUso();
   void NegliAltriPalinsesti();
   void NegliHub();
+  /// Gives files of the folder "music" to codes of the open project.
+  void Assegna(std::initializer_list<std::pair<std::int16_t, const char*>> file);
   void NellHubInUso();
   void NellHubColCollegamento();
   void NellHubConScheda();

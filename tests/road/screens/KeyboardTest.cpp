@@ -176,7 +176,7 @@ void FindKeyless(const SchermoVisto& screen, std::vector<std::string>& found) {
     const std::string name = control->objectName().toStdString();
     const QChar letter = LetteraDi(*control);
     const QString words = ParoleDi(*control);
-    const bool own = !letter.isNull() && words.toUpper().contains(letter);
+    const bool own = !letter.isNull() && PostoLettera(words, letter) >= 0;
     if (!own) found.push_back(screen.Nome + ": " + name + " \"" + words.toStdString() + "\"");
     const auto [other, first] = taken.emplace(letter, name);
     if (own && !first) found.push_back(screen.Nome + ": " + name + " and " + other->second);

@@ -139,8 +139,6 @@ void FindCutCells(const SchermoVisto& screen, std::vector<std::string>& found) {
         found.push_back(screen.Nome + ": " + NameOf(*table) + ", a word of row " +
                         std::to_string(row) + ", column " + std::to_string(column));
       }
-    }
-    for (int row = 0; table->wordWrap() && row < table->model()->rowCount(); ++row) {
       for (int column = 0; column < table->model()->columnCount(); ++column) {
         if (HeightOf(*table, row, column) <= table->rowHeight(row)) continue;
         found.push_back(screen.Nome + ": " + NameOf(*table) + ", row " + std::to_string(row));
